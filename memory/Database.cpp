@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/memory/Database.h>
+
+#include <utility>
+
+#include <diagkit/memory/Odx.h>
+
+namespace NMemory {
+
+VDatabase::VDatabase() : m_odx(std::make_unique<VMemOdx>(VPlace{nullptr, this})) {}
+
+VDatabase::~VDatabase() {
+    // Elements that are destroyed with the whole database need not leave its index one by one.
+    m_isClosing = true;
+    m_resolver.reset();
+    m_odx.reset();
+}
+
+NODX201::VOdx& VDatabase::GetOdx() { return *m_odx; }
+
+VMemDiagLayerContainer& VDatabase::AddDiagLayerContainer(wchar_t const* shortName) {
+    return m_odx->AddDiagLayerContainer(shortName);
+}
+
+VMemComparamSpec& VDatabase::AddComparamSpec(wchar_t const* shortName) { return m_odx->AddComparamSpec(shortName); }
+
+VMemFlash& VDatabase::AddFlash(wchar_t const* shortName) { return m_odx->AddFlash(shortName); }
+
+VMemMultipleEcuJobSpec& VDatabase::AddMultipleEcuJobSpec(wchar_t const* shortName) {
+    return m_odx->AddMultipleEcuJobSpec(shortName);
+}
+
+void VDatabase::AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
+    m_odx->AddProcessingInstruction(name, content);
+}
+
+VFlashCollection& VDatabase::FlashCollection() { return m_odx->FlashCollection(); }
+
+VMultipleEcuJobSpecCollection& VDatabase::MultipleEcuJobSpecCollection() {
+    return m_odx->MultipleEcuJobSpecCollection();
+}
+
+void VDatabase::SetResolverFactory(VResolverFactory factory) {
+    m_resolverFactory = std::move(factory);
+    m_resolver.reset();
+}
+
+void VDatabase::StartNewResolver() { m_resolver.reset(); }
+
+NODX201::VAbstractSnrefResolver* VDatabase::GetResolver() {
+    if (m_isResolverStale) {
+        m_resolver.reset();
+        m_isResolverStale = false;
+    }
+    if (m_resolver == nullptr && m_resolverFactory) {
+        m_resolver = m_resolverFactory();
+    }
+    return m_resolver.get();
+}
+
+std::uint32_t VDatabase::AddDocumentName(std::string name) {
+    m_documentNames.push_back(std::move(name));
+    return static_cast<std::uint32_t>(m_documentNames.size());
+}
+
+std::string const& VDatabase::GetDocumentName(VPosition const& position) const {
+    static std::string const unknown;
+    return position.document == 0 ? unknown : m_documentNames[position.document - 1];
+}
+
+std::size_t VDatabase::Count(NODX201::VOdxTagEnum tag) const {
+    auto const index = static_cast<std::size_t>(tag);
+    return index < m_counts.size() ? m_counts[index] : 0;
+}
+
+void VDatabase::CountIn(NODX201::VOdxTagEnum tag) {
+    auto const index = static_cast<std::size_t>(tag);
+    if (index >= m_counts.size()) {
+        m_counts.resize(index + 1);
+    }
+    ++m_counts[index];
+}
+
+void VDatabase::CountOut(NODX201::VOdxTagEnum tag) {
+    --m_counts[static_cast<std::size_t>(tag)];
+    NoteRemoval();
+}
+
+void VDatabase::ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to) {
+    CountIn(to);
+    --m_counts[static_cast<std::size_t>(from)];
+}
+
+void VDatabase::NoteRemoval() {
+    m_isResolverStale = true;
+    NoteChange();
+}
+
+void VDatabase::Index(wchar_t const* id, NODX201::VReferencable& element) {
+    if (*id != L'\0') {
+        m_ids.Add(id, element);
+        NoteChange();
+    }
+}
+
+void VDatabase::Unindex(wchar_t const* id, NODX201::VReferencable const& element) {
+    if (*id != L'\0' && !m_isClosing) {
+        m_ids.Remove(id, element);
+        NoteChange();
+    }
+}
+
+std::wstring VDatabase::MakeId() {
+    for (;;) {
+        std::wstring id = L"diagkit." + std::to_wstring(++m_madeIds);
+        if (m_ids.Find(id) == nullptr) {
+            return id;
+        }
+    }
+}
+
+} // namespace NMemory

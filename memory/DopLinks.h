@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/memory/Parts.h>
+#include <diagkit/model/Dops.h>
+
+/// References to DOPs.
+
+namespace NMemory {
+
+/// DOP-REF, DOP-BASE-REF and their SNREFs: any kind of DOP.
+class VMemDopBaseLink final : public VMemLink<NODX201::VDopBaseLink, Tag::DopBaseRef, NODX201::VDopBase> {
+public:
+    using VMemLink::VMemLink;
+    bool HasDopBase(NODX201::VDiagLayer& layer) override;
+    NODX201::VDopBase& GetDopBase() override { return Found(); }
+};
+
+/// DOP-REF, DATA-OBJECT-PROP-REF, KEY-DOP-REF and their SNREFs: a DATA-OBJECT-PROP.
+class VMemDataObjectPropLink final
+    : public VMemLink<NODX201::VDataObjectPropLink, Tag::DataObjectPropRef, NODX201::VDataObjectProp> {
+public:
+    using VMemLink::VMemLink;
+    bool HasDataObjectProp(NODX201::VDiagLayer& layer) override;
+    NODX201::VDataObjectProp& GetDataObjectProp() override { return Found(); }
+};
+
+/// STRUCTURE-REF
+class VMemStructureLink final : public VMemLink<NODX201::VStructureLink, Tag::StructureRef, NODX201::VStructure> {
+public:
+    using VMemLink::VMemLink;
+    bool HasStructure() const override { return FindById(); }
+    NODX201::VStructure& GetStructure() override { return Found(); }
+};
+
+/// BASIC-STRUCTURE-REF
+class VMemBasicStructureLink final
+    : public VMemLink<NODX201::VBasicStructureLink, Tag::BasicStructureRef, NODX201::VBasicStructure> {
+public:
+    using VMemLink::VMemLink;
+    bool HasBasicStructure() const override { return FindById(); }
+    NODX201::VBasicStructure& GetBasicStructure() override { return Found(); }
+};
+
+/// ENV-DATA-DESC-REF
+class VMemEnvDataDescLink final
+    : public VMemLink<NODX201::VEnvDataDescLink, Tag::EnvDataDescRef, NODX201::VEnvDataDesc> {
+public:
+    using VMemLink::VMemLink;
+    bool HasEnvDataDesc() const override { return FindById(); }
+    NODX201::VEnvDataDesc& GetEnvDataDesc() override { return Found(); }
+};
+
+/// ENV-DATA-REF
+class VMemEnvDataLink final : public VMemLink<NODX201::VEnvDataLink, Tag::EnvDataRef, NODX201::VEnvData> {
+public:
+    using VMemLink::VMemLink;
+    bool HasEnvData() const override { return FindById(); }
+    NODX201::VEnvData& GetEnvData() override { return Found(); }
+};
+
+/// DTC-REF
+class VMemDtcLink final : public VMemLink<NODX201::VDtcLink, Tag::DtcRef, NODX201::VDtc> {
+public:
+    using VMemLink::VMemLink;
+    bool HasDtc() const override { return FindById(); }
+    NODX201::VDtc& GetDtc() override { return Found(); }
+};
+
+/// DATA-OBJECT-PROP-REF of a DYNAMIC-ENDMARKER-FIELD
+class VMemDynEndDopRef final : public VMemLink<NODX201::VDynEndDopRef, Tag::DataObjectPropRef, NODX201::VDopBase> {
+public:
+    using VMemLink::VMemLink;
+    bool HasDopBase() const override { return FindById(); }
+    NODX201::VDopBase& GetDopBase() override { return Found(); }
+
+    wchar_t const* GetTerminationValue() const { return m_terminationValue; } ///< TERMINATION-VALUE
+    void SetTerminationValue(wchar_t const* text) { m_terminationValue = Store(text); }
+
+private:
+    wchar_t const* m_terminationValue = L"";
+};
+
+} // namespace NMemory

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <diagkit/memory/Node.h>
+#include <diagkit/model/Reference.h>
+#include <diagkit/model/Text.h>
+
+/// The layers that the memory model's classes are made of: each template adds one thing that many ODX elements share to
+/// the contract class below it.
+
+namespace NMemory {
+
+/// An element without names.
+template <class Contract, NODX201::VOdxTagEnum Tag>
+class VMemElement : public Contract, public VMemNode {
+public:
+    explicit VMemElement(VPlace const& place) : VMemNode(place, Tag) {}
+    ~VMemElement() override { CountOut(Tag); }
+
+    NODX201::VOdxTagEnum GetOdxTag() const override { return Tag; }
+    wchar_t const* GetShortName() const override { return L""; }
+    NODX201::VOdxObject* GetOwner() const override { return Owner(); }
+
+    /// What a child of this element is born into.
+    VPlace Inside() { return {this, &GetDatabase()}; }
+};
+
+/// An element of a class that bears one of several tags, such as LOWER-LIMIT and UPPER-LIMIT.
+template <class Contract>
+class VMemTagged : public Contract, public VMemNode {
+public:
+    VMemTagged(VPlace const& place, NODX201::VOdxTagEnum tag) : VMemNode(place, tag), m_tag(tag) {}
+    ~VMemTagged() override { this->CountOut(m_tag); }
+
+    NODX201::VOdxTagEnum GetOdxTag() const override { return m_tag; }
+    void SetOdxTag(NODX201::VOdxTagEnum tag) {
+        this->ChangeTag(m_tag, tag);
+        m_tag = tag;
+    }
+
+    wchar_t const* GetShortName() const override { return L""; }
+    NODX201::VOdxObject* GetOwner() const override { return Owner(); }
+
+    /// What a child of this element is born into.
+    VPlace Inside() { return {this, &GetDatabase()}; }
+
+private:
+    NODX201::VOdxTagEnum m_tag;
+};
+
+/// LONG-NAME
+class VMemText final : public NODX201::VText {
+public:
+    VMemText(NODX201::VOdxObject& owner, wchar_t const* text, wchar_t const* textId)
+        : m_owner(&owner), m_text(text), m_textId(textId) {}
+
+    NODX201::VOdxTagEnum GetOdxTag() const override { return NODX201::VOdxTagEnum::LongName; }
+    wchar_t const* GetShortName() const override { return L""; }
+    NODX201::VOdxObject* GetOwner() const override { return m_owner; }
+    wchar_t const* GetBaseMember() const override { return m_text; }
+    wchar_t const* GetTextId() const { return m_textId; } ///< @TI
+
+private:
+    NODX201::VOdxObject* m_owner;
+    wchar_t const* m_text;
+    wchar_t const* m_textId;
+};
+
+/// An element with SHORT-NAME, LONG-NAME and DESC.
+template <class Contract, NODX201::VOdxTagEnum Tag>
+class VMemNamed : public VMemElement<Contract, Tag> {
+public:
+    using VMemElement<Contract, Tag>::VMemElement;
+
+    wchar_t const* GetShortName() const override { return m_shortName; }
+    void SetShortName(wchar_t const* shortName); ///< links and views that know the old name do not find it any more
+
+    bool HasLongName() const { return m_longName != nullptr; }
+    NODX201::VText& GetLongName() { return *m_longName; }
+    void SetLongName(wchar_t const* text, wchar_t const* textId = L"") {
+        m_longName = std::make_unique<VMemText>(*this, this->Store(text), this->Store(textId));
+    }
+
+    wchar_t const* GetDesc() const { return m_desc; } ///< DESC with its inner markup, "" when absent
+    void SetDesc(wchar_t const* markup) { m_desc = this->Store(markup); }
+
+private:
+    wchar_t const* m_shortName = L"";
+    std::unique_ptr<VMemText> m_longName;
+    wchar_t const* m_desc = L"";
+};
+
+/// An element with ID, OID and names.
+template <class Contract, NODX201::VOdxTagEnum Tag>
+class VMemIdent : public VMemNamed<Contract, Tag> {
+public:
+    using VMemNamed<Contract, Tag>::VMemNamed;
+    ~VMemIdent() override;
+
+    wchar_t const* GetId() const override { return m_id; }
+    void SetId(wchar_t const* id); ///< an empty ID is not indexed: no reference finds the element
+    wchar_t const* EnsureId();     ///< the ID; an element without one gets one that the database does not hold yet
+
+    bool HasOid() const { return *m_oid != L'\0'; }
+    wchar_t const* GetOid() const { return m_oid; }
+    void SetOid(wchar_t const* oid) { m_oid = this->Store(oid); }
+
+private:
+    wchar_t const* m_id = L"";
+    wchar_t const* m_oid = L"";
+};
+
+} // namespace NMemory
+
+#include <diagkit/memory/ElementImpl.h>

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/memory/Layers.h>
+
+namespace NMemory {
+
+IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRefCollection::List::iterator before,
+                               VPlace const& place, VParentRefKind kind, VReference const& reference) {
+    switch (kind) {
+    case VParentRefKind::Protocol:
+        return parentRefs.Insert(before, std::make_unique<VMemProtocolRef>(place, reference));
+    case VParentRefKind::FunctionalGroup:
+        return parentRefs.Insert(before, std::make_unique<VMemFunctionalGroupRef>(place, reference));
+    case VParentRefKind::BaseVariant:
+        return parentRefs.Insert(before, std::make_unique<VMemBaseVariantRef>(place, reference));
+    case VParentRefKind::EcuSharedData:
+        return parentRefs.Insert(before, std::make_unique<VMemEcuSharedDataRef>(place, reference));
+    case VParentRefKind::Unknown:
+        break;
+    }
+    return parentRefs.Insert(before, std::make_unique<VMemParentRef>(place, reference));
+}
+
+IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace const& place, IMemParentRef& parentRef,
+                                   VParentRefKind kind) {
+    NODX201::VParentRef& before = parentRef.ParentRef();
+    IMemParentRef& changed =
+        InsertParentRef(parentRefs, parentRefs.Position(&before), place, kind, ReferenceOf(before.GetLink()));
+    changed.Node().SetPosition(parentRef.Node().GetPosition());
+    if (before.HasNotInheritedDiagCommCollection()) {
+        changed.MakeNotInheritedDiagCommCollection();
+    }
+    for (NODX201::VNotInheritedDiagComm& excluded : before.NotInheritedDiagCommCollection()) {
+        changed.AddNotInheritedDiagComm(ReferenceOf(excluded.GetDiagCommSnref().GetLink()));
+    }
+    if (before.HasNotInheritedVariableCollection()) {
+        changed.MakeNotInheritedVariableCollection();
+    }
+    for (NODX201::VNotInheritedVariable& excluded : before.NotInheritedVariableCollection()) {
+        changed.AddNotInheritedVariable(ReferenceOf(excluded.GetDiagVariableSnref().GetLink()));
+    }
+    delete &before;
+    return changed;
+}
+
+VMemDiagLayerCollection::~VMemDiagLayerCollection() {
+    m_isClosing = true;
+    for (NODX201::VDiagLayer* const layer : m_elements) {
+        delete layer;
+    }
+}
+
+void VMemDiagLayerCollection::Forget(void const* entry) {
+    if (!m_isClosing) {
+        m_elements.remove_if([entry](NODX201::VDiagLayer* layer) { return static_cast<void const*>(layer) == entry; });
+    }
+}
+
+template <class Layer>
+Layer& VMemDiagLayerCollection::Add(std::unique_ptr<Layer> layer) {
+    NODX201::VDiagLayer* const entry = layer.get();
+    m_elements.push_back(entry);
+    layer->m_home = this;
+    layer->m_entry = entry;
+    return *layer.release();
+}
+
+template <class Layer>
+Layer& VMemDiagLayerContainer::Add(wchar_t const* shortName) {
+    Layer& layer = m_diagLayer.Add(std::make_unique<Layer>(VPlace{&m_diagLayer, &GetDatabase()}));
+    layer.SetShortName(shortName);
+    return layer;
+}
+
+VMemProtocol& VMemDiagLayerContainer::AddProtocol(wchar_t const* shortName) { return Add<VMemProtocol>(shortName); }
+
+VMemFunctionalGroup& VMemDiagLayerContainer::AddFunctionalGroup(wchar_t const* shortName) {
+    return Add<VMemFunctionalGroup>(shortName);
+}
+
+VMemBaseVariant& VMemDiagLayerContainer::AddBaseVariant(wchar_t const* shortName) {
+    return Add<VMemBaseVariant>(shortName);
+}
+
+VMemEcuVariant& VMemDiagLayerContainer::AddEcuVariant(wchar_t const* shortName) {
+    return Add<VMemEcuVariant>(shortName);
+}
+
+VMemEcuSharedData& VMemDiagLayerContainer::AddEcuSharedData(wchar_t const* shortName) {
+    return Add<VMemEcuSharedData>(shortName);
+}
+
+} // namespace NMemory

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+#include <variant>
+
+#include <diagkit/memory/Element.h>
+#include <diagkit/model/Reference.h>
+
+namespace NMemory {
+
+/// What a link is to name, for the operations that make links. It views the texts it is given and is meant to be passed
+/// on at once.
+///
+///     service.SetRequestRef(request);                                     // an element: by its ID
+///     service.SetRequestRef(VReference::ById(L"RQ.1", L"Lib", L"LAYER")); // an ID, in a document where that is named
+///     value.SetDopBaseLink(VReference::ByShortName(L"Voltage"));          // a short name
+class VReference {
+public:
+    static VReference ById(wchar_t const* id, wchar_t const* docref = L"", wchar_t const* doctype = L"",
+                           wchar_t const* revision = L"") {
+        return VReference(id, docref, doctype, revision, nullptr);
+    }
+    static VReference ByShortName(wchar_t const* shortName) { return VReference(L"", L"", L"", L"", shortName); }
+
+    /// An element of the memory model with an ID; one without is given an ID.
+    template <class Target, class = decltype(std::declval<Target&>().EnsureId())>
+    VReference(Target& target) : VReference(target.EnsureId(), L"", L"", L"", nullptr) {}
+
+    bool IsByShortName() const { return m_shortName != nullptr; }
+
+    wchar_t const* m_id;
+    wchar_t const* m_docref;
+    wchar_t const* m_doctype;
+    wchar_t const* m_revision;
+    wchar_t const* m_shortName; ///< null for a reference by ID
+
+private:
+    VReference(wchar_t const* id, wchar_t const* docref, wchar_t const* doctype, wchar_t const* revision,
+               wchar_t const* shortName)
+        : m_id(id), m_docref(docref), m_doctype(doctype), m_revision(revision), m_shortName(shortName) {}
+};
+
+/// What a link names, to make another like it.
+VReference ReferenceOf(NODX201::ILink const& link);
+
+class VMemOdxLink final : public NODX201::VOdxLink {
+public:
+    VMemOdxLink(VDatabase& database, VReference const& reference);
+
+    wchar_t const* GetIdRef() const override { return m_id; }
+    wchar_t const* GetDocref() const override { return m_docref; }
+    wchar_t const* GetDoctype() const override { return m_doctype; }
+    wchar_t const* GetRevision() const override { return m_revision; }
+
+private:
+    wchar_t const* m_id;
+    wchar_t const* m_docref;
+    wchar_t const* m_doctype;
+    wchar_t const* m_revision;
+};
+
+class VMemSnref final : public NODX201::VSnref {
+public:
+    VMemSnref(VDatabase& database, VReference const& reference);
+
+    wchar_t const* GetShortName() const override { return m_shortName; }
+
+private:
+    wchar_t const* m_shortName;
+};
+
+/// Whether an element is of the class that a reference expects; a hit of another class is none.
+using VExpect = bool (*)(NODX201::VReferencable& element);
+
+template <class Target>
+bool IsOfClass(NODX201::VReferencable& element) {
+    return dynamic_cast<Target*>(&element) != nullptr;
+}
+
+/// A DIAG-COMM that stands in a layer: a service or a single-ECU job.
+bool IsDiagCommOfLayer(NODX201::VReferencable& element);
+
+/// The target of a reference by ID that stands at `from`, or null. The order of places searched: the document that
+/// DOCREF and DOCTYPE name, then whatever bears the name of DOCREF; without DOCREF the own layer, the own document, the
+/// imported layers; and last the whole database.
+NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& link, NODX201::VOdxElement& from,
+                                  VExpect expect);
+
+/// A link element, born with the tag `Tag`: an ID reference or a short-name reference, and the answer found last.
+template <class Contract, NODX201::VOdxTagEnum Tag, class Target>
+class VMemLink : public VMemTagged<Contract> {
+public:
+    VMemLink(VPlace const& place, VReference const& reference)
+        : VMemTagged<Contract>(place, Tag), m_form(std::in_place_type<VMemOdxLink>, *place.database, reference) {
+        SetReference(reference);
+    }
+
+    NODX201::ILink& GetLink() override {
+        return std::visit([](auto& form) -> NODX201::ILink& { return form; }, m_form);
+    }
+
+    /// Names another target from now on.
+    void SetReference(VReference const& reference) {
+        VDatabase& database = this->GetDatabase();
+        if (reference.IsByShortName()) {
+            m_form.template emplace<VMemSnref>(database, reference);
+        } else {
+            m_form.template emplace<VMemOdxLink>(database, reference);
+        }
+        m_generation = 0;
+    }
+
+    /// Whether this is a reference by ID that finds its target.
+    bool ResolvesById() const { return FindById(); }
+
+protected:
+    /// The short name, or null for a reference by ID.
+    wchar_t const* Snref() const {
+        auto const* const snref = std::get_if<VMemSnref>(&m_form);
+        return snref != nullptr ? snref->GetShortName() : nullptr;
+    }
+
+    /// Looks for the target of a reference by ID. The answer cannot change until the database does.
+    bool FindById(VExpect expect = &IsOfClass<Target>) const {
+        VDatabase& database = this->GetDatabase();
+        auto const* const link = std::get_if<VMemOdxLink>(&m_form);
+        if (m_generation != database.GetGeneration()) {
+            auto& self = const_cast<VMemLink&>(*this);
+            m_target = link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, expect)) : nullptr;
+            m_generation = database.GetGeneration();
+        }
+        return m_target != nullptr;
+    }
+
+    /// Remembers a target found by other means, for the `GetX()` that follows.
+    bool Remember(Target* target) const {
+        m_target = target;
+        m_generation = 0;
+        return target != nullptr;
+    }
+
+    Target& Found() const { return *m_target; }
+
+private:
+    std::variant<VMemOdxLink, VMemSnref> m_form;
+    mutable Target* m_target = nullptr;
+    mutable std::uint64_t m_generation = 0; // of the answer; 0: none
+};
+
+} // namespace NMemory

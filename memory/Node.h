@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+
+#include <diagkit/model/OdxElement.h>
+
+namespace NMemory {
+
+using Tag = NODX201::VOdxTagEnum;
+
+class VDatabase;
+class VMemNode;
+
+/// Where an element stands in a file. Line and column count from 1; 0 means not known, as for elements made by hand.
+struct VPosition {
+    std::uint32_t document = 0; ///< see `VDatabase::GetDocumentName`
+    std::uint32_t line = 0;
+    std::uint32_t column = 0;
+};
+
+/// What a new element is born into.
+struct VPlace {
+    NODX201::VOdxObject* owner;
+    VDatabase* database;
+};
+
+/// A collection, from the side of an element that leaves it.
+class VMemHome {
+public:
+    virtual void Forget(void const* entry) = 0; ///< the element behind the entry is being destroyed or moved away
+
+protected:
+    VMemHome() = default;
+    ~VMemHome() = default;
+};
+
+/// What every element of the memory model has besides its contract: its owner, its database, its place in a collection
+/// and its position in a file. An element that is destroyed, by whomever, leaves its collection by itself.
+class VMemNode {
+public:
+    VMemNode(VMemNode const&) = delete;
+    VMemNode& operator=(VMemNode const&) = delete;
+
+    VDatabase& GetDatabase() const { return *m_database; }
+    VPosition const& GetPosition() const { return m_position; }
+    void SetPosition(VPosition const& position) { m_position = position; }
+
+protected:
+    VMemNode(VPlace const& place, NODX201::VOdxTagEnum tag);
+    ~VMemNode();
+
+    NODX201::VOdxObject* Owner() const { return m_owner; }
+    wchar_t const* Store(wchar_t const* text) const; ///< in the database's text pool
+
+    void NoteMove();
+    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< in the database's counts
+    void CountOut(NODX201::VOdxTagEnum tag);                            ///< the element of this tag is being destroyed
+
+private:
+    template <class Collection>
+    friend class VMemCollection;
+    friend class VMemDiagLayerCollection;
+
+    NODX201::VOdxObject* m_owner;
+    VDatabase* m_database;
+    VMemHome* m_home = nullptr;
+    void const* m_entry = nullptr;
+    VPosition m_position;
+};
+
+} // namespace NMemory

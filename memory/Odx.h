@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/memory/Comparams.h>
+#include <diagkit/memory/Flash.h>
+#include <diagkit/memory/Layers.h>
+#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/ProcessingInstructions.h>
+#include <diagkit/model/Odx.h>
+
+namespace NMemory {
+
+/// The root. Besides what the contract asks for it holds the FLASH and MULTIPLE-ECU-JOB-SPEC documents.
+class VMemOdx final : public VMemElement<NODX201::VOdx, Tag::Odx> {
+public:
+    using VMemElement::VMemElement;
+
+    NODX201::VDiagLayerContainerCollection& DiagLayerContainerCollection() override {
+        return m_diagLayerContainer.Get();
+    }
+    NODX201::VComparamSpecCollection& ComparamSpecCollection() override { return m_comparamSpec.Get(); }
+    NODX201::VProcessingInstructionCollection& ProcessingInstructionCollection() override {
+        return m_instructions.Get();
+    }
+    VFlashCollection& FlashCollection() { return m_flash.Get(); }
+    VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection() { return m_multipleEcuJobSpec.Get(); }
+
+    VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName) {
+        return AddNamed<VMemDiagLayerContainer>(m_diagLayerContainer, Inside(), shortName);
+    }
+    VMemComparamSpec& AddComparamSpec(wchar_t const* shortName) {
+        return AddNamed<VMemComparamSpec>(m_comparamSpec, Inside(), shortName);
+    }
+    VMemFlash& AddFlash(wchar_t const* shortName) { return AddNamed<VMemFlash>(m_flash, Inside(), shortName); }
+    VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName) {
+        return AddNamed<VMemMultipleEcuJobSpec>(m_multipleEcuJobSpec, Inside(), shortName);
+    }
+    void AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
+        m_instructions.Add(Store(name), Store(content));
+    }
+
+private:
+    VMemMany<NODX201::VDiagLayerContainerCollection> m_diagLayerContainer;
+    VMemMany<NODX201::VComparamSpecCollection> m_comparamSpec;
+    VMemMany<VFlashCollection> m_flash;
+    VMemMany<VMultipleEcuJobSpecCollection> m_multipleEcuJobSpec;
+    VMemProcessingInstructions m_instructions;
+};
+
+} // namespace NMemory

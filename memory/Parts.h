@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <diagkit/memory/Collection.h>
+#include <diagkit/memory/Element.h>
+#include <diagkit/memory/Link.h>
+#include <diagkit/model/Collections.h>
+
+/// How the classes of the memory model make their children; each function is one way in which ODX elements have them.
+
+namespace NMemory {
+
+/// The optional child, made when it is absent.
+template <class Child>
+Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place) {
+    if (slot == nullptr) {
+        slot = std::make_unique<Child>(place);
+    }
+    return *slot;
+}
+
+template <class Child>
+Child& MakeNamedChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* shortName) {
+    MakeChild(slot, place).SetShortName(shortName);
+    return *slot;
+}
+
+template <class Child>
+Child& MakeTextChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* text) {
+    MakeChild(slot, place).SetText(text);
+    return *slot;
+}
+
+/// The optional link, made or directed at another target.
+template <class Link>
+Link& MakeLink(std::unique_ptr<Link>& slot, VPlace const& place, VReference const& reference) {
+    if (slot == nullptr) {
+        slot = std::make_unique<Link>(place, reference);
+    } else {
+        slot->SetReference(reference);
+    }
+    return *slot;
+}
+
+/// One of several alternatives: the new one takes the place of the one before.
+template <class Alternative, class Slot, class Choice, class... Arguments>
+Alternative& SetChoice(std::unique_ptr<Slot>& slot, Choice*& choice, VPlace const& place,
+                       Arguments const&... arguments) {
+    auto made = std::make_unique<Alternative>(place, arguments...);
+    Alternative& alternative = *made;
+    slot = std::move(made);
+    choice = &alternative;
+    return alternative;
+}
+
+template <class Item, class Collection>
+Item& AddPlain(VMemMany<Collection>& many, VPlace const& place) {
+    return many.Make().Append(std::make_unique<Item>(place));
+}
+
+template <class Item, class Collection>
+Item& AddNamed(VMemMany<Collection>& many, VPlace const& place, wchar_t const* shortName) {
+    Item& item = AddPlain<Item>(many, place);
+    item.SetShortName(shortName);
+    return item;
+}
+
+template <class Item, class Collection>
+Item& AddText(VMemMany<Collection>& many, VPlace const& place, wchar_t const* text) {
+    Item& item = AddPlain<Item>(many, place);
+    item.SetText(text);
+    return item;
+}
+
+template <class Item, class Collection>
+Item& AddLink(VMemMany<Collection>& many, VPlace const& place, VReference const& reference) {
+    return many.Make().Append(std::make_unique<Item>(place, reference));
+}
+
+/// Throws std::invalid_argument for a reference by short name.
+void RequireById(VReference const& reference);
+
+/// Texts such as ROLES as a member.
+class VMemStrings {
+public:
+    bool IsPresent() const { return m_collection != nullptr; }
+    NODX201::VStringCollection& Get() const;
+    void Make();
+    void Add(wchar_t const* text);
+
+private:
+    class VMemStringCollection : public NODX201::VStringCollection {
+    public:
+        VMemStringCollection() = default;
+        ~VMemStringCollection();
+        void Add(wchar_t const* text);
+    };
+
+    std::unique_ptr<VMemStringCollection> m_collection;
+};
+
+} // namespace NMemory

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <diagkit/model/Collections.h>
+#include <diagkit/model/ProcessingInstruction.h>
+
+namespace NMemory {
+
+class VMemProcessingInstruction final : public NODX201::VProcessingInstruction {
+public:
+    VMemProcessingInstruction(wchar_t const* name, wchar_t const* content) : m_name(name), m_content(content) {}
+
+    wchar_t const* GetName() const override { return m_name; }
+    wchar_t const* GetContent() const override { return m_content; }
+
+private:
+    wchar_t const* m_name;
+    wchar_t const* m_content;
+};
+
+/// The processing instructions of an element as a member; the texts are stored by the caller.
+class VMemProcessingInstructions {
+public:
+    NODX201::VProcessingInstructionCollection& Get() const;
+    void Add(wchar_t const* name, wchar_t const* content);
+
+private:
+    class VOwning : public NODX201::VProcessingInstructionCollection {
+    public:
+        VOwning() = default;
+        ~VOwning();
+        void Add(wchar_t const* name, wchar_t const* content);
+    };
+
+    std::unique_ptr<VOwning> m_collection;
+};
+
+} // namespace NMemory

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: Apache-2.0
+
+// Links that may stand by short name: these ask the database's resolver in the context they are read in, every time,
+// because the answer belongs to the context and not to the link.
+
+#include <diagkit/memory/Database.h>
+#include <diagkit/memory/DiagCommLinks.h>
+#include <diagkit/memory/DopLinks.h>
+#include <diagkit/memory/Flash.h>
+
+namespace NMemory {
+
+bool VMemDiagCommLink::HasDiagComm(NODX201::VDiagLayer& layer) {
+    wchar_t const* const shortName = Snref();
+    if (shortName == nullptr) {
+        return FindById(&IsDiagCommOfLayer);
+    }
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    return Remember(resolver != nullptr ? resolver->ResolveDiagCommSnref(shortName, layer) : nullptr);
+}
+
+bool VMemDiagVariableLink::HasDiagVariable(NODX201::VDiagLayer& layer) {
+    wchar_t const* const shortName = Snref();
+    if (shortName == nullptr) {
+        return FindById();
+    }
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    return Remember(resolver != nullptr ? resolver->ResolveDiagVariableSnref(shortName, layer) : nullptr);
+}
+
+bool VMemDopBaseLink::HasDopBase(NODX201::VDiagLayer& layer) {
+    wchar_t const* const shortName = Snref();
+    if (shortName == nullptr) {
+        return FindById();
+    }
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    return Remember(resolver != nullptr ? resolver->ResolveDopBaseSnref(shortName, layer) : nullptr);
+}
+
+bool VMemDataObjectPropLink::HasDataObjectProp(NODX201::VDiagLayer& layer) {
+    wchar_t const* const shortName = Snref();
+    if (shortName == nullptr) {
+        return FindById();
+    }
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    return Remember(resolver != nullptr ? resolver->ResolveDataObjectPropSnref(shortName, layer) : nullptr);
+}
+
+// A MULTIPLE-ECU-JOB is a DIAG-COMM by class, and a resolver has operations of their own for it.
+
+bool VMemOutParamIfLink::HasOutParamIf(NODX201::VDiagComm& diagComm, NODX201::VDiagLayer& layer,
+                                       NODX201::VSearchRange range) {
+    wchar_t const* const shortName = Snref();
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    if (shortName == nullptr || resolver == nullptr) {
+        return Remember(nullptr);
+    }
+    if (auto* const job = dynamic_cast<NODX201::VMultipleEcuJob*>(&diagComm)) {
+        return Remember(resolver->ResolveOutParamIfSnref(shortName, *job, layer));
+    }
+    return Remember(resolver->ResolveOutParamIfSnref(shortName, diagComm, layer, range));
+}
+
+bool VMemInParamIfLink::HasInParamIf(NODX201::VDiagComm& diagComm) {
+    wchar_t const* const shortName = Snref();
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    if (shortName == nullptr || resolver == nullptr) {
+        return Remember(nullptr);
+    }
+    if (auto* const job = dynamic_cast<NODX201::VMultipleEcuJob*>(&diagComm)) {
+        return Remember(resolver->ResolveInParamIfSnref(shortName, *job));
+    }
+    return Remember(resolver->ResolveInParamIfSnref(shortName, diagComm));
+}
+
+bool VMemProtocolSnref::HasProtocol(NODX201::VDiagLayerContainer& container) {
+    wchar_t const* const shortName = Snref();
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    bool const canAsk = shortName != nullptr && resolver != nullptr;
+    return Remember(canAsk ? resolver->ResolveProtocolSnref(shortName, container) : nullptr);
+}
+
+bool VMemSessionLink::HasSession(NODX201::VFlash& flash) {
+    wchar_t const* const shortName = Snref();
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    bool const canAsk = shortName != nullptr && resolver != nullptr;
+    return Remember(canAsk ? resolver->ResolveSessionSnref(shortName, flash) : nullptr);
+}
+
+bool VMemIdentIfLink::HasIdentIf(NODX201::VFlash& flash) {
+    wchar_t const* const shortName = Snref();
+    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    bool const canAsk = shortName != nullptr && resolver != nullptr;
+    return Remember(canAsk ? resolver->ResolveIdentIfSnref(shortName, flash) : nullptr);
+}
+
+} // namespace NMemory

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+namespace NMemory {
+
+/// Stores the texts of a database: each text once, zero-terminated, at an address that stays valid until the pool is
+/// destroyed. Nothing is freed before.
+class VTextPool {
+public:
+    /// The stored copy of `text`. Short texts (names, IDs, literals) that are equal share one copy; the empty text is
+    /// always "".
+    wchar_t const* Store(std::wstring_view text);
+
+private:
+    wchar_t const* Copy(std::wstring_view text);
+
+    std::unordered_set<std::wstring_view> m_shared;
+    std::vector<std::unique_ptr<wchar_t[]>> m_blocks;
+    wchar_t* m_next = nullptr;
+    std::size_t m_left = 0;
+};
+
+} // namespace NMemory

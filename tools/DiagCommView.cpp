@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/tools/DiagCommView.h>
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/tools/ListViewImpl.h>
+#include <diagkit/tools/NameSet.h>
+#include <diagkit/tools/ParentPass.h>
+
+namespace NDIAGKIT {
+
+using EcuSharedDataRef = NODX201::VEcuSharedDataRef;
+using ProtocolRef = NODX201::VProtocolRef;
+using FunctionalGroupRef = NODX201::VFunctionalGroupRef;
+using BaseVariantRef = NODX201::VBaseVariantRef;
+
+/// What lives for one construction only.
+struct VDiagCommConstruction {
+    VNameSet held;     ///< names in the view; filled when the first parent is merged
+    VNameSet excluded; ///< the not-inherited names of the reference being processed
+    bool isFilled = false;
+};
+
+wchar_t const* VDiagCommViewTraits::ShortNameOf(Element& diagComm) { return diagComm.GetShortName(); }
+
+VDiagCommView::VDiagCommView() = default;
+
+VDiagCommView::~VDiagCommView() = default;
+
+VDiagCommView::VDiagCommView(NODX201::VEcuSharedData& layer) { InheritFromOwn(layer); }
+
+VDiagCommView::VDiagCommView(NODX201::VProtocol& layer) {
+    Construction construction;
+    InheritFromOwn(layer);
+    Pass<EcuSharedDataRef>(layer, construction);
+}
+
+VDiagCommView::VDiagCommView(NODX201::VFunctionalGroup& layer) {
+    Construction construction;
+    InheritFromOwn(layer);
+    Pass<ProtocolRef>(layer, construction);
+    Pass<EcuSharedDataRef>(layer, construction);
+}
+
+VDiagCommView::VDiagCommView(NODX201::VBaseVariant& layer) {
+    Construction construction;
+    InheritFromOwn(layer);
+    Pass<ProtocolRef, FunctionalGroupRef>(layer, construction);
+    Pass<EcuSharedDataRef>(layer, construction);
+}
+
+VDiagCommView::VDiagCommView(NODX201::VEcuVariant& layer) {
+    Construction construction;
+    InheritFromOwn(layer);
+    Pass<BaseVariantRef>(layer, construction);
+    Pass<EcuSharedDataRef>(layer, construction);
+}
+
+template <class... Refs, class Layer>
+void VDiagCommView::Pass(Layer& layer, Construction& construction) {
+    if (!layer.HasParentRefCollection()) {
+        return;
+    }
+    struct VInherit {
+        VDiagCommView& view;
+        Construction& construction;
+        void operator()(NODX201::VProtocol& parent) { view.InheritFromProtocol(parent, construction); }
+        void operator()(NODX201::VFunctionalGroup& parent) { view.InheritFromFunctionalGroup(parent, construction); }
+        void operator()(NODX201::VBaseVariant& parent) { view.InheritFromBaseVariant(parent, construction); }
+        void operator()(NODX201::VEcuSharedData& parent) { view.InheritFromEcuSharedData(parent, construction); }
+    };
+    ParentPass<Refs...>(
+        layer.ParentRefCollection(),
+        [&](NODX201::VParentRef& parentRef) { SetNotInheritedList(parentRef, construction); },
+        VInherit{*this, construction});
+}
+
+void VDiagCommView::InheritFromOwn(NODX201::VDiagLayer& layer) {
+    if (!layer.HasDiagCommProxyCollection()) {
+        return;
+    }
+    for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
+        if (proxy.IsDiagService() || proxy.IsSingleEcuJob()) {
+            if (auto* const diagComm = dynamic_cast<NODX201::VDiagComm*>(&proxy)) {
+                Append(*diagComm);
+            }
+        } else if (proxy.IsDiagCommLink()) {
+            auto* const link = dynamic_cast<NODX201::VDiagCommLink*>(&proxy);
+            if (link != nullptr && link->HasDiagComm(layer)) {
+                Append(link->GetDiagComm());
+            }
+        }
+    }
+}
+
+void VDiagCommView::SetNotInheritedList(NODX201::VParentRef& parentRef, Construction& construction) {
+    construction.excluded.clear();
+    m_notInherited.Clear();
+    if (!parentRef.HasNotInheritedDiagCommCollection()) {
+        return;
+    }
+    for (NODX201::VNotInheritedDiagComm& notInherited : parentRef.NotInheritedDiagCommCollection()) {
+        NODX201::ILink& link = notInherited.GetDiagCommSnref().GetLink();
+        if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&link)) {
+            m_notInherited.AddCopy(snref->GetShortName());
+        }
+    }
+    for (std::wstring const& shortName : m_notInherited) {
+        construction.excluded.insert(shortName);
+    }
+}
+
+bool VDiagCommView::IsInNotInheritedList(wchar_t const* shortName, Construction const& construction) const {
+    return construction.excluded.count(shortName) != 0;
+}
+
+void VDiagCommView::InheritFromProtocol(NODX201::VProtocol& layer, Construction& construction) {
+    VDiagCommView parent(layer);
+    InheritDiagComms(parent, construction);
+}
+
+void VDiagCommView::InheritFromEcuSharedData(NODX201::VEcuSharedData& layer, Construction& construction) {
+    VDiagCommView parent;
+    parent.InheritFromOwn(layer);
+    InheritDiagComms(parent, construction);
+}
+
+void VDiagCommView::InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer, Construction& construction) {
+    VDiagCommView parent(layer);
+    InheritDiagComms(parent, construction);
+}
+
+void VDiagCommView::InheritFromBaseVariant(NODX201::VBaseVariant& layer, Construction& construction) {
+    VDiagCommView parent(layer);
+    InheritDiagComms(parent, construction);
+}
+
+void VDiagCommView::InheritDiagComms(VDiagCommView& source, Construction& construction) {
+    VNameSet& held = construction.held;
+    held.reserve(m_collection.size() + source.m_collection.size());
+    if (!construction.isFilled) {
+        for (NODX201::VDiagComm* const diagComm : m_collection) {
+            held.insert(diagComm->GetShortName());
+        }
+        construction.isFilled = true;
+    }
+    // The source is a temporary that is discarded afterwards, so its list nodes move over instead of being made again.
+    for (auto position = source.m_collection.begin(); position != source.m_collection.end();) {
+        auto const entry = position++;
+        wchar_t const* const shortName = (*entry)->GetShortName();
+        if (!IsInNotInheritedList(shortName, construction) && held.insert(shortName).second) {
+            m_collection.splice(m_collection.end(), source.m_collection, entry);
+        }
+    }
+}
+
+} // namespace NDIAGKIT

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <list>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Forward.h>
+#include <diagkit/tools/ListView.h>
+#include <diagkit/tools/StringContainer.h>
+
+namespace NDIAGKIT {
+
+struct VDiagCommConstruction;
+
+/// What `VDiagCommView` holds and where it asserts; see `VListView`.
+struct DIAGKIT_EXPORT VDiagCommViewTraits {
+    using Element = NODX201::VDiagComm;
+    static constexpr wchar_t const* kSource = L"DiagCommView";
+    static constexpr int kRemoveElementLine = 348;
+    static constexpr int kRemovePositionLine = 356;
+    static constexpr int kRemoveStepLine = 433;
+    static wchar_t const* ShortNameOf(Element& diagComm);
+};
+
+extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>;
+extern template class DIAGKIT_EXPORT VListView<VDiagCommViewTraits>;
+extern template class DIAGKIT_EXPORT VNamedListView<VDiagCommViewTraits>;
+
+/// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then those that it
+/// inherits through its PARENT-REFs, minus the NOT-INHERITED-DIAG-COMMS of each reference and minus those whose short
+/// name is already in the view.
+///
+/// Parents are merged in passes over the PARENT-REFs, each in document order:
+///
+///     layer               pass 1                            pass 2
+///     ECU-SHARED-DATA     -                                 -
+///     PROTOCOL            ECU-SHARED-DATA                   -
+///     FUNCTIONAL-GROUP    PROTOCOL                          ECU-SHARED-DATA
+///     BASE-VARIANT        PROTOCOL and FUNCTIONAL-GROUP     ECU-SHARED-DATA
+///     ECU-VARIANT         BASE-VARIANT                      ECU-SHARED-DATA
+///
+/// A parent brings its own full view, so an exclusion also reaches what the parent itself inherited. An ECU-SHARED-DATA
+/// ranks below every other parent, wherever its reference stands. References without a target are skipped.
+///
+/// The view holds pointers; the model owns the elements and must outlive the view. Each construction reads the model
+/// afresh. Time is linear in the number of entries of the views that the passes build.
+class DIAGKIT_EXPORT VDiagCommView : public VNamedListView<VDiagCommViewTraits> {
+public:
+    explicit VDiagCommView(NODX201::VEcuSharedData& layer);
+    explicit VDiagCommView(NODX201::VProtocol& layer);
+    explicit VDiagCommView(NODX201::VFunctionalGroup& layer);
+    explicit VDiagCommView(NODX201::VBaseVariant& layer);
+    explicit VDiagCommView(NODX201::VEcuVariant& layer);
+    virtual ~VDiagCommView();
+
+private:
+    using Construction = VDiagCommConstruction;
+
+    VDiagCommView();
+
+    template <class... Refs, class Layer>
+    void Pass(Layer& layer, Construction& construction);
+
+    void InheritFromOwn(NODX201::VDiagLayer& layer);
+    void SetNotInheritedList(NODX201::VParentRef& parentRef, Construction& construction);
+    bool IsInNotInheritedList(wchar_t const* shortName, Construction const& construction) const;
+    void InheritFromProtocol(NODX201::VProtocol& layer, Construction& construction);
+    void InheritFromEcuSharedData(NODX201::VEcuSharedData& layer, Construction& construction);
+    void InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer, Construction& construction);
+    void InheritFromBaseVariant(NODX201::VBaseVariant& layer, Construction& construction);
+    void InheritDiagComms(VDiagCommView& source, Construction& construction);
+
+    VStringContainer m_notInherited;
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <list>
+
+#include <diagkit/Export.h>
+#include <diagkit/tools/ExternalIterator.h>
+
+namespace NDIAGKIT {
+
+/// What all list-based views share: an ordered list of pointers to elements of the model. The model owns the elements
+/// and must outlive the view.
+///
+/// `Traits` says what the view holds and where it asserts:
+///
+///     struct VDiagCommViewTraits {
+///         using Element = NODX201::VDiagComm;
+///         static constexpr wchar_t const* kSource = L"DiagCommView"; // source named by the view's assertions
+///         static constexpr int kRemoveElementLine = 348;             // Remove(element) that is not held
+///         static constexpr int kRemovePositionLine = 356;            // Remove(End())
+///         static constexpr int kRemoveStepLine = 433;                // _Remove(end)
+///         static wchar_t const* ShortNameOf(Element& element);       // null: no name can find this entry
+///     };
+///
+/// Iteration is in view order: the order in which the view's passes, and later `Append`, added the entries.
+template <class Traits>
+class VListView {
+public:
+    using Element = typename Traits::Element;
+    using List = std::list<Element*>;
+    using Iterator = VExternalIterator<typename List::iterator, Element&>;
+
+    VListView(VListView const&) = delete;
+    VListView& operator=(VListView const&) = delete;
+
+    unsigned long long Count() const;
+    bool IsEmpty() const;
+    Iterator Begin();
+    Iterator End();
+    Iterator begin() { return Begin(); }
+    Iterator end() { return End(); }
+
+    /// The first entry that is this very object; `End()` when there is none.
+    Iterator Find(Element& element);
+
+    void Append(Element& element); ///< at the end, without looking for duplicates
+
+    /// Takes the first entry that is this object out of the view; the object lives on. Asserts when the view does not
+    /// hold it, and changes nothing then.
+    void Remove(Element& element);
+
+    /// Takes the entry out of the view and DESTROYS the element itself, model and all; use `Remove(element)` to keep
+    /// it. Asserts at `End()`, and changes nothing then.
+    void Remove(Iterator iter);
+
+    /// Whether both views hold the same objects in the same order.
+    bool operator==(VListView const& other) const;
+    bool operator!=(VListView const& other) const;
+
+protected:
+    VListView();
+    ~VListView();
+
+    typename List::iterator _Find(Element& element);
+    void _Insert(typename List::iterator position, Element& element); ///< before the position
+    void _Remove(typename List::iterator position);                   ///< destroys the element
+
+    List m_collection;
+};
+
+/// A list view whose entries are found by short name.
+template <class Traits>
+class VNamedListView : public VListView<Traits> {
+public:
+    using typename VListView<Traits>::Element;
+    using typename VListView<Traits>::Iterator;
+    using VListView<Traits>::Find;
+
+    /// The first entry of exactly this short name (case-sensitive, no trimming); `End()` when there is none. Linear.
+    Iterator Find(wchar_t const* shortName);
+
+protected:
+    VNamedListView();
+    ~VNamedListView();
+};
+
+} // namespace NDIAGKIT

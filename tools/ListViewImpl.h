@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+#include <diagkit/tools/ListView.h>
+#include <diagkit/util/Assertion.h>
+
+/// The bodies of the list views, for the sources that instantiate them.
+
+namespace NDIAGKIT {
+
+template <class Traits>
+VListView<Traits>::VListView() = default;
+
+template <class Traits>
+VListView<Traits>::~VListView() = default;
+
+template <class Traits>
+unsigned long long VListView<Traits>::Count() const {
+    return m_collection.size();
+}
+
+template <class Traits>
+bool VListView<Traits>::IsEmpty() const {
+    return Count() == 0;
+}
+
+template <class Traits>
+typename VListView<Traits>::Iterator VListView<Traits>::Begin() {
+    return Iterator(m_collection.begin());
+}
+
+template <class Traits>
+typename VListView<Traits>::Iterator VListView<Traits>::End() {
+    return Iterator(m_collection.end());
+}
+
+template <class Traits>
+typename VListView<Traits>::Iterator VListView<Traits>::Find(Element& element) {
+    return Iterator(_Find(element));
+}
+
+template <class Traits>
+void VListView<Traits>::Append(Element& element) {
+    _Insert(m_collection.end(), element);
+}
+
+template <class Traits>
+void VListView<Traits>::Remove(Element& element) {
+    auto const position = _Find(element);
+    if (position == m_collection.end()) {
+        NPavonaUtil::ReportAssertion({L"false", Traits::kSource, Traits::kRemoveElementLine});
+        return;
+    }
+    m_collection.erase(position);
+}
+
+template <class Traits>
+void VListView<Traits>::Remove(Iterator iter) {
+    if (iter == End()) {
+        NPavonaUtil::ReportAssertion({L"iter != End()", Traits::kSource, Traits::kRemovePositionLine});
+    }
+    _Remove(iter.Unwrap());
+}
+
+template <class Traits>
+bool VListView<Traits>::operator==(VListView const& other) const {
+    return m_collection == other.m_collection;
+}
+
+template <class Traits>
+bool VListView<Traits>::operator!=(VListView const& other) const {
+    return !(*this == other);
+}
+
+template <class Traits>
+typename VListView<Traits>::List::iterator VListView<Traits>::_Find(Element& element) {
+    return std::find(m_collection.begin(), m_collection.end(), &element);
+}
+
+template <class Traits>
+void VListView<Traits>::_Insert(typename List::iterator position, Element& element) {
+    m_collection.insert(position, &element);
+}
+
+template <class Traits>
+void VListView<Traits>::_Remove(typename List::iterator position) {
+    if (position == m_collection.end()) {
+        NPavonaUtil::ReportAssertion({L"iter != m_collection.end()", Traits::kSource, Traits::kRemoveStepLine});
+        return;
+    }
+    Element* const element = *position;
+    m_collection.erase(position);
+    // Deliberate: removal by position disposes of the element, removal by reference does not
+    // (RemoveByIteratorDestroysTheElement, RemoveByReferenceLeavesTheElementAlive).
+    delete element;
+}
+
+template <class Traits>
+VNamedListView<Traits>::VNamedListView() = default;
+
+template <class Traits>
+VNamedListView<Traits>::~VNamedListView() = default;
+
+template <class Traits>
+typename VNamedListView<Traits>::Iterator VNamedListView<Traits>::Find(wchar_t const* shortName) {
+    std::wstring_view const wanted(shortName);
+    return Iterator(std::find_if(this->m_collection.begin(), this->m_collection.end(), [wanted](Element* element) {
+        wchar_t const* const held = Traits::ShortNameOf(*element);
+        return held != nullptr && wanted == held;
+    }));
+}
+
+} // namespace NDIAGKIT

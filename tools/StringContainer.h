@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <set>
+#include <string>
+
+#include <diagkit/Export.h>
+#include <diagkit/tools/ExternalIterator.h>
+
+namespace NDIAGKIT {
+
+extern template class DIAGKIT_EXPORT VExternalIterator<std::set<std::wstring*>::const_iterator, std::wstring const&>;
+
+/// A bag of texts that can cross the library's boundary: the container owns a copy of every text it is given.
+///
+/// The order of iteration is that of the copies' addresses and therefore unspecified. One text may be held several
+/// times. Not thread-safe.
+class DIAGKIT_EXPORT VStringContainer {
+public:
+    using Set = std::set<std::wstring*>;
+    using Iterator = VExternalIterator<Set::const_iterator, std::wstring const&>;
+
+    VStringContainer();
+    virtual ~VStringContainer();
+
+    /// Deletes this object, for clients that must free it on the library's side.
+    virtual void Destroy();
+
+    VStringContainer(VStringContainer const&) = delete;
+    VStringContainer& operator=(VStringContainer const&) = delete;
+
+    std::size_t Count() const;
+    bool IsEmpty() const;
+    Iterator Begin() const;
+    Iterator End() const;
+    Iterator begin() const { return Begin(); }
+    Iterator end() const { return End(); }
+
+    void AddCopy(wchar_t const* text); ///< `text` is not null
+
+    /// The first entry, in the order of iteration, that is exactly this text; `End()` when there is none.
+    Iterator Find(wchar_t const* text) const;
+
+    /// Removes one entry of this text. Asserts when there is none, and changes nothing then.
+    void Remove(wchar_t const* text);
+    /// Removes the entry at the position. Asserts at `End()`, and changes nothing then.
+    void Remove(Iterator iter);
+    void Clear();
+
+    /// Whether both hold the very same copies: two containers that were filled separately differ, even with the same
+    /// texts; empty ones are equal.
+    bool operator==(VStringContainer const& other) const;
+    bool operator!=(VStringContainer const& other) const;
+
+protected:
+    void _Insert(Set::const_iterator position, wchar_t const* text); ///< `position` is a hint
+    void _Remove(Set::const_iterator position);
+
+private:
+    Set m_collection;
+};
+
+} // namespace NDIAGKIT

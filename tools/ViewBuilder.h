@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include <diagkit/logging/SharedLogger.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/util/Assertion.h>
+
+namespace NDIAGKIT {
+
+/// Where and with which texts a builder reports that it made no view.
+struct VBuilderSite {
+    wchar_t const* logged;             ///< the text logged before "."
+    NPavonaUtil::VAssertion assertion; ///< raised afterwards
+};
+
+/// Logs, then asserts, that no view was made.
+inline void ReportNoView(VBuilderSite const& site) {
+    NLogging::VSharedLogger const& logger = *NLogging::VSharedLogger::Instance();
+    if (NLogging::ILogListener* const listener = logger.GetLogger(); listener != nullptr && logger.IsEnabled()) {
+        listener->Log(0, std::wstring(site.logged) + L".");
+    }
+    NPavonaUtil::ReportAssertion(site.assertion);
+}
+
+/// What every builder's Create does: destroys the view that the builder remembers, lets `make` put a new one into
+/// `view`, reports when there is none, returns it.
+template <class View, class Make>
+View* CreateView(View*& view, VBuilderSite const& site, Make make) {
+    // Deliberate: the pointer stays while `make` runs; a layer that calls back no Visit operation leaves it unchanged
+    // (AcceptThatVisitsNothingLogsAndAssertsOnAFreshBuilder). Only an exception, which the caller sees, clears it.
+    delete view;
+    try {
+        make();
+    } catch (...) {
+        view = nullptr;
+        throw;
+    }
+    if (view == nullptr) {
+        ReportNoView(site);
+    }
+    return view;
+}
+
+} // namespace NDIAGKIT
