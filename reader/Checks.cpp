@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Checks.h>
+
+#include <string>
+
+#include <diagkit/reader/Utf8.h>
+
+namespace NReader {
+namespace {
+
+using NMemory::Tag;
+using NMemory::VParentRefKind;
+
+std::string Quoted(wchar_t const* text) { return "'" + ToUtf8(text) + "'"; }
+
+std::string Quoted(NODX201::VOdxElement const& element) { return Quoted(element.GetShortName()); }
+
+std::string TagOf(NODX201::VOdxElement const& element) { return ToUtf8(NODX201::OdxTagText(element.GetOdxTag())); }
+
+/// The kinds of parent that ODX allows, a row a kind of layer.
+bool IsParentAllowed(Tag layer, Tag parent) {
+    static constexpr struct {
+        Tag layer;
+        Tag parent;
+    } kAllowed[] = {
+        {Tag::Protocol, Tag::EcuSharedData},        {Tag::FunctionalGroup, Tag::Protocol},
+        {Tag::FunctionalGroup, Tag::EcuSharedData}, {Tag::BaseVariant, Tag::Protocol},
+        {Tag::BaseVariant, Tag::FunctionalGroup},   {Tag::BaseVariant, Tag::EcuSharedData},
+        {Tag::EcuVariant, Tag::BaseVariant},        {Tag::EcuVariant, Tag::EcuSharedData},
+    };
+    for (auto const& row : kAllowed) {
+        if (row.layer == layer && row.parent == parent) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void GiveParentRefsTheirKinds(VReading& reading) {
+    for (VPendingParentRef const& pending : reading.parentRefs) {
+        auto& untyped = dynamic_cast<NMemory::VMemParentRef&>(pending.parentRef->ParentRef());
+        VParentRefKind const kind =
+            untyped.HasDiagLayer() ? NMemory::ParentRefKindOf(untyped.GetDiagLayer()) : VParentRefKind::Unknown;
+        if (kind != VParentRefKind::Unknown) {
+            pending.changeKind(*pending.parentRef, kind);
+            continue;
+        }
+        auto const& link = dynamic_cast<NODX201::VOdxLink const&>(untyped.GetLink());
+        if (untyped.HasDiagLayer()) {
+            reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-kind",
+                                 "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
+                                     Quoted(untyped.GetDiagLayer()) + ", from which nothing can be inherited");
+        } else {
+            reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "unresolved-reference",
+                                 "PARENT-REF names the ID " + Quoted(link.GetIdRef()) +
+                                     ", which no loaded layer has; load the document that holds it too");
+        }
+    }
+}
+
+std::string Named(NODX201::VOdxLink const& link) {
+    std::string text = "the ID " + Quoted(link.GetIdRef());
+    if (*link.GetDocref() != L'\0') {
+        text += " in " + Quoted(link.GetDocref());
+    }
+    return text;
+}
+
+void ReportUnresolved(VReading& reading, VPendingLink const& pending) {
+    auto const& link = dynamic_cast<NODX201::VOdxLink const&>(pending.link->GetLink());
+    if (*link.GetIdRef() == L'\0') {
+        return; // reported as an attribute that is missing
+    }
+    std::string const what = TagOf(*pending.link) + " names " + Named(link);
+    if (auto const leftOut = reading.idsLeftOut.find(ToUtf8(link.GetIdRef())); leftOut != reading.idsLeftOut.end()) {
+        reading.findings.Add(pending.node->GetPosition(), VSeverity::Warning, "target-left-out",
+                             what + ", a " + leftOut->second + ", for which the model has no place");
+        return;
+    }
+    auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
+    if (others == nullptr) {
+        reading.findings.Add(pending.node->GetPosition(), VSeverity::Error, "unresolved-reference",
+                             what + ", which no loaded element has; load the document that holds it too");
+        return;
+    }
+    reading.findings.Add(pending.node->GetPosition(), VSeverity::Error, "reference-kind",
+                         what + ", which is the " + TagOf(*others->first) + ' ' + Quoted(*others->first) +
+                             " and not what the reference wants");
+}
+
+void ReportUnresolvedReferences(VReading& reading) {
+    for (VPendingLink const& pending : reading.links) {
+        if (!pending.resolves(*pending.link)) {
+            ReportUnresolved(reading, pending);
+        }
+    }
+}
+
+void ReportRepeatedIds(VReading& reading) {
+    reading.database->GetIdIndex().ForEachRepeated([&reading](NMemory::VIdIndex::VEntry const& entry) {
+        std::vector<NODX201::VReferencable*> elements{entry.first};
+        elements.insert(elements.end(), entry.others.begin(), entry.others.end());
+        for (std::size_t later = 1; later < elements.size(); ++later) {
+            auto const& node = dynamic_cast<NMemory::VMemNode const&>(*elements[later]);
+            for (std::size_t earlier = 0; earlier < later; ++earlier) {
+                auto const& first = dynamic_cast<NMemory::VMemNode const&>(*elements[earlier]);
+                if (first.GetPosition().document != node.GetPosition().document) {
+                    continue;
+                }
+                reading.findings.Add(node.GetPosition(), VSeverity::Error, "duplicate-id",
+                                     TagOf(*elements[later]) + ' ' + Quoted(*elements[later]) + " has the ID " +
+                                         Quoted(elements[later]->GetId()) + " of the " + TagOf(*elements[earlier]) +
+                                         ' ' + Quoted(*elements[earlier]) + " at line " +
+                                         std::to_string(first.GetPosition().line) + "; IDs must differ in a document");
+                break;
+            }
+        }
+    });
+}
+
+/// The target of a reference of known kind, or null.
+NODX201::VDiagLayer* TargetOf(NODX201::VParentRef& parentRef) {
+    if (auto* const ref = dynamic_cast<NODX201::VProtocolRef*>(&parentRef)) {
+        return ref->HasProtocol() ? &ref->GetProtocol() : nullptr;
+    }
+    if (auto* const ref = dynamic_cast<NODX201::VFunctionalGroupRef*>(&parentRef)) {
+        return ref->HasFunctionalGroup() ? &ref->GetFunctionalGroup() : nullptr;
+    }
+    if (auto* const ref = dynamic_cast<NODX201::VBaseVariantRef*>(&parentRef)) {
+        return ref->HasBaseVariant() ? &ref->GetBaseVariant() : nullptr;
+    }
+    if (auto* const ref = dynamic_cast<NODX201::VEcuSharedDataRef*>(&parentRef)) {
+        return ref->HasEcuSharedData() ? &ref->GetEcuSharedData() : nullptr;
+    }
+    return nullptr;
+}
+
+void CheckParents(VReading& reading, NODX201::VDiagLayer& layer, NODX201::VParentRefCollection& parentRefs) {
+    for (NODX201::VParentRef& parentRef : parentRefs) {
+        NODX201::VDiagLayer* const parent = TargetOf(parentRef);
+        if (parent == nullptr) {
+            continue; // reported as unresolved
+        }
+        NMemory::VPosition const& position = dynamic_cast<NMemory::VMemNode const&>(parentRef).GetPosition();
+        if (parent == &layer) {
+            reading.findings.Add(position, VSeverity::Error, "parent-itself",
+                                 TagOf(layer) + ' ' + Quoted(layer) + " names itself as a parent");
+        } else if (!IsParentAllowed(layer.GetOdxTag(), parent->GetOdxTag())) {
+            reading.findings.Add(position, VSeverity::Error, "parent-kind",
+                                 TagOf(layer) + ' ' + Quoted(layer) + " has the " + TagOf(*parent) + ' ' +
+                                     Quoted(*parent) + " as a parent, which ODX does not allow; nothing is inherited");
+        }
+    }
+}
+
+void CheckParents(VReading& reading) {
+    for (NODX201::VDiagLayerContainer& container : reading.database->GetOdx().DiagLayerContainerCollection()) {
+        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
+            if (auto* const protocol = dynamic_cast<NODX201::VProtocol*>(&layer)) {
+                CheckParents(reading, layer, protocol->ParentRefCollection());
+            } else if (auto* const group = dynamic_cast<NODX201::VFunctionalGroup*>(&layer)) {
+                CheckParents(reading, layer, group->ParentRefCollection());
+            } else if (auto* const base = dynamic_cast<NODX201::VBaseVariant*>(&layer)) {
+                CheckParents(reading, layer, base->ParentRefCollection());
+            } else if (auto* const variant = dynamic_cast<NODX201::VEcuVariant*>(&layer)) {
+                CheckParents(reading, layer, variant->ParentRefCollection());
+            }
+        }
+    }
+}
+
+} // namespace
+
+void FinishReading(VReading& reading) {
+    GiveParentRefsTheirKinds(reading);
+    ReportUnresolvedReferences(reading);
+    ReportRepeatedIds(reading);
+    CheckParents(reading);
+}
+
+} // namespace NReader

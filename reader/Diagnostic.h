@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace NReader {
+
+enum class VSeverity { Warning, Error };
+
+/// One finding about a user's data. All texts are UTF-8.
+struct VDiagnostic {
+    std::string file;         ///< as named by the user; inside a package PACKAGE!MEMBER
+    std::uint32_t line = 0;   ///< counts from 1; 0 when the finding has no position
+    std::uint32_t column = 0; ///< counts from 1, in characters; 0 when the finding has no position
+    VSeverity severity = VSeverity::Error;
+    std::string code;    ///< stable, such as "unresolved-reference"
+    std::string message; ///< lower-case start, no full stop
+};
+
+char const* SeverityText(VSeverity severity); ///< "error" or "warning"
+
+/// FILE:LINE:COLUMN: SEVERITY: MESSAGE [CODE], without the position where there is none.
+std::string FormatDiagnostic(VDiagnostic const& diagnostic);
+
+} // namespace NReader

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Loader.h>
+#include <diagkit/reader/RowParts.h>
+
+// The root, the categories and communication parameters.
+
+// clang-format off
+
+namespace NReader {
+
+using namespace NMemory;
+
+VElementType const& TypeOf(VMemComparamRef*) {
+    using T = VMemComparamRef;
+    using R = VRows<T>;
+    static VElementType const type = Table({}, {
+        R::Text<&T::SetValue>("VALUE", Required, VContent::Text, nullptr, 1),
+        R::Text<&T::SetValue>("SIMPLE-VALUE", Optional, VContent::Text, nullptr, 1),
+        R::Markup<&T::SetDesc>("DESC"),
+        R::Snref<&T::SetProtocolSnref>("PROTOCOL-SNREF"),
+    });
+    return type;
+}
+
+VElementType const& TypeOf(VMemComparam*) {
+    using T = VMemComparam;
+    using R = VRows<T>;
+    static VElementType const type = IdentTable<T>({
+        R::Attribute<&T::SetParamClass>("PARAM-CLASS", Required),
+        R::Attribute<&T::SetCptype>("CPTYPE", Required, VContent::Name),
+        R::Attribute<&T::SetDisplayLevel>("DISPLAY-LEVEL", Required, VContent::Uint),
+        R::Attribute<&T::SetPduApiIndex>("PDU-API-INDEX", Optional, VContent::Uint),
+    }, {
+        R::Text<&T::SetPhysicalDefaultValue>("PHYSICAL-DEFAULT-VALUE", Required),
+        R::Link<&T::SetDataObjectPropRef>("DATA-OBJECT-PROP-REF", Required),
+    });
+    return type;
+}
+
+VElementType const& TypeOf(VMemComparamSpec*) {
+    using T = VMemComparamSpec;
+    using R = VRows<T>;
+    static VElementType const type = IdentTable<T>({}, {
+        AdminDataRow<T>(),
+        CompanyDatasRow<T>(),
+        R::Wrapper<&T::MakeComparamCollection>("COMPARAMS", Optional, {R::Item<&T::AddComparam>("COMPARAM")}),
+        R::Wrapper<&T::MakeDataObjectPropCollection>("DATA-OBJECT-PROPS", Optional, {R::Item<&T::AddDataObjectProp>("DATA-OBJECT-PROP")}),
+        R::Child<&T::MakeUnitSpec>("UNIT-SPEC"),
+    });
+    return type;
+}
+
+VElementType const& TypeOf(VMemMultipleEcuJobSpec*) {
+    using T = VMemMultipleEcuJobSpec;
+    using R = VRows<T>;
+    static VElementType const type = IdentTable<T>({}, {
+        AdminDataRow<T>(),
+        CompanyDatasRow<T>(),
+        R::Wrapper<&T::MakeMultipleEcuJobCollection>("MULTIPLE-ECU-JOBS", Optional, {R::Item<&T::AddMultipleEcuJob>("MULTIPLE-ECU-JOB")}),
+        R::Child<&T::MakeDiagDataDictionarySpec>("DIAG-DATA-DICTIONARY-SPEC"),
+        FunctClassesRow<T>(),
+    });
+    return type;
+}
+
+VElementType const& TypeOf(VMemDiagLayerContainer*) {
+    using T = VMemDiagLayerContainer;
+    using R = VRows<T>;
+    static VElementType const type = IdentTable<T>({}, {
+        AdminDataRow<T>(),
+        CompanyDatasRow<T>(),
+        R::PlainWrapper("PROTOCOLS", Optional, {R::Item<&T::AddProtocol>("PROTOCOL")}),
+        R::PlainWrapper("FUNCTIONAL-GROUPS", Optional, {R::Item<&T::AddFunctionalGroup>("FUNCTIONAL-GROUP")}),
+        R::PlainWrapper("ECU-SHARED-DATAS", Optional, {R::Item<&T::AddEcuSharedData>("ECU-SHARED-DATA")}),
+        R::PlainWrapper("BASE-VARIANTS", Optional, {R::Item<&T::AddBaseVariant>("BASE-VARIANT")}),
+        R::PlainWrapper("ECU-VARIANTS", Optional, {R::Item<&T::AddEcuVariant>("ECU-VARIANT")}),
+    });
+    return type;
+}
+
+template <class Category>
+VOpened OpenCategory(VLoader& loader, Category& category, char const* element) {
+    NoteElement(loader, category);
+    loader.AddCategory(category, element);
+    return {&category, &TypeOf(&category)};
+}
+
+VElementType const& RootType() {
+    static VElementType const type = Table({}, {
+        VRows<VLoader>::Special("DIAG-LAYER-CONTAINER", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
+            return OpenCategory(loader, loader.Database().AddDiagLayerContainer(L""), "DIAG-LAYER-CONTAINER");
+        }),
+        VRows<VLoader>::Special("COMPARAM-SPEC", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
+            return OpenCategory(loader, loader.Database().AddComparamSpec(L""), "COMPARAM-SPEC");
+        }),
+        VRows<VLoader>::Special("FLASH", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
+            return OpenCategory(loader, loader.Database().AddFlash(L""), "FLASH");
+        }),
+        VRows<VLoader>::Special("MULTIPLE-ECU-JOB-SPEC", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
+            return OpenCategory(loader, loader.Database().AddMultipleEcuJobSpec(L""), "MULTIPLE-ECU-JOB-SPEC");
+        }),
+        // A category of later versions, which holds what a COMPARAM-SPEC held before.
+        VRows<VLoader>::Special("COMPARAM-SUBSET", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
+            return OpenCategory(loader, loader.Database().AddComparamSpec(L""), "COMPARAM-SUBSET");
+        }),
+    });
+    return type;
+}
+
+} // namespace NReader
+
+// clang-format on

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Findings.h>
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace NReader {
+
+void VFindings::Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message) {
+    m_findings.push_back({position, severity, std::move(code), std::move(message)});
+}
+
+void VFindings::Forget(std::size_t from) {
+    m_findings.erase(m_findings.begin() + static_cast<std::ptrdiff_t>(from), m_findings.end());
+}
+
+std::vector<VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {
+    std::vector<VFinding> findings = m_findings;
+    std::stable_sort(findings.begin(), findings.end(), [](VFinding const& a, VFinding const& b) {
+        return std::tie(a.position.document, a.position.line, a.position.column) <
+               std::tie(b.position.document, b.position.line, b.position.column);
+    });
+    std::vector<VDiagnostic> diagnostics;
+    diagnostics.reserve(findings.size());
+    for (VFinding& finding : findings) {
+        diagnostics.push_back({database.GetDocumentName(finding.position), finding.position.line,
+                               finding.position.column, finding.severity, std::move(finding.code),
+                               std::move(finding.message)});
+    }
+    return diagnostics;
+}
+
+} // namespace NReader

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <diagkit/memory/Database.h>
+#include <diagkit/reader/Diagnostic.h>
+
+namespace NReader {
+
+/// The diagnostics of one reading, while they are collected.
+class VFindings {
+public:
+    void Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message);
+    std::size_t Count() const { return m_findings.size(); }
+    void Forget(std::size_t from); ///< those added since there were `from`
+
+    /// All of them, by document and position, with the documents' names.
+    std::vector<VDiagnostic> Sorted(NMemory::VDatabase const& database) const;
+
+private:
+    struct VFinding {
+        NMemory::VPosition position;
+        VSeverity severity;
+        std::string code;
+        std::string message;
+    };
+    std::vector<VFinding> m_findings;
+};
+
+} // namespace NReader

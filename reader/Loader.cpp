@@ -1,0 +1,501 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Loader.h>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include <diagkit/reader/Utf8.h>
+#include <diagkit/reader/Values.h>
+
+namespace NReader {
+
+int VElementType::FindRow(std::string_view name) const {
+    auto const found = std::lower_bound(byName.begin(), byName.end(), name, [this](std::uint16_t index, auto wanted) {
+        return std::string_view(rows[index].name) < wanted;
+    });
+    return found != byName.end() && rows[*found].name == name ? *found : -1;
+}
+
+VElementType Indexed(VElementType type) {
+    type.byName.resize(type.rows.size());
+    for (std::size_t index = 0; index < type.rows.size(); ++index) {
+        type.byName[index] = static_cast<std::uint16_t>(index);
+    }
+    std::sort(type.byName.begin(), type.byName.end(), [&type](std::uint16_t a, std::uint16_t b) {
+        return std::strcmp(type.rows[a].name, type.rows[b].name) < 0;
+    });
+    return type;
+}
+
+VElementType const& LinkType() {
+    static VElementType const type;
+    return type;
+}
+
+void NoteElement(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.Position()); }
+
+void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link)) {
+    loader.Reading().links.push_back({&node, &link, resolves});
+}
+
+void NoteUntypedParentRef(VLoader& loader, NMemory::IMemParentRef& parentRef,
+                          NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef,
+                                                                NMemory::VParentRefKind kind)) {
+    loader.Reading().parentRefs.push_back({&parentRef, changeKind});
+}
+
+NMemory::VReference IdReference(VLoader& loader, VAttributes const& attributes) {
+    return loader.ReadIdReference(attributes);
+}
+
+NMemory::VReference ShortNameReference(VLoader& loader, VAttributes const& attributes) {
+    return loader.ReadShortNameReference(attributes);
+}
+
+VLoader::VLoader(VReading& reading, std::uint32_t document)
+    : m_reading(reading), m_document(document), m_linksBefore(reading.links.size()),
+      m_parentRefsBefore(reading.parentRefs.size()), m_findingsBefore(reading.findings.Count()) {}
+
+VLoader::~VLoader() {
+    if (m_isCommitted) {
+        return;
+    }
+    m_reading.links.resize(m_linksBefore);
+    m_reading.parentRefs.resize(m_parentRefsBefore);
+    m_reading.findings.Forget(m_findingsBefore);
+    for (auto const& category : m_categories) {
+        delete category.first;
+    }
+}
+
+void VLoader::Commit() {
+    if (m_categories.empty()) {
+        Report(VSeverity::Warning, "no-category", "the document holds no category element, so nothing was loaded");
+    }
+    for (auto const& [category, element] : m_categories) {
+        m_reading.documents.push_back({Database().GetDocumentName({m_document, 0, 0}), m_modelVersion, element,
+                                       ToUtf8(category->GetShortName())});
+    }
+    for (auto const& [name, content] : m_instructions) {
+        Database().AddProcessingInstruction(name.c_str(), content.c_str());
+    }
+    for (auto const& [name, count] : m_unknownElements) {
+        m_reading.unknownElements[name] += count;
+    }
+    for (auto& [id, name] : m_idsLeftOut) {
+        m_reading.idsLeftOut.emplace(std::move(id), std::move(name));
+    }
+    m_isCommitted = true;
+}
+
+NMemory::VPosition VLoader::Position() const {
+    if (m_replayed != nullptr) {
+        return *m_replayed;
+    }
+    VXmlPosition const position = m_parser->GetPosition();
+    return {m_document, position.line, position.column};
+}
+
+void VLoader::SetModelVersion(std::string_view version) {
+    m_modelVersion = version;
+    m_isVersion20 = version == "2.0" || version.substr(0, 4) == "2.0.";
+}
+
+void VLoader::AddCategory(NODX201::VReferencable& category, char const* element) {
+    m_categories.emplace_back(&category, element);
+}
+
+void VLoader::Report(VSeverity severity, char const* code, std::string message) {
+    m_reading.findings.Add(Position(), severity, code, std::move(message));
+}
+
+NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
+    static constexpr char const* kNames[] = {"ID-REF", "DOCREF", "DOCTYPE", "REVISION"};
+    for (std::size_t index = 0; index < std::size(kNames); ++index) {
+        char const* const value = attributes.Find(kNames[index]);
+        m_reference[index].clear();
+        AppendFromUtf8(m_reference[index], value != nullptr ? value : "");
+    }
+    if (attributes.Find("ID-REF") == nullptr) {
+        Report(VSeverity::Error, "missing-attribute", "the reference has no ID-REF");
+    }
+    return NMemory::VReference::ById(m_reference[0].c_str(), m_reference[1].c_str(), m_reference[2].c_str(),
+                                     m_reference[3].c_str());
+}
+
+NMemory::VReference VLoader::ReadShortNameReference(VAttributes const& attributes) {
+    char const* const value = attributes.Find("SHORT-NAME");
+    if (value == nullptr) {
+        Report(VSeverity::Error, "missing-attribute", "the short-name reference has no SHORT-NAME");
+    }
+    m_reference[0].clear();
+    AppendFromUtf8(m_reference[0], value != nullptr ? value : "");
+    return NMemory::VReference::ByShortName(m_reference[0].c_str());
+}
+
+// Events
+
+void VLoader::Start(std::string_view name, VAttributes const& attributes) {
+    if (m_recordedDepth > 0) {
+        VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
+        for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
+            event.attributes.emplace_back(*attribute);
+        }
+        ++m_recordedDepth;
+        m_recorded.push_back(std::move(event));
+        return;
+    }
+    if (m_skipped > 0) {
+        ++m_skipped;
+        NoteLeftOut(LocalName(name), attributes);
+        return;
+    }
+    if (m_markupDepth > 0) {
+        StartMarkup(name, attributes);
+        return;
+    }
+    std::string_view const local = LocalName(name);
+    if (m_frames.empty()) {
+        StartRoot(local, attributes);
+        return;
+    }
+    VElementType const& type = *m_frames.back().type;
+    int const index = type.FindRow(local);
+    if (index >= 0) {
+        StartRow(local, attributes, type.rows[static_cast<std::size_t>(index)], index);
+    } else if (!StartBesideWrapper(local, attributes)) {
+        Skip(local, attributes);
+        ++m_unknownElements[std::string(local)];
+    }
+}
+
+void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
+    if (name != "ODX") {
+        m_parser->Refuse("not-odx", "the root element is '" + std::string(name) + "', not ODX");
+        return;
+    }
+    char const* const version = attributes.Find("MODEL-VERSION");
+    if (version != nullptr) {
+        SetModelVersion(version);
+    } else {
+        Report(VSeverity::Warning, "missing-model-version",
+               "ODX has no MODEL-VERSION; the document is read by its content");
+    }
+    m_frames.push_back({std::string(name), this, &RootType(), Position()});
+}
+
+void VLoader::StartRow(std::string_view name, VAttributes const& attributes, VRow const& row, int index) {
+    if (NoteRow(name, m_frames.back(), row, index)) {
+        Open(name, attributes, row);
+    } else {
+        Skip(name, attributes);
+    }
+}
+
+bool VLoader::StartBesideWrapper(std::string_view name, VAttributes const& attributes) {
+    for (VRow const& wrapper : m_frames.back().type->rows) {
+        if (wrapper.ownType == nullptr || !wrapper.ownType->isWrapper) {
+            continue;
+        }
+        int const index = wrapper.ownType->FindRow(name);
+        if (index < 0) {
+            continue;
+        }
+        Report(VSeverity::Warning, "missing-wrapper",
+               "'" + std::string(name) + "' stands outside of '" + wrapper.name + "', where it belongs");
+        wrapper.open(*this, m_frames.back().object, wrapper, attributes);
+        Open(name, attributes, wrapper.ownType->rows[static_cast<std::size_t>(index)]);
+        return true;
+    }
+    return false;
+}
+
+/// Whether the child is to be read: not a second one where only one counts.
+bool VLoader::NoteRow(std::string_view name, VFrame& frame, VRow const& row, int index) {
+    std::uint64_t const bit = std::uint64_t{1} << index;
+    std::uint64_t const choiceBit = row.choice != 0 ? std::uint64_t{1} << row.choice : 0;
+    bool const isRepeated = row.occurs != Many && (frame.seen & bit) != 0;
+    bool const isSecondAlternative = !isRepeated && row.occurs != Many && (frame.choices & choiceBit) != 0;
+    bool const isMisplaced =
+        index < frame.lastRow &&
+        !(row.occurs == Many && frame.type->rows[static_cast<std::size_t>(frame.lastRow)].occurs == Many);
+    if (isRepeated) {
+        Report(VSeverity::Error, "repeated-child",
+               "'" + std::string(name) + "' stands in '" + frame.name + "' more than once" +
+                   (row.isFirstKept ? "; the first one counts" : ""));
+    } else if (isSecondAlternative) {
+        Report(VSeverity::Error, "second-alternative",
+               "'" + std::string(name) + "' stands in '" + frame.name +
+                   "' beside an alternative; the first one counts");
+    } else if (isMisplaced && m_isVersion20) {
+        Report(VSeverity::Warning, "misplaced-child",
+               "'" + std::string(name) + "' belongs before '" +
+                   frame.type->rows[static_cast<std::size_t>(frame.lastRow)].name + "' in '" + frame.name + "'");
+    }
+    frame.seen |= bit;
+    frame.choices |= choiceBit;
+    frame.lastRow = std::max(frame.lastRow, index);
+    return !isSecondAlternative && !(isRepeated && row.isFirstKept);
+}
+
+void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow const& row) {
+    VOpened const opened = row.open(*this, m_frames.back().object, row, attributes);
+    if (opened.isDeferred) {
+        m_recordedDepth = 1;
+        VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
+        for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
+            event.attributes.emplace_back(*attribute);
+        }
+        m_recorded.push_back(std::move(event));
+        return;
+    }
+    if (opened.type == nullptr) {
+        Skip(name, attributes);
+        return;
+    }
+    m_frames.push_back({std::string(name), opened.object, opened.type, Position()});
+    m_text.clear();
+    m_textId.clear();
+    if (char const* const textId = attributes.Find("TI")) {
+        AppendFromUtf8(m_textId, textId);
+    }
+    if (opened.type->isMarkup) {
+        m_markupDepth = 1;
+    }
+    ReadAttributes(m_frames.back(), attributes);
+}
+
+void VLoader::Skip(std::string_view name, VAttributes const& attributes) {
+    m_skipped = 1;
+    NoteLeftOut(name, attributes);
+}
+
+void VLoader::NoteLeftOut(std::string_view name, VAttributes const& attributes) {
+    if (char const* const id = attributes.Find("ID")) {
+        m_idsLeftOut.emplace_back(id, name);
+    }
+}
+
+void VLoader::ReadAttributes(VFrame const& frame, VAttributes const& attributes) {
+    for (VAttributeRow const& row : frame.type->attributes) {
+        char const* const value = attributes.Find(row.name);
+        if (value == nullptr) {
+            if (row.occurs == Required && m_isVersion20) {
+                Report(VSeverity::Error, "missing-attribute", "'" + frame.name + "' has no " + row.name);
+            }
+            continue;
+        }
+        std::wstring text = FromUtf8(value);
+        if (row.content != VContent::Text) {
+            Trim(text);
+        }
+        CheckValue(row.content, row.literals, text, std::string(row.name) + " of '" + frame.name + "'");
+        row.set(frame.object, text);
+    }
+}
+
+void VLoader::CheckValue(VContent content, wchar_t const* const* literals, std::wstring const& text,
+                         std::string const& what) {
+    if (!IsValue(content, text)) {
+        Report(VSeverity::Error, "not-a-value", what + " is '" + ToUtf8(text) + "', which is no " + ValueText(content));
+    } else if (literals != nullptr && m_isVersion20 && !IsLiteral(literals, text)) {
+        Report(VSeverity::Error, "unknown-literal",
+               what + " is '" + ToUtf8(text) + "', which is none of " + LiteralsText(literals));
+    }
+}
+
+void VLoader::Text(std::string_view text) {
+    if (m_recordedDepth > 0) {
+        m_recorded.push_back({VEvent::VKind::Text, {}, std::string(text), {}, Position()});
+        return;
+    }
+    if (m_skipped > 0 || m_frames.empty()) {
+        return;
+    }
+    VFrame& frame = m_frames.back();
+    if (m_markupDepth > 0) {
+        if (m_isTagOpen) {
+            m_text += '>';
+            m_isTagOpen = false;
+        }
+        AppendEscaped(m_text, text);
+    } else if (frame.type->setContent != nullptr) {
+        m_text += text;
+    } else if (!frame.hasStrayText && text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
+        frame.hasStrayText = true;
+        Report(VSeverity::Warning, "stray-text", "'" + frame.name + "' holds text, which is left out");
+    }
+}
+
+void VLoader::End(std::string_view name) {
+    if (m_recordedDepth > 0) {
+        m_recorded.push_back({VEvent::VKind::End, std::string(name), {}, {}, Position()});
+        if (--m_recordedDepth == 0) {
+            Replay();
+        }
+        return;
+    }
+    if (m_skipped > 0) {
+        --m_skipped;
+        return;
+    }
+    if (m_markupDepth > 1) {
+        EndMarkup(name);
+        return;
+    }
+    m_markupDepth = 0;
+    VFrame const frame = std::move(m_frames.back());
+    m_frames.pop_back();
+    if (frame.type->setContent != nullptr) {
+        TakeContent(frame);
+    }
+    if (m_isVersion20) {
+        CheckComplete(frame);
+    }
+}
+
+void VLoader::TakeContent(VFrame const& frame) {
+    std::wstring text = FromUtf8(m_text);
+    if (frame.type->content != VContent::Text) {
+        Trim(text);
+    }
+    CheckValue(frame.type->content, frame.type->literals, text, "'" + frame.name + "'");
+    frame.type->setContent(frame.object, text, m_textId);
+    m_text.clear();
+}
+
+void VLoader::CheckComplete(VFrame const& frame) {
+    std::uint64_t reportedChoices = 0;
+    for (std::size_t index = 0; index < frame.type->rows.size(); ++index) {
+        VRow const& row = frame.type->rows[index];
+        if (row.occurs != Required || (frame.seen & (std::uint64_t{1} << index)) != 0) {
+            continue;
+        }
+        std::uint64_t const choiceBit = row.choice != 0 ? std::uint64_t{1} << row.choice : 0;
+        if (((frame.choices | reportedChoices) & choiceBit) != 0) {
+            continue;
+        }
+        reportedChoices |= choiceBit;
+        m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
+                               "'" + frame.name + "' has no '" + row.name + "'" +
+                                   (row.choice != 0 ? " nor an alternative to it" : ""));
+    }
+}
+
+void VLoader::Instruction(std::string_view name, std::string_view content) {
+    if (m_recordedDepth > 0) {
+        m_recorded.push_back({VEvent::VKind::Instruction, std::string(name), std::string(content), {}, Position()});
+        return;
+    }
+    if (m_skipped > 0) {
+        return;
+    }
+    if (m_frames.size() <= 1) {
+        m_instructions.emplace_back(FromUtf8(name), FromUtf8(content));
+        return;
+    }
+    VFrame const& frame = m_frames.back();
+    if (frame.type->addInstruction != nullptr) {
+        frame.type->addInstruction(frame.object, FromUtf8(name), FromUtf8(content));
+    }
+}
+
+// Markup: DESC keeps its inner tags as text.
+
+void VLoader::StartMarkup(std::string_view name, VAttributes const& attributes) {
+    if (m_isTagOpen) {
+        m_text += '>';
+    }
+    m_text += '<';
+    m_text += name;
+    for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; attribute += 2) {
+        m_text += ' ';
+        m_text += attribute[0];
+        m_text += "=\"";
+        AppendEscaped(m_text, attribute[1]);
+        m_text += '"';
+    }
+    m_isTagOpen = true;
+    ++m_markupDepth;
+}
+
+void VLoader::EndMarkup(std::string_view name) {
+    if (m_isTagOpen) {
+        m_text += "/>";
+        m_isTagOpen = false;
+    } else {
+        m_text += "</";
+        m_text += name;
+        m_text += '>';
+    }
+    --m_markupDepth;
+}
+
+// Elements whose kind shows only from their contents
+
+void VLoader::Replay() {
+    std::vector<VEvent> events;
+    events.swap(m_recorded);
+
+    std::vector<std::string> childNames;
+    std::uint32_t depth = 0;
+    for (VEvent const& event : events) {
+        if (event.kind == VEvent::VKind::Start && depth++ == 1) {
+            childNames.emplace_back(LocalName(event.name));
+        } else if (event.kind == VEvent::VKind::End) {
+            --depth;
+        }
+    }
+    auto const pointers = [](std::vector<std::string> const& attributes) {
+        std::vector<char const*> raw;
+        for (std::string const& attribute : attributes) {
+            raw.push_back(attribute.c_str());
+        }
+        raw.push_back(nullptr);
+        return raw;
+    };
+    VEvent& first = events.front();
+    std::string const type = InferType(first.name, VAttributes(pointers(first.attributes).data()), childNames);
+    for (std::size_t index = 0; index + 1 < first.attributes.size();) {
+        if (LocalName(first.attributes[index]) == "type") {
+            first.attributes.erase(first.attributes.begin() + static_cast<std::ptrdiff_t>(index),
+                                   first.attributes.begin() + static_cast<std::ptrdiff_t>(index + 2));
+        } else {
+            index += 2;
+        }
+    }
+    first.attributes.insert(first.attributes.end(), {"xsi:type", type});
+
+    NMemory::VPosition const* const before = m_replayed;
+    for (std::size_t index = 0; index < events.size(); ++index) {
+        VEvent const& event = events[index];
+        m_replayed = &event.position;
+        switch (event.kind) {
+        case VEvent::VKind::Start: {
+            std::vector<char const*> const raw = pointers(event.attributes);
+            if (index == 0) {
+                // Noted among its siblings already, when it was met.
+                VElementType const& owner = *m_frames.back().type;
+                int const row = owner.FindRow(LocalName(event.name));
+                Open(LocalName(event.name), VAttributes(raw.data()), owner.rows[static_cast<std::size_t>(row)]);
+            } else {
+                Start(event.name, VAttributes(raw.data()));
+            }
+            break;
+        }
+        case VEvent::VKind::End:
+            End(event.name);
+            break;
+        case VEvent::VKind::Text:
+            Text(event.text);
+            break;
+        case VEvent::VKind::Instruction:
+            Instruction(event.name, event.text);
+            break;
+        }
+    }
+    m_replayed = before;
+}
+
+} // namespace NReader

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/OdxReader.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+#include <diagkit/reader/Checks.h>
+#include <diagkit/reader/Loader.h>
+#include <diagkit/reader/Package.h>
+#include <diagkit/reader/Utf8.h>
+
+namespace NReader {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Hands out the bytes of a document from the start, as often as asked, until `take` returns false. False when reading
+/// failed, with the reason in `error`.
+using VBytes = std::function<bool(std::function<bool(std::string_view bytes)> const& take, std::string& error)>;
+
+struct VFailure {
+    VXmlPosition position;
+    std::string code;
+    std::string message;
+};
+
+/// What one try at a document came to.
+struct VTry {
+    bool isRead = false;
+    bool isEncoding = false; ///< another encoding may help
+    VFailure failure;
+};
+
+class VSession {
+public:
+    VSession(VReading& reading, VReadOptions const& options) : m_reading(reading), m_options(options) {}
+
+    bool ReadFile(std::string const& file);
+    void SetSizes(std::uint64_t all) { m_all = all; }
+
+private:
+    bool ReadPackage(std::string const& file);
+    bool ReadMember(VPackage& package, VPackage::VMember const& member, std::string const& name);
+    bool ReadDocument(std::string const& name, VBytes const& bytes);
+    VTry TryDocument(std::uint32_t document, VBytes const& bytes, char const* encoding, bool isRepaired);
+    bool Fail(std::string const& file, VFailure failure);
+    void Progress(std::uint64_t bytes);
+
+    VReading& m_reading;
+    VReadOptions const& m_options;
+    std::uint64_t m_packageLeft = 0;
+    std::uint64_t m_done = 0;
+    std::uint64_t m_all = 0;
+};
+
+bool VSession::Fail(std::string const& file, VFailure failure) {
+    std::uint32_t const document = m_reading.database->AddDocumentName(file);
+    m_reading.findings.Add({document, failure.position.line, failure.position.column}, VSeverity::Error,
+                           std::move(failure.code), std::move(failure.message));
+    return false;
+}
+
+void VSession::Progress(std::uint64_t bytes) {
+    m_done += bytes;
+    if (m_options.progress) {
+        m_options.progress(m_done, m_all);
+    }
+}
+
+bool StartsLikeZip(std::string const& file) {
+    std::ifstream stream(fs::u8path(file), std::ios::binary);
+    char head[4] = {};
+    stream.read(head, sizeof head);
+    return stream.gcount() == 4 && head[0] == 'P' && head[1] == 'K' &&
+           ((head[2] == 3 && head[3] == 4) || (head[2] == 5 && head[3] == 6));
+}
+
+bool IsPackageName(std::string const& file) {
+    std::string suffix = fs::u8path(file).extension().u8string();
+    for (char& character : suffix) {
+        character = character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+    }
+    return suffix == ".pdx" || suffix == ".zip";
+}
+
+bool VSession::ReadFile(std::string const& file) {
+    std::error_code error;
+    fs::path const path = fs::u8path(file);
+    fs::file_status const status = fs::status(path, error);
+    if (!fs::exists(status)) {
+        return Fail(file, {{},
+                           "no-file",
+                           error && error != std::errc::no_such_file_or_directory ? "cannot be read: " + error.message()
+                                                                                  : "no such file"});
+    }
+    if (fs::is_directory(status)) {
+        return Fail(file, {{}, "no-file", "is a folder; name the ODX documents or packages in it"});
+    }
+    if (StartsLikeZip(file)) {
+        return ReadPackage(file);
+    }
+    if (IsPackageName(file)) {
+        return Fail(file, {{}, "no-package", "is no PDX package: the file is not a zip archive"});
+    }
+    return ReadDocument(file, [&](auto const& take, std::string& reason) {
+        std::ifstream stream(path, std::ios::binary);
+        if (!stream) {
+            reason = std::strerror(errno);
+            return false;
+        }
+        std::vector<char> buffer(256 * 1024);
+        while (stream) {
+            stream.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+            auto const length = static_cast<std::size_t>(stream.gcount());
+            Progress(length);
+            if (length > 0 && !take(std::string_view(buffer.data(), length))) {
+                return true;
+            }
+        }
+        if (stream.bad()) {
+            reason = "reading failed";
+            return false;
+        }
+        return true;
+    });
+}
+
+bool VSession::ReadPackage(std::string const& file) {
+    VPackage package;
+    std::string error;
+    if (!package.Open(file, error)) {
+        return Fail(file, {{}, "no-package", "the package cannot be read: " + error});
+    }
+    if (package.Documents().empty()) {
+        return Fail(file, {{}, "no-package", "the package holds no ODX document (no member named .odx, .odx-d, ...)"});
+    }
+    m_packageLeft = m_options.maxPackageSize;
+    for (VPackage::VMember const& member : package.Documents()) {
+        // A member that cannot be read is reported and left out; the rest is loaded.
+        ReadMember(package, member, file + '!' + member.name);
+        Progress(member.compressedSize);
+    }
+    return true;
+}
+
+bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, std::string const& name) {
+    return ReadDocument(name, [&](auto const& take, std::string& reason) {
+        std::uint64_t const limit = std::min(m_options.maxMemberSize, m_packageLeft);
+        std::uint64_t unpacked = 0;
+        VPackage::VOutcome const outcome = package.Read(
+            member, limit,
+            [&](std::string_view bytes) {
+                unpacked += bytes.size();
+                return take(bytes);
+            },
+            reason);
+        m_packageLeft -= std::min(unpacked, m_packageLeft);
+        if (outcome == VPackage::VOutcome::TooLarge) {
+            reason = limit < m_options.maxMemberSize
+                         ? "the package unpacks to more than " + std::to_string(m_options.maxPackageSize) + " bytes"
+                         : "the member unpacks to more than " + std::to_string(m_options.maxMemberSize) + " bytes";
+        }
+        return outcome == VPackage::VOutcome::Done || outcome == VPackage::VOutcome::Stopped;
+    });
+}
+
+VTry VSession::TryDocument(std::uint32_t document, VBytes const& bytes, char const* encoding, bool isRepaired) {
+    VLoader loader(m_reading, document);
+    VXmlParser parser(loader, m_options.maxDepth, encoding);
+    loader.SetParser(parser);
+
+    VTry result;
+    std::string error;
+    bool isEmpty = true;
+    bool isParsed = true;
+    bool const isDelivered = bytes(
+        [&](std::string_view piece) {
+            isEmpty = false;
+            return isParsed = parser.Feed(piece, false);
+        },
+        error);
+    if (!isDelivered) {
+        result.failure = {{}, "unreadable", "cannot be read: " + error};
+        return result;
+    }
+    if (isEmpty) {
+        result.failure = {{}, "empty", "is empty"};
+        return result;
+    }
+    if (!isParsed || !parser.Feed({}, true)) {
+        VXmlError const& problem = parser.GetError();
+        result.failure = {problem.position, problem.code, problem.message};
+        result.isEncoding = problem.isEncoding && !isRepaired;
+        return result;
+    }
+    loader.Commit();
+    result.isRead = true;
+    return result;
+}
+
+bool VSession::ReadDocument(std::string const& name, VBytes const& bytes) {
+    std::uint32_t const document = m_reading.database->AddDocumentName(name);
+    VTry const first = TryDocument(document, bytes, nullptr, false);
+    if (first.isRead) {
+        return true;
+    }
+    if (first.isEncoding) {
+        // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
+        for (char const* const encoding : {"UTF-8", "windows-1252"}) {
+            VTry const next = TryDocument(document, bytes, encoding, true);
+            if (next.isRead) {
+                m_reading.findings.Add({document, first.failure.position.line, first.failure.position.column},
+                                       VSeverity::Warning, "encoding",
+                                       "the bytes are not in the encoding that the document declares (UTF-8 where it "
+                                       "declares none); read as " +
+                                           std::string(encoding));
+                return true;
+            }
+        }
+    }
+    m_reading.findings.Add({document, first.failure.position.line, first.failure.position.column}, VSeverity::Error,
+                           first.failure.code, first.failure.message);
+    return false;
+}
+
+std::uint64_t SizeOf(std::vector<std::string> const& files) {
+    std::uint64_t all = 0;
+    for (std::string const& file : files) {
+        std::error_code error;
+        std::uintmax_t const size = fs::file_size(fs::u8path(file), error);
+        all += error ? 0 : size;
+    }
+    return all;
+}
+
+} // namespace
+
+VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options) {
+    VReading reading;
+    reading.database = std::make_unique<NMemory::VDatabase>();
+    VSession session(reading, options);
+    session.SetSizes(SizeOf(files));
+
+    bool areRead = true;
+    for (std::string const& file : files) {
+        areRead = session.ReadFile(file) && areRead;
+    }
+    VReadResult result;
+    if (!areRead) {
+        result.diagnostics = reading.findings.Sorted(*reading.database);
+        return result;
+    }
+    FinishReading(reading);
+    result.diagnostics = reading.findings.Sorted(*reading.database);
+    result.documents = std::move(reading.documents);
+    result.unknownElements = std::move(reading.unknownElements);
+    result.database = std::move(reading.database);
+    return result;
+}
+
+} // namespace NReader

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <diagkit/memory/Database.h>
+#include <diagkit/reader/Diagnostic.h>
+
+namespace NReader {
+
+/// Limits that honest databases never meet.
+struct VReadOptions {
+    std::uint64_t maxMemberSize = std::uint64_t{1} << 30;  ///< unpacked bytes of one member of a package
+    std::uint64_t maxPackageSize = std::uint64_t{4} << 30; ///< unpacked bytes of all members read of one package
+    std::uint32_t maxDepth = 1000;                         ///< elements inside one another
+
+    /// Called now and then during long work with the bytes read so far and those to read in all (compressed sizes for
+    /// packages); may be empty.
+    std::function<void(std::uint64_t done, std::uint64_t all)> progress;
+};
+
+/// A document that was loaded; UTF-8.
+struct VDocumentInfo {
+    std::string file;         ///< as named by the user; inside a package PACKAGE!MEMBER
+    std::string modelVersion; ///< @MODEL-VERSION, "" when absent
+    std::string category;     ///< tag of the category element, such as "DIAG-LAYER-CONTAINER"
+    std::string shortName;    ///< of the category element
+};
+
+/// What came of reading.
+struct VReadResult {
+    /// Null when a file that the caller named could not be read; `diagnostics` then says why, as an error.
+    std::unique_ptr<NMemory::VDatabase> database;
+    std::vector<VDocumentInfo> documents; ///< in load order, one for each category element
+    std::vector<VDiagnostic> diagnostics; ///< in the order of the files, by position within each
+    /// Elements that found no place in the model, by tag; their contents are left out with them and not counted.
+    std::map<std::string, std::size_t> unknownElements;
+};
+
+/// Reads ODX documents and PDX packages as one database, in the order given. The names are paths in UTF-8.
+///
+/// A file is a package when it starts like a zip archive, whatever its name; anything else is read as XML. What can be
+/// loaded is loaded, and the rest reported: only a file that is not readable as ODX at all is refused, and then nothing
+/// is loaded. A member of a package that cannot be read is left out whole.
+VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options = {});
+
+} // namespace NReader

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Package.h>
+
+#include <algorithm>
+
+#include <zip.h>
+
+namespace NReader {
+namespace {
+
+char Folded(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+std::string Text(int code) {
+    zip_error_t error;
+    zip_error_init_with_code(&error, code);
+    std::string const text = zip_error_strerror(&error);
+    zip_error_fini(&error);
+    return text;
+}
+
+} // namespace
+
+struct VPackage::VArchive {
+    zip_t* zip = nullptr;
+    ~VArchive() {
+        if (zip != nullptr) {
+            zip_discard(zip);
+        }
+    }
+};
+
+VPackage::VPackage() : m_archive(std::make_unique<VArchive>()) {}
+
+VPackage::~VPackage() = default;
+
+bool IsOdxName(std::string_view name) {
+    auto const slash = name.find_last_of('/');
+    std::string_view const file = slash == std::string_view::npos ? name : name.substr(slash + 1);
+    auto const point = file.find_last_of('.');
+    constexpr std::string_view kSuffix = ".odx";
+    std::string_view const suffix = point == std::string_view::npos ? std::string_view() : file.substr(point);
+    return suffix.size() >= kSuffix.size() &&
+           std::equal(kSuffix.begin(), kSuffix.end(), suffix.begin(),
+                      [](char wanted, char character) { return wanted == Folded(character); });
+}
+
+bool VPackage::Open(std::string const& path, std::string& error) {
+    int code = 0;
+    m_archive->zip = zip_open(path.c_str(), ZIP_RDONLY, &code);
+    if (m_archive->zip == nullptr) {
+        error = Text(code);
+        return false;
+    }
+    zip_int64_t const count = zip_get_num_entries(m_archive->zip, 0);
+    for (zip_int64_t index = 0; index < count; ++index) {
+        zip_stat_t stat;
+        if (zip_stat_index(m_archive->zip, static_cast<zip_uint64_t>(index), 0, &stat) != 0 || stat.name == nullptr) {
+            continue;
+        }
+        VMember member;
+        member.name = stat.name;
+        std::replace(member.name.begin(), member.name.end(), '\\', '/');
+        member.index = static_cast<std::uint64_t>(index);
+        member.compressedSize = (stat.valid & ZIP_STAT_COMP_SIZE) != 0 ? stat.comp_size : 0;
+        if (IsOdxName(member.name)) {
+            m_documents.push_back(std::move(member));
+        }
+    }
+    std::stable_sort(m_documents.begin(), m_documents.end(),
+                     [](VMember const& a, VMember const& b) { return a.name < b.name; });
+    return true;
+}
+
+VPackage::VOutcome VPackage::Read(VMember const& member, std::uint64_t limit,
+                                  std::function<bool(std::string_view bytes)> const& take, std::string& error) {
+    zip_file_t* const opened = zip_fopen_index(m_archive->zip, member.index, 0);
+    if (opened == nullptr) {
+        error = zip_strerror(m_archive->zip);
+        return VOutcome::Broken;
+    }
+    std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> const file(opened, &zip_fclose);
+    std::vector<char> buffer(256 * 1024);
+    std::uint64_t total = 0;
+    for (;;) {
+        zip_int64_t const length = zip_fread(file.get(), buffer.data(), buffer.size());
+        if (length < 0) {
+            error = zip_file_strerror(file.get());
+            return VOutcome::Broken;
+        }
+        if (length == 0) {
+            return VOutcome::Done;
+        }
+        total += static_cast<std::uint64_t>(length);
+        if (total > limit) {
+            return VOutcome::TooLarge;
+        }
+        if (!take(std::string_view(buffer.data(), static_cast<std::size_t>(length)))) {
+            return VOutcome::Stopped;
+        }
+    }
+}
+
+} // namespace NReader

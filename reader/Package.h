@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace NReader {
+
+/// A PDX package: a zip archive. Names are UTF-8, with '/' between folders.
+class VPackage {
+public:
+    struct VMember {
+        std::string name;
+        std::uint64_t index = 0;
+        std::uint64_t compressedSize = 0;
+    };
+
+    /// What reading a member came to.
+    enum class VOutcome { Done, Stopped, TooLarge, Broken };
+
+    VPackage();
+    ~VPackage();
+    VPackage(VPackage const&) = delete;
+    VPackage& operator=(VPackage const&) = delete;
+
+    /// False when the file is no archive that can be read; `error` then says why.
+    bool Open(std::string const& path, std::string& error);
+
+    /// The ODX documents (suffix .odx, .odx-d and the like, in any case), in the order of their names.
+    std::vector<VMember> const& Documents() const { return m_documents; }
+
+    /// Hands out the unpacked bytes piece by piece until `take` returns false or more than `limit` bytes came: the size
+    /// in the archive's header is not believed. `error` says why a member is broken.
+    VOutcome Read(VMember const& member, std::uint64_t limit, std::function<bool(std::string_view bytes)> const& take,
+                  std::string& error);
+
+private:
+    struct VArchive;
+    std::unique_ptr<VArchive> m_archive;
+    std::vector<VMember> m_documents;
+};
+
+/// Whether a member's name has the suffix of an ODX document.
+bool IsOdxName(std::string_view name);
+
+} // namespace NReader

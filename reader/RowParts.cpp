@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/RowParts.h>
+
+#include <algorithm>
+
+#include <diagkit/reader/Loader.h>
+
+namespace NReader {
+
+std::string XsiType(VLoader& loader, VAttributes const& attributes) {
+    for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; attribute += 2) {
+        std::string_view const name = attribute[0];
+        if (LocalName(name) != "type") {
+            continue;
+        }
+        if (name == "type") {
+            loader.Report(VSeverity::Warning, "unprefixed-type",
+                          "the attribute 'type' lacks the prefix of the XMLSchema-instance namespace (xsi:type)");
+        }
+        std::string value(LocalName(attribute[1]));
+        value.erase(std::remove_if(value.begin(), value.end(),
+                                   [](char character) {
+                                       return std::string_view(" \t\r\n").find(character) != std::string_view::npos;
+                                   }),
+                    value.end());
+        return value;
+    }
+    return {};
+}
+
+void ReportUnknownType(VLoader& loader, std::string const& type) {
+    if (!type.empty()) {
+        loader.Report(VSeverity::Error, "unknown-type",
+                      "xsi:type is '" + type + "', which ODX does not have here; the kind is taken from the contents");
+    }
+}
+
+void ReportShortNameNotAllowed(VLoader& loader, std::string const& what) {
+    loader.Report(VSeverity::Error, "short-name-not-allowed",
+                  what + " takes references by ID only; the entry is left out, name the target by ID");
+}
+
+std::string InferType(std::string_view name, VAttributes const& attributes,
+                      std::vector<std::string> const& childNames) {
+    auto const has = [&childNames](char const* child) {
+        return std::find(childNames.begin(), childNames.end(), child) != childNames.end();
+    };
+    if (LocalName(name) == "DIAG-CODED-TYPE") {
+        if (has("LENGTH-KEY-REF")) {
+            return "PARAM-LENGTH-INFO-TYPE";
+        }
+        bool const isMinMax = attributes.Find("TERMINATION") != nullptr || has("MIN-LENGTH") || has("MAX-LENGTH");
+        return isMinMax ? "MIN-MAX-LENGTH-TYPE" : "STANDARD-LENGTH-TYPE";
+    }
+    struct VRule {
+        bool fits;
+        char const* type;
+    };
+    bool const hasDop = has("DOP-REF") || has("DOP-SNREF");
+    // The first rule that fits decides.
+    VRule const rules[] = {
+        {has("REQUEST-BYTE-POS"), "MATCHING-REQUEST-PARAM"},
+        {has("TARGET"), "TABLE-ENTRY"},
+        {has("TABLE-KEY-REF"), "TABLE-STRUCT"},
+        {has("TABLE-REF") || has("TABLE-ROW-REF"), "TABLE-KEY"},
+        {has("BIT-LENGTH"), "RESERVED"},
+        {has("CODED-VALUE"), "CODED-CONST"},
+        {has("PHYS-CONSTANT-VALUE"), "PHYS-CONST"},
+        {attributes.Find("SYSPARAM") != nullptr, "SYSTEM"},
+        {attributes.Find("ID") != nullptr && hasDop, "LENGTH-KEY"},
+        {hasDop, "VALUE"},
+    };
+    for (VRule const& rule : rules) {
+        if (rule.fits) {
+            return rule.type;
+        }
+    }
+    return "DYNAMIC";
+}
+
+} // namespace NReader

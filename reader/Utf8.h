@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace NReader {
+
+/// Wide text as UTF-8; what is not a character (a lone surrogate, a value beyond Unicode) becomes U+FFFD.
+std::string ToUtf8(std::wstring_view text);
+
+/// UTF-8 as wide text: UTF-16 where wchar_t has 16 bits, one code point a character elsewhere. Bytes that are not UTF-8
+/// become U+FFFD each.
+std::wstring FromUtf8(std::string_view text);
+
+/// The same at the end of a text that is kept, for callers that convert piece by piece.
+void AppendFromUtf8(std::wstring& target, std::string_view text);
+
+/// Whether the bytes are well-formed UTF-8.
+bool IsUtf8(std::string_view text);
+
+} // namespace NReader

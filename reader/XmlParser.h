@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <diagkit/reader/Attributes.h>
+
+namespace NReader {
+
+/// A place in a document; both count from 1.
+struct VXmlPosition {
+    std::uint32_t line = 0;
+    std::uint32_t column = 0;
+};
+
+/// What a parser reports; texts are UTF-8 and valid during the call.
+class IXmlHandler {
+public:
+    virtual void Start(std::string_view name, VAttributes const& attributes) = 0;
+    virtual void End(std::string_view name) = 0;
+    virtual void Text(std::string_view text) = 0; ///< in pieces
+    virtual void Instruction(std::string_view name, std::string_view content) = 0;
+
+protected:
+    IXmlHandler() = default;
+    ~IXmlHandler() = default;
+};
+
+/// Why a document cannot be read.
+struct VXmlError {
+    VXmlPosition position;
+    std::string code;
+    std::string message;
+    bool isEncoding = false; ///< the bytes are not what the document's encoding says: another one may fit
+};
+
+/// A streaming parser for one document: strict about well-formedness, without document type declarations (ODX has
+/// none, and entities are a way to attack), prefixes kept as part of names.
+class VXmlParser {
+public:
+    /// `encoding` overrides what the document says; null leaves it to the document.
+    VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const* encoding);
+    ~VXmlParser();
+    VXmlParser(VXmlParser const&) = delete;
+    VXmlParser& operator=(VXmlParser const&) = delete;
+
+    /// Takes the next bytes; false when the document cannot be read, `GetError()` then says why.
+    bool Feed(std::string_view bytes, bool isLast);
+
+    VXmlError const& GetError() const;
+    VXmlPosition GetPosition() const; ///< of what is being reported
+
+    /// Ends parsing from within the handler with an error at the current position.
+    void Refuse(std::string code, std::string message);
+
+private:
+    struct VState;
+    std::unique_ptr<VState> m_state;
+};
+
+} // namespace NReader
