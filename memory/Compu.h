@@ -15,7 +15,7 @@ namespace NMemory {
 /// LOWER-LIMIT, UPPER-LIMIT
 class VMemLimit final : public VMemTagged<NODX201::VLimit> {
 public:
-    VMemLimit(VPlace const& place, Tag tag) : VMemTagged(place, tag) {}
+    explicit VMemLimit(VPlace const& place) : VMemTagged(place, Tag::LowerLimit) {}
 
     wchar_t const* GetText() const { return m_text; } ///< the value as written
     void SetText(wchar_t const* text) { m_text = Store(text); }
@@ -31,7 +31,8 @@ private:
 /// The limit, made when it is absent.
 inline VMemLimit& MakeLimit(std::unique_ptr<VMemLimit>& slot, VPlace const& place, Tag tag, wchar_t const* text) {
     if (slot == nullptr) {
-        slot = std::make_unique<VMemLimit>(place, tag);
+        slot = New<VMemLimit>(place);
+        slot->SetOdxTag(tag);
     }
     slot->SetText(text);
     return *slot;
@@ -184,7 +185,7 @@ public:
     using VMemElement::VMemElement;
 
     NODX201::VCompuScaleCollection& CompuScaleCollection() { return m_compuScale; }
-    VMemCompuScale& AddCompuScale() { return m_compuScale.Append(std::make_unique<VMemCompuScale>(Inside())); }
+    VMemCompuScale& AddCompuScale() { return m_compuScale.Append(New<VMemCompuScale>(Inside())); }
 
 private:
     VMemCollection<NODX201::VCompuScaleCollection> m_compuScale;
@@ -440,7 +441,7 @@ public:
 
     template <class Type>
     Type& Make(VPlace const& place) {
-        auto type = std::make_unique<Type>(place);
+        auto type = New<Type>(place);
         Type& made = *type;
         m_type = std::move(type);
         return made;

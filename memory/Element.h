@@ -68,6 +68,13 @@ private:
     wchar_t const* m_textId;
 };
 
+// Some contract classes have LONG-NAME and OID and some have not, so these operations override where there is something
+// to override.
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Winconsistent-missing-override"
+#endif
+
 /// An element with SHORT-NAME, LONG-NAME and DESC.
 template <class Contract, NODX201::VOdxTagEnum Tag>
 class VMemNamed : public VMemElement<Contract, Tag> {
@@ -111,6 +118,10 @@ private:
     wchar_t const* m_id = L"";
     wchar_t const* m_oid = L"";
 };
+
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
 
 } // namespace NMemory
 

@@ -11,6 +11,13 @@ namespace NMemory {
 class VMemImportRef final : public VMemLink<NODX201::VLink, NODX201::VOdxTagEnum::ImportRef, NODX201::VDiagLayer> {
 public:
     using VMemLink::VMemLink;
+
+    /// Imports another layer from now on, for every reference that looks there.
+    void SetReference(VReference const& reference) {
+        VMemLink::SetReference(reference);
+        GetDatabase().NoteChange();
+    }
+
     bool HasDiagLayer() const { return FindById(); }
     NODX201::VDiagLayer& GetDiagLayer() { return Found(); }
 };

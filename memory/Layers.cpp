@@ -7,17 +7,17 @@ IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRe
                                VPlace const& place, VParentRefKind kind, VReference const& reference) {
     switch (kind) {
     case VParentRefKind::Protocol:
-        return parentRefs.Insert(before, std::make_unique<VMemProtocolRef>(place, reference));
+        return parentRefs.Insert(before, New<VMemProtocolRef>(place, reference));
     case VParentRefKind::FunctionalGroup:
-        return parentRefs.Insert(before, std::make_unique<VMemFunctionalGroupRef>(place, reference));
+        return parentRefs.Insert(before, New<VMemFunctionalGroupRef>(place, reference));
     case VParentRefKind::BaseVariant:
-        return parentRefs.Insert(before, std::make_unique<VMemBaseVariantRef>(place, reference));
+        return parentRefs.Insert(before, New<VMemBaseVariantRef>(place, reference));
     case VParentRefKind::EcuSharedData:
-        return parentRefs.Insert(before, std::make_unique<VMemEcuSharedDataRef>(place, reference));
+        return parentRefs.Insert(before, New<VMemEcuSharedDataRef>(place, reference));
     case VParentRefKind::Unknown:
         break;
     }
-    return parentRefs.Insert(before, std::make_unique<VMemParentRef>(place, reference));
+    return parentRefs.Insert(before, New<VMemParentRef>(place, reference));
 }
 
 IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace const& place, IMemParentRef& parentRef,
@@ -30,13 +30,15 @@ IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace c
         changed.MakeNotInheritedDiagCommCollection();
     }
     for (NODX201::VNotInheritedDiagComm& excluded : before.NotInheritedDiagCommCollection()) {
-        changed.AddNotInheritedDiagComm(ReferenceOf(excluded.GetDiagCommSnref().GetLink()));
+        changed.AddNotInheritedDiagComm(ReferenceOf(excluded.GetDiagCommSnref().GetLink()))
+            .SetPosition(dynamic_cast<VMemNode&>(excluded).GetPosition());
     }
     if (before.HasNotInheritedVariableCollection()) {
         changed.MakeNotInheritedVariableCollection();
     }
     for (NODX201::VNotInheritedVariable& excluded : before.NotInheritedVariableCollection()) {
-        changed.AddNotInheritedVariable(ReferenceOf(excluded.GetDiagVariableSnref().GetLink()));
+        changed.AddNotInheritedVariable(ReferenceOf(excluded.GetDiagVariableSnref().GetLink()))
+            .SetPosition(dynamic_cast<VMemNode&>(excluded).GetPosition());
     }
     delete &before;
     return changed;
@@ -66,7 +68,7 @@ Layer& VMemDiagLayerCollection::Add(std::unique_ptr<Layer> layer) {
 
 template <class Layer>
 Layer& VMemDiagLayerContainer::Add(wchar_t const* shortName) {
-    Layer& layer = m_diagLayer.Add(std::make_unique<Layer>(VPlace{&m_diagLayer, &GetDatabase()}));
+    Layer& layer = m_diagLayer.Add(New<Layer>(VPlace{&m_diagLayer, &GetDatabase()}));
     layer.SetShortName(shortName);
     return layer;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <algorithm>
+
 #include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/DiagVariables.h>
 #include <diagkit/memory/Importing.h>
@@ -266,6 +268,20 @@ private:
     NODX201::VOdxObject* m_container;
     bool m_isClosing = false;
 };
+
+template <class Layer>
+void VMemDiagLayerCollection::Adopt(Layer& layer) {
+    VMemNode& node = layer;
+    m_elements.push_back(&layer);
+    if (node.m_home == this) {
+        m_elements.erase(std::find(m_elements.begin(), m_elements.end(), &layer));
+    } else {
+        node.m_home->Forget(node.m_entry);
+    }
+    node.m_home = this;
+    node.m_owner = this;
+    node.NoteMove();
+}
 
 /// DIAG-LAYER-CONTAINER
 class VMemDiagLayerContainer final

@@ -110,6 +110,14 @@ public:
             m_form.template emplace<VMemOdxLink>(database, reference);
         }
         m_generation = 0;
+        m_isSevered = false;
+    }
+
+    /// From now on the link, if by ID, resolves to nothing, until it is given another reference. For readers of data in
+    /// which it closes a cycle that walks could not leave.
+    void Sever() {
+        m_isSevered = true;
+        m_generation = 0;
     }
 
     /// Whether this is a reference by ID that finds its target.
@@ -125,7 +133,7 @@ protected:
     /// Looks for the target of a reference by ID. The answer cannot change until the database does.
     bool FindById(VExpect expect = &IsOfClass<Target>) const {
         VDatabase& database = this->GetDatabase();
-        auto const* const link = std::get_if<VMemOdxLink>(&m_form);
+        auto const* const link = m_isSevered ? nullptr : std::get_if<VMemOdxLink>(&m_form);
         if (m_generation != database.GetGeneration()) {
             auto& self = const_cast<VMemLink&>(*this);
             m_target = link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, expect)) : nullptr;
@@ -147,6 +155,7 @@ private:
     std::variant<VMemOdxLink, VMemSnref> m_form;
     mutable Target* m_target = nullptr;
     mutable std::uint64_t m_generation = 0; // of the answer; 0: none
+    bool m_isSevered = false;
 };
 
 } // namespace NMemory

@@ -13,7 +13,11 @@ namespace NMemory {
 class VMemNotInheritedDiagComm final : public VMemElement<NODX201::VNotInheritedDiagComm, Tag::NotInheritedDiagComm> {
 public:
     VMemNotInheritedDiagComm(VPlace const& place, VReference const& reference)
-        : VMemElement(place), m_diagCommSnref(Inside(), reference) {}
+        : VMemElement(place), m_diagCommSnref(Inside(), reference) {
+        if (reference.IsByShortName()) {
+            m_diagCommSnref.SetOdxTag(Tag::DiagCommSnref);
+        }
+    }
 
     VMemDiagCommLink& GetDiagCommSnref() override { return m_diagCommSnref; }
 
@@ -25,7 +29,11 @@ private:
 class VMemNotInheritedVariable final : public VMemElement<NODX201::VNotInheritedVariable, Tag::NotInheritedVariable> {
 public:
     VMemNotInheritedVariable(VPlace const& place, VReference const& reference)
-        : VMemElement(place), m_diagVariableSnref(Inside(), reference) {}
+        : VMemElement(place), m_diagVariableSnref(Inside(), reference) {
+        if (reference.IsByShortName()) {
+            m_diagVariableSnref.SetOdxTag(Tag::DiagVariableSnref);
+        }
+    }
 
     VMemDiagVariableLink& GetDiagVariableSnref() override { return m_diagVariableSnref; }
 

@@ -14,11 +14,20 @@
 
 namespace NMemory {
 
+/// Makes an element. Defined for every class of the model, in `Instances*.cpp` alone: a program that adds elements
+/// does not compile the whole model again.
+template <class Element>
+std::unique_ptr<Element> New(VPlace const& place);
+
+/// The same for a link.
+template <class Link>
+std::unique_ptr<Link> New(VPlace const& place, VReference const& reference);
+
 /// The optional child, made when it is absent.
 template <class Child>
 Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place) {
     if (slot == nullptr) {
-        slot = std::make_unique<Child>(place);
+        slot = New<Child>(place);
     }
     return *slot;
 }
@@ -39,7 +48,7 @@ Child& MakeTextChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t 
 template <class Link>
 Link& MakeLink(std::unique_ptr<Link>& slot, VPlace const& place, VReference const& reference) {
     if (slot == nullptr) {
-        slot = std::make_unique<Link>(place, reference);
+        slot = New<Link>(place, reference);
     } else {
         slot->SetReference(reference);
     }
@@ -50,7 +59,7 @@ Link& MakeLink(std::unique_ptr<Link>& slot, VPlace const& place, VReference cons
 template <class Alternative, class Slot, class Choice, class... Arguments>
 Alternative& SetChoice(std::unique_ptr<Slot>& slot, Choice*& choice, VPlace const& place,
                        Arguments const&... arguments) {
-    auto made = std::make_unique<Alternative>(place, arguments...);
+    auto made = New<Alternative>(place, arguments...);
     Alternative& alternative = *made;
     slot = std::move(made);
     choice = &alternative;
@@ -59,7 +68,7 @@ Alternative& SetChoice(std::unique_ptr<Slot>& slot, Choice*& choice, VPlace cons
 
 template <class Item, class Collection>
 Item& AddPlain(VMemMany<Collection>& many, VPlace const& place) {
-    return many.Make().Append(std::make_unique<Item>(place));
+    return many.Make().Append(New<Item>(place));
 }
 
 template <class Item, class Collection>
@@ -78,7 +87,7 @@ Item& AddText(VMemMany<Collection>& many, VPlace const& place, wchar_t const* te
 
 template <class Item, class Collection>
 Item& AddLink(VMemMany<Collection>& many, VPlace const& place, VReference const& reference) {
-    return many.Make().Append(std::make_unique<Item>(place, reference));
+    return many.Make().Append(New<Item>(place, reference));
 }
 
 /// Throws std::invalid_argument for a reference by short name.
