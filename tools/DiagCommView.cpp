@@ -15,9 +15,8 @@ using BaseVariantRef = NODX201::VBaseVariantRef;
 
 /// What lives for one construction only.
 struct VDiagCommConstruction {
-    VNameSet held;     ///< names in the view; filled when the first parent is merged
+    VNameMerge merge;
     VNameSet excluded; ///< the not-inherited names of the reference being processed
-    bool isFilled = false;
 };
 
 wchar_t const* VDiagCommViewTraits::ShortNameOf(Element& diagComm) { return diagComm.GetShortName(); }
@@ -135,22 +134,8 @@ void VDiagCommView::InheritFromBaseVariant(NODX201::VBaseVariant& layer, Constru
 }
 
 void VDiagCommView::InheritDiagComms(VDiagCommView& source, Construction& construction) {
-    VNameSet& held = construction.held;
-    held.reserve(m_collection.size() + source.m_collection.size());
-    if (!construction.isFilled) {
-        for (NODX201::VDiagComm* const diagComm : m_collection) {
-            held.insert(diagComm->GetShortName());
-        }
-        construction.isFilled = true;
-    }
-    // The source is a temporary that is discarded afterwards, so its list nodes move over instead of being made again.
-    for (auto position = source.m_collection.begin(); position != source.m_collection.end();) {
-        auto const entry = position++;
-        wchar_t const* const shortName = (*entry)->GetShortName();
-        if (!IsInNotInheritedList(shortName, construction) && held.insert(shortName).second) {
-            m_collection.splice(m_collection.end(), source.m_collection, entry);
-        }
-    }
+    construction.merge.Merge(m_collection, source.m_collection,
+                             [&](wchar_t const* shortName) { return IsInNotInheritedList(shortName, construction); });
 }
 
 } // namespace NDIAGKIT

@@ -37,4 +37,10 @@ void ParentPass(NODX201::VParentRefCollection& parentRefs, Enter enter, Inherit 
     }
 }
 
+template <class... Refs, class Inherit>
+void ParentPass(NODX201::VParentRefCollection& parentRefs, Inherit inherit) {
+    ParentPass<Refs...>(
+        parentRefs, [](NODX201::VParentRef&) {}, inherit);
+}
+
 } // namespace NDIAGKIT

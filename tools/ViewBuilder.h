@@ -24,10 +24,9 @@ inline void ReportNoView(VBuilderSite const& site) {
     NPavonaUtil::ReportAssertion(site.assertion);
 }
 
-/// What every builder's Create does: destroys the view that the builder remembers, lets `make` put a new one into
-/// `view`, reports when there is none, returns it.
+/// Destroys the view that the builder remembers, lets `make` put a new one into `view`, returns it.
 template <class View, class Make>
-View* CreateView(View*& view, VBuilderSite const& site, Make make) {
+View* CreateViewSilently(View*& view, Make make) {
     // Deliberate: the pointer stays while `make` runs; a layer that calls back no Visit operation leaves it unchanged
     // (AcceptThatVisitsNothingLogsAndAssertsOnAFreshBuilder). Only an exception, which the caller sees, clears it.
     delete view;
@@ -37,6 +36,13 @@ View* CreateView(View*& view, VBuilderSite const& site, Make make) {
         view = nullptr;
         throw;
     }
+    return view;
+}
+
+/// The same, and reports when there is no view.
+template <class View, class Make>
+View* CreateView(View*& view, VBuilderSite const& site, Make make) {
+    CreateViewSilently(view, make);
     if (view == nullptr) {
         ReportNoView(site);
     }

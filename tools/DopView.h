@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <map>
+#include <string>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Forward.h>
+#include <diagkit/tools/ExternalIterator.h>
+#include <diagkit/tools/StringContainer.h>
+
+namespace NDIAGKIT {
+
+extern template class DIAGKIT_EXPORT
+    VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*>::iterator, NODX201::VDopBase&>;
+
+/// The DOPs visible in one layer, keyed by short name: its own, then those that it inherits through its PARENT-REFs. A
+/// short name is there once: the one inserted first wins, and the passes insert in the order of priority.
+///
+///     layer               pass 1                            pass 2
+///     ECU-SHARED-DATA     -                                 -
+///     PROTOCOL            ECU-SHARED-DATA                   -
+///     FUNCTIONAL-GROUP    PROTOCOL                          ECU-SHARED-DATA
+///     BASE-VARIANT        PROTOCOL and FUNCTIONAL-GROUP     ECU-SHARED-DATA
+///     ECU-VARIANT         BASE-VARIANT                      ECU-SHARED-DATA
+///
+/// A DOP is whatever the dictionary's DOP collection holds: all kinds but ENV-DATA. No NOT-INHERITED list applies.
+///
+/// Unlike the other views this one is a map: iteration runs in the order of the short names, compared code unit by code
+/// unit. It holds pointers; the model owns the DOPs and must outlive the view. Finding by name is logarithmic, by
+/// object linear.
+class DIAGKIT_EXPORT VDopView {
+public:
+    using Map = std::map<std::wstring, NODX201::VDopBase*>;
+    using Iterator = VMapExternalIterator<Map::iterator, NODX201::VDopBase&>;
+
+    explicit VDopView(NODX201::VEcuSharedData& layer);
+    explicit VDopView(NODX201::VProtocol& layer);
+    explicit VDopView(NODX201::VFunctionalGroup& layer);
+    explicit VDopView(NODX201::VBaseVariant& layer);
+    explicit VDopView(NODX201::VEcuVariant& layer);
+    virtual ~VDopView();
+    VDopView(VDopView const&) = delete;
+    VDopView& operator=(VDopView const&) = delete;
+
+    unsigned long long Count() const;
+    bool IsEmpty() const;
+    Iterator Begin();
+    Iterator End();
+    Iterator begin() { return Begin(); }
+    Iterator end() { return End(); }
+
+    Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none
+    Iterator Find(NODX201::VDopBase& dop);   ///< this very object; `End()` when there is none
+
+    void Append(NODX201::VDopBase& dop); ///< under its short name; no effect when that is taken
+
+    /// Takes the entry of this object out of the view; the DOP lives on. Asserts when the view does not hold it, and
+    /// changes nothing then.
+    void Remove(NODX201::VDopBase& dop);
+
+    /// Takes the entry out of the view and DESTROYS the DOP itself; use `Remove(dop)` to keep it. Asserts at `End()`,
+    /// and changes nothing then.
+    void Remove(Iterator iter);
+
+    /// Whether both views hold the same objects under the same names.
+    bool operator==(VDopView const& other) const;
+    bool operator!=(VDopView const& other) const;
+
+protected:
+    Map::iterator _Find(NODX201::VDopBase& dop);
+    void _Remove(Map::iterator position); ///< destroys the DOP
+
+private:
+    VDopView();
+
+    template <class... Refs, class Layer>
+    void Pass(Layer& layer);
+
+    void InheritFromOwn(NODX201::VDiagLayer& layer);
+    void InheritFromProtocol(NODX201::VProtocol& layer);
+    void InheritFromEcuSharedData(NODX201::VEcuSharedData& layer);
+    void InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer);
+    void InheritFromBaseVariant(NODX201::VBaseVariant& layer);
+    void InheritDops(VDopView& source);
+
+    Map m_collection;
+    VStringContainer m_notInherited; // never filled: no exclusion applies to DOPs
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace NDIAGKIT {
+
+/// A two-way table between the literals of one ODX enumeration and its values. All members are open, as in a record.
+///
+/// Lookups never fail: a literal that the table does not hold gives the default, which is the value of the first pair
+/// ever added; a value that it does not hold gives "?". Literals compare exactly.
+template <class T>
+class EnumMapImpl {
+public:
+    explicit EnumMapImpl(wchar_t const* name) : m_name(name) {}
+
+    /// Adds a pair; a literal that is there already keeps its value. Texts are copied.
+    void Add(wchar_t const* literal, T value) {
+        m_map.emplace(literal, value);
+        if (!m_isDefaultSet) {
+            m_isDefaultSet = true;
+            m_default = value;
+        }
+    }
+
+    T Get(wchar_t const* literal) const {
+        auto const found = m_map.find(literal);
+        return found != m_map.end() ? found->second : m_default;
+    }
+
+    /// The first literal, in the order of the literals, that has the value; it stays valid as long as the table.
+    wchar_t const* GetStr(T value) const {
+        for (auto const& [literal, held] : m_map) {
+            if (static_cast<int>(held) == static_cast<int>(value)) {
+                return literal.c_str();
+            }
+        }
+        return L"?";
+    }
+
+    std::map<std::wstring, T> m_map;
+    std::wstring m_name;
+    T m_default = T();
+    bool m_isDefaultSet = false;
+};
+
+} // namespace NDIAGKIT

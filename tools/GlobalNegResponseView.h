@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <list>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Visitors.h>
+#include <diagkit/tools/ListView.h>
+
+namespace NDIAGKIT {
+
+class VNameMerge;
+
+/// What `GlobalNegResponseView` holds and where it asserts; see `VListView`.
+struct DIAGKIT_EXPORT VGlobalNegResponseViewTraits {
+    using Element = NODX201::VGlobalNegResponse;
+    static constexpr wchar_t const* kSource = L"GlobalNegResponseView";
+    static constexpr int kRemoveElementLine = 338;
+    static constexpr int kRemovePositionLine = 346;
+    static constexpr int kRemoveStepLine = 423;
+    static wchar_t const* ShortNameOf(Element& response);
+};
+
+extern template class DIAGKIT_EXPORT
+    VExternalIterator<std::list<NODX201::VGlobalNegResponse*>::iterator, NODX201::VGlobalNegResponse&>;
+extern template class DIAGKIT_EXPORT VListView<VGlobalNegResponseViewTraits>;
+extern template class DIAGKIT_EXPORT VNamedListView<VGlobalNegResponseViewTraits>;
+
+/// The GLOBAL-NEG-RESPONSEs visible in one layer: its own, picked out of its responses by ODX tag, then those that it
+/// inherits, minus those whose short name is already in the view. The passes are those of `VDiagCommView`; no
+/// NOT-INHERITED list applies.
+///
+/// The view is its own layer visitor: one constructor serves every kind of layer.
+class DIAGKIT_EXPORT VGlobalNegResponseView : public NODX201::VDiagLayerVisitor,
+                                              public VNamedListView<VGlobalNegResponseViewTraits> {
+public:
+    explicit VGlobalNegResponseView(NODX201::VDiagLayer& layer);
+    ~VGlobalNegResponseView() override;
+
+protected:
+    void VisitBaseVariant(NODX201::VBaseVariant& layer) override;
+    void VisitProtocol(NODX201::VProtocol& layer) override;
+    void VisitFunctionalGroup(NODX201::VFunctionalGroup& layer) override;
+    void VisitEcuVariant(NODX201::VEcuVariant& layer) override;
+    void VisitEcuSharedData(NODX201::VEcuSharedData& layer) override;
+
+    void BuildViewFor(NODX201::VBaseVariant& layer);
+    void BuildViewFor(NODX201::VProtocol& layer);
+    void BuildViewFor(NODX201::VFunctionalGroup& layer);
+    void BuildViewFor(NODX201::VEcuVariant& layer);
+    void BuildViewFor(NODX201::VEcuSharedData& layer);
+
+private:
+    VGlobalNegResponseView();
+
+    template <class... Refs, class Layer>
+    void Pass(Layer& layer, VNameMerge& merge);
+
+    void InheritFromOwn(NODX201::VDiagLayer& layer);
+    void InheritFromParent(NODX201::VDiagLayer& layer, VNameMerge& merge); ///< of whichever kind
+    void InheritGlobalNegResponses(VGlobalNegResponseView& source, VNameMerge& merge);
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <list>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Forward.h>
+#include <diagkit/tools/ListView.h>
+#include <diagkit/tools/StringContainer.h>
+
+namespace NDIAGKIT {
+
+/// What `InParamIfView` holds and where it asserts; see `VListView`.
+struct DIAGKIT_EXPORT VInParamIfViewTraits {
+    using Element = NODX201::IInParamIf;
+    static constexpr wchar_t const* kSource = L"InParamIfView";
+    static constexpr int kRemoveElementLine = 178;
+    static constexpr int kRemovePositionLine = 186;
+    static constexpr int kRemoveStepLine = 282;
+    static wchar_t const* ShortNameOf(Element& param);
+};
+
+extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::IInParamIf*>::iterator, NODX201::IInParamIf&>;
+extern template class DIAGKIT_EXPORT VListView<VInParamIfViewTraits>;
+extern template class DIAGKIT_EXPORT VNamedListView<VInParamIfViewTraits>;
+
+/// The parameters that an IN-PARAM-IF-SNREF may name in one DIAG-COMM, in the order in which they were met: the
+/// INPUT-PARAMs of a job, or the VALUE parameters of a service's RESPONSES, positive ones first. (The request's
+/// parameters are offered by `VOutParamIfView`; that is how it is meant.)
+///
+/// A parameter object that two responses share is in the view twice. Container operations as in `VListView`.
+class DIAGKIT_EXPORT VInParamIfView : public VNamedListView<VInParamIfViewTraits> {
+public:
+    explicit VInParamIfView(NODX201::VDiagService& service);
+    explicit VInParamIfView(NODX201::VSingleEcuJob& job);
+    explicit VInParamIfView(NODX201::VMultipleEcuJob& job);
+    virtual ~VInParamIfView();
+
+private:
+    VInParamIfView();
+
+    VStringContainer m_notInherited; // never filled
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include <diagkit/Export.h>
+
+namespace NDIAGKIT {
+
+/// One ODX category (a document such as a container, comparam spec or flash): the file that holds it and its short
+/// name.
+class DIAGKIT_EXPORT VOdxCategoryInfo {
+public:
+    VOdxCategoryInfo();
+    VOdxCategoryInfo(VOdxCategoryInfo const& other); ///< copies what the other's getters answer
+    virtual ~VOdxCategoryInfo();
+    VOdxCategoryInfo& operator=(VOdxCategoryInfo const&) = delete;
+
+    /// A new record; the caller owns it, typically by appending it to a collection.
+    static VOdxCategoryInfo& CreateFromFileAndShortName(wchar_t const* fileName, wchar_t const* shortName);
+    VOdxCategoryInfo& Clone() const; ///< a new copy that the caller owns
+
+    virtual wchar_t const* GetFileName() const; ///< valid until the next set or destruction; "" at first
+    virtual void SetFileName(wchar_t const* fileName);
+    virtual wchar_t const* GetShortName() const; ///< valid until the next set or destruction; "" at first
+    virtual void SetShortName(wchar_t const* shortName);
+
+private:
+    std::wstring m_fileName;
+    std::wstring m_shortName;
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/tools/OpBuildGlobalNegResponseView.h>
+
+#include <diagkit/tools/ViewBuilder.h>
+
+namespace NDIAGKIT {
+VOpBuildGlobalNegResponseView::VOpBuildGlobalNegResponseView() = default;
+VOpBuildGlobalNegResponseView::VOpBuildGlobalNegResponseView(VOpBuildGlobalNegResponseView const& other) = default;
+VOpBuildGlobalNegResponseView&
+VOpBuildGlobalNegResponseView::operator=(VOpBuildGlobalNegResponseView const& other) = default;
+VOpBuildGlobalNegResponseView::~VOpBuildGlobalNegResponseView() = default;
+
+// clang-format off
+void VOpBuildGlobalNegResponseView::VisitBaseVariant(NODX201::VBaseVariant& layer) { mpGlobalNegResponseView = new VGlobalNegResponseView(layer); }
+void VOpBuildGlobalNegResponseView::VisitProtocol(NODX201::VProtocol& layer) { mpGlobalNegResponseView = new VGlobalNegResponseView(layer); }
+void VOpBuildGlobalNegResponseView::VisitFunctionalGroup(NODX201::VFunctionalGroup& layer) { mpGlobalNegResponseView = new VGlobalNegResponseView(layer); }
+void VOpBuildGlobalNegResponseView::VisitEcuVariant(NODX201::VEcuVariant& layer) { mpGlobalNegResponseView = new VGlobalNegResponseView(layer); }
+void VOpBuildGlobalNegResponseView::VisitEcuSharedData(NODX201::VEcuSharedData& layer) { mpGlobalNegResponseView = new VGlobalNegResponseView(layer); }
+// clang-format on
+
+VGlobalNegResponseView* VOpBuildGlobalNegResponseView::CreateGlobalNegResponseView(NODX201::VDiagLayer& layer) {
+    // Deliberate: this builder neither logs nor asserts when no view resulted (BuilderWithoutViewIsSilent).
+    return CreateViewSilently(mpGlobalNegResponseView, [&] { layer.Accept(*this); });
+}
+
+void VOpBuildGlobalNegResponseView::DestroyGlobalNegResponseView(VGlobalNegResponseView& view) { delete &view; }
+
+} // namespace NDIAGKIT

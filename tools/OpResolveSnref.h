@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <map>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/SnrefResolver.h>
+#include <diagkit/tools/DopView.h>
+
+namespace NDIAGKIT {
+
+/// Resolves short names against what is visible in a context once inheritance has been applied: it builds the matching
+/// view, looks the name up, exactly, and discards the view. Results belong to the model; null when nothing of that name
+/// is visible. Where several visible elements bear the name, the first in view order wins.
+///
+/// Only DOP views are kept, one a layer for the life of the resolver, and never refreshed: DOPs that are added to or
+/// removed from a layer or its parents after the first DOP resolution there are not seen, and removed ones must not be
+/// asked for. Who edits the model starts a new resolver. Not thread-safe.
+class DIAGKIT_EXPORT VOpResolveSnref : public NODX201::VAbstractSnrefResolver {
+public:
+    VOpResolveSnref();
+    ~VOpResolveSnref() override;
+    VOpResolveSnref(VOpResolveSnref const&) = delete;
+    VOpResolveSnref& operator=(VOpResolveSnref const&) = delete;
+
+    NODX201::VDopBase* ResolveDopBaseSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
+    /// Null as well for a DOP of another kind. Asks `ResolveDopBaseSnref`, overrides of it included.
+    NODX201::VDataObjectProp* ResolveDataObjectPropSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
+    NODX201::VDiagComm* ResolveDiagCommSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
+    NODX201::VDiagVariable* ResolveDiagVariableSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
+    NODX201::IIdentIf* ResolveIdentIfSnref(wchar_t const* shortName, NODX201::VFlash& flash) override;
+    NODX201::VProtocol* ResolveProtocolSnref(wchar_t const* shortName,
+                                             NODX201::VDiagLayerContainer& container) override;
+    NODX201::VSession* ResolveSessionSnref(wchar_t const* shortName, NODX201::VFlash& flash) override;
+    NODX201::IInParamIf* ResolveInParamIfSnref(wchar_t const* shortName, NODX201::VMultipleEcuJob& job) override;
+    /// A DIAG-SERVICE or SINGLE-ECU-JOB; null for anything else.
+    NODX201::IInParamIf* ResolveInParamIfSnref(wchar_t const* shortName, NODX201::VDiagComm& diagComm) override;
+    NODX201::IOutParamIf* ResolveOutParamIfSnref(wchar_t const* shortName, NODX201::VMultipleEcuJob& job,
+                                                 NODX201::VDiagLayer& layer) override;
+    /// A DIAG-SERVICE or SINGLE-ECU-JOB, for which the range has no effect; null for anything else. Searches below the
+    /// parameters too, as `VOutParamIfView` says.
+    NODX201::IOutParamIf* ResolveOutParamIfSnref(wchar_t const* shortName, NODX201::VDiagComm& diagComm,
+                                                 NODX201::VDiagLayer& layer, NODX201::VSearchRange range) override;
+
+private:
+    VDopView* DopViewOf(NODX201::VDiagLayer& layer);
+
+    std::map<NODX201::VDiagLayer const*, VDopView*> m_dopViews; // owned
+};
+
+} // namespace NDIAGKIT

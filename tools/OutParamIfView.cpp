@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/tools/OutParamIfView.h>
+
+#include <algorithm>
+#include <string_view>
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/Params.h>
+#include <diagkit/tools/ListViewImpl.h>
+#include <diagkit/tools/ParamRecursivSearchVisitor.h>
+#include <diagkit/tools/ResponseParams.h>
+
+namespace NDIAGKIT {
+namespace {
+
+// The uneven combinations are meant, the empty one included (EverySearchRangeSelectsItsSources).
+bool TakesRequest(NODX201::VSearchRange range) {
+    int const value = static_cast<int>(range);
+    return value == 1 || value == 3 || value == 5;
+}
+
+bool TakesPosResponses(NODX201::VSearchRange range) {
+    int const value = static_cast<int>(range);
+    return value == 0 || value == 4 || value == 5;
+}
+
+bool TakesNegResponses(NODX201::VSearchRange range) {
+    int const value = static_cast<int>(range);
+    return value == 0 || value == 1 || value == 5;
+}
+
+} // namespace
+
+wchar_t const* VOutParamIfViewTraits::ShortNameOf(Element& param) {
+    if (param.IsValue()) {
+        auto const* const value = dynamic_cast<NODX201::VValue*>(&param);
+        return value != nullptr ? value->GetShortName() : L"";
+    }
+    auto const* const outputParam = dynamic_cast<NODX201::VOutputParam*>(&param);
+    return outputParam != nullptr ? outputParam->GetShortName() : L"";
+}
+
+VOutParamIfView::VOutParamIfView() = default;
+
+VOutParamIfView::~VOutParamIfView() = default;
+
+VOutParamIfView::VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearchRange range) {
+    auto const take = [this](NODX201::VParam& param) {
+        if (auto* const value = dynamic_cast<NODX201::VValue*>(&param)) {
+            Append(*value);
+        }
+        m_searchRoots.push_back(&param);
+    };
+    if (TakesRequest(range)) {
+        ForEachRequestParam(service, take);
+    }
+    if (TakesPosResponses(range)) {
+        ForEachPosResponseParam(service, take);
+    }
+    if (TakesNegResponses(range)) {
+        ForEachNegResponseParam(service, take);
+    }
+}
+
+VOutParamIfView::VOutParamIfView(NODX201::VSingleEcuJob& job) {
+    if (job.HasOutputParamCollection()) {
+        for (NODX201::VOutputParam& param : job.OutputParamCollection()) {
+            Append(param);
+        }
+    }
+}
+
+VOutParamIfView::VOutParamIfView(NODX201::VMultipleEcuJob& job) {
+    if (job.HasOutputParamCollection()) {
+        for (NODX201::VOutputParam& param : job.OutputParamCollection()) {
+            Append(param);
+        }
+    }
+}
+
+VOutParamIfView::Iterator VOutParamIfView::Find(wchar_t const* shortName, NODX201::VDiagLayer& layer) {
+    NODX201::IOutParamIf* found = nullptr;
+    return Find(shortName, found, layer);
+}
+
+VOutParamIfView::Iterator VOutParamIfView::Find(wchar_t const* shortName, NODX201::IOutParamIf*& found,
+                                                NODX201::VDiagLayer& layer) {
+    found = nullptr;
+    std::wstring_view const wanted(shortName);
+    auto const named = std::find_if(m_collection.begin(), m_collection.end(), [wanted](NODX201::IOutParamIf* param) {
+        return wanted == VOutParamIfViewTraits::ShortNameOf(*param);
+    });
+    if (named != m_collection.end()) {
+        found = *named;
+        return Iterator(named);
+    }
+    for (NODX201::VParam* const root : m_searchRoots) {
+        VParamRecursivSearchVisitor visitor(shortName, layer);
+        root->Accept(visitor);
+        if (NODX201::VValue* const value = visitor.GetResult()) {
+            // Deliberate: the view grows by what a search finds (NestedMatchGrowsTheView).
+            Append(*value);
+            found = value;
+            return Iterator(_Find(*value));
+        }
+    }
+    return End();
+}
+
+NODX201::IOutParamIf* VOutParamIfView::FindParam(wchar_t const* shortName, NODX201::VDiagLayer& layer) {
+    NODX201::IOutParamIf* found = nullptr;
+    Find(shortName, found, layer);
+    return found;
+}
+
+} // namespace NDIAGKIT

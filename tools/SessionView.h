@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <list>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Forward.h>
+#include <diagkit/tools/ListView.h>
+#include <diagkit/tools/StringContainer.h>
+
+namespace NDIAGKIT {
+
+/// What `SessionView` holds and where it asserts; see `VListView`.
+struct DIAGKIT_EXPORT VSessionViewTraits {
+    using Element = NODX201::VSession;
+    static constexpr wchar_t const* kSource = L"SessionView";
+    static constexpr int kRemoveElementLine = 115;
+    static constexpr int kRemovePositionLine = 123;
+    static constexpr int kRemoveStepLine = 201;
+    static wchar_t const* ShortNameOf(Element& element);
+};
+
+extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::VSession*>::iterator, NODX201::VSession&>;
+extern template class DIAGKIT_EXPORT VListView<VSessionViewTraits>;
+extern template class DIAGKIT_EXPORT VNamedListView<VSessionViewTraits>;
+
+/// The SESSIONs of a FLASH, ECU-MEM by ECU-MEM, each in document order. Container operations as in `VListView`.
+class DIAGKIT_EXPORT VSessionView : public VNamedListView<VSessionViewTraits> {
+public:
+    explicit VSessionView(NODX201::VFlash& flash);
+    virtual ~VSessionView();
+
+private:
+    VSessionView();
+
+    VStringContainer m_notInherited; // never filled
+};
+
+} // namespace NDIAGKIT
