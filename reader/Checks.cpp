@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <diagkit/reader/Cycles.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NReader {
@@ -46,6 +47,9 @@ void GiveParentRefsTheirKinds(VReading& reading) {
             continue;
         }
         auto const& link = dynamic_cast<NODX201::VOdxLink const&>(untyped.GetLink());
+        if (*link.GetIdRef() == L'\0') {
+            continue; // reported as an attribute that is missing
+        }
         if (untyped.HasDiagLayer()) {
             reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-kind",
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
@@ -176,6 +180,7 @@ void FinishReading(VReading& reading) {
     ReportUnresolvedReferences(reading);
     ReportRepeatedIds(reading);
     CheckParents(reading);
+    SeverContainmentCycles(reading);
 }
 
 } // namespace NReader

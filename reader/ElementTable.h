@@ -156,13 +156,17 @@ struct VRows {
     template <auto Make>
     static VRow Child(char const* name, VOccurs occurs = Optional, int choice = 0) {
         using Made = std::remove_reference_t<decltype(Call<Make>(std::declval<T&>()))>;
-        return {name, occurs, choice,
+        return {name,
+                occurs,
+                choice,
                 [](VLoader& loader, void* owner, VRow const& row, VAttributes const&) {
                     Made& made = Call<Make>(Owner(owner));
                     NoteElement(loader, made);
                     return VOpened{&made, &row.Type()};
                 },
-                []() -> VElementType const& { return TypeOf(static_cast<Made*>(nullptr)); }};
+                []() -> VElementType const& { return TypeOf(static_cast<Made*>(nullptr)); },
+                nullptr,
+                choice != 0};
     }
 
     template <auto Make>

@@ -136,12 +136,20 @@ void SetFlashdataKind(void* object, std::wstring const& type) {
     flashdata.SetKind(local == L"INTERN-FLASHDATA" ? Tag::InternFlashdata : local == L"EXTERN-FLASHDATA" ? Tag::ExternFlashdata : Tag::Flashdata);
 }
 
-VRow DatafileRow() {
-    using T = VMemFlashdata;
-    using R = VRows<T>;
-    VRow row = R::Text<&T::SetDatafile>("DATAFILE");
+/// What a FLASHDATA without xsi:type holds.
+template <auto Set, Tag Kind>
+VRow FlashdataContentRow(char const* name, std::vector<VAttributeRow> attributes) {
+    using R = VRows<VMemFlashdata>;
+    VRow row = R::Text<Set>(name);
     VElementType type = row.Type();
-    type.attributes = {R::Flag<&T::SetIsLatebound>("LATEBOUND-DATAFILE")};
+    type.attributes = std::move(attributes);
+    type.setContent = [](void* owner, std::wstring const& text, std::wstring const&) {
+        VMemFlashdata& flashdata = R::Owner(owner);
+        (flashdata.*Set)(text.c_str());
+        if (flashdata.GetOdxTag() == Tag::Flashdata) {
+            flashdata.SetKind(Kind);
+        }
+    };
     row.ownType = std::make_shared<VElementType const>(std::move(type));
     return row;
 }
@@ -152,8 +160,8 @@ VElementType const& TypeOf(VMemFlashdata*) {
     static VElementType const type = IdentTable<T>({{"type", Optional, VContent::Name, &SetFlashdataKind}}, {
         R::Child<&T::MakeDataformat>("DATAFORMAT", Required),
         R::Child<&T::MakeEncryptCompressMethod>("ENCRYPT-COMPRESS-METHOD"),
-        R::Text<&T::SetData>("DATA"),
-        DatafileRow(),
+        FlashdataContentRow<&T::SetData, Tag::InternFlashdata>("DATA", {}),
+        FlashdataContentRow<&T::SetDatafile, Tag::ExternFlashdata>("DATAFILE", {R::Flag<&T::SetIsLatebound>("LATEBOUND-DATAFILE")}),
     });
     return type;
 }

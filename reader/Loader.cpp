@@ -71,7 +71,8 @@ VLoader::~VLoader() {
 
 void VLoader::Commit() {
     if (m_categories.empty()) {
-        Report(VSeverity::Warning, "no-category", "the document holds no category element, so nothing was loaded");
+        m_reading.findings.Add(m_rootPosition, VSeverity::Warning, "no-category",
+                               "the document holds no category that the model has a place for, so nothing was loaded");
     }
     for (auto const& [category, element] : m_categories) {
         m_reading.documents.push_back({Database().GetDocumentName({m_document, 0, 0}), m_modelVersion, element,
@@ -116,6 +117,7 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
         char const* const value = attributes.Find(kNames[index]);
         m_reference[index].clear();
         AppendFromUtf8(m_reference[index], value != nullptr ? value : "");
+        Trim(m_reference[index]); // as the IDs and short names that it names are
     }
     if (attributes.Find("ID-REF") == nullptr) {
         Report(VSeverity::Error, "missing-attribute", "the reference has no ID-REF");
@@ -131,6 +133,7 @@ NMemory::VReference VLoader::ReadShortNameReference(VAttributes const& attribute
     }
     m_reference[0].clear();
     AppendFromUtf8(m_reference[0], value != nullptr ? value : "");
+    Trim(m_reference[0]);
     return NMemory::VReference::ByShortName(m_reference[0].c_str());
 }
 
@@ -175,6 +178,7 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
         m_parser->Refuse("not-odx", "the root element is '" + std::string(name) + "', not ODX");
         return;
     }
+    m_rootPosition = Position();
     char const* const version = attributes.Find("MODEL-VERSION");
     if (version != nullptr) {
         SetModelVersion(version);
@@ -194,7 +198,9 @@ void VLoader::StartRow(std::string_view name, VAttributes const& attributes, VRo
 }
 
 bool VLoader::StartBesideWrapper(std::string_view name, VAttributes const& attributes) {
-    for (VRow const& wrapper : m_frames.back().type->rows) {
+    VFrame& frame = m_frames.back();
+    for (std::size_t at = 0; at < frame.type->rows.size(); ++at) {
+        VRow const& wrapper = frame.type->rows[at];
         if (wrapper.ownType == nullptr || !wrapper.ownType->isWrapper) {
             continue;
         }
@@ -204,7 +210,8 @@ bool VLoader::StartBesideWrapper(std::string_view name, VAttributes const& attri
         }
         Report(VSeverity::Warning, "missing-wrapper",
                "'" + std::string(name) + "' stands outside of '" + wrapper.name + "', where it belongs");
-        wrapper.open(*this, m_frames.back().object, wrapper, attributes);
+        frame.seen |= std::uint64_t{1} << at;
+        wrapper.open(*this, frame.object, wrapper, attributes);
         Open(name, attributes, wrapper.ownType->rows[static_cast<std::size_t>(index)]);
         return true;
     }
@@ -243,6 +250,7 @@ void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow co
     VOpened const opened = row.open(*this, m_frames.back().object, row, attributes);
     if (opened.isDeferred) {
         m_recordedDepth = 1;
+        m_recordedRow = &row;
         VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
         for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
             event.attributes.emplace_back(*attribute);
@@ -437,6 +445,7 @@ void VLoader::EndMarkup(std::string_view name) {
 void VLoader::Replay() {
     std::vector<VEvent> events;
     events.swap(m_recorded);
+    VRow const& row = *m_recordedRow;
 
     std::vector<std::string> childNames;
     std::uint32_t depth = 0;
@@ -476,9 +485,7 @@ void VLoader::Replay() {
             std::vector<char const*> const raw = pointers(event.attributes);
             if (index == 0) {
                 // Noted among its siblings already, when it was met.
-                VElementType const& owner = *m_frames.back().type;
-                int const row = owner.FindRow(LocalName(event.name));
-                Open(LocalName(event.name), VAttributes(raw.data()), owner.rows[static_cast<std::size_t>(row)]);
+                Open(LocalName(event.name), VAttributes(raw.data()), row);
             } else {
                 Start(event.name, VAttributes(raw.data()));
             }

@@ -118,6 +118,7 @@ private:
     VReading& m_reading;
     VXmlParser* m_parser = nullptr;
     std::uint32_t m_document;
+    NMemory::VPosition m_rootPosition;
     bool m_isCommitted = false;
     bool m_isVersion20 = false;
     std::string m_modelVersion;
@@ -138,6 +139,7 @@ private:
 
     std::vector<VEvent> m_recorded;
     std::uint32_t m_recordedDepth = 0;
+    VRow const* m_recordedRow = nullptr; // of the element that is recorded
     NMemory::VPosition const* m_replayed = nullptr;
 
     std::wstring m_reference[4];

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/OdxReader.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include <diagkit/reader/Loader.h>
 #include <diagkit/reader/Package.h>
 #include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/OpResolveSnref.h>
 
 namespace NReader {
 namespace {
@@ -64,7 +66,7 @@ bool VSession::Fail(std::string const& file, VFailure failure) {
 }
 
 void VSession::Progress(std::uint64_t bytes) {
-    m_done += bytes;
+    m_done = std::min(m_done + bytes, m_all); // a document may be read again in another encoding
     if (m_options.progress) {
         m_options.progress(m_done, m_all);
     }
@@ -147,8 +149,9 @@ bool VSession::ReadPackage(std::string const& file) {
 }
 
 bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, std::string const& name) {
+    std::uint64_t const left = m_packageLeft; // the same for every try at the member
     return ReadDocument(name, [&](auto const& take, std::string& reason) {
-        std::uint64_t const limit = std::min(m_options.maxMemberSize, m_packageLeft);
+        std::uint64_t const limit = std::min(m_options.maxMemberSize, left);
         std::uint64_t unpacked = 0;
         VPackage::VOutcome const outcome = package.Read(
             member, limit,
@@ -157,7 +160,7 @@ bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, st
                 return take(bytes);
             },
             reason);
-        m_packageLeft -= std::min(unpacked, m_packageLeft);
+        m_packageLeft = left - std::min(unpacked, left);
         if (outcome == VPackage::VOutcome::TooLarge) {
             reason = limit < m_options.maxMemberSize
                          ? "the package unpacks to more than " + std::to_string(m_options.maxPackageSize) + " bytes"
@@ -195,6 +198,11 @@ VTry VSession::TryDocument(std::uint32_t document, VBytes const& bytes, char con
         result.failure = {problem.position, problem.code, problem.message};
         result.isEncoding = problem.isEncoding && !isRepaired;
         return result;
+    }
+    if (std::string const declared = parser.GetContradictedEncoding(); !declared.empty()) {
+        m_reading.findings.Add({document, 1, 1}, VSeverity::Warning, "encoding",
+                               "the document declares " + declared + " but has the byte order mark of " +
+                                   parser.GetMarkedEncoding() + ", in which it is read");
     }
     loader.Commit();
     result.isRead = true;
@@ -241,6 +249,7 @@ std::uint64_t SizeOf(std::vector<std::string> const& files) {
 VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options) {
     VReading reading;
     reading.database = std::make_unique<NMemory::VDatabase>();
+    reading.database->SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
     VSession session(reading, options);
     session.SetSizes(SizeOf(files));
 

@@ -96,29 +96,25 @@ std::vector<VRow> LimitRows(VOccurs occurs = Optional) {
 /// DIAG-CODED-TYPE, whose kind is its xsi:type or shows from its contents.
 template <class T>
 VRow CodedTypeRow(VOccurs occurs) {
-    return VRows<T>::Special("DIAG-CODED-TYPE", occurs,
-                             [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
-                                 T& element = VRows<T>::Owner(owner);
-                                 std::string const type = XsiType(loader, attributes);
-                                 auto const opened = [&loader](auto& made) {
-                                     NoteElement(loader, made);
-                                     return VOpened{&made, &TypeOf(&made)};
-                                 };
-                                 if (type == "STANDARD-LENGTH-TYPE") {
-                                     return opened(element.MakeStandardLengthType());
-                                 }
-                                 if (type == "LEADING-LENGTH-INFO-TYPE") {
-                                     return opened(element.MakeLeadingLengthInfoType());
-                                 }
-                                 if (type == "MIN-MAX-LENGTH-TYPE") {
-                                     return opened(element.MakeMinMaxLengthType());
-                                 }
-                                 if (type == "PARAM-LENGTH-INFO-TYPE") {
-                                     return opened(element.MakeParamLengthInfoType());
-                                 }
-                                 ReportUnknownType(loader, type);
-                                 return VOpened{nullptr, nullptr, true};
-                             });
+    auto const openCodedType = [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
+        T& element = VRows<T>::Owner(owner);
+        std::string const type = XsiType(loader, attributes);
+        auto const opened = [&loader](auto& made) {
+            NoteElement(loader, made);
+            return VOpened{&made, &TypeOf(&made)};
+        };
+        // clang-format off
+        if (type == "STANDARD-LENGTH-TYPE")     { return opened(element.MakeStandardLengthType()); }
+        if (type == "LEADING-LENGTH-INFO-TYPE") { return opened(element.MakeLeadingLengthInfoType()); }
+        if (type == "MIN-MAX-LENGTH-TYPE")      { return opened(element.MakeMinMaxLengthType()); }
+        if (type == "PARAM-LENGTH-INFO-TYPE")   { return opened(element.MakeParamLengthInfoType()); }
+        // clang-format on
+        ReportUnknownType(loader, type);
+        return VOpened{nullptr, nullptr, true};
+    };
+    VRow row = VRows<T>::Special("DIAG-CODED-TYPE", occurs, openCodedType);
+    row.isFirstKept = true; // another one would take its place, under references that are noted already
+    return row;
 }
 
 /// PARAMS, whose items' kind is their xsi:type or shows from their contents.

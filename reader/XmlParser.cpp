@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/XmlParser.h>
 
+#include <algorithm>
 #include <climits>
 #include <exception>
 #include <new>
@@ -13,6 +14,12 @@ namespace NReader {
 
 struct VXmlParser::VState {
     XML_Parser parser = nullptr;
+    bool isEncodingGiven = false;
+    bool isBegun = false;
+    std::string head;                // the first bytes, until they tell how the document begins
+    char const* markedEncoding = ""; // what a byte order mark says
+    std::string declaredEncoding;
+    VXmlPosition skipped; // lines, and columns of the last one, that were left out before the XML declaration
     IXmlHandler* handler = nullptr;
     std::uint32_t maxDepth = 0;
     std::uint32_t depth = 0;
@@ -23,9 +30,41 @@ struct VXmlParser::VState {
 
 namespace {
 
-VXmlPosition PositionOf(XML_Parser parser) {
-    return {static_cast<std::uint32_t>(XML_GetCurrentLineNumber(parser)),
-            static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(parser) + 1)};
+constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::string_view kDeclaration = "<?xml";
+
+bool StartsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
+
+/// Whether the bytes suffice to tell how a document begins: byte order mark, blanks, XML declaration.
+bool IsHeadComplete(std::string_view head) {
+    auto const start = head.find_first_not_of(kBlanks);
+    return start != std::string_view::npos && head.size() > start + kDeclaration.size();
+}
+
+bool IsDeclaration(std::string_view text) {
+    return StartsWith(text, kDeclaration) && text.size() > kDeclaration.size() &&
+           kBlanks.find(text[kDeclaration.size()]) != std::string_view::npos;
+}
+
+/// How far blanks reach: the line ends in them, and the characters behind the last one.
+VXmlPosition ExtentOf(std::string_view blanks) {
+    VXmlPosition extent;
+    for (std::size_t index = 0; index < blanks.size(); ++index) {
+        bool const isFirstOfPair = blanks[index] == '\r' && blanks.substr(index + 1, 1) == "\n";
+        bool const isLineEnd = blanks[index] == '\r' || blanks[index] == '\n';
+        if (isLineEnd && !isFirstOfPair) {
+            extent = {extent.line + 1, 0};
+        } else if (!isLineEnd) {
+            ++extent.column;
+        }
+    }
+    return extent;
+}
+
+bool StartsWithFolded(std::string_view text, std::string_view start) {
+    return text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), [](char a, char b) {
+               return (b >= 'a' && b <= 'z' ? b - 'a' + 'A' : b) == a;
+           });
 }
 
 } // namespace
@@ -34,6 +73,7 @@ VXmlParser::VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const*
     : m_state(std::make_unique<VState>()) {
     m_state->handler = &handler;
     m_state->maxDepth = maxDepth;
+    m_state->isEncodingGiven = encoding != nullptr;
     m_state->parser = XML_ParserCreate(encoding);
     if (m_state->parser == nullptr) {
         throw std::bad_alloc();
@@ -87,6 +127,10 @@ VXmlParser::VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const*
             xml.Refuse("document-type", "a document type declaration is not ODX; remove it");
         });
     });
+    XML_SetXmlDeclHandler(parser, [](void* self, char const*, char const* declared, int) {
+        guarded(self,
+                [&](VXmlParser&, VState& state) { state.declaredEncoding = declared != nullptr ? declared : ""; });
+    });
     XML_SetUnknownEncodingHandler(
         parser,
         [](void*, char const* name, XML_Encoding* info) -> int {
@@ -98,6 +142,40 @@ VXmlParser::VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const*
 VXmlParser::~VXmlParser() { XML_ParserFree(m_state->parser); }
 
 bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
+    if (m_state->isBegun) {
+        return Parse(bytes, isLast);
+    }
+    m_state->head += bytes;
+    if (!isLast && !IsHeadComplete(m_state->head)) {
+        return true;
+    }
+    m_state->isBegun = true;
+    std::string const head = std::move(m_state->head);
+    return Parse(Begin(head), isLast);
+}
+
+/// Decides on the encoding by a byte order mark, which counts more than what is declared, and leaves out blanks before
+/// an XML declaration, which expat does not take.
+std::string_view VXmlParser::Begin(std::string_view head) {
+    VState& state = *m_state;
+    if (StartsWith(head, "\xEF\xBB\xBF")) {
+        state.markedEncoding = "UTF-8";
+        head.remove_prefix(3);
+    } else if (StartsWith(head, "\xFE\xFF") || StartsWith(head, "\xFF\xFE")) {
+        state.markedEncoding = "UTF-16";
+    }
+    if (*state.markedEncoding != '\0' && !state.isEncodingGiven) {
+        XML_SetEncoding(state.parser, state.markedEncoding);
+    }
+    auto const start = head.find_first_not_of(kBlanks);
+    if (start != std::string_view::npos && start > 0 && IsDeclaration(head.substr(start))) {
+        state.skipped = ExtentOf(head.substr(0, start));
+        head.remove_prefix(start);
+    }
+    return head;
+}
+
+bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
     XML_Parser const parser = m_state->parser;
     do {
         std::size_t const length = bytes.size() > INT_MAX / 2 ? INT_MAX / 2 : bytes.size();
@@ -113,7 +191,7 @@ bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
                 if (code == XML_ERROR_NO_MEMORY) {
                     throw std::bad_alloc();
                 }
-                m_state->error.position = PositionOf(parser);
+                m_state->error.position = GetPosition();
                 m_state->error.code = "not-xml";
                 m_state->error.message = std::string("not well-formed XML: ") + XML_ErrorString(code);
                 m_state->error.isEncoding = code == XML_ERROR_INVALID_TOKEN || code == XML_ERROR_INCORRECT_ENCODING ||
@@ -128,7 +206,21 @@ bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
 
 VXmlError const& VXmlParser::GetError() const { return m_state->error; }
 
-VXmlPosition VXmlParser::GetPosition() const { return PositionOf(m_state->parser); }
+VXmlPosition VXmlParser::GetPosition() const {
+    VXmlPosition const& skipped = m_state->skipped;
+    auto const line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(m_state->parser));
+    auto const column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(m_state->parser) + 1);
+    return {line + skipped.line, line == 1 ? column + skipped.column : column};
+}
+
+std::string VXmlParser::GetContradictedEncoding() const {
+    std::string const& declared = m_state->declaredEncoding;
+    bool const isContradicted = *m_state->markedEncoding != '\0' && !m_state->isEncodingGiven && !declared.empty() &&
+                                !StartsWithFolded(declared, m_state->markedEncoding);
+    return isContradicted ? declared : std::string();
+}
+
+char const* VXmlParser::GetMarkedEncoding() const { return m_state->markedEncoding; }
 
 void VXmlParser::Refuse(std::string code, std::string message) {
     m_state->isRefused = true;

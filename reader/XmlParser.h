@@ -48,6 +48,11 @@ public:
     VXmlParser(VXmlParser const&) = delete;
     VXmlParser& operator=(VXmlParser const&) = delete;
 
+    /// What a byte order mark says, "UTF-8" or "UTF-16"; "" without one.
+    char const* GetMarkedEncoding() const;
+    /// The encoding that the XML declaration gives where a byte order mark says otherwise; "" elsewhere.
+    std::string GetContradictedEncoding() const;
+
     /// Takes the next bytes; false when the document cannot be read, `GetError()` then says why.
     bool Feed(std::string_view bytes, bool isLast);
 
@@ -58,6 +63,9 @@ public:
     void Refuse(std::string code, std::string message);
 
 private:
+    std::string_view Begin(std::string_view head);
+    bool Parse(std::string_view bytes, bool isLast);
+
     struct VState;
     std::unique_ptr<VState> m_state;
 };
