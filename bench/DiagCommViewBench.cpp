@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: Apache-2.0
+
+// Building the DIAG-COMM view of an ECU-VARIANT over a stack of all five kinds of layer, by visible entries:
+//
+//     view/N     as the toolkit does it
+//     bare/N     what it costs at least: for every entry of every view that the passes build, one insertion of its name
+//                into a set and one addition to a list
+//     naive/N    the rule as it is written: every name of a parent is searched in the list
+//
+// Each is measured with what it releases at the end.
+
+#include <algorithm>
+#include <list>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/tools/DiagCommView.h>
+
+#include "MakeStack.h"
+
+namespace NBench {
+namespace {
+
+using NDIAGKIT::VDiagCommView;
+using VElements = std::vector<NODX201::VDiagComm*>;
+
+VElements ElementsOf(VDiagCommView&& view) {
+    VElements elements;
+    for (NODX201::VDiagComm& diagComm : view) {
+        elements.push_back(&diagComm);
+    }
+    return elements;
+}
+
+/// The entries of every view that building the ECU-VARIANT's takes, in the order in which they are complete.
+std::vector<VElements> ViewsOf(VStack& stack) {
+    VElements const shared = ElementsOf(VDiagCommView(*stack.ecuSharedData));
+    VElements const protocol = ElementsOf(VDiagCommView(*stack.protocol));
+    return {shared,
+            protocol,
+            ElementsOf(VDiagCommView(*stack.functionalGroup)),
+            shared,
+            protocol,
+            ElementsOf(VDiagCommView(*stack.baseVariant)),
+            ElementsOf(VDiagCommView(*stack.ecuVariant))};
+}
+
+void View(benchmark::State& state) {
+    VStack stack(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        VDiagCommView view(*stack.ecuVariant);
+        benchmark::DoNotOptimize(view.Count());
+    }
+}
+
+void Bare(benchmark::State& state) {
+    VStack stack(static_cast<std::size_t>(state.range(0)));
+    std::vector<VElements> const views = ViewsOf(stack);
+    for (auto _ : state) {
+        for (VElements const& elements : views) {
+            std::unordered_set<std::wstring_view> names;
+            std::list<NODX201::VDiagComm*> list;
+            for (NODX201::VDiagComm* const element : elements) {
+                names.insert(element->GetShortName());
+                list.push_back(element);
+            }
+            benchmark::DoNotOptimize(list.size() + names.size());
+        }
+    }
+}
+
+std::list<NODX201::VDiagComm*> Own(NODX201::VDiagLayer& layer) {
+    std::list<NODX201::VDiagComm*> list;
+    for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
+        list.push_back(dynamic_cast<NODX201::VDiagComm*>(&proxy));
+    }
+    return list;
+}
+
+std::list<NODX201::VDiagComm*> Merged(std::list<NODX201::VDiagComm*> list,
+                                      std::list<NODX201::VDiagComm*> const& parent) {
+    for (NODX201::VDiagComm* const inherited : parent) {
+        std::wstring_view const name = inherited->GetShortName();
+        auto const isOfName = [name](NODX201::VDiagComm* held) { return name == held->GetShortName(); };
+        if (std::find_if(list.begin(), list.end(), isOfName) == list.end()) {
+            list.push_back(inherited);
+        }
+    }
+    return list;
+}
+
+std::list<NODX201::VDiagComm*> NaiveProtocol(VStack& stack) {
+    return Merged(Own(*stack.protocol), Own(*stack.ecuSharedData));
+}
+
+void Naive(benchmark::State& state) {
+    VStack stack(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        auto const group = Merged(Own(*stack.functionalGroup), NaiveProtocol(stack));
+        auto const base = Merged(Merged(Own(*stack.baseVariant), group), NaiveProtocol(stack));
+        auto const ecu = Merged(Own(*stack.ecuVariant), base);
+        benchmark::DoNotOptimize(ecu.size());
+    }
+}
+
+BENCHMARK(View)->Name("view")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Bare)->Name("bare")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Naive)->Name("naive")->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace NBench

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <diagkit/reader/OdxReader.h>
+
+namespace CLI {
+class App;
+}
+
+namespace NCli {
+
+/// What a call says, whatever its command; UTF-8.
+struct VArguments {
+    std::vector<std::string> files; ///< FILE..., in the order given: they form one database
+    bool isJson = false;
+    bool isStrict = false;
+    bool isQuiet = false;
+    NReader::VReadOptions readOptions; ///< the limits
+
+    std::string kind;      ///< KIND of `view` and `resolve`
+    std::string name;      ///< NAME of `resolve`
+    std::string table;     ///< TABLE of `enums`
+    std::string literal;   ///< LITERAL or VALUE of `enums`
+    std::string layer;     ///< --layer: a short name or an ID, as of all selections
+    std::string container; ///< --container
+    std::string diagComm;  ///< --diag-comm
+    std::string job;       ///< --job, a MULTIPLE-ECU-JOB
+    std::string flash;     ///< --flash
+    int range = 5;         ///< --range, a search range of output parameters
+};
+
+/// The options that every command has.
+void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
+
+/// The options that name what a command looks at: each takes a short name or an ID.
+void DeclareSelections(CLI::App& command, VArguments& arguments);
+
+/// FILE... and the limits of reading, for commands that work on a database.
+void DeclareFiles(CLI::App& command, VArguments& arguments);
+
+} // namespace NCli

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/cli/Arguments.h>
+#include <diagkit/cli/Output.h>
+#include <diagkit/cli/Status.h>
+
+/// The commands, each in the source of its name: what it takes beyond the common options, and what it does. A command
+/// that takes nothing but FILE... is declared by `DeclareFiles`.
+
+namespace NCli {
+
+VStatus RunInfo(VArguments const& arguments, VOutput& output);
+
+VStatus RunLayers(VArguments const& arguments, VOutput& output);
+
+void DeclareView(CLI::App& command, VArguments& arguments);
+VStatus RunView(VArguments const& arguments, VOutput& output);
+
+void DeclareResolve(CLI::App& command, VArguments& arguments);
+VStatus RunResolve(VArguments const& arguments, VOutput& output);
+
+void DeclareEnums(CLI::App& command, VArguments& arguments);
+VStatus RunEnums(VArguments const& arguments, VOutput& output);
+
+} // namespace NCli

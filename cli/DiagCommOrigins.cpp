@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/cli/DiagCommOrigins.h>
+
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+
+#include <diagkit/cli/Parents.h>
+#include <diagkit/tools/OpBuildDiagCommView.h>
+
+namespace NCli {
+namespace {
+
+using VNames = std::unordered_set<std::wstring_view>;
+
+/// How many entries the layer's own DIAG-COMMS give; they come first in its view.
+std::size_t CountOwn(NODX201::VDiagLayer& layer) {
+    std::size_t count = 0;
+    if (!layer.HasDiagCommProxyCollection()) {
+        return count;
+    }
+    for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
+        auto* const link = dynamic_cast<NODX201::VDiagCommLink*>(&proxy);
+        count += link == nullptr || link->HasDiagComm(layer) ? 1 : 0;
+    }
+    return count;
+}
+
+VNames ExcludedBy(NODX201::VParentRef& parentRef) {
+    VNames names;
+    for (NODX201::VNotInheritedDiagComm& notInherited : parentRef.NotInheritedDiagCommCollection()) {
+        if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&notInherited.GetDiagCommSnref().GetLink())) {
+            names.insert(snref->GetShortName());
+        }
+    }
+    return names;
+}
+
+class VOriginFinder {
+public:
+    explicit VOriginFinder(NODX201::VDiagLayer& layer);
+
+    VDiagCommOrigins Find();
+
+private:
+    void SeeParent(VParent const& parent);
+    void SeeOffer(VOfferedDiagComm const& offer, bool isExcluded);
+
+    NODX201::VDiagLayer& m_layer;
+    std::vector<NODX201::VDiagComm*> m_view;
+    std::unordered_map<std::wstring_view, NODX201::VDiagComm*> m_visibleByName;
+    std::unordered_map<NODX201::VDiagComm*, NODX201::VDiagLayer*> m_parents; // of visible ones; null until it is seen
+    std::unordered_set<NODX201::VDiagComm*> m_listed;                        // hidden and excluded ones
+    VDiagCommOrigins m_origins;
+};
+
+VOriginFinder::VOriginFinder(NODX201::VDiagLayer& layer) : m_layer(layer), m_view(VisibleDiagComms(layer)) {
+    for (NODX201::VDiagComm* const diagComm : m_view) {
+        m_visibleByName.try_emplace(diagComm->GetShortName(), diagComm);
+        m_parents.try_emplace(diagComm, nullptr);
+    }
+}
+
+VDiagCommOrigins VOriginFinder::Find() {
+    std::vector<VParent> const parents = ParentsOf(m_layer);
+    for (int pass = 1; pass <= kPasses; ++pass) {
+        for (VParent const& parent : parents) {
+            if (PassOf(m_layer, parent) == pass) {
+                SeeParent(parent);
+            }
+        }
+    }
+    std::size_t const ownCount = CountOwn(m_layer);
+    for (std::size_t index = 0; index < m_view.size(); ++index) {
+        if (index < ownCount) {
+            m_origins.own.push_back(m_view[index]);
+        } else {
+            m_origins.inherited.push_back({m_view[index], m_parents[m_view[index]], nullptr});
+        }
+    }
+    return m_origins;
+}
+
+void VOriginFinder::SeeParent(VParent const& parent) {
+    VNames const excluded = ExcludedBy(*parent.parentRef);
+    for (NODX201::VDiagComm* const diagComm : VisibleDiagComms(*parent.layer)) {
+        SeeOffer({diagComm, parent.layer, nullptr}, excluded.count(diagComm->GetShortName()) != 0);
+    }
+}
+
+void VOriginFinder::SeeOffer(VOfferedDiagComm const& offer, bool isExcluded) {
+    if (auto const visible = m_parents.find(offer.diagComm); visible != m_parents.end()) {
+        if (!isExcluded && visible->second == nullptr) {
+            visible->second = offer.parent;
+        }
+        return;
+    }
+    if (!m_listed.insert(offer.diagComm).second) {
+        return;
+    }
+    if (isExcluded) {
+        m_origins.excluded.push_back(offer);
+    } else {
+        m_origins.hidden.push_back({offer.diagComm, offer.parent, m_visibleByName[offer.diagComm->GetShortName()]});
+    }
+}
+
+} // namespace
+
+std::vector<NODX201::VDiagComm*> VisibleDiagComms(NODX201::VDiagLayer& layer) {
+    NDIAGKIT::VOpBuildDiagCommView builder;
+    NDIAGKIT::VDiagCommView& view = *builder.CreateDiagCommView(layer);
+    std::vector<NODX201::VDiagComm*> entries;
+    for (NODX201::VDiagComm& diagComm : view) {
+        entries.push_back(&diagComm);
+    }
+    builder.DestroyDiagCommView(view);
+    return entries;
+}
+
+VDiagCommOrigins DiagCommOriginsOf(NODX201::VDiagLayer& layer) { return VOriginFinder(layer).Find(); }
+
+} // namespace NCli

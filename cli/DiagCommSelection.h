@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <diagkit/cli/Arguments.h>
+#include <diagkit/cli/Output.h>
+#include <diagkit/memory/Database.h>
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/tools/InParamIfView.h>
+#include <diagkit/tools/OutParamIfView.h>
+
+namespace NCli {
+
+/// The DIAG-COMM that --layer and --diag-comm, or --job, name.
+struct VDiagCommSelection {
+    NODX201::VDiagComm* diagComm = nullptr;  ///< null, with a message, when it is not there
+    NODX201::VMultipleEcuJob* job = nullptr; ///< the same where it is a MULTIPLE-ECU-JOB
+    NODX201::VDiagLayer* layer = nullptr;    ///< --layer; null without it
+};
+
+VDiagCommSelection SelectDiagComm(VArguments const& arguments, NMemory::VDatabase& database, VOutput const& output);
+
+std::unique_ptr<NDIAGKIT::VInParamIfView> InParamsOf(VDiagCommSelection const& selection);
+std::unique_ptr<NDIAGKIT::VOutParamIfView> OutParamsOf(VDiagCommSelection const& selection, int range);
+
+} // namespace NCli

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <diagkit/cli/Output.h>
+#include <diagkit/memory/Database.h>
+#include <diagkit/memory/Flash.h>
+#include <diagkit/memory/Layers.h>
+#include <diagkit/memory/MultipleEcuJobs.h>
+
+namespace NCli {
+
+// The one element of its kind that has this short name or ID. Null, with a message that helps to name it right, when
+// there is none or when several fit.
+
+NODX201::VDiagLayerContainer* FindContainer(NMemory::VDatabase& database, std::string const& name,
+                                            VOutput const& output);
+NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
+NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
+
+/// The first DIAG-COMM of this short name, or the one of this ID, among those visible in the layer.
+NODX201::VDiagComm* FindDiagComm(NODX201::VDiagLayer& layer, std::string const& name, VOutput const& output);
+
+} // namespace NCli

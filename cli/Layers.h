@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <diagkit/memory/Database.h>
+#include <diagkit/model/Layers.h>
+
+namespace NCli {
+
+/// A layer and the container it stands in.
+struct VPlacedLayer {
+    NODX201::VDiagLayer* layer;
+    NODX201::VDiagLayerContainer* container;
+};
+
+/// Every layer of the database, in document order.
+std::vector<VPlacedLayer> LayersOf(NMemory::VDatabase& database);
+
+/// The layer that an element stands in; null outside layers, as for a layer itself.
+NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement const& element);
+
+/// A layer with its kind, as headings and notes call it: "PROTOCOL UDS".
+std::string Titled(NODX201::VDiagLayer const& layer);
+
+} // namespace NCli

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/cli/Load.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include <fmt/format.h>
+
+#include <diagkit/cli/Platform.h>
+#include <diagkit/cli/ProgressBar.h>
+#include <diagkit/cli/Text.h>
+
+namespace NCli {
+namespace {
+
+NReader::VReadResult Read(VArguments const& arguments) {
+    NReader::VReadOptions options = arguments.readOptions;
+    VProgressBar bar;
+    if (!arguments.isQuiet && IsTerminal(stderr)) {
+        options.progress = [&bar](std::uint64_t done, std::uint64_t all) { bar.Show(done, all); };
+    }
+    return NReader::ReadOdx(arguments.files, options);
+}
+
+void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
+        std::string const line = FormatDiagnostic(diagnostic) + "\n";
+        std::fwrite(line.data(), 1, line.size(), stderr);
+    }
+}
+
+std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    return static_cast<std::size_t>(
+        std::count_if(diagnostics.begin(), diagnostics.end(), [](NReader::VDiagnostic const& diagnostic) {
+            return diagnostic.severity == NReader::VSeverity::Error;
+        }));
+}
+
+} // namespace
+
+VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
+    result = Read(arguments);
+    if (!arguments.isQuiet) {
+        PrintDiagnostics(result.diagnostics);
+    }
+    if (result.database == nullptr) {
+        return VStatus::Unreadable;
+    }
+    std::size_t const errors = CountErrors(result.diagnostics);
+    if (!arguments.isStrict || errors == 0) {
+        return VStatus::Done;
+    }
+    if (!arguments.isQuiet) {
+        output.Complain(fmt::format("{}, which --strict does not pass", Counted(errors, "error")));
+    }
+    return VStatus::Unreadable;
+}
+
+} // namespace NCli

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/cli/Arguments.h>
+#include <diagkit/cli/Output.h>
+#include <diagkit/cli/Status.h>
+
+namespace NCli {
+
+/// Reads the files of the call into `result`, diagnostics and progress on standard error. The command goes on with
+/// `Done` only, and then has a database.
+VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
+
+} // namespace NCli

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+/// What differs between the platforms; `Platform_posix.cpp` and `Platform_win32.cpp` hold the bodies.
+
+namespace NCli {
+
+void PreparePlatform(); ///< once, before anything is written
+
+/// The words after the program's name.
+std::vector<std::string> ArgumentsInUtf8(int count, char** words);
+
+bool IsTerminal(std::FILE* stream);
+
+} // namespace NCli

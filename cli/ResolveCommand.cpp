@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <array>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include <diagkit/cli/Columns.h>
+#include <diagkit/cli/Commands.h>
+#include <diagkit/cli/DiagCommSelection.h>
+#include <diagkit/cli/ElementFinder.h>
+#include <diagkit/cli/Entry.h>
+#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/Load.h>
+#include <diagkit/cli/NearNames.h>
+#include <diagkit/cli/Selections.h>
+#include <diagkit/cli/Text.h>
+#include <diagkit/cli/ViewText.h>
+#include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Dops.h>
+#include <diagkit/model/Params.h>
+#include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/IdentIfView.h>
+#include <diagkit/tools/OpBuildDiagCommView.h>
+#include <diagkit/tools/OpBuildDiagVariableView.h>
+#include <diagkit/tools/OpBuildDopView.h>
+#include <diagkit/tools/OpResolveSnref.h>
+#include <diagkit/tools/ProtocolView.h>
+#include <diagkit/tools/SessionView.h>
+
+namespace NCli {
+namespace {
+
+/// What a resolution came to.
+struct VAnswer {
+    bool isSelected = false; ///< the selection itself is there; otherwise a message has been given
+    NODX201::VOdxElement const* found = nullptr;
+    std::string where;                    ///< what was searched, for the message when nothing is found
+    std::vector<std::wstring_view> names; ///< those visible there
+};
+
+template <class Element>
+NODX201::VOdxElement const* ElementOf(Element* element) {
+    return dynamic_cast<NODX201::VOdxElement const*>(element);
+}
+
+template <class View>
+std::vector<std::wstring_view> NamesIn(View& view) {
+    std::vector<std::wstring_view> names;
+    for (auto& entry : view) {
+        names.emplace_back(dynamic_cast<NODX201::VOdxElement const&>(entry).GetShortName());
+    }
+    return names;
+}
+
+struct VQuestion {
+    VArguments const& arguments;
+    NMemory::VDatabase& database;
+    VOutput const& output;
+    std::wstring name;
+    NDIAGKIT::VOpResolveSnref resolver{};
+};
+
+/// An answer looked up in a layer.
+template <class Resolve, class Names>
+VAnswer InLayer(VQuestion& question, Resolve resolve, Names names) {
+    NODX201::VDiagLayer* const layer = FindLayer(question.database, question.arguments.layer, question.output);
+    if (layer == nullptr) {
+        return {};
+    }
+    return {true, ElementOf(resolve(*layer)), Titled(*layer), names(*layer)};
+}
+
+VAnswer ResolveDop(VQuestion& question) {
+    return InLayer(
+        question, [&](auto& layer) { return question.resolver.ResolveDopBaseSnref(question.name.c_str(), layer); },
+        [](auto& layer) {
+            NDIAGKIT::VOpBuildDopView builder;
+            return NamesIn(*std::unique_ptr<NDIAGKIT::VDopView>(builder.CreateDopView(layer)));
+        });
+}
+
+VAnswer ResolveDataObjectProp(VQuestion& question) {
+    return InLayer(
+        question,
+        [&](auto& layer) { return question.resolver.ResolveDataObjectPropSnref(question.name.c_str(), layer); },
+        [](auto& layer) {
+            NDIAGKIT::VOpBuildDopView builder;
+            std::unique_ptr<NDIAGKIT::VDopView> const view(builder.CreateDopView(layer));
+            std::vector<std::wstring_view> names;
+            for (NODX201::VDopBase& dop : *view) {
+                if (dynamic_cast<NODX201::VDataObjectProp*>(&dop) != nullptr) {
+                    names.emplace_back(dop.GetShortName());
+                }
+            }
+            return names;
+        });
+}
+
+VAnswer ResolveDiagComm(VQuestion& question) {
+    return InLayer(
+        question, [&](auto& layer) { return question.resolver.ResolveDiagCommSnref(question.name.c_str(), layer); },
+        [](auto& layer) {
+            NDIAGKIT::VOpBuildDiagCommView builder;
+            return NamesIn(*std::unique_ptr<NDIAGKIT::VDiagCommView>(builder.CreateDiagCommView(layer)));
+        });
+}
+
+VAnswer ResolveDiagVariable(VQuestion& question) {
+    return InLayer(
+        question, [&](auto& layer) { return question.resolver.ResolveDiagVariableSnref(question.name.c_str(), layer); },
+        [](auto& layer) {
+            NDIAGKIT::VOpBuildDiagVariableView builder;
+            return NamesIn(*std::unique_ptr<NDIAGKIT::VDiagVariableView>(builder.CreateDiagVariableView(layer)));
+        });
+}
+
+VAnswer ResolveProtocol(VQuestion& question) {
+    NODX201::VDiagLayerContainer* const container =
+        FindContainer(question.database, question.arguments.container, question.output);
+    if (container == nullptr) {
+        return {};
+    }
+    NDIAGKIT::VProtocolView view(*container);
+    return {true, question.resolver.ResolveProtocolSnref(question.name.c_str(), *container),
+            "DIAG-LAYER-CONTAINER " + ShownName(*container), NamesIn(view)};
+}
+
+VAnswer ResolveIdent(VQuestion& question) {
+    NODX201::VFlash* const flash = FindFlash(question.database, question.arguments.flash, question.output);
+    if (flash == nullptr) {
+        return {};
+    }
+    NDIAGKIT::VIdentIfView view(*flash);
+    return {true, ElementOf(question.resolver.ResolveIdentIfSnref(question.name.c_str(), *flash)),
+            "FLASH " + ShownName(*flash), NamesIn(view)};
+}
+
+VAnswer ResolveSession(VQuestion& question) {
+    NODX201::VFlash* const flash = FindFlash(question.database, question.arguments.flash, question.output);
+    if (flash == nullptr) {
+        return {};
+    }
+    NDIAGKIT::VSessionView view(*flash);
+    return {true, question.resolver.ResolveSessionSnref(question.name.c_str(), *flash), "FLASH " + ShownName(*flash),
+            NamesIn(view)};
+}
+
+std::string TitleOf(VDiagCommSelection const& selection) {
+    std::string const title = TagTextOf(*selection.diagComm) + " " + ShownName(*selection.diagComm);
+    return selection.layer != nullptr ? title + " in " + Titled(*selection.layer) : title;
+}
+
+VAnswer ResolveInParam(VQuestion& question) {
+    VDiagCommSelection const selection = SelectDiagComm(question.arguments, question.database, question.output);
+    if (selection.diagComm == nullptr) {
+        return {};
+    }
+    NODX201::IInParamIf* const found =
+        selection.job != nullptr ? question.resolver.ResolveInParamIfSnref(question.name.c_str(), *selection.job)
+                                 : question.resolver.ResolveInParamIfSnref(question.name.c_str(), *selection.diagComm);
+    return {true, ElementOf(found), TitleOf(selection), NamesIn(*InParamsOf(selection))};
+}
+
+VAnswer ResolveOutParam(VQuestion& question) {
+    VDiagCommSelection const selection = SelectDiagComm(question.arguments, question.database, question.output);
+    if (selection.diagComm == nullptr) {
+        return {};
+    }
+    auto const range = static_cast<NODX201::VSearchRange>(question.arguments.range);
+    NODX201::IOutParamIf* const found =
+        selection.job != nullptr
+            ? question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.job, *selection.layer)
+            : question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.diagComm, *selection.layer,
+                                                       range);
+    return {true, ElementOf(found), TitleOf(selection), NamesIn(*OutParamsOf(selection, question.arguments.range))};
+}
+
+struct VResolveKind {
+    char const* name;
+    VSelectionCheck missing;
+    VAnswer (*resolve)(VQuestion& question);
+};
+
+// clang-format off
+constexpr std::array kKinds{
+    VResolveKind{"dop",              &NeedsLayer,           &ResolveDop},
+    VResolveKind{"data-object-prop", &NeedsLayer,           &ResolveDataObjectProp},
+    VResolveKind{"diag-comm",        &NeedsLayer,           &ResolveDiagComm},
+    VResolveKind{"diag-variable",    &NeedsLayer,           &ResolveDiagVariable},
+    VResolveKind{"protocol",         &NeedsContainer,       &ResolveProtocol},
+    VResolveKind{"ident",            &NeedsFlash,           &ResolveIdent},
+    VResolveKind{"session",          &NeedsFlash,           &ResolveSession},
+    VResolveKind{"in-param",         &NeedsDiagComm,        &ResolveInParam},
+    VResolveKind{"out-param",        &NeedsDiagCommInLayer, &ResolveOutParam},
+};
+// clang-format on
+
+std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
+    std::string message =
+        fmt::format("no {} '{}' in {}, where {} visible", question.arguments.kind, Shown(question.name), answer.where,
+                    Counted(answer.names.size(), "name") + (answer.names.size() == 1 ? " is" : " are"));
+    char const* separator = "; near names: ";
+    for (std::wstring_view const name : NearNames(question.name, answer.names)) {
+        message += separator + Shown(name);
+        separator = ", ";
+    }
+    return message;
+}
+
+void WriteText(NODX201::VOdxElement const& found, VOutput& output) {
+    NODX201::VDiagLayer const* const layer = LayerOf(found);
+    std::string const path = PathTo(found);
+    VColumns columns;
+    columns.Add({ShownName(found), KindOf(found), ShownId(found), layer != nullptr ? "from " + Titled(*layer) : "",
+                 path.empty() ? "" : "in " + path});
+    output.Write(columns.Format(""));
+}
+
+VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output) {
+    if (question.arguments.isJson) {
+        nlohmann::ordered_json document;
+        document["kind"] = question.arguments.kind;
+        document["name"] = question.arguments.name;
+        document["found"] = answer.found != nullptr;
+        document["entry"] = answer.found != nullptr ? EntryOf(*answer.found) : nlohmann::ordered_json();
+        output.WriteJson(document);
+    } else if (answer.found != nullptr) {
+        WriteText(*answer.found, output);
+    }
+    if (answer.found != nullptr) {
+        return VStatus::Done;
+    }
+    output.Complain(MissingMessage(question, answer));
+    return VStatus::NotThere;
+}
+
+} // namespace
+
+void DeclareResolve(CLI::App& command, VArguments& arguments) {
+    DeclareKind(command, arguments, NamesOf(kKinds), "What the name stands for");
+    command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
+    DeclareSelections(command, arguments);
+    DeclareFiles(command, arguments);
+}
+
+VStatus RunResolve(VArguments const& arguments, VOutput& output) {
+    VResolveKind const& kind = KindOf(kKinds, arguments);
+    if (char const* const missing = kind.missing(arguments)) {
+        output.Complain(fmt::format("resolve {} needs {}; see --help", kind.name, missing));
+        return VStatus::Usage;
+    }
+    NReader::VReadResult result;
+    if (VStatus const status = Load(arguments, output, result); status != VStatus::Done) {
+        return status;
+    }
+    VQuestion question{arguments, *result.database, output, NReader::FromUtf8(arguments.name)};
+    VAnswer const answer = kind.resolve(question);
+    return answer.isSelected ? Answer(question, answer, output) : VStatus::NotThere;
+}
+
+} // namespace NCli

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace NCli {
+
+/// A number of bytes: digits and one of K, M, G, T (powers of 1024) or none, then B, iB or nothing, in upper or lower
+/// case. Nothing for any other text, and for a number that has no room in 64 bits.
+std::optional<std::uint64_t> SizeIn(std::string_view text);
+
+} // namespace NCli

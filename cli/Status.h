@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+namespace NCli {
+
+/// What the program ends with; scripts rely on the values.
+enum class VStatus : int {
+    Done = 0,
+    NotThere = 1,   ///< the thing asked for is not in the database
+    Usage = 2,      ///< wrong usage
+    Unreadable = 3, ///< a file cannot be read, or the answer cannot be written
+};
+
+} // namespace NCli

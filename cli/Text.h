@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <diagkit/model/OdxElement.h>
+
+namespace NCli {
+
+/// A text of a database for people to read, in UTF-8. Control characters become U+FFFD, so that no data can steer a
+/// terminal.
+std::string Shown(std::wstring_view text);
+std::string Shown(std::string_view text);
+
+/// The short name for people to read; a dash for an element without one.
+std::string ShownName(NODX201::VOdxElement const& element);
+
+/// The ID for people to read; "" for an element without one.
+std::string ShownId(NODX201::VOdxElement const& element);
+
+/// The ODX tag of an element: "ECU-VARIANT".
+std::string TagTextOf(NODX201::VOdxElement const& element);
+
+/// @ID; "" for an element without one.
+wchar_t const* IdOf(NODX201::VOdxElement const& element);
+
+/// "1 layer", "2 layers"
+std::string Counted(std::size_t count, std::string_view noun);
+
+} // namespace NCli

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <fmt/format.h>
+
+#include <diagkit/cli/ElementFinder.h>
+#include <diagkit/cli/Text.h>
+#include <diagkit/cli/ViewText.h>
+#include <diagkit/cli/Views.h>
+#include <diagkit/tools/IdentIfView.h>
+#include <diagkit/tools/SessionView.h>
+
+namespace NCli {
+namespace {
+
+template <class View>
+VStatus ViewFlash(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output, char const* title) {
+    NODX201::VFlash* const flash = FindFlash(database, arguments.flash, output);
+    if (flash == nullptr) {
+        return VStatus::NotThere;
+    }
+    View view(*flash);
+    std::vector<NODX201::VOdxElement const*> entries;
+    std::vector<std::string> notes;
+    for (auto& entry : view) {
+        auto const& element = dynamic_cast<NODX201::VOdxElement const&>(entry);
+        entries.push_back(&element);
+        notes.push_back("in " + PathTo(element));
+    }
+    if (arguments.isJson) {
+        WriteViewAsJson(arguments.kind, *flash, entries, output);
+    } else {
+        WriteEntries(fmt::format("{} of FLASH {}", title, ShownName(*flash)), entries, notes, output);
+    }
+    return VStatus::Done;
+}
+
+} // namespace
+
+VStatus ViewIdents(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output) {
+    return ViewFlash<NDIAGKIT::VIdentIfView>(arguments, database, output, "EXPECTED-IDENTs");
+}
+
+VStatus ViewSessions(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output) {
+    return ViewFlash<NDIAGKIT::VSessionView>(arguments, database, output, "SESSIONs");
+}
+
+} // namespace NCli

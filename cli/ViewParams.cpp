@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <fmt/format.h>
+
+#include <diagkit/cli/DiagCommSelection.h>
+#include <diagkit/cli/Text.h>
+#include <diagkit/cli/ViewText.h>
+#include <diagkit/cli/Views.h>
+#include <diagkit/model/Params.h>
+#include <diagkit/tools/InParamIfView.h>
+#include <diagkit/tools/OutParamIfView.h>
+
+namespace NCli {
+namespace {
+
+template <class View>
+VStatus Answer(VArguments const& arguments, char const* title, NODX201::VDiagComm& context, View view,
+               VOutput& output) {
+    std::vector<NODX201::VOdxElement const*> entries;
+    std::vector<std::string> notes;
+    for (auto& param : *view) {
+        auto const& element = dynamic_cast<NODX201::VOdxElement const&>(param);
+        entries.push_back(&element);
+        notes.push_back("in " + PathTo(element));
+    }
+    if (arguments.isJson) {
+        WriteViewAsJson(arguments.kind, context, entries, output);
+    } else {
+        WriteEntries(fmt::format("{} of {} {}", title, TagTextOf(context), ShownName(context)), entries, notes, output);
+    }
+    return VStatus::Done;
+}
+
+} // namespace
+
+VStatus ViewInParams(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output) {
+    VDiagCommSelection const selection = SelectDiagComm(arguments, database, output);
+    if (selection.diagComm == nullptr) {
+        return VStatus::NotThere;
+    }
+    return Answer(arguments, "Input parameters", *selection.diagComm, InParamsOf(selection), output);
+}
+
+VStatus ViewOutParams(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output) {
+    VDiagCommSelection const selection = SelectDiagComm(arguments, database, output);
+    if (selection.diagComm == nullptr) {
+        return VStatus::NotThere;
+    }
+    return Answer(arguments, "Output parameters", *selection.diagComm, OutParamsOf(selection, arguments.range), output);
+}
+
+} // namespace NCli

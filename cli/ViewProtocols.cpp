@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <fmt/format.h>
+
+#include <diagkit/cli/ElementFinder.h>
+#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/Text.h>
+#include <diagkit/cli/ViewText.h>
+#include <diagkit/cli/Views.h>
+#include <diagkit/tools/ProtocolView.h>
+
+namespace NCli {
+namespace {
+
+VStatus Answer(VArguments const& arguments, NODX201::VOdxElement const& context, NDIAGKIT::VProtocolView& view,
+               VOutput& output) {
+    std::vector<NODX201::VOdxElement const*> entries;
+    std::vector<std::string> notes;
+    for (NODX201::VProtocol& protocol : view) {
+        entries.push_back(&protocol);
+        notes.emplace_back();
+    }
+    if (arguments.isJson) {
+        WriteViewAsJson(arguments.kind, context, entries, output);
+    } else {
+        WriteEntries(fmt::format("PROTOCOLs of {} {}", TagTextOf(context), ShownName(context)), entries, notes, output);
+    }
+    return VStatus::Done;
+}
+
+} // namespace
+
+VStatus ViewProtocols(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output) {
+    if (!arguments.container.empty()) {
+        NODX201::VDiagLayerContainer* const container = FindContainer(database, arguments.container, output);
+        if (container == nullptr) {
+            return VStatus::NotThere;
+        }
+        NDIAGKIT::VProtocolView view(*container);
+        return Answer(arguments, *container, view, output);
+    }
+    NODX201::VDiagLayer* const layer = FindLayer(database, arguments.layer, output);
+    if (layer == nullptr) {
+        return VStatus::NotThere;
+    }
+    auto* const baseVariant = dynamic_cast<NODX201::VBaseVariant*>(layer);
+    if (baseVariant == nullptr) {
+        output.Complain(
+            fmt::format("{} is no BASE-VARIANT; protocols are asked of a BASE-VARIANT or a container", Titled(*layer)));
+        return VStatus::NotThere;
+    }
+    NDIAGKIT::VProtocolView view(*baseVariant);
+    return Answer(arguments, *baseVariant, view, output);
+}
+
+} // namespace NCli

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <diagkit/cli/Output.h>
+#include <diagkit/model/Layers.h>
+
+/// Views as text for people.
+
+namespace NCli {
+
+/// The entries of a layer's view in groups by the layer they stand in: the own ones first, then the others in the order
+/// in which they first occur.
+void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& layer,
+                          std::vector<NODX201::VOdxElement const*> const& entries, VOutput& output);
+
+/// The entries of a view in view order, each with a note.
+void WriteEntries(std::string_view title, std::vector<NODX201::VOdxElement const*> const& entries,
+                  std::vector<std::string> const& notes, VOutput& output);
+
+/// The way to an element from the layer, document or job that it stands in: "POS-RESPONSE PR_Status".
+std::string PathTo(NODX201::VOdxElement const& element);
+
+/// What an element is, for columns: its tag, and a parameter's type beside it.
+std::string KindOf(NODX201::VOdxElement const& element);
+
+} // namespace NCli

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <diagkit/cli/Commands.h>
+#include <diagkit/cli/Platform.h>
+
+namespace NCli {
+namespace {
+
+struct VCommand {
+    char const* name;
+    char const* help;
+    void (*declare)(CLI::App& command, VArguments& arguments);
+    VStatus (*run)(VArguments const& arguments, VOutput& output);
+};
+
+// clang-format off
+constexpr std::array kCommands{
+    VCommand{"info",    "Documents, model versions and how many elements of each kind", &DeclareFiles,   &RunInfo},
+    VCommand{"layers",  "The diagnostic layers and what they inherit from",             &DeclareFiles,   &RunLayers},
+    VCommand{"view",    "What is visible in a layer, with the layer it comes from",     &DeclareView,    &RunView},
+    VCommand{"resolve", "What a short name means in a layer, service, job or flash",    &DeclareResolve, &RunResolve},
+    VCommand{"enums",   "The literals of the ODX enumerations and their values",        &DeclareEnums,   &RunEnums},
+};
+// clang-format on
+
+void Declare(CLI::App& program, VArguments& arguments) {
+    program.set_version_flag("--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
+    program.require_subcommand(1);
+    program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    program.get_formatter()->label("Subcommands", "Commands");
+    for (VCommand const& row : kCommands) {
+        CLI::App& command = *program.add_subcommand(row.name, row.help);
+        row.declare(command, arguments);
+        DeclareCommonOptions(command, arguments);
+    }
+}
+
+VStatus RunCommand(CLI::App const& program, VArguments const& arguments, VOutput& output) {
+    std::string const name = program.get_subcommands().front()->get_name();
+    auto const row = std::find_if(kCommands.begin(), kCommands.end(),
+                                  [&name](VCommand const& candidate) { return name == candidate.name; });
+    return row->run(arguments, output);
+}
+
+VStatus Run(std::vector<std::string> words, VOutput& output) {
+    CLI::App program("Answers questions about ODX 2.0.1 diagnostic data", "diagkit");
+    VArguments arguments;
+    Declare(program, arguments);
+    try {
+        std::reverse(words.begin(), words.end()); // CLI11 takes the last word first
+        program.parse(std::move(words));
+    } catch (CLI::CallForHelp const&) {
+        output.Write(program.help());
+        return VStatus::Done;
+    } catch (CLI::CallForVersion const& version) {
+        output.Write(fmt::format("{}\n", version.what()));
+        return VStatus::Done;
+    } catch (CLI::ParseError const& error) {
+        output.Complain(fmt::format("{}; see --help", error.what()));
+        return VStatus::Usage;
+    }
+    return RunCommand(program, arguments, output);
+}
+
+int Main(int count, char** words) {
+    VOutput output;
+    VStatus status = VStatus::Unreadable;
+    try {
+        PreparePlatform();
+        status = Run(ArgumentsInUtf8(count, words), output);
+    } catch (std::exception const& exception) {
+        output.Complain(exception.what());
+    }
+    if (!output.Finish()) {
+        status = VStatus::Unreadable;
+    }
+    return static_cast<int>(status);
+}
+
+} // namespace
+} // namespace NCli
+
+int main(int count, char** words) { return NCli::Main(count, words); }

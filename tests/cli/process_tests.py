@@ -1,0 +1,166 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Tests of diagkit that need more than a call and its answer: help, full disks, terminals, packages, limits.
+
+    process_tests.py PROGRAM...
+"""
+
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+import zipfile
+
+DATA = pathlib.Path(__file__).resolve().parent / "data"
+IS_POSIX = os.name == "posix"
+PROGRAM = []
+
+
+def run(*arguments, **options):
+    """The call with all that it wrote, as text."""
+    options.setdefault("stdout", subprocess.PIPE)
+    return subprocess.run(
+        [*PROGRAM, *map(str, arguments)],
+        cwd=DATA,
+        stdin=subprocess.DEVNULL,
+        stderr=subprocess.PIPE,
+        encoding="utf-8",
+        **options,
+    )
+
+
+class HelpAndVersion(unittest.TestCase):
+    def test_version_of_program_and_of_commands(self):
+        for arguments in (["--version"], ["info", "--version"], ["view", "--version"]):
+            done = run(*arguments)
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
+            self.assertRegex(done.stdout, r"\Adiagkit \d+\.\d+\.\d+\n\Z")
+
+    def test_help_names_every_command(self):
+        done = run("--help")
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        for command in ("info", "layers", "view"):
+            self.assertRegex(done.stdout, rf"(?m)^ +{command} ")
+
+    def test_help_of_a_command_names_its_options(self):
+        for command in ("info", "layers", "view"):
+            done = run(command, "--help")
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
+            for option in ("--json", "--strict", "--quiet", "--help", "--version", "--max-member-size"):
+                self.assertIn(option, done.stdout)
+
+
+class Writing(unittest.TestCase):
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_full_disk_is_status_3_with_a_message(self):
+        calls = (
+            ["--version"],
+            ["layers", "--help"],
+            ["layers", "gates.odx-d"],
+            ["info", "--json", "--quiet", "gates.odx-d"],
+            ["view", "diag-comms", "gates.odx-d", "--layer", "Door"],
+        )
+        for arguments in calls:
+            with self.subTest(arguments), open("/dev/full", "w", encoding="utf-8") as full:
+                done = run(*arguments, stdout=full)
+                self.assertEqual(done.returncode, 3)
+                self.assertRegex(done.stderr, r"\Adiagkit: standard output: .+\n\Z")
+
+    @unittest.skipUnless(IS_POSIX, "needs a stream that can be closed")
+    def test_closed_standard_output_is_status_3(self):
+        done = run("layers", "gates.odx-d", preexec_fn=lambda: os.close(1))
+        self.assertEqual(done.returncode, 3)
+
+    def test_a_pipe_gets_no_colour_and_no_progress(self):
+        done = run("layers", "gates.odx-d")
+        self.assertNotIn("\x1b", done.stdout + done.stderr)
+
+
+@unittest.skipUnless(IS_POSIX, "needs pseudo terminals")
+class Terminals(unittest.TestCase):
+    def run_on_terminal(self, *arguments, **environment):
+        """What a call writes when both its output streams are one terminal."""
+        import pty
+
+        outer, inner = pty.openpty()
+        variables = {name: text for name, text in os.environ.items() if name != "NO_COLOR"}
+        child = subprocess.Popen(
+            [*PROGRAM, *arguments], cwd=DATA, stdout=inner, stderr=inner, env={**variables, **environment}
+        )
+        os.close(inner)
+        written = b""
+        try:
+            while block := os.read(outer, 65536):
+                written += block
+        except OSError:  # the other end is closed
+            pass
+        os.close(outer)
+        self.assertEqual(child.wait(), 0)
+        return written.decode("utf-8")
+
+    def test_headings_are_emphasised(self):
+        self.assertIn("\x1b[1m1 layer in 1 container\x1b[0m", self.run_on_terminal("layers", "gates.odx-d"))
+
+    def test_no_color_is_obeyed(self):
+        self.assertNotIn("\x1b", self.run_on_terminal("layers", "gates.odx-d", NO_COLOR="1"))
+
+    def test_json_has_no_colour(self):
+        answer = self.run_on_terminal("layers", "--json", "gates.odx-d")
+        self.assertEqual(json.loads(answer)["layers"][0]["short_name"], "Door")
+
+
+class Packages(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.package = pathlib.Path(folder.name) / "Doors.pdx"
+
+    def pack(self, **texts):
+        """A package of the data files that are named, and of members with these texts."""
+        with zipfile.ZipFile(self.package, "w", zipfile.ZIP_DEFLATED) as package:
+            for name in ("comparams.odx-c", "protocols.odx-d", "gates.odx-d"):
+                package.write(DATA / name, name)
+            for name, text in texts.items():
+                package.writestr(name + ".odx-d", text)
+
+    def test_documents_name_package_and_member(self):
+        self.pack()
+        done = run("info", "--json", self.package)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        files = {document["file"] for document in json.loads(done.stdout)["documents"]}
+        self.assertEqual(files, {f"{self.package}!{name}" for name in ("comparams.odx-c", "protocols.odx-d", "gates.odx-d")})
+
+    def test_a_member_that_cannot_be_read_is_left_out(self):
+        self.pack(broken="<ODX><DIAG-LAYER-CONTAINER>")
+        done = run("layers", "--json", self.package)
+        self.assertEqual(done.returncode, 0)
+        self.assertEqual([layer["short_name"] for layer in json.loads(done.stdout)["layers"]], ["Door", "UDS", "Library"])
+        self.assertRegex(done.stderr, rf"{re.escape(str(self.package))}!broken\.odx-d:\d+:\d+: error: ")
+
+    def test_strict_does_not_pass_such_a_member(self):
+        self.pack(broken="<ODX><DIAG-LAYER-CONTAINER>")
+        done = run("layers", "--json", "--strict", self.package)
+        self.assertEqual((done.returncode, done.stdout), (3, ""))
+
+    def test_a_member_over_the_limit_is_left_out(self):
+        self.pack(large="<ODX>" + " " * 100000 + "</ODX>")
+        done = run("layers", "--json", "--max-member-size", "64K", self.package)
+        self.assertEqual((done.returncode, len(json.loads(done.stdout)["layers"])), (0, 3))
+        self.assertRegex(done.stderr, r"!large\.odx-d: error: ")
+
+    def test_what_is_over_the_limit_for_packages_is_an_error(self):
+        self.pack()
+        done = run("layers", "--json", "--strict", "--max-package-size", "1K", self.package)
+        self.assertEqual((done.returncode, done.stdout), (3, ""))
+        self.assertIn(": error: ", done.stderr)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        raise SystemExit(__doc__)
+    PROGRAM = [str(pathlib.Path(word).resolve()) if pathlib.Path(word).exists() else word for word in sys.argv[1:]]
+    unittest.main(argv=sys.argv[:1], verbosity=2)

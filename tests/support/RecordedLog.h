@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <diagkit/logging/SharedLogger.h>
+
+namespace NTest {
+
+/// As long as it lives, it is the shared logger's listener; afterwards the logger is as before.
+class VRecordedLog : public NLogging::ILogListener {
+public:
+    using VLine = std::pair<int, std::wstring>; ///< severity and message
+
+    VRecordedLog();
+    ~VRecordedLog() override;
+
+    void Log(int severity, std::wstring const& message) override;
+
+    std::vector<VLine> const& Lines() const { return m_lines; }
+
+private:
+    std::vector<VLine> m_lines;
+    NLogging::ILogListener* m_before;
+    bool m_wasEnabled;
+};
+
+} // namespace NTest
