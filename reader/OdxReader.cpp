@@ -54,6 +54,7 @@ private:
     VReading& m_reading;
     VReadOptions const& m_options;
     std::uint64_t m_packageLeft = 0;
+    bool m_isPackageTooLarge = false;
     std::uint64_t m_done = 0;
     std::uint64_t m_all = 0;
 };
@@ -140,12 +141,20 @@ bool VSession::ReadPackage(std::string const& file) {
         return Fail(file, {{}, "no-package", "the package holds no ODX document (no member named .odx, .odx-d, ...)"});
     }
     m_packageLeft = m_options.maxPackageSize;
+    m_isPackageTooLarge = false;
+    bool isAnyRead = false;
     for (VPackage::VMember const& member : package.Documents()) {
         // A member that cannot be read is reported and left out; the rest is loaded.
-        ReadMember(package, member, file + '!' + member.name);
+        isAnyRead = ReadMember(package, member, file + '!' + member.name) || isAnyRead;
         Progress(member.compressedSize);
+        if (m_isPackageTooLarge) {
+            return Fail(file,
+                        {{},
+                         "too-large",
+                         "the package unpacks to more than " + std::to_string(m_options.maxPackageSize) + " bytes"});
+        }
     }
-    return true;
+    return isAnyRead || Fail(file, {{}, "no-package", "none of the documents in the package can be read"});
 }
 
 bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, std::string const& name) {
@@ -162,9 +171,8 @@ bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, st
             reason);
         m_packageLeft = left - std::min(unpacked, left);
         if (outcome == VPackage::VOutcome::TooLarge) {
-            reason = limit < m_options.maxMemberSize
-                         ? "the package unpacks to more than " + std::to_string(m_options.maxPackageSize) + " bytes"
-                         : "the member unpacks to more than " + std::to_string(m_options.maxMemberSize) + " bytes";
+            m_isPackageTooLarge = limit < m_options.maxMemberSize;
+            reason = "the member unpacks to more than " + std::to_string(limit) + " bytes";
         }
         return outcome == VPackage::VOutcome::Done || outcome == VPackage::VOutcome::Stopped;
     });

@@ -113,4 +113,20 @@ NODX201::IOutParamIf* VOutParamIfView::FindParam(wchar_t const* shortName, NODX2
     return found;
 }
 
+void VOutParamIfView::Remove(Iterator iter) {
+    ForgetSearchRoot(iter.Unwrap());
+    VListView::Remove(iter);
+}
+
+void VOutParamIfView::_Remove(List::iterator position) {
+    ForgetSearchRoot(position);
+    VListView::_Remove(position);
+}
+
+void VOutParamIfView::ForgetSearchRoot(List::iterator position) {
+    if (position != m_collection.end()) {
+        m_searchRoots.remove(dynamic_cast<NODX201::VParam*>(*position));
+    }
+}
+
 } // namespace NDIAGKIT

@@ -60,10 +60,18 @@ public:
     NODX201::IOutParamIf* FindParam(wchar_t const* shortName,
                                     NODX201::VDiagLayer& layer); ///< null when nothing matches
 
+    using VListView<VOutParamIfViewTraits>::Remove;
+    void Remove(Iterator iter); ///< as in `VListView`; the search does not look below a destroyed parameter any more
+
     class VParamRecursivSearchVisitor;
+
+protected:
+    void _Remove(List::iterator position); ///< destroys the element
 
 private:
     VOutParamIfView();
+
+    void ForgetSearchRoot(List::iterator position);
 
     std::list<NODX201::VParam*> m_searchRoots; // every parameter of the selected request and responses, of any kind
     VStringContainer m_notInherited;           // never filled

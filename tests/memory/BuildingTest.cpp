@@ -287,6 +287,21 @@ TEST_F(BuildingTest, AParentRefKeepsReferenceExclusionsAndPlaceWhenItsKindChange
     VerifyModel(m_database);
 }
 
+TEST_F(BuildingTest, AParentRefKeepsItsEmptyExclusionsWhenItsKindChanges) {
+    auto& library = m_container.AddEcuSharedData(L"Lib");
+    auto& door = m_container.AddBaseVariant(L"Door");
+    auto& bare = door.AddParentRef(NMemory::VParentRefKind::Unknown, library);
+    auto& wrapped = door.AddParentRef(NMemory::VParentRefKind::Unknown, library);
+    wrapped.MakeNotInheritedDiagCommCollection();
+    wrapped.MakeNotInheritedVariableCollection();
+    auto& changedBare = door.ChangeParentRefKind(bare, NMemory::VParentRefKind::EcuSharedData).ParentRef();
+    auto& changedWrapped = door.ChangeParentRefKind(wrapped, NMemory::VParentRefKind::EcuSharedData).ParentRef();
+    EXPECT_FALSE(changedBare.HasNotInheritedDiagCommCollection());
+    EXPECT_FALSE(changedBare.HasNotInheritedVariableCollection());
+    EXPECT_TRUE(changedWrapped.HasNotInheritedDiagCommCollection());
+    EXPECT_TRUE(changedWrapped.HasNotInheritedVariableCollection());
+}
+
 TEST_F(BuildingTest, AReferenceToAnElementWithoutAnIdGivesItOne) {
     auto& protocol = m_container.AddProtocol(L"UDS");
     auto& request = protocol.AddRequest(L"Request");

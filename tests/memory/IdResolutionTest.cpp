@@ -71,35 +71,36 @@ TEST_F(IdResolutionTest, DoctypeTellsALayerFromAContainerOfTheSameName) {
     EXPECT_EQ(Hit(own, L"Second", L"CONTAINER"), L"InTheContainer");
 }
 
-TEST_F(IdResolutionTest, TheOtherDoctypesNameTheirKindsOfDocument) {
-    // A DOP of one ID in each kind of document, all documents of one name.
-    m_first.SetShortName(L"Doc");
-    auto& layer = m_first.AddProtocol(L"Own");
-    auto& comparams = m_database.AddComparamSpec(L"Doc");
-    auto& jobs = m_database.AddMultipleEcuJobSpec(L"Doc");
-    layer.MakeDiagDataDictionarySpec().AddDataObjectProp(L"InContainer").SetId(L"D");
-    comparams.AddDataObjectProp(L"InComparams").SetId(L"D");
-    jobs.MakeDiagDataDictionarySpec().AddDataObjectProp(L"InJobs").SetId(L"D");
-    auto& job = layer.AddSingleEcuJob(L"Job");
-    auto const hit = [&](wchar_t const* doctype) -> std::wstring {
-        auto& link = job.AddInputParam(L"In").SetDopBaseRef(VReference::ById(L"D", L"Doc", doctype));
-        return link.HasDopBase(layer) ? link.GetDopBase().GetShortName() : L"-";
-    };
-    EXPECT_EQ(hit(L"COMPARAM-SPEC"), L"InComparams");
-    EXPECT_EQ(hit(L"MULTIPLE-ECU-JOB-SPEC"), L"InJobs");
-    EXPECT_EQ(hit(L"CONTAINER"), L"InContainer");
+TEST_F(IdResolutionTest, DoctypeTellsALayerFromAContainerLoadedBeforeIt) {
+    auto& own = m_first.AddProtocol(L"Own");
+    AddX(own, L"InTheContainer");
+    AddX(m_second.AddProtocol(L"First"), L"InTheLayer");
+    EXPECT_EQ(Hit(own, L"First", L"LAYER"), L"InTheLayer");
+    EXPECT_EQ(Hit(own, L"First", L"CONTAINER"), L"InTheContainer");
 }
 
-TEST_F(IdResolutionTest, DoctypeFlashNamesAFlash) {
-    auto& flash = m_database.AddFlash(L"One");
-    auto& other = m_database.AddFlash(L"Two");
-    flash.AddEcuMem(L"InOne").SetId(L"M");
-    auto& inTwo = other.AddEcuMem(L"InTwo");
-    inTwo.SetId(L"M");
-    auto& connector = flash.AddEcuMemConnector(L"Connector");
-    auto& link = connector.SetEcuMemRef(VReference::ById(L"M", L"Two", L"FLASH"));
-    ASSERT_TRUE(link.HasEcuMem());
-    EXPECT_EQ(&link.GetEcuMem(), &inTwo);
+TEST_F(IdResolutionTest, EveryDoctypeNamesItsKindOfDocument) {
+    // A COMPANY-DATA of one ID in a document of each kind, all of one name.
+    auto const addCompany = [](auto& document, wchar_t const* shortName) {
+        document.AddCompanyData(shortName).SetId(L"C");
+    };
+    m_second.SetShortName(L"Doc");
+    addCompany(m_database.AddComparamSpec(L"Doc"), L"InComparamSpec");
+    addCompany(m_second, L"InContainer");
+    addCompany(m_database.AddFlash(L"Doc"), L"InFlash");
+    addCompany(m_first.AddProtocol(L"Doc"), L"InLayer");
+    addCompany(m_database.AddMultipleEcuJobSpec(L"Doc"), L"InMultipleEcuJobSpec");
+    auto& info = m_database.AddDiagLayerContainer(L"Own").MakeAdminData().AddCompanyDocInfo();
+    auto const hit = [&](wchar_t const* doctype) -> std::wstring {
+        auto& link = info.SetCompanyDataRef(VReference::ById(L"C", L"Doc", doctype));
+        return link.HasCompanyData() ? link.GetCompanyData().GetShortName() : L"-";
+    };
+    EXPECT_EQ(hit(L"COMPARAM-SPEC"), L"InComparamSpec");
+    EXPECT_EQ(hit(L"CONTAINER"), L"InContainer");
+    EXPECT_EQ(hit(L"FLASH"), L"InFlash");
+    EXPECT_EQ(hit(L"LAYER"), L"InLayer");
+    EXPECT_EQ(hit(L"MULTIPLE-ECU-JOB-SPEC"), L"InMultipleEcuJobSpec");
+    EXPECT_EQ(hit(L""), L"InComparamSpec") << "without DOCTYPE the first loaded";
 }
 
 // DOCREF that DOCTYPE does not help, or without DOCTYPE
@@ -358,6 +359,8 @@ TEST_F(IdResolutionTest, AnswersFollowWhatIsAddedRenamedAndRenumbered) {
     EXPECT_EQ(HitOf(link, own), L"InOther") << "another reference";
     inOther.SetId(L"");
     EXPECT_EQ(HitOf(link, own), L"-") << "no ID";
+    inOther.SetId(L"Y");
+    EXPECT_EQ(HitOf(link, own), L"InOther") << "an ID again";
 }
 
 TEST_F(IdResolutionTest, AnswersFollowAnImportThatIsAddedRedirectedAndRemoved) {

@@ -29,6 +29,7 @@ TEST(TextPoolTest, TheEmptyTextIsEmpty) {
     NMemory::VTextPool pool;
     EXPECT_STREQ(pool.Store(L""), L"");
     EXPECT_STREQ(pool.Store(std::wstring_view()), L"");
+    EXPECT_EQ(pool.Store(L""), pool.Store(std::wstring_view()));
 }
 
 TEST(TextPoolTest, AddressesStayValidWhateverIsStoredLater) {

@@ -220,10 +220,10 @@ TEST_F(VBadInputTest, BrokenMemberIsLeftOutWhole) {
     EXPECT_EQ(Database().GetIdIndex().Find(L"BV"), nullptr);
 }
 
-TEST_F(VBadInputTest, PackageOfBrokenMembersGivesAnEmptyDatabase) {
+TEST_F(VBadInputTest, PackageOfBrokenMembersIsRefused) {
     ReadFiles({WritePackage("a.pdx", {{"a.odx-d", "<ODX"}})});
-    EXPECT_EQ(Names(), L"");
-    EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:1:1 error not-xml");
+    EXPECT_EQ(m_result.database, nullptr);
+    EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:1:1 error not-xml\na.pdx:0:0 error no-package");
 }
 
 TEST_F(VBadInputTest, CorruptMembersAreLeftOut) {
@@ -282,11 +282,11 @@ TEST_F(VBadInputTest, SizeOfAPackageIsLimited) {
     m_options.maxPackageSize = 3 * size;
     ReadFiles({path});
     EXPECT_EQ(Names(), L"A B C");
-    m_options.maxPackageSize = 2 * size;
+    m_options.maxPackageSize = 3 * size - 1;
     ReadFiles({path});
-    EXPECT_EQ(Names(), L"A B");
-    EXPECT_EQ(Diagnostics(), "a.pdx!c.odx-d:0:0 error unreadable");
-    EXPECT_EQ(Message(0), "cannot be read: the package unpacks to more than " + std::to_string(2 * size) + " bytes");
+    EXPECT_EQ(m_result.database, nullptr);
+    EXPECT_EQ(Diagnostics(), "a.pdx!c.odx-d:0:0 error unreadable\na.pdx:0:0 error too-large");
+    EXPECT_EQ(Message(1), "the package unpacks to more than " + std::to_string(3 * size - 1) + " bytes");
 }
 
 TEST_F(VBadInputTest, MemberThatIsReadAgainInAnotherEncodingCountsOnceAgainstTheLimit) {
@@ -299,17 +299,18 @@ TEST_F(VBadInputTest, MemberThatIsReadAgainInAnotherEncodingCountsOnceAgainstThe
 
 TEST_F(VBadInputTest, SizeInTheHeaderIsNotBelieved) {
     std::string const large = Named("A") + std::string(100000, '\n');
-    WritePackage("a.pdx", {{"a.odx-d", large}});
+    WritePackage("a.pdx", {{"a.odx-d", large}, {"b.odx-d", Named("B")}});
     Patch("a.pdx", [](std::string& bytes) {
-        auto const entry = bytes.rfind("PK\x01\x02");
+        auto const entry = bytes.find("PK\x01\x02");
         for (std::size_t const at : {entry + 24, std::size_t{22}}) {
             std::copy_n("\x0A\0\0\0", 4, bytes.begin() + static_cast<std::ptrdiff_t>(at));
         }
     });
     m_options.maxMemberSize = 5000;
     ReadFiles({Path("a.pdx")});
-    EXPECT_EQ(Names(), L"");
+    EXPECT_EQ(Names(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:0:0 error unreadable");
+    EXPECT_EQ(Message(0), "cannot be read: the member unpacks to more than 5000 bytes");
 }
 
 TEST_F(VBadInputTest, ProgressGrowsAndNeverPassesTheWhole) {

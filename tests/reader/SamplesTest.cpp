@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <fstream>
 #include <iostream>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -15,8 +13,6 @@
 
 namespace NTest {
 namespace {
-
-namespace fs = std::filesystem;
 
 class VSamplesTest : public VReaderTest {
 protected:
@@ -116,39 +112,6 @@ TEST_F(VSamplesTest, EveryElementClassOfTheModelIsReached) {
         EXPECT_EQ(count > 0, isExpected) << row.name << " has " << count << " elements";
     }
     std::cout << table.str();
-}
-
-// Abstract and concrete classes
-
-std::string TextOf(fs::path const& folder) {
-    std::string text;
-    for (auto const& file : fs::directory_iterator(folder)) {
-        if (file.path().extension() == ".h") {
-            std::ifstream stream(file.path());
-            text += std::string(std::istreambuf_iterator<char>(stream), {});
-        }
-    }
-    return text;
-}
-
-TEST_F(VSamplesTest, EveryAbstractClassOfTheContractHasAConcreteOne) {
-    std::string const model = TextOf(fs::path(DIAGKIT_SOURCES) / "model");
-    std::string const memory = TextOf(fs::path(DIAGKIT_SOURCES) / "memory");
-    std::regex const declaration(R"(\bclass (?:DIAGKIT_EXPORT )?(V\w+)(?: final)? ?(?::[^{;]*)?\{)");
-    // Served by programs, not by a database.
-    std::regex const served(R"(V\w+(Visitor|Collection|Resolver|Iterator)|VLink|VOdxObject)");
-    std::size_t leaves = 0;
-    for (std::sregex_iterator match(model.begin(), model.end(), declaration), end; match != end; ++match) {
-        std::string const name = (*match)[1];
-        bool const isBase = std::regex_search(model, std::regex("public " + name + "\\b"));
-        if (isBase || std::regex_match(name, served)) {
-            continue;
-        }
-        ++leaves;
-        EXPECT_TRUE(std::regex_search(memory, std::regex("NODX201::" + name + "\\b")))
-            << name << " has no class in memory/";
-    }
-    EXPECT_GT(leaves, 100U);
 }
 
 } // namespace

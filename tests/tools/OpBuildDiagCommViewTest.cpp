@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildDiagCommView.h>
 
+#include <functional>
 #include <type_traits>
 
 #include "support/GraphTest.h"

@@ -16,11 +16,11 @@ static_assert(std::is_same_v<decltype(*std::declval<VInParamIfView&>().Begin()),
 
 class VOpenView : public VInParamIfView {
 public:
-    using VInParamIfView::VInParamIfView;
     using VInParamIfView::_Find;
     using VInParamIfView::_Insert;
     using VInParamIfView::_Remove;
     using VInParamIfView::m_collection;
+    using VInParamIfView::VInParamIfView;
 };
 
 class InParamIfViewTest : public VParamTest {};
