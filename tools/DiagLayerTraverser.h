@@ -22,8 +22,7 @@ namespace NDIAGKIT {
 /// Leaving a DIAG-COMM sets the current one to null; it is not restored, so after a nested DIAG-COMM there is none for
 /// the rest of the outer one.
 ///
-/// There is no guard: related DIAG-COMMs that name each other recurse without end; `VGuardedDiagLayerTraverser` never
-/// enters an element that it is in the middle of.
+/// There is no guard: related DIAG-COMMs that name each other recurse without end.
 class DIAGKIT_EXPORT VDiagLayerTraverser : public NODX201::VDiagLayerVisitor,
                                            public NODX201::VDiagCommVisitor,
                                            public VDiagDataDictionarySpecTraverser {
