@@ -24,7 +24,7 @@ NReader::VReadResult Read(VArguments const& arguments) {
 
 void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
     for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        std::string const line = FormatDiagnostic(diagnostic) + "\n";
+        std::string const line = Shown(FormatDiagnostic(diagnostic)) + "\n"; // one a line, whatever the data holds
         std::fwrite(line.data(), 1, line.size(), stderr);
     }
 }

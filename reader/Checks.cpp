@@ -50,7 +50,11 @@ void GiveParentRefsTheirKinds(VReading& reading) {
         if (*link.GetIdRef() == L'\0') {
             continue; // reported as an attribute that is missing
         }
-        if (untyped.HasDiagLayer()) {
+        if (untyped.HasDiagLayer() && &untyped.GetDiagLayer() == untyped.GetOwner()) {
+            reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-itself",
+                                 TagOf(untyped.GetDiagLayer()) + ' ' + Quoted(untyped.GetDiagLayer()) +
+                                     " names itself as a parent");
+        } else if (untyped.HasDiagLayer()) {
             reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-kind",
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
                                      Quoted(untyped.GetDiagLayer()) + ", from which nothing can be inherited");

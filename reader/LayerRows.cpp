@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Loader.h>
 #include <diagkit/reader/RowParts.h>
 
 // The five kinds of layer and their parts.
@@ -340,6 +341,10 @@ VElementType const& TypeOf(VMemEcuSharedData*) {
     static VElementType const type = IdentTable<T>({}, Join(LayerHead<T>(), {
         DiagVariablesRow<T>(),
         VariableGroupsRow<T>(),
+        VRows<T>::Special("PARENT-REFS", Optional, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
+            loader.Report(VSeverity::Error, "parent-kind", "an ECU-SHARED-DATA has no parents; its PARENT-REFS are left out");
+            return VOpened{};
+        }),
     }));
     return type;
 }

@@ -102,6 +102,15 @@ bool VSession::ReadFile(std::string const& file) {
     if (fs::is_directory(status)) {
         return Fail(file, {{}, "no-file", "is a folder; name the ODX documents or packages in it"});
     }
+    if (fs::is_fifo(status)) {
+        return Fail(file, {{}, "no-file", "is a pipe, which cannot be read twice; save it to a file first"});
+    }
+    if (std::ifstream(path, std::ios::binary).fail()) {
+        return Fail(file, {{}, "unreadable", std::string("cannot be read: ") + std::strerror(errno)});
+    }
+    if (fs::is_regular_file(status) && fs::file_size(path, error) == 0) {
+        return Fail(file, {{}, "empty", "is empty"});
+    }
     if (StartsLikeZip(file)) {
         return ReadPackage(file);
     }

@@ -32,6 +32,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kDeclaration = "<?xml";
+constexpr std::size_t kLongestHead = 64 * 1024; // blanks that go on beyond it are the parser's to judge
 
 bool StartsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
 
@@ -146,7 +147,7 @@ bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
         return Parse(bytes, isLast);
     }
     m_state->head += bytes;
-    if (!isLast && !IsHeadComplete(m_state->head)) {
+    if (!isLast && m_state->head.size() < kLongestHead && !IsHeadComplete(m_state->head)) {
         return true;
     }
     m_state->isBegun = true;

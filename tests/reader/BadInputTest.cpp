@@ -165,7 +165,7 @@ TEST_F(VBadInputTest, PackageThatIsNoArchiveIsRefused) {
     ReadFiles({Write("a.pdx", "no archive")});
     ExpectRefused("a.pdx:0:0 error no-package", "not a zip archive");
     ReadFiles({Write("b.ZIP", "")});
-    ExpectRefused("b.ZIP:0:0 error no-package", "not a zip archive");
+    ExpectRefused("b.ZIP:0:0 error empty", "is empty");
     ReadFiles({Write("c.pdx", "PK\x03\x04 and no more")});
     ExpectRefused("c.pdx:0:0 error no-package", "the package cannot be read: ");
 }
