@@ -34,7 +34,8 @@ bool VMemDopBaseLink::HasDopBase(NODX201::VDiagLayer& layer) {
         return FindById();
     }
     NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
-    return Remember(resolver != nullptr ? resolver->ResolveDopBaseSnref(shortName, layer) : nullptr);
+    bool const canAsk = resolver != nullptr && !IsSevered();
+    return Remember(canAsk ? resolver->ResolveDopBaseSnref(shortName, layer) : nullptr);
 }
 
 bool VMemDataObjectPropLink::HasDataObjectProp(NODX201::VDiagLayer& layer) {

@@ -37,6 +37,37 @@ bool IsParentAllowed(Tag layer, Tag parent) {
     return false;
 }
 
+std::string Named(NODX201::VOdxLink const& link) {
+    std::string text = "the ID " + Quoted(link.GetIdRef());
+    if (*link.GetDocref() != L'\0') {
+        text += " in " + Quoted(link.GetDocref());
+    }
+    return text;
+}
+
+/// A reference by ID, which stands at `node`, has no target.
+void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference) {
+    auto const& link = dynamic_cast<NODX201::VOdxLink const&>(reference.GetLink());
+    if (*link.GetIdRef() == L'\0') {
+        return; // reported as an attribute that is missing
+    }
+    std::string const what = TagOf(reference) + " names " + Named(link);
+    if (auto const leftOut = reading.idsLeftOut.find(ToUtf8(link.GetIdRef())); leftOut != reading.idsLeftOut.end()) {
+        reading.findings.Add(node.GetPosition(), VSeverity::Warning, "target-left-out",
+                             what + ", a " + leftOut->second + ", for which the model has no place");
+        return;
+    }
+    auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
+    if (others == nullptr) {
+        reading.findings.Add(node.GetPosition(), VSeverity::Error, "unresolved-reference",
+                             what + ", which no loaded element has; load the document that holds it too");
+        return;
+    }
+    reading.findings.Add(node.GetPosition(), VSeverity::Error, "reference-kind",
+                         what + ", which is the " + TagOf(*others->first) + ' ' + Quoted(*others->first) +
+                             " and not what the reference wants");
+}
+
 void GiveParentRefsTheirKinds(VReading& reading) {
     for (VPendingParentRef const& pending : reading.parentRefs) {
         auto& untyped = dynamic_cast<NMemory::VMemParentRef&>(pending.parentRef->ParentRef());
@@ -45,10 +76,6 @@ void GiveParentRefsTheirKinds(VReading& reading) {
         if (kind != VParentRefKind::Unknown) {
             pending.changeKind(*pending.parentRef, kind);
             continue;
-        }
-        auto const& link = dynamic_cast<NODX201::VOdxLink const&>(untyped.GetLink());
-        if (*link.GetIdRef() == L'\0') {
-            continue; // reported as an attribute that is missing
         }
         if (untyped.HasDiagLayer() && &untyped.GetDiagLayer() == untyped.GetOwner()) {
             reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-itself",
@@ -59,47 +86,15 @@ void GiveParentRefsTheirKinds(VReading& reading) {
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
                                      Quoted(untyped.GetDiagLayer()) + ", from which nothing can be inherited");
         } else {
-            reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "unresolved-reference",
-                                 "PARENT-REF names the ID " + Quoted(link.GetIdRef()) +
-                                     ", which no loaded layer has; load the document that holds it too");
+            ReportUnresolved(reading, untyped, untyped);
         }
     }
-}
-
-std::string Named(NODX201::VOdxLink const& link) {
-    std::string text = "the ID " + Quoted(link.GetIdRef());
-    if (*link.GetDocref() != L'\0') {
-        text += " in " + Quoted(link.GetDocref());
-    }
-    return text;
-}
-
-void ReportUnresolved(VReading& reading, VPendingLink const& pending) {
-    auto const& link = dynamic_cast<NODX201::VOdxLink const&>(pending.link->GetLink());
-    if (*link.GetIdRef() == L'\0') {
-        return; // reported as an attribute that is missing
-    }
-    std::string const what = TagOf(*pending.link) + " names " + Named(link);
-    if (auto const leftOut = reading.idsLeftOut.find(ToUtf8(link.GetIdRef())); leftOut != reading.idsLeftOut.end()) {
-        reading.findings.Add(pending.node->GetPosition(), VSeverity::Warning, "target-left-out",
-                             what + ", a " + leftOut->second + ", for which the model has no place");
-        return;
-    }
-    auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
-    if (others == nullptr) {
-        reading.findings.Add(pending.node->GetPosition(), VSeverity::Error, "unresolved-reference",
-                             what + ", which no loaded element has; load the document that holds it too");
-        return;
-    }
-    reading.findings.Add(pending.node->GetPosition(), VSeverity::Error, "reference-kind",
-                         what + ", which is the " + TagOf(*others->first) + ' ' + Quoted(*others->first) +
-                             " and not what the reference wants");
 }
 
 void ReportUnresolvedReferences(VReading& reading) {
     for (VPendingLink const& pending : reading.links) {
         if (!pending.resolves(*pending.link)) {
-            ReportUnresolved(reading, pending);
+            ReportUnresolved(reading, *pending.node, *pending.link);
         }
     }
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/RowParts.h>
 
 // COMPU-METHOD, coded and physical types, constraints.
@@ -11,8 +12,7 @@ using namespace NMemory;
 
 VElementType const& TypeOf(VMemLimit*) {
     using T = VMemLimit;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetIntervalType>("INTERVAL-TYPE")});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetIntervalType, &Mapper::GetIntervalTypeStr>("INTERVAL-TYPE")});
     return type;
 }
 
@@ -111,7 +111,7 @@ VElementType const& TypeOf(VMemCompuMethod*) {
     using T = VMemCompuMethod;
     using R = VRows<T>;
     static VElementType const type = Table({}, {
-        R::Text<&T::SetCategory>("CATEGORY", Required, VContent::Name),
+        LiteralText<T, &T::SetCategory, &Mapper::GetCompuCategoryStr>("CATEGORY", Required),
         R::Child<&T::MakeCompuInternalToPhys>("COMPU-INTERNAL-TO-PHYS"),
         R::Child<&T::MakeCompuPhysToInternal>("COMPU-PHYS-TO-INTERNAL"),
     });
@@ -121,7 +121,7 @@ VElementType const& TypeOf(VMemCompuMethod*) {
 VElementType const& TypeOf(VMemScaleConstr*) {
     using T = VMemScaleConstr;
     using R = VRows<T>;
-    static VElementType const type = Table({R::Attribute<&T::SetValidity>("VALIDITY", Required, VContent::Name)}, {
+    static VElementType const type = Table({LiteralAttribute<T, &T::SetValidity, &Mapper::GetValidTypeStr>("VALIDITY", Required)}, {
         R::Text<&T::SetShortLabel>("SHORT-LABEL"),
         R::Markup<&T::SetDesc>("DESC"),
         R::Child<&T::MakeLowerLimit>("LOWER-LIMIT", Required),
@@ -145,8 +145,8 @@ VElementType const& TypeOf(VMemPhysicalType*) {
     using T = VMemPhysicalType;
     using R = VRows<T>;
     static VElementType const type = Table({
-        R::Attribute<&T::SetBaseDataType>("BASE-DATA-TYPE", Required, VContent::Name),
-        R::Attribute<&T::SetDisplayRadix>("DISPLAY-RADIX", Optional, VContent::Name),
+        LiteralAttribute<T, &T::SetBaseDataType, &Mapper::GetPhysicalDataTypeStr>("BASE-DATA-TYPE", Required),
+        LiteralAttribute<T, &T::SetDisplayRadix, &Mapper::GetRadixStr>("DISPLAY-RADIX"),
     }, {
         R::Text<&T::SetPrecision>("PRECISION", Optional, VContent::Uint),
     });
@@ -158,8 +158,8 @@ template <class T>
 std::vector<VAttributeRow> CodedTypeAttributes() {
     using R = VRows<T>;
     return {
-        R::template Attribute<&T::SetBaseTypeEncoding>("BASE-TYPE-ENCODING", Optional, VContent::Name),
-        R::template Attribute<&T::SetBaseDataType>("BASE-DATA-TYPE", Required, VContent::Name),
+        LiteralAttribute<T, &T::SetBaseTypeEncoding, &Mapper::GetEncodingStr>("BASE-TYPE-ENCODING"),
+        LiteralAttribute<T, &T::SetBaseDataType, &Mapper::GetDataTypeStr>("BASE-DATA-TYPE", Required),
         R::template Flag<&T::SetIsHighlowByteOrder>("IS-HIGHLOW-BYTE-ORDER"),
     };
 }
@@ -186,7 +186,7 @@ VElementType const& TypeOf(VMemLeadingLengthInfoType*) {
 VElementType const& TypeOf(VMemMinMaxLengthType*) {
     using T = VMemMinMaxLengthType;
     using R = VRows<T>;
-    static VElementType const type = Table(Join(CodedTypeAttributes<T>(), std::vector<VAttributeRow>{R::Attribute<&T::SetTermination>("TERMINATION", Required, VContent::Name)}), {
+    static VElementType const type = Table(Join(CodedTypeAttributes<T>(), std::vector<VAttributeRow>{LiteralAttribute<T, &T::SetTermination, &Mapper::GetTerminationStr>("TERMINATION", Required)}), {
         R::Text<&T::SetMaxLength>("MAX-LENGTH", Optional, VContent::Uint),
         R::Text<&T::SetMinLength>("MIN-LENGTH", Required, VContent::Uint),
     });

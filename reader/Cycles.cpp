@@ -1,105 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/Cycles.h>
 
-#include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
-#include <vector>
 
+#include <diagkit/reader/Containment.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NReader {
 namespace {
 
-using namespace NMemory;
+using VDops = std::vector<NODX201::VDopBase*>;
 
-/// A way from one DOP into another: by a reference, or by standing inside it.
-struct VEdge {
-    NODX201::VDopBase* target;
-    VMemNode* node = nullptr; ///< the reference; null where the target stands inside
-    std::function<void()> sever{};
-};
-
-using VEdges = std::vector<VEdge>;
-
-template <class Link, class Get>
-void AddLink(VEdges& edges, Link& link, Get get) {
-    if (link.ResolvesById()) {
-        edges.push_back({&get(link), &link, [&link] { link.Sever(); }});
-    }
-}
-
-void AddStructure(VEdges& edges, VMemStructureLink& link) {
-    AddLink(edges, link, [](VMemStructureLink& self) -> NODX201::VDopBase& { return self.GetStructure(); });
-}
-
-void AddParams(VEdges& edges, NODX201::VParamCollection& params) {
-    for (NODX201::VParam& param : params) {
-        auto* const value = dynamic_cast<VMemValue*>(&param);
-        if (value != nullptr && value->HasDopBaseLink()) {
-            AddLink(edges, value->GetDopBaseLink(),
-                    [](VMemDopBaseLink& self) -> NODX201::VDopBase& { return self.GetDopBase(); });
-        }
-    }
-}
-
-void AddField(VEdges& edges, NODX201::VField& field) {
-    if (field.HasBasicStructureEnvDataDescChoice()) {
-        NODX201::IBasicStructureEnvDataDescChoice& choice = field.GetBasicStructureEnvDataDescChoice();
-        if (auto* const structure = dynamic_cast<VMemBasicStructureLink*>(&choice)) {
-            AddLink(edges, *structure,
-                    [](VMemBasicStructureLink& self) -> NODX201::VDopBase& { return self.GetBasicStructure(); });
-        } else if (auto* const desc = dynamic_cast<VMemEnvDataDescLink*>(&choice)) {
-            AddLink(edges, *desc,
-                    [](VMemEnvDataDescLink& self) -> NODX201::VDopBase& { return self.GetEnvDataDesc(); });
-        }
-    }
-    auto* const marked = dynamic_cast<VMemDynamicEndmarkerField*>(&field);
-    if (marked != nullptr && marked->HasDataObjectPropRef()) {
-        AddLink(edges, marked->GetDataObjectPropRef(),
-                [](VMemDynEndDopRef& self) -> NODX201::VDopBase& { return self.GetDopBase(); });
-    }
-}
-
-void AddEnvDatas(VEdges& edges, NODX201::VEnvDataDesc& desc) {
-    for (NODX201::IEnvDataProxy& proxy : desc.EnvDataProxyCollection()) {
-        if (auto* const envData = dynamic_cast<NODX201::VEnvData*>(&proxy)) {
-            edges.push_back({envData});
-        } else if (auto* const link = dynamic_cast<VMemEnvDataLink*>(&proxy)) {
-            AddLink(edges, *link, [](VMemEnvDataLink& self) -> NODX201::VDopBase& { return self.GetEnvData(); });
-        }
-    }
-}
-
-void AddMux(VEdges& edges, VMemMux& mux) {
-    if (mux.HasDefaultCase() && mux.GetDefaultCase().HasStructureRef()) {
-        AddStructure(edges, mux.GetDefaultCase().GetStructureRef());
-    }
-    for (NODX201::VCase& muxCase : mux.CaseCollection()) {
-        if (muxCase.HasStructureRef()) {
-            AddStructure(edges, static_cast<VMemCase&>(muxCase).GetStructureRef());
-        }
-    }
-}
-
-VEdges EdgesOf(NODX201::VDopBase& dop) {
-    VEdges edges;
-    if (auto* const structure = dynamic_cast<NODX201::VBasicStructure*>(&dop)) {
-        AddParams(edges, structure->ParamCollection());
-    } else if (auto* const field = dynamic_cast<NODX201::VField*>(&dop)) {
-        AddField(edges, *field);
-    } else if (auto* const desc = dynamic_cast<NODX201::VEnvDataDesc*>(&dop)) {
-        AddEnvDatas(edges, *desc);
-    } else if (auto* const mux = dynamic_cast<VMemMux*>(&dop)) {
-        AddMux(edges, *mux);
-    }
-    return edges;
-}
+VDops NoTargets(NMemory::VMemDopBaseLink&) { return {}; }
 
 /// A depth-first search with a stack of its own: chains may be longer than the machine's stack is deep.
 class VSearch {
 public:
-    explicit VSearch(VReading& reading) : m_reading(reading) {}
+    /// `where` ends the sentences that are reported.
+    VSearch(VReading& reading, VShortNameTargets shortNameTargets, std::string where)
+        : m_reading(reading), m_shortNameTargets(std::move(shortNameTargets)), m_where(std::move(where)) {}
 
     void From(NODX201::VDopBase& root) {
         Enter(root, nullptr);
@@ -140,7 +61,7 @@ private:
         }
         m_states[&dop] = VState::Open;
         VEdge const entered = edge != nullptr ? *edge : VEdge{nullptr};
-        m_path.push_back({&dop, EdgesOf(dop), 0, entered});
+        m_path.push_back({&dop, EdgesOf(dop, m_shortNameTargets), 0, entered});
     }
 
     void Close(VEdge const& edge) {
@@ -152,45 +73,129 @@ private:
         closing.sever();
         m_reading.findings.Add(closing.node->GetPosition(), VSeverity::Error, "containment-cycle",
                                ToUtf8(NODX201::OdxTagText(edge.target->GetOdxTag())) + " '" +
-                                   ToUtf8(edge.target->GetShortName()) +
-                                   "' contains itself through this reference, which is left unresolved");
+                                   ToUtf8(edge.target->GetShortName()) + "' contains itself through this reference" +
+                                   m_where + ", which is left unresolved");
         if (edge.node == nullptr) {
             m_path.back().next = m_path.back().edges.size(); // no longer reached from here
         }
     }
 
     VReading& m_reading;
+    VShortNameTargets m_shortNameTargets;
+    std::string m_where;
     std::unordered_map<NODX201::VDopBase*, VState> m_states;
     std::vector<VStep> m_path;
 };
 
-void SearchDictionary(VSearch& search, NODX201::VDiagDataDictionarySpec& dictionary) {
+void AddDops(VDops& dops, NODX201::VDiagDataDictionarySpec& dictionary) {
     for (NODX201::VDopBase& dop : dictionary.DopBaseCollection()) {
-        search.From(dop);
+        dops.push_back(&dop);
     }
     for (NODX201::IEnvDataProxy& proxy : dictionary.EnvDataProxyCollection()) {
         if (auto* const envData = dynamic_cast<NODX201::VEnvData*>(&proxy)) {
-            search.From(*envData);
+            dops.push_back(envData);
         }
+    }
+}
+
+template <class Run>
+void ForEachLayer(VReading& reading, Run run) {
+    for (NODX201::VDiagLayerContainer& container : reading.database->GetOdx().DiagLayerContainerCollection()) {
+        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
+            run(layer);
+        }
+    }
+}
+
+/// Every DOP of every dictionary, those inside of others left out.
+VDops DopsOf(VReading& reading) {
+    VDops dops;
+    ForEachLayer(reading, [&dops](NODX201::VDiagLayer& layer) {
+        if (layer.HasDiagDataDictionarySpec()) {
+            AddDops(dops, layer.GetDiagDataDictionarySpec());
+        }
+    });
+    for (NMemory::VMemMultipleEcuJobSpec& spec : reading.database->MultipleEcuJobSpecCollection()) {
+        if (spec.HasDiagDataDictionarySpec()) {
+            AddDops(dops, spec.GetDiagDataDictionarySpec());
+        }
+    }
+    return dops;
+}
+
+wchar_t const* ShortNameWanted(NMemory::VMemDopBaseLink& link) {
+    return dynamic_cast<NODX201::VSnref const&>(link.GetLink()).GetShortName();
+}
+
+/// The DOPs that would lead into a cycle if a short name meant every DOP that bears it. Where there are none, no layer
+/// needs to be asked what it means by the names.
+VDops Suspects(VDops const& dops) {
+    std::unordered_map<std::wstring_view, VDops> byName;
+    for (NODX201::VDopBase* const dop : dops) {
+        byName[dop->GetShortName()].push_back(dop);
+    }
+    std::unordered_map<NODX201::VDopBase*, VDops> waysIn;
+    std::unordered_map<NODX201::VDopBase*, std::size_t> waysOut; // that are not yet known to end
+    VDops ended;
+    VDops toVisit(dops.rbegin(), dops.rend());
+    while (!toVisit.empty()) {
+        NODX201::VDopBase* const dop = toVisit.back();
+        toVisit.pop_back();
+        if (waysOut.count(dop) != 0) {
+            continue;
+        }
+        VEdges const edges = EdgesOf(*dop, [&byName](auto& link) { return byName[ShortNameWanted(link)]; });
+        waysOut[dop] = edges.size();
+        for (VEdge const& edge : edges) {
+            waysIn[edge.target].push_back(dop);
+            toVisit.push_back(edge.target);
+        }
+        if (edges.empty()) {
+            ended.push_back(dop);
+        }
+    }
+    while (!ended.empty()) {
+        NODX201::VDopBase* const end = ended.back();
+        ended.pop_back();
+        for (NODX201::VDopBase* const dop : waysIn[end]) {
+            if (--waysOut[dop] == 0) {
+                ended.push_back(dop);
+            }
+        }
+    }
+    VDops suspects;
+    for (NODX201::VDopBase* const dop : dops) {
+        if (waysOut[dop] > 0) {
+            suspects.push_back(dop);
+        }
+    }
+    return suspects;
+}
+
+void SearchInLayer(VReading& reading, VDops const& suspects, NODX201::VDiagLayer& layer) {
+    auto const inLayer = [&layer](NMemory::VMemDopBaseLink& link) {
+        return link.HasDopBase(layer) ? VDops{&link.GetDopBase()} : VDops{};
+    };
+    VSearch search(reading, inLayer, " in the layer '" + ToUtf8(layer.GetShortName()) + "'");
+    for (NODX201::VDopBase* const dop : suspects) {
+        search.From(*dop);
     }
 }
 
 } // namespace
 
 void SeverContainmentCycles(VReading& reading) {
-    VSearch search(reading);
-    for (NODX201::VDiagLayerContainer& container : reading.database->GetOdx().DiagLayerContainerCollection()) {
-        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
-            if (layer.HasDiagDataDictionarySpec()) {
-                SearchDictionary(search, layer.GetDiagDataDictionarySpec());
-            }
-        }
+    VDops const dops = DopsOf(reading);
+    VSearch search(reading, &NoTargets, "");
+    for (NODX201::VDopBase* const dop : dops) {
+        search.From(*dop);
     }
-    for (VMemMultipleEcuJobSpec& spec : reading.database->MultipleEcuJobSpecCollection()) {
-        if (spec.HasDiagDataDictionarySpec()) {
-            SearchDictionary(search, spec.GetDiagDataDictionarySpec());
-        }
+    VDops const suspects = Suspects(dops);
+    if (suspects.empty()) {
+        return;
     }
+    ForEachLayer(reading, [&](NODX201::VDiagLayer& layer) { SearchInLayer(reading, suspects, layer); });
+    reading.database->StartNewResolver(); // the views of all layers are more than most programs want to hold
 }
 
 } // namespace NReader

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/RowParts.h>
 
 // Services, jobs and their parameters.
@@ -15,7 +16,7 @@ std::vector<VAttributeRow> DiagCommAttributes() {
     using R = VRows<T>;
     return {
         R::template Attribute<&T::SetSemantic>("SEMANTIC"),
-        R::template Attribute<&T::SetDiagnosticClass>("DIAGNOSTIC-CLASS", Optional, VContent::Name),
+        LiteralAttribute<T, &T::SetDiagnosticClass, &Mapper::GetDiagClassTypeStr>("DIAGNOSTIC-CLASS"),
         R::template Attribute<&T::SetSecurityAccessLevel>("SECURITY-ACCESS-LEVEL", Optional, VContent::Uint),
         R::template Flag<&T::SetIsMandatory>("IS-MANDATORY"),
         R::template Flag<&T::SetIsExecutable>("IS-EXECUTABLE"),
@@ -118,7 +119,7 @@ VElementType const& TypeOf(VMemDiagService*) {
         Join(DiagCommAttributes<T>(), {
             R::Flag<&T::SetIsCyclic>("IS-CYCLIC"),
             R::Flag<&T::SetIsMultiple>("IS-MULTIPLE"),
-            R::Attribute<&T::SetAddressing>("ADDRESSING", Optional, VContent::Name),
+            LiteralAttribute<T, &T::SetAddressing, &Mapper::GetAddressingStr>("ADDRESSING"),
         }),
         Join(DiagCommRows<T>(), {
             R::Link<&T::SetRequestRef>("REQUEST-REF"),

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/Loader.h>
 #include <diagkit/reader/RowParts.h>
 
@@ -27,7 +28,7 @@ VElementType const& TypeOf(VMemComparam*) {
     using R = VRows<T>;
     static VElementType const type = IdentTable<T>({
         R::Attribute<&T::SetParamClass>("PARAM-CLASS", Required),
-        R::Attribute<&T::SetCptype>("CPTYPE", Required, VContent::Name),
+        LiteralAttribute<T, &T::SetCptype, &Mapper::GetStandardisationLevelStr>("CPTYPE", Required),
         R::Attribute<&T::SetDisplayLevel>("DISPLAY-LEVEL", Required, VContent::Uint),
         R::Attribute<&T::SetPduApiIndex>("PDU-API-INDEX", Optional, VContent::Uint),
     }, {

@@ -68,6 +68,8 @@ struct VElementType {
     /// Takes the element's own text, with the text identifier of its @TI; null where it has elements only.
     void (*setContent)(void* object, std::wstring const& text, std::wstring const& textId) = nullptr;
     wchar_t const* const* literals = nullptr;
+    std::vector<std::string>
+        xsiTypes;           ///< of an element that has one class for all; none where xsi:type is not looked at
     bool isMarkup = false;  ///< the text is all inside, tags included
     bool isWrapper = false; ///< its items may also stand beside it
     void (*addInstruction)(void* object, std::wstring const& name, std::wstring const& content) = nullptr;
@@ -109,8 +111,8 @@ struct VRows {
     }
 
     template <auto Set>
-    static VAttributeRow Flag(char const* name) {
-        return {name, Optional, VContent::Bool, [](void* owner, std::wstring const& text) {
+    static VAttributeRow Flag(char const* name, VOccurs occurs = Optional) {
+        return {name, occurs, VContent::Bool, [](void* owner, std::wstring const& text) {
                     if (IsTrue(text) || IsFalse(text)) {
                         (Owner(owner).*Set)(IsTrue(text));
                     }
@@ -207,11 +209,6 @@ struct VRows {
     static VRow Special(char const* name, VOccurs occurs,
                         VOpened (*open)(VLoader&, void*, VRow const&, VAttributes const&), int choice = 0) {
         return {name, occurs, choice, open};
-    }
-
-    /// A child that is known and of which the model holds nothing.
-    static VRow Ignored(char const* name, VOccurs occurs = Optional) {
-        return {name, occurs, 0, [](VLoader&, void*, VRow const&, VAttributes const&) { return VOpened{}; }};
     }
 
 private:

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/RowParts.h>
 
 // Flash data.
@@ -11,50 +12,43 @@ using namespace NMemory;
 
 VElementType const& TypeOf(VMemIdentValue*) {
     using T = VMemIdentValue;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetIdentValueTypeStr>("TYPE", Required)});
     return type;
 }
 
 VElementType const& TypeOf(VMemChecksumResult*) {
     using T = VMemChecksumResult;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetSessionSubElemTypeStr>("TYPE", Required)});
     return type;
 }
 
 VElementType const& TypeOf(VMemSecurityMethod*) {
     using T = VMemSecurityMethod;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetSessionSubElemTypeStr>("TYPE", Required)});
     return type;
 }
 
 VElementType const& TypeOf(VMemFwSignature*) {
     using T = VMemFwSignature;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetSessionSubElemTypeStr>("TYPE", Required)});
     return type;
 }
 
 VElementType const& TypeOf(VMemFwChecksum*) {
     using T = VMemFwChecksum;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetSessionSubElemTypeStr>("TYPE", Required)});
     return type;
 }
 
 VElementType const& TypeOf(VMemValidityFor*) {
     using T = VMemValidityFor;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetSessionSubElemTypeStr>("TYPE", Required)});
     return type;
 }
 
 VElementType const& TypeOf(VMemEncryptCompressMethod*) {
     using T = VMemEncryptCompressMethod;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetType, &Mapper::GetEncryptCompressMethodTypeStr>("TYPE", Required)});
     return type;
 }
 
@@ -124,32 +118,15 @@ VElementType const& TypeOf(VMemSession*) {
 
 VElementType const& TypeOf(VMemDataformat*) {
     using T = VMemDataformat;
-    using R = VRows<T>;
-    static VElementType const type = TextTable<T, &T::SetText>({R::Attribute<&T::SetSelection>("SELECTION", Required, VContent::Name)});
+    static VElementType const type = TextTable<T, &T::SetText>({LiteralAttribute<T, &T::SetSelection, &Mapper::GetDataformatSelectionStr>("SELECTION", Required)});
     return type;
 }
 
-/// Keeps the xsi:type of a FLASHDATA; without one, what it holds decides.
-void SetFlashdataKind(void* object, std::wstring const& type) {
-    auto& flashdata = VRows<VMemFlashdata>::Owner(object);
-    std::wstring const local = type.substr(type.find(L':') == std::wstring::npos ? 0 : type.find(L':') + 1);
-    flashdata.SetKind(local == L"INTERN-FLASHDATA" ? Tag::InternFlashdata : local == L"EXTERN-FLASHDATA" ? Tag::ExternFlashdata : Tag::Flashdata);
-}
-
-/// What a FLASHDATA without xsi:type holds.
-template <auto Set, Tag Kind>
-VRow FlashdataContentRow(char const* name, std::vector<VAttributeRow> attributes) {
+VRow DatafileRow() {
     using R = VRows<VMemFlashdata>;
-    VRow row = R::Text<Set>(name);
+    VRow row = R::Text<&VMemFlashdata::SetDatafile>("DATAFILE", Required, VContent::Text, nullptr, 1);
     VElementType type = row.Type();
-    type.attributes = std::move(attributes);
-    type.setContent = [](void* owner, std::wstring const& text, std::wstring const&) {
-        VMemFlashdata& flashdata = R::Owner(owner);
-        (flashdata.*Set)(text.c_str());
-        if (flashdata.GetOdxTag() == Tag::Flashdata) {
-            flashdata.SetKind(Kind);
-        }
-    };
+    type.attributes = {R::Flag<&VMemFlashdata::SetIsLatebound>("LATEBOUND-DATAFILE", Required)};
     row.ownType = std::make_shared<VElementType const>(std::move(type));
     return row;
 }
@@ -157,23 +134,42 @@ VRow FlashdataContentRow(char const* name, std::vector<VAttributeRow> attributes
 VElementType const& TypeOf(VMemFlashdata*) {
     using T = VMemFlashdata;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({{"type", Optional, VContent::Name, &SetFlashdataKind}}, {
+    static VElementType const type = IdentTable<T>({}, {
         R::Child<&T::MakeDataformat>("DATAFORMAT", Required),
         R::Child<&T::MakeEncryptCompressMethod>("ENCRYPT-COMPRESS-METHOD"),
-        FlashdataContentRow<&T::SetData, Tag::InternFlashdata>("DATA", {}),
-        FlashdataContentRow<&T::SetDatafile, Tag::ExternFlashdata>("DATAFILE", {R::Flag<&T::SetIsLatebound>("LATEBOUND-DATAFILE")}),
+        R::Text<&T::SetData>("DATA", Required, VContent::Text, nullptr, 1),
+        DatafileRow(),
     });
+    return type;
+}
+
+/// FLASHDATA, whose kind is its xsi:type or shows from its contents.
+VOpened OpenFlashdata(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
+    std::string const type = XsiType(loader, attributes);
+    if (type != "INTERN-FLASHDATA" && type != "EXTERN-FLASHDATA") {
+        ReportUnknownType(loader, type);
+        return VOpened{nullptr, nullptr, true};
+    }
+    VMemFlashdata& flashdata = VRows<VMemMem>::Owner(owner).AddFlashdata(L"");
+    flashdata.SetKind(type == "INTERN-FLASHDATA" ? Tag::InternFlashdata : Tag::ExternFlashdata);
+    NoteElement(loader, flashdata);
+    return VOpened{&flashdata, &TypeOf(&flashdata)};
+}
+
+/// An element whose xsi:type says no more than what it holds.
+VElementType WithXsiTypes(std::vector<std::string> xsiTypes, VElementType type) {
+    type.xsiTypes = std::move(xsiTypes);
     return type;
 }
 
 VElementType const& TypeOf(VMemFilter*) {
     using T = VMemFilter;
     using R = VRows<T>;
-    static VElementType const type = Table({}, {
+    static VElementType const type = WithXsiTypes({"ADDRDEF-FILTER", "SIZEDEF-FILTER"}, Table({}, {
         R::Text<&T::SetFilterStart>("FILTER-START", Required, VContent::Hex),
-        R::Text<&T::SetFilterEnd>("FILTER-END", Optional, VContent::Hex),
-        R::Text<&T::SetFilterSize>("FILTER-SIZE", Optional, VContent::Uint),
-    });
+        R::Text<&T::SetFilterEnd>("FILTER-END", Required, VContent::Hex, nullptr, 1),
+        R::Text<&T::SetFilterSize>("FILTER-SIZE", Required, VContent::Uint, nullptr, 1),
+    }));
     return type;
 }
 
@@ -192,10 +188,10 @@ VElementType const& TypeOf(VMemSegment*) {
 VElementType const& TypeOf(VMemTargetAddrOffset*) {
     using T = VMemTargetAddrOffset;
     using R = VRows<T>;
-    static VElementType const type = Table({}, {
-        R::Text<&T::SetPositiveOffset>("POSITIVE-OFFSET", Optional, VContent::Hex),
-        R::Text<&T::SetNegativeOffset>("NEGATIVE-OFFSET", Optional, VContent::Hex),
-    });
+    static VElementType const type = WithXsiTypes({"POS-OFFSET", "NEG-OFFSET"}, Table({}, {
+        R::Text<&T::SetPositiveOffset>("POSITIVE-OFFSET", Required, VContent::Hex, nullptr, 1),
+        R::Text<&T::SetNegativeOffset>("NEGATIVE-OFFSET", Required, VContent::Hex, nullptr, 1),
+    }));
     return type;
 }
 
@@ -220,7 +216,7 @@ VElementType const& TypeOf(VMemMem*) {
     static VElementType const type = Table({}, {
         R::Wrapper<&T::MakeSessionCollection>("SESSIONS", Required, {R::Item<&T::AddSession>("SESSION")}),
         R::Wrapper<&T::MakeDatablockCollection>("DATABLOCKS", Required, {R::Item<&T::AddDatablock>("DATABLOCK")}),
-        R::Wrapper<&T::MakeFlashdataCollection>("FLASHDATAS", Required, {R::Item<&T::AddFlashdata>("FLASHDATA")}),
+        R::Wrapper<&T::MakeFlashdataCollection>("FLASHDATAS", Required, {R::Special("FLASHDATA", Many, &OpenFlashdata)}),
     });
     return type;
 }
@@ -228,7 +224,7 @@ VElementType const& TypeOf(VMemMem*) {
 VElementType const& TypeOf(VMemProjectIdent*) {
     using T = VMemProjectIdent;
     using R = VRows<T>;
-    static VElementType const type = Table({R::Attribute<&T::SetType>("TYPE", Required, VContent::Name)}, {
+    static VElementType const type = Table({LiteralAttribute<T, &T::SetType, &Mapper::GetProjIdentTypeStr>("TYPE", Required)}, {
         R::Text<&T::SetName>("NAME", Required),
         R::Text<&T::SetValue>("VALUE", Required),
     });
@@ -250,13 +246,13 @@ VElementType const& TypeOf(VMemProjectInfo*) {
 VElementType const& TypeOf(VMemPhysSegment*) {
     using T = VMemPhysSegment;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({}, {
+    static VElementType const type = WithXsiTypes({"ADDRDEF-PHYS-SEGMENT", "SIZEDEF-PHYS-SEGMENT"}, IdentTable<T>({}, {
         R::Text<&T::SetFillbyte>("FILLBYTE", Optional, VContent::Hex),
         R::Text<&T::SetBlockSize>("BLOCK-SIZE", Optional, VContent::Uint),
         R::Text<&T::SetStartAddress>("START-ADDRESS", Required, VContent::Hex),
-        R::Text<&T::SetEndAddress>("END-ADDRESS", Optional, VContent::Hex),
-        R::Text<&T::SetSize>("SIZE", Optional, VContent::Uint),
-    });
+        R::Text<&T::SetEndAddress>("END-ADDRESS", Required, VContent::Hex, nullptr, 1),
+        R::Text<&T::SetSize>("SIZE", Required, VContent::Uint, nullptr, 1),
+    }));
     return type;
 }
 
@@ -297,7 +293,7 @@ VElementType const& TypeOf(VMemSessionDesc*) {
     using R = VRows<T>;
     static VElementType const type = NamedTable<T>({
         R::Attribute<&T::SetOid>("OID"),
-        R::Attribute<&T::SetDirection>("DIRECTION", Required, VContent::Name),
+        LiteralAttribute<T, &T::SetDirection, &Mapper::GetDirectionStr>("DIRECTION", Required),
     }, {
         R::Text<&T::SetPartnumber>("PARTNUMBER"),
         R::Text<&T::SetPriority>("PRIORITY", Optional, VContent::Uint),

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/Loader.h>
 #include <diagkit/reader/RowParts.h>
 
@@ -36,7 +37,7 @@ VElementType const& TypeOf(VMemSwVariable*) {
 VElementType const& TypeOf(VMemCommRelation*) {
     using T = VMemCommRelation;
     using R = VRows<T>;
-    static VElementType const type = Table({R::Attribute<&T::SetValueType>("VALUE-TYPE", Optional, VContent::Name)}, {
+    static VElementType const type = Table({LiteralAttribute<T, &T::SetValueType, &Mapper::GetCommRelationValueTypeStr>("VALUE-TYPE")}, {
         R::Markup<&T::SetDesc>("DESC"),
         R::Text<&T::SetRelationType>("RELATION-TYPE", Required),
         R::Link<&T::SetDiagCommLink>("DIAG-COMM-REF", Required, 1),
@@ -73,7 +74,7 @@ VElementType const& TypeOf(VMemAccessLevel*) {
 
 VElementType const& TypeOf(VMemByteStream*) {
     using T = VMemByteStream;
-    static VElementType const type = TextTable<T, &T::SetText>({});
+    static VElementType const type = TextTable<T, &T::SetText>({}, VContent::Hex);
     return type;
 }
 
@@ -139,17 +140,17 @@ VElementType ParentRefTable() {
     return Table({}, {
         R::template Wrapper<&T::MakeNotInheritedDiagCommCollection>("NOT-INHERITED-DIAG-COMMS", Optional, {
             R::PlainWrapper("NOT-INHERITED-DIAG-COMM", Many, {
-                R::Special("DIAG-COMM-SNREF", Many, [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
+                R::Special("DIAG-COMM-SNREF", Required, [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
                     return OpenExcluded<T, VMemNotInheritedDiagComm, &IMemParentRef::AddNotInheritedDiagComm>(loader, owner, attributes, true);
-                }),
-                R::Special("DIAG-COMM-REF", Many, [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
+                }, 1),
+                R::Special("DIAG-COMM-REF", Required, [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
                     return OpenExcluded<T, VMemNotInheritedDiagComm, &IMemParentRef::AddNotInheritedDiagComm>(loader, owner, attributes, false);
-                }),
+                }, 1),
             }),
         }),
         R::template Wrapper<&T::MakeNotInheritedVariableCollection>("NOT-INHERITED-VARIABLES", Optional, {
             R::PlainWrapper("NOT-INHERITED-VARIABLE", Many, {
-                R::Special("DIAG-VARIABLE-SNREF", Many, [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
+                R::Special("DIAG-VARIABLE-SNREF", Required, [](VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
                     return OpenExcluded<T, VMemNotInheritedVariable, &IMemParentRef::AddNotInheritedVariable>(loader, owner, attributes, true);
                 }),
             }),

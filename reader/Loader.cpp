@@ -5,6 +5,8 @@
 #include <cstring>
 #include <utility>
 
+#include <diagkit/reader/Literals.h>
+#include <diagkit/reader/RowParts.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/reader/Values.h>
 
@@ -122,6 +124,11 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
     if (attributes.Find("ID-REF") == nullptr) {
         Report(VSeverity::Error, "missing-attribute", "the reference has no ID-REF");
     }
+    if (m_isVersion20 && !m_reference[2].empty() && !IsLiteral(LiteralsOf<&Mapper::GetDoctypeStr>(), m_reference[2])) {
+        Report(VSeverity::Warning, "unknown-literal",
+               "DOCTYPE is '" + ToUtf8(m_reference[2]) + "', which is none of " +
+                   LiteralsText(LiteralsOf<&Mapper::GetDoctypeStr>()) + "; the target is looked for without it");
+    }
     return NMemory::VReference::ById(m_reference[0].c_str(), m_reference[1].c_str(), m_reference[2].c_str(),
                                      m_reference[3].c_str());
 }
@@ -170,6 +177,12 @@ void VLoader::Start(std::string_view name, VAttributes const& attributes) {
     } else if (!StartBesideWrapper(local, attributes)) {
         Skip(local, attributes);
         ++m_unknownElements[std::string(local)];
+        bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
+        if (m_isVersion20 && !isCategory) {
+            Report(VSeverity::Warning, "unknown-child",
+                   "'" + m_frames.back().name + "' holds no '" + std::string(local) +
+                       "' in ODX 2.0; it is left out with all inside");
+        }
     }
 }
 
@@ -271,7 +284,18 @@ void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow co
     if (opened.type->isMarkup) {
         m_markupDepth = 1;
     }
+    CheckXsiType(*opened.type, attributes);
     ReadAttributes(m_frames.back(), attributes);
+}
+
+void VLoader::CheckXsiType(VElementType const& type, VAttributes const& attributes) {
+    if (type.xsiTypes.empty()) {
+        return;
+    }
+    std::string const xsiType = XsiType(*this, attributes);
+    if (std::find(type.xsiTypes.begin(), type.xsiTypes.end(), xsiType) == type.xsiTypes.end()) {
+        ReportUnknownType(*this, xsiType);
+    }
 }
 
 void VLoader::Skip(std::string_view name, VAttributes const& attributes) {
@@ -298,18 +322,19 @@ void VLoader::ReadAttributes(VFrame const& frame, VAttributes const& attributes)
         if (row.content != VContent::Text) {
             Trim(text);
         }
-        CheckValue(row.content, row.literals, text, std::string(row.name) + " of '" + frame.name + "'");
+        CheckValue(row.content, row.literals, text, std::string(row.name) + " of '" + frame.name + "'", frame.position);
         row.set(frame.object, text);
     }
 }
 
 void VLoader::CheckValue(VContent content, wchar_t const* const* literals, std::wstring const& text,
-                         std::string const& what) {
+                         std::string const& what, NMemory::VPosition const& position) {
     if (!IsValue(content, text)) {
-        Report(VSeverity::Error, "not-a-value", what + " is '" + ToUtf8(text) + "', which is no " + ValueText(content));
+        m_reading.findings.Add(position, VSeverity::Error, "not-a-value",
+                               what + " is '" + ToUtf8(text) + "', which is no " + ValueText(content));
     } else if (literals != nullptr && m_isVersion20 && !IsLiteral(literals, text)) {
-        Report(VSeverity::Error, "unknown-literal",
-               what + " is '" + ToUtf8(text) + "', which is none of " + LiteralsText(literals));
+        m_reading.findings.Add(position, VSeverity::Error, "unknown-literal",
+                               what + " is '" + ToUtf8(text) + "', which is none of " + LiteralsText(literals));
     }
 }
 
@@ -368,7 +393,7 @@ void VLoader::TakeContent(VFrame const& frame) {
     if (frame.type->content != VContent::Text) {
         Trim(text);
     }
-    CheckValue(frame.type->content, frame.type->literals, text, "'" + frame.name + "'");
+    CheckValue(frame.type->content, frame.type->literals, text, "'" + frame.name + "'", frame.position);
     frame.type->setContent(frame.object, text, m_textId);
     m_text.clear();
 }

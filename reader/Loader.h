@@ -100,12 +100,13 @@ private:
     void StartRow(std::string_view name, VAttributes const& attributes, VRow const& row, int index);
     bool StartBesideWrapper(std::string_view name, VAttributes const& attributes);
     void Open(std::string_view name, VAttributes const& attributes, VRow const& row);
+    void CheckXsiType(VElementType const& type, VAttributes const& attributes);
     void Skip(std::string_view name, VAttributes const& attributes);
     void NoteLeftOut(std::string_view name, VAttributes const& attributes);
     bool NoteRow(std::string_view name, VFrame& frame, VRow const& row, int index);
     void ReadAttributes(VFrame const& frame, VAttributes const& attributes);
-    void CheckValue(VContent content, wchar_t const* const* literals, std::wstring const& text,
-                    std::string const& what);
+    void CheckValue(VContent content, wchar_t const* const* literals, std::wstring const& text, std::string const& what,
+                    NMemory::VPosition const& position);
     void CheckComplete(VFrame const& frame);
     void TakeContent(VFrame const& frame);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/RowParts.h>
 
 // The eleven kinds of PARAM; requests and responses.
@@ -120,7 +121,7 @@ VElementType const& TypeOf(VMemTableEntry*) {
     using T = VMemTableEntry;
     using R = VRows<T>;
     static VElementType const type = ParamTable<T>(Optional, {}, {
-        R::Text<&T::SetTarget>("TARGET", Required, VContent::Name),
+        LiteralText<T, &T::SetTarget, &Mapper::GetRowFragmentStr>("TARGET", Required),
         R::Link<&T::SetTableRowRef>("TABLE-ROW-REF", Required),
         R::Text<&T::SetBytePosition>("BYTE-POSITION", Optional, VContent::Uint),
         R::Text<&T::SetBitPosition>("BIT-POSITION", Optional, VContent::Uint),

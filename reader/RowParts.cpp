@@ -52,6 +52,9 @@ std::string InferType(std::string_view name, VAttributes const& attributes,
         bool const isMinMax = attributes.Find("TERMINATION") != nullptr || has("MIN-LENGTH") || has("MAX-LENGTH");
         return isMinMax ? "MIN-MAX-LENGTH-TYPE" : "STANDARD-LENGTH-TYPE";
     }
+    if (LocalName(name) == "FLASHDATA") {
+        return has("DATAFILE") ? "EXTERN-FLASHDATA" : "INTERN-FLASHDATA";
+    }
     struct VRule {
         bool fits;
         char const* type;

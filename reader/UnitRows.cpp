@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/Literals.h>
 #include <diagkit/reader/RowParts.h>
 
 // Units and tables.
@@ -40,7 +41,7 @@ VElementType const& TypeOf(VMemUnitGroup*) {
     using T = VMemUnitGroup;
     using R = VRows<T>;
     static VElementType const type = NamedTable<T>({R::Attribute<&T::SetOid>("OID")}, {
-        R::Text<&T::SetCategory>("CATEGORY", Required, VContent::Name),
+        LiteralText<T, &T::SetCategory, &Mapper::GetUnitGroupCategoryStr>("CATEGORY", Required),
         R::Wrapper<&T::MakeUnitLinkCollection>("UNIT-REFS", Optional, {R::Link<&T::AddUnitRef>("UNIT-REF", Many)}),
     });
     return type;

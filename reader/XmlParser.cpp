@@ -32,27 +32,40 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kDeclaration = "<?xml";
-constexpr std::size_t kLongestHead = 64 * 1024; // blanks that go on beyond it are the parser's to judge
+constexpr std::size_t kLongestHead = 64 * 1024; // what goes on beyond it is the parser's to judge
 
 bool StartsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
 
-/// Whether the bytes suffice to tell how a document begins: byte order mark, blanks, XML declaration.
-bool IsHeadComplete(std::string_view head) {
-    auto const start = head.find_first_not_of(kBlanks);
-    return start != std::string_view::npos && head.size() > start + kDeclaration.size();
+/// Where the first thing begins that is neither a blank nor a comment; the end when there is none.
+std::size_t StartOfMarkup(std::string_view head) {
+    std::size_t start = 0;
+    while (true) {
+        start = std::min(head.find_first_not_of(kBlanks, start), head.size());
+        if (!StartsWith(head.substr(start), "<!--")) {
+            return start;
+        }
+        std::size_t const end = head.find("-->", start + 4);
+        if (end == std::string_view::npos) {
+            return head.size();
+        }
+        start = end + 3;
+    }
 }
+
+/// Whether the bytes suffice to tell how a document begins: byte order mark, blanks and comments, XML declaration.
+bool IsHeadComplete(std::string_view head) { return head.size() > StartOfMarkup(head) + kDeclaration.size(); }
 
 bool IsDeclaration(std::string_view text) {
     return StartsWith(text, kDeclaration) && text.size() > kDeclaration.size() &&
            kBlanks.find(text[kDeclaration.size()]) != std::string_view::npos;
 }
 
-/// How far blanks reach: the line ends in them, and the characters behind the last one.
-VXmlPosition ExtentOf(std::string_view blanks) {
+/// How far a text reaches: the line ends in it, and the characters behind the last one.
+VXmlPosition ExtentOf(std::string_view text) {
     VXmlPosition extent;
-    for (std::size_t index = 0; index < blanks.size(); ++index) {
-        bool const isFirstOfPair = blanks[index] == '\r' && blanks.substr(index + 1, 1) == "\n";
-        bool const isLineEnd = blanks[index] == '\r' || blanks[index] == '\n';
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        bool const isFirstOfPair = text[index] == '\r' && text.substr(index + 1, 1) == "\n";
+        bool const isLineEnd = text[index] == '\r' || text[index] == '\n';
         if (isLineEnd && !isFirstOfPair) {
             extent = {extent.line + 1, 0};
         } else if (!isLineEnd) {
@@ -155,8 +168,8 @@ bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
     return Parse(Begin(head), isLast);
 }
 
-/// Decides on the encoding by a byte order mark, which counts more than what is declared, and leaves out blanks before
-/// an XML declaration, which expat does not take.
+/// Decides on the encoding by a byte order mark, which counts more than what is declared, and leaves out blanks and
+/// comments before an XML declaration, which expat does not take.
 std::string_view VXmlParser::Begin(std::string_view head) {
     VState& state = *m_state;
     if (StartsWith(head, "\xEF\xBB\xBF")) {
@@ -168,8 +181,8 @@ std::string_view VXmlParser::Begin(std::string_view head) {
     if (*state.markedEncoding != '\0' && !state.isEncodingGiven) {
         XML_SetEncoding(state.parser, state.markedEncoding);
     }
-    auto const start = head.find_first_not_of(kBlanks);
-    if (start != std::string_view::npos && start > 0 && IsDeclaration(head.substr(start))) {
+    std::size_t const start = StartOfMarkup(head);
+    if (start > 0 && IsDeclaration(head.substr(start))) {
         state.skipped = ExtentOf(head.substr(0, start));
         head.remove_prefix(start);
     }

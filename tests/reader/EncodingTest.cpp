@@ -129,6 +129,16 @@ TEST_F(VEncodingTest, BlanksBeforeTheDeclarationAreLeftOutAndCounted) {
     EXPECT_EQ(Diagnostics(), "test.odx:4:1 warning no-category");
 }
 
+TEST_F(VEncodingTest, CommentsBeforeTheDeclarationAreLeftOutAndCounted) {
+    EXPECT_EQ(NameIn("<!-- made\nby hand --> <!-- <?xml -->\n" + With(kLatin1, "T\xFCr")), L"T\u00FCr");
+    EXPECT_EQ(Diagnostics(), "");
+    Read("<!-- a\nb --><?xml version=\"1.0\"?><ODX MODEL-VERSION=\"2.0.1\"/>");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:27 warning no-category");
+    Read("<!-- without end <?xml version=\"1.0\"?><ODX MODEL-VERSION=\"2.0.1\"/>");
+    ASSERT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(m_result.diagnostics[0].code, "not-xml");
+}
+
 TEST_F(VEncodingTest, CommentsMayStandBeforeTheRoot) {
     EXPECT_EQ(NameIn("<!-- made by hand -->\n\n" + With("", "Door")), L"Door");
     EXPECT_EQ(Diagnostics(), "");

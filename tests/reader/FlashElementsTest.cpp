@@ -180,6 +180,8 @@ TEST_F(VFlashElementsTest, FlashdataWithoutTypeTakesTheKindOfItsContents) {
     EXPECT_EQ(Get<VMemFlashdata>(L"D1").GetOdxTag(), VOdxTagEnum::InternFlashdata);
     EXPECT_EQ(Get<VMemFlashdata>(L"D2").GetOdxTag(), VOdxTagEnum::ExternFlashdata);
     EXPECT_FALSE(Get<VMemFlashdata>(L"D2").IsLatebound());
+    ReadMem("<FLASHDATAS><FLASHDATA ID=\"D\"/></FLASHDATAS>");
+    EXPECT_EQ(Get<VMemFlashdata>(L"D").GetOdxTag(), VOdxTagEnum::InternFlashdata);
 }
 
 TEST_F(VFlashElementsTest, EcuMemConnector) {

@@ -87,7 +87,10 @@ TEST_F(VReferencesTest, WrongOrUnknownDoctypeIsForgiven) {
               Exported("C2", "L2", Service("S", std::string("ID-REF=\"RQ\" DOCREF=\"C3\" DOCTYPE=\"") + doctype + '"')),
               Exported("C3", "L3")});
         EXPECT_EQ(RequestOf(L"S"), L"In_L3@L3") << doctype;
-        EXPECT_EQ(Diagnostics(), "");
+        for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
+            EXPECT_EQ(diagnostic.code, "unknown-literal"); // a note, of a warning's severity
+            EXPECT_EQ(diagnostic.severity, NReader::VSeverity::Warning);
+        }
     }
     Read({Exported("C1", "L1"), Exported("C2", "L2", Service("S", "ID-REF=\"RQ\" DOCREF=\"L3\" DOCTYPE=\"CONTAINER\"")),
           Exported("C3", "L3")});
@@ -207,7 +210,8 @@ TEST_F(VReferencesTest, ReferenceOfTheWrongKindIsOneError) {
 }
 
 TEST_F(VReferencesTest, ReferenceToWhatTheModelHasNoPlaceForIsAWarning) {
-    Read(Layer("<DIAG-COMMS>" + Service("S", "ID-REF=\"new\"") + "</DIAG-COMMS>\n<NEWS><NEW ID=\"new\"/></NEWS>"));
+    Read(Layer("<DIAG-COMMS>" + Service("S", "ID-REF=\"new\"") + "</DIAG-COMMS>\n<NEWS><NEW ID=\"new\"/></NEWS>",
+               "2.2.0"));
     EXPECT_EQ(Diagnostics(), "test.odx:2:71 warning target-left-out");
     EXPECT_EQ(m_result.unknownElements, (std::map<std::string, std::size_t>{{"NEWS", 1}}));
 }

@@ -88,6 +88,27 @@ TEST_F(VToleranceTest, ValuesThatAreNoneAreReportedAndKept) {
     EXPECT_STREQ(As<NMemory::VMemValue>(Param(0)).GetBytePosition(), L"0x1F");
 }
 
+TEST_F(VToleranceTest, LiteralsThatAreNoneAreReportedAndKeptFor20Only) {
+    std::string const type = "<PHYSICAL-TYPE BASE-DATA-TYPE=\"A_UINT32\"\nDISPLAY-RADIX=\"hex\"/>";
+    std::string const dop = "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>D</SHORT-NAME>"
+                            "<COMPU-METHOD><CATEGORY> IDENTICAL </CATEGORY></COMPU-METHOD>" +
+                            std::string(kStandardType) + "\n" + type + "</DATA-OBJECT-PROP></DATA-OBJECT-PROPS>";
+    Read(Dictionary(dop));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error unknown-literal");
+    EXPECT_EQ(Message(0), "DISPLAY-RADIX of 'PHYSICAL-TYPE' is 'hex', which is none of HEX, DEC, BIN, OCT");
+    EXPECT_STREQ(Get<NMemory::VMemDataObjectProp>(L"D").GetPhysicalType().GetDisplayRadix(), L"hex");
+    Read(Dictionary(dop, "2.2.0"));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VToleranceTest, DoctypesThatAreNoneAreReportedAndForgiven) {
+    Read(Layer("<REQUESTS><REQUEST ID=\"RQ\"><SHORT-NAME>RQ</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>"
+               "<IMPORT-REFS>\n<IMPORT-REF ID-REF=\"L\" DOCREF=\"L\" DOCTYPE=\"Layer\"/></IMPORT-REFS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning unknown-literal");
+    EXPECT_EQ(Message(0), "DOCTYPE is 'Layer', which is none of FLASH, CONTAINER, LAYER, MULTIPLE-ECU-JOB-SPEC, "
+                          "COMPARAM-SPEC; the target is looked for without it");
+}
+
 // Booleans
 
 TEST_F(VToleranceTest, BooleansAreReadInAnyCaseAndDefaultsStayForOthers) {
@@ -398,6 +419,15 @@ TEST_F(VToleranceTest, UnknownCategoryBesideAKnownOneIsLeftOut) {
     EXPECT_EQ(Diagnostics(), "");
     EXPECT_EQ(m_result.documents.size(), 1U);
     EXPECT_EQ(m_result.unknownElements, (std::map<std::string, std::size_t>{{"ECU-CONFIG", 1}}));
+}
+
+TEST_F(VToleranceTest, UnknownElementsAreReportedFor20Only) {
+    std::string const content = "<NO-SUCH-LIST>\n<NO-SUCH-ELEMENT/></NO-SUCH-LIST>";
+    Read(Container(content));
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 warning unknown-child");
+    EXPECT_EQ(Message(0), "'DIAG-LAYER-CONTAINER' holds no 'NO-SUCH-LIST' in ODX 2.0; it is left out with all inside");
+    Read(Container(content, "2.2.0"));
+    EXPECT_EQ(Diagnostics(), "");
 }
 
 TEST_F(VToleranceTest, UnknownElementsAreCountedWithoutTheirContents) {

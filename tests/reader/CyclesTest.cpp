@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "reader/ReaderTest.h"
+
+#include <random>
+#include <set>
+
+#include <diagkit/memory/Odx.h>
+#include <diagkit/tools/DiagLayerTraverser.h>
+
+namespace NTest {
+namespace {
+
+// Data whose required parts are left out, as documents of later versions may leave them out: only cycles are reported.
+constexpr char kVersion[] = "2.2.0";
+
+std::string Xml(std::string const& tag, std::string const& id, std::string const& content) {
+    return "<" + tag + " ID=\"" + id + "\"><SHORT-NAME>" + id + "</SHORT-NAME>" + content + "</" + tag + ">";
+}
+
+std::string Value(std::string const& reference) {
+    return "<PARAM xsi:type=\"VALUE\"><SHORT-NAME>P</SHORT-NAME>\n" + reference + "</PARAM>";
+}
+
+std::string Ref(std::string const& tag, std::string const& id) { return "<" + tag + " ID-REF=\"" + id + "\"/>"; }
+std::string Dop(std::string const& id) { return Value(Ref("DOP-REF", id)); }
+std::string DopSnref(std::string const& name) { return Value("<DOP-SNREF SHORT-NAME=\"" + name + "\"/>"); }
+
+std::string Params(std::vector<std::string> const& params) {
+    std::string all;
+    for (std::string const& param : params) {
+        all += param;
+    }
+    return "<PARAMS>" + all + "</PARAMS>";
+}
+
+std::string Structure(std::string const& id, std::vector<std::string> const& params) {
+    return Xml("STRUCTURE", id, Params(params));
+}
+
+std::string Structures(std::string const& structures) { return "<STRUCTURES>" + structures + "</STRUCTURES>"; }
+
+std::string Field(std::string const& tag, std::string const& id, std::string const& content) {
+    return "<" + tag + "S>" + Xml(tag, id, content) + "</" + tag + "S>";
+}
+
+std::string Mux(std::string const& id, std::string const& content) {
+    return "<MUXS>" + Xml("MUX", id, content) + "</MUXS>";
+}
+
+class VCyclesTest : public VReaderTest {
+protected:
+    void ReadDictionary(std::string const& content) { Read(Dictionary(content, kVersion)); }
+
+    /// The document has one cycle, which the reference at this place closes, and a walk over it ends.
+    void ExpectSevered(std::string const& position, std::string const& element) {
+        EXPECT_EQ(Diagnostics(), "test.odx:" + position + " error containment-cycle");
+        ASSERT_EQ(m_result.diagnostics.size(), 1U);
+        EXPECT_EQ(Message(0), element + " contains itself through this reference, which is left unresolved");
+        Walk();
+    }
+
+    void Walk() {
+        for (NODX201::VDiagLayerContainer& container : Database().GetOdx().DiagLayerContainerCollection()) {
+            for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
+                NDIAGKIT::VDiagLayerTraverser(layer).TraverseDiagLayer();
+            }
+        }
+    }
+};
+
+TEST_F(VCyclesTest, StructureOfItself) {
+    ReadDictionary(Structures(Structure("S", {Dop("S")})));
+    ExpectSevered("3:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, StructureThroughAnother) {
+    ReadDictionary(Structures(Structure("S", {Dop("T")}) + Structure("T", {Dop("S")})));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, OnlyTheReferenceThatClosesTheCycleIsLeftUnresolved) {
+    ReadDictionary(Structures(Structure("S", {Dop("T")}) + Structure("T", {Dop("U"), Dop("S")}) + Structure("U", {})));
+    ExpectSevered("5:1", "STRUCTURE 'S'");
+    auto& layer = Get<NODX201::VDiagLayer>(L"L");
+    auto const resolves = [&](wchar_t const* id, std::size_t index) {
+        return As<NODX201::VValue>(At(Get<NODX201::VStructure>(id).ParamCollection(), index))
+            .GetDopBaseLink()
+            .HasDopBase(layer);
+    };
+    EXPECT_TRUE(resolves(L"S", 0));
+    EXPECT_TRUE(resolves(L"T", 0));
+    EXPECT_FALSE(resolves(L"T", 1));
+}
+
+TEST_F(VCyclesTest, StaticField) {
+    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+                   Field("STATIC-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, DynamicLengthField) {
+    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+                   Field("DYNAMIC-LENGTH-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, DynamicEndmarkerField) {
+    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+                   Field("DYNAMIC-ENDMARKER-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, EndmarkerThatIsTheFieldItself) {
+    ReadDictionary(Field("DYNAMIC-ENDMARKER-FIELD", "F", "\n" + Ref("DATA-OBJECT-PROP-REF", "F")));
+    ExpectSevered("3:1", "DYNAMIC-ENDMARKER-FIELD 'F'");
+}
+
+TEST_F(VCyclesTest, EndOfPduField) {
+    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+                   Field("END-OF-PDU-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, CaseOfAMux) {
+    ReadDictionary(
+        Structures(Structure("S", {Dop("M")})) +
+        Mux("M", "<CASES><CASE><SHORT-NAME>C</SHORT-NAME>\n" + Ref("STRUCTURE-REF", "S") + "</CASE></CASES>"));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, DefaultCaseOfAMux) {
+    ReadDictionary(
+        Structures(Structure("S", {Dop("M")})) +
+        Mux("M", "<DEFAULT-CASE><SHORT-NAME>C</SHORT-NAME>\n" + Ref("STRUCTURE-REF", "S") + "</DEFAULT-CASE>"));
+    ExpectSevered("4:1", "STRUCTURE 'S'");
+}
+
+TEST_F(VCyclesTest, EnvDataInsideItsDescription) {
+    ReadDictionary(
+        "<ENV-DATA-DESCS>" +
+        Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + Xml("ENV-DATA", "E", Params({Dop("N")})) + "</ENV-DATAS>") +
+        "</ENV-DATA-DESCS>");
+    ExpectSevered("3:1", "ENV-DATA-DESC 'N'");
+}
+
+TEST_F(VCyclesTest, EnvDataByReference) {
+    ReadDictionary("<ENV-DATA-DESCS>" +
+                   Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>\n" + Ref("ENV-DATA-REF", "E") + "</ENV-DATAS>") +
+                   "</ENV-DATA-DESCS><ENV-DATAS>" + Xml("ENV-DATA", "E", Params({Dop("N")})) + "</ENV-DATAS>");
+    ExpectSevered("4:1", "ENV-DATA-DESC 'N'");
+}
+
+TEST_F(VCyclesTest, EnvDataDescriptionOfAField) {
+    ReadDictionary(
+        "<ENV-DATA-DESCS>" +
+        Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + Xml("ENV-DATA", "E", Params({Dop("F")})) + "</ENV-DATAS>") +
+        "</ENV-DATA-DESCS>" + Field("END-OF-PDU-FIELD", "F", "\n" + Ref("ENV-DATA-DESC-REF", "N")));
+    ExpectSevered("4:1", "ENV-DATA-DESC 'N'");
+}
+
+TEST_F(VCyclesTest, EveryCycleOfADocumentIsReported) {
+    ReadDictionary(Structures(Structure("S", {Dop("S"), Dop("S"), Dop("T")}) + Structure("T", {Dop("S"), Dop("T")})));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle\ntest.odx:4:1 error containment-cycle\n"
+                             "test.odx:6:1 error containment-cycle\ntest.odx:7:1 error containment-cycle");
+    Walk();
+}
+
+TEST_F(VCyclesTest, DiamondsAreNoCycles) {
+    ReadDictionary(Structures(Structure("S", {Dop("T"), Dop("U")}) + Structure("T", {Dop("V")}) +
+                              Structure("U", {Dop("V")}) + Structure("V", {})));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VCyclesTest, LongChainsAreFollowedToTheirEnd) {
+    constexpr int kLength = 20000;
+    std::string content;
+    for (int index = 0; index < kLength; ++index) {
+        content +=
+            Xml("STRUCTURE", "S" + std::to_string(index), Params({Dop("S" + std::to_string((index + 1) % kLength))}));
+    }
+    ReadDictionary("<STRUCTURES>" + content + "</STRUCTURES>");
+    EXPECT_EQ(Diagnostics(), "test.odx:20002:1 error containment-cycle");
+}
+
+TEST_F(VCyclesTest, ShortNameOfTheStructureItself) {
+    ReadDictionary(Structures(Structure("S", {DopSnref("S")})));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle");
+    ASSERT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(Message(0),
+              "STRUCTURE 'S' contains itself through this reference in the layer 'L', which is left unresolved");
+    Walk();
+}
+
+TEST_F(VCyclesTest, ShortNameThatMeansAnotherDopInEveryLayerIsNone) {
+    // "S" is a STRUCTURE in a layer of which the ECU-SHARED-DATA with "T" knows nothing.
+    Read(Container("<ECU-SHARED-DATAS>" +
+                       Xml("ECU-SHARED-DATA", "A",
+                           "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("T", {DopSnref("S")})) +
+                               "</DIAG-DATA-DICTIONARY-SPEC>") +
+                       Xml("ECU-SHARED-DATA", "B",
+                           "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("S", {DopSnref("T")})) +
+                               "</DIAG-DATA-DICTIONARY-SPEC>") +
+                       "</ECU-SHARED-DATAS>",
+                   kVersion));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantOnly) {
+    // In the first variant "Payload" is a DOP, in the second a STRUCTURE that holds the frame that holds it.
+    std::string const frame = "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("Frame", {DopSnref("Payload")})) +
+                              "</DIAG-DATA-DICTIONARY-SPEC>";
+    auto const variant = [](std::string const& name, std::string const& dictionary) {
+        return Xml("ECU-VARIANT", name,
+                   "<DIAG-DATA-DICTIONARY-SPEC>" + dictionary +
+                       "</DIAG-DATA-DICTIONARY-SPEC><PARENT-REFS><PARENT-REF xsi:type=\"ECU-SHARED-DATA-REF\" "
+                       "ID-REF=\"A\"/></PARENT-REFS>");
+    };
+    std::string const simple =
+        "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>Payload</SHORT-NAME></DATA-OBJECT-PROP>"
+        "</DATA-OBJECT-PROPS>";
+    std::string const nested = "<STRUCTURES><STRUCTURE ID=\"N\"><SHORT-NAME>Payload</SHORT-NAME>" +
+                               Params({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>";
+    std::string const shared = "<ECU-SHARED-DATAS>" + Xml("ECU-SHARED-DATA", "A", frame) + "</ECU-SHARED-DATAS>";
+
+    Read(Container(shared + "<ECU-VARIANTS>" + variant("V1", simple) + "</ECU-VARIANTS>", kVersion));
+    EXPECT_EQ(Diagnostics(), "");
+    Read(Container(shared + "<ECU-VARIANTS>" + variant("V1", simple) + variant("V2", nested) + "</ECU-VARIANTS>",
+                   kVersion));
+    EXPECT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(m_result.diagnostics[0].code, "containment-cycle");
+    EXPECT_NE(Message(0).find("in the layer 'V2'"), std::string::npos) << Message(0);
+    Walk();
+}
+
+// Whatever refers to whatever
+
+/// Whether a DOP is reached from itself, told by the contract alone.
+bool IsInCycle(NODX201::VDopBase& dop, NODX201::VDiagLayer& layer, std::set<NODX201::VDopBase*>& above) {
+    if (!above.insert(&dop).second) {
+        return true;
+    }
+    bool isInCycle = false;
+    auto const enter = [&](NODX201::VDopBase& inner) { isInCycle = isInCycle || IsInCycle(inner, layer, above); };
+    if (auto* const structure = dynamic_cast<NODX201::VBasicStructure*>(&dop)) {
+        for (NODX201::VParam& param : structure->ParamCollection()) {
+            auto* const value = dynamic_cast<NODX201::VValue*>(&param);
+            if (value != nullptr && value->GetDopBaseLink().HasDopBase(layer)) {
+                enter(value->GetDopBaseLink().GetDopBase());
+            }
+        }
+    } else if (auto* const field = dynamic_cast<NODX201::VField*>(&dop)) {
+        auto& choice = field->GetBasicStructureEnvDataDescChoice();
+        auto* const link = dynamic_cast<NODX201::VBasicStructureLink*>(&choice);
+        if (link != nullptr && link->HasBasicStructure()) {
+            enter(link->GetBasicStructure());
+        }
+    } else if (auto* const mux = dynamic_cast<NODX201::VMux*>(&dop)) {
+        for (NODX201::VCase& muxCase : mux->CaseCollection()) {
+            if (muxCase.GetStructureRef().HasStructure()) {
+                enter(muxCase.GetStructureRef().GetStructure());
+            }
+        }
+    }
+    above.erase(&dop);
+    return isInCycle;
+}
+
+TEST_F(VCyclesTest, NoRandomDictionaryHoldsACycleAfterReading) {
+    std::mt19937 random(20110);
+    std::size_t severed = 0;
+    for (int round = 0; round < 300; ++round) {
+        auto const pick = [&random](int below) { return std::to_string(static_cast<int>(random() % below)); };
+        std::string structures;
+        std::string fields;
+        std::string muxes;
+        for (int index = 0; index < 5; ++index) {
+            std::string const number = std::to_string(index);
+            std::string const kinds[] = {"S", "F", "M"};
+            std::vector<std::string> params;
+            for (std::size_t count = random() % 3; count > 0; --count) {
+                std::string const target = kinds[random() % 3] + pick(5);
+                params.push_back(random() % 2 == 0 ? Dop(target) : DopSnref(target));
+            }
+            structures += Xml("STRUCTURE", "S" + number, Params(params));
+            fields += Xml("STATIC-FIELD", "F" + number, Ref("BASIC-STRUCTURE-REF", "S" + pick(5)));
+            muxes += Xml("MUX", "M" + number,
+                         "<CASES><CASE><SHORT-NAME>C</SHORT-NAME>" + Ref("STRUCTURE-REF", "S" + pick(5)) +
+                             "</CASE></CASES>");
+        }
+        ReadDictionary("<STRUCTURES>" + structures + "</STRUCTURES><STATIC-FIELDS>" + fields +
+                       "</STATIC-FIELDS><MUXS>" + muxes + "</MUXS>");
+        severed += m_result.diagnostics.size();
+        auto& layer = Get<NODX201::VDiagLayer>(L"L");
+        for (NODX201::VDopBase& dop : layer.GetDiagDataDictionarySpec().DopBaseCollection()) {
+            std::set<NODX201::VDopBase*> above;
+            ASSERT_FALSE(IsInCycle(dop, layer, above)) << "round " << round << "\n" << Diagnostics();
+        }
+    }
+    EXPECT_GT(severed, 300U);
+}
+
+} // namespace
+} // namespace NTest
