@@ -2,10 +2,10 @@
 
 // Building the DIAG-COMM view of an ECU-VARIANT over a stack of all five kinds of layer, by visible entries:
 //
-//     view/N     as the toolkit does it
-//     bare/N     what it costs at least: for every entry of every view that the passes build, one insertion of its name
-//                into a set and one addition to a list
-//     naive/N    the rule as it is written: every name of a parent is searched in the list
+//     diag-comm-view/N          as the toolkit does it
+//     diag-comm-view-bare/N     what it costs at least: for every entry of every view that the passes build, one
+//                               insertion of its name into a set and one addition to a list
+//     diag-comm-view-naive/N    the rule as it is written: every name of a parent is searched in the list
 //
 // Each is measured with what it releases at the end.
 
@@ -107,9 +107,9 @@ void Naive(benchmark::State& state) {
     }
 }
 
-BENCHMARK(View)->Name("view")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(Bare)->Name("bare")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(Naive)->Name("naive")->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(View)->Name("diag-comm-view")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Bare)->Name("diag-comm-view-bare")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Naive)->Name("diag-comm-view-naive")->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace NBench
