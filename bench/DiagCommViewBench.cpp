@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <list>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -20,57 +19,26 @@
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/tools/DiagCommView.h>
 
+#include "ListViewBench.h"
 #include "MakeStack.h"
 
 namespace NBench {
 namespace {
 
 using NDIAGKIT::VDiagCommView;
-using VElements = std::vector<NODX201::VDiagComm*>;
-
-VElements ElementsOf(VDiagCommView&& view) {
-    VElements elements;
-    for (NODX201::VDiagComm& diagComm : view) {
-        elements.push_back(&diagComm);
-    }
-    return elements;
-}
-
-/// The entries of every view that building the ECU-VARIANT's takes, in the order in which they are complete.
-std::vector<VElements> ViewsOf(VStack& stack) {
-    VElements const shared = ElementsOf(VDiagCommView(*stack.ecuSharedData));
-    VElements const protocol = ElementsOf(VDiagCommView(*stack.protocol));
-    return {shared,
-            protocol,
-            ElementsOf(VDiagCommView(*stack.functionalGroup)),
-            shared,
-            protocol,
-            ElementsOf(VDiagCommView(*stack.baseVariant)),
-            ElementsOf(VDiagCommView(*stack.ecuVariant))};
-}
 
 void View(benchmark::State& state) {
-    VStack stack(static_cast<std::size_t>(state.range(0)));
-    for (auto _ : state) {
-        VDiagCommView view(*stack.ecuVariant);
-        benchmark::DoNotOptimize(view.Count());
-    }
+    VDiagCommStack stack(static_cast<std::size_t>(state.range(0)));
+    BenchView<VDiagCommView>(state, *stack.ecuVariant);
 }
 
 void Bare(benchmark::State& state) {
-    VStack stack(static_cast<std::size_t>(state.range(0)));
-    std::vector<VElements> const views = ViewsOf(stack);
-    for (auto _ : state) {
-        for (VElements const& elements : views) {
-            std::unordered_set<std::wstring_view> names;
-            std::list<NODX201::VDiagComm*> list;
-            for (NODX201::VDiagComm* const element : elements) {
-                names.insert(element->GetShortName());
-                list.push_back(element);
-            }
-            benchmark::DoNotOptimize(list.size() + names.size());
-        }
-    }
+    VDiagCommStack stack(static_cast<std::size_t>(state.range(0)));
+    auto const shared = ElementsOf(VDiagCommView(*stack.ecuSharedData));
+    auto const protocol = ElementsOf(VDiagCommView(*stack.protocol));
+    BenchBareLists<NODX201::VDiagComm>(state, {shared, protocol, ElementsOf(VDiagCommView(*stack.functionalGroup)),
+                                               shared, protocol, ElementsOf(VDiagCommView(*stack.baseVariant)),
+                                               ElementsOf(VDiagCommView(*stack.ecuVariant))});
 }
 
 std::list<NODX201::VDiagComm*> Own(NODX201::VDiagLayer& layer) {
@@ -98,7 +66,7 @@ std::list<NODX201::VDiagComm*> NaiveProtocol(VStack& stack) {
 }
 
 void Naive(benchmark::State& state) {
-    VStack stack(static_cast<std::size_t>(state.range(0)));
+    VDiagCommStack stack(static_cast<std::size_t>(state.range(0)));
     for (auto _ : state) {
         auto const group = Merged(Own(*stack.functionalGroup), NaiveProtocol(stack));
         auto const base = Merged(Merged(Own(*stack.baseVariant), group), NaiveProtocol(stack));
@@ -107,9 +75,9 @@ void Naive(benchmark::State& state) {
     }
 }
 
-BENCHMARK(View)->Name("diag-comm-view")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(Bare)->Name("diag-comm-view-bare")->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(Naive)->Name("diag-comm-view-naive")->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(View)->Name("diag-comm-view")->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(Bare)->Name("diag-comm-view-bare")->RangeMultiplier(10)->Range(1000, 100000);
+BENCHMARK(Naive)->Name("diag-comm-view-naive")->RangeMultiplier(10)->Range(1000, 10000);
 
 } // namespace
 } // namespace NBench

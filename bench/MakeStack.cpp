@@ -1,37 +1,50 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MakeStack.h"
 
-#include <string>
+#include <type_traits>
+
+#include <diagkit/memory/Dops.h>
 
 namespace NBench {
-namespace {
 
-template <class Layer>
-void AddServices(Layer& layer, wchar_t const* prefix, std::size_t count) {
-    for (std::size_t number = 0; number < count; ++number) {
-        layer.AddDiagService((prefix + std::to_wstring(1000000 + number)).c_str());
-    }
-}
-
-} // namespace
-
-VStack::VStack(std::size_t visible) {
+VStack::VStack() {
     NMemory::VMemDiagLayerContainer& container = database.AddDiagLayerContainer(L"Stack");
     ecuSharedData = &container.AddEcuSharedData(L"Shared");
     protocol = &container.AddProtocol(L"Protocol");
     functionalGroup = &container.AddFunctionalGroup(L"Group");
     baseVariant = &container.AddBaseVariant(L"Base");
     ecuVariant = &container.AddEcuVariant(L"Ecu");
-    AddServices(*ecuSharedData, L"Shared_", visible / 5);
-    AddServices(*protocol, L"Protocol_", visible / 5);
-    AddServices(*functionalGroup, L"Group_", visible / 5);
-    AddServices(*baseVariant, L"Base_", visible / 5);
-    AddServices(*ecuVariant, L"Ecu_", visible / 5);
     protocol->AddParentRef(*ecuSharedData);
     functionalGroup->AddParentRef(*protocol);
     baseVariant->AddParentRef(*functionalGroup);
     baseVariant->AddParentRef(*protocol);
     ecuVariant->AddParentRef(*baseVariant);
+}
+
+VDiagCommStack::VDiagCommStack(std::size_t visible) {
+    Fill(visible / 5, [](auto& layer, wchar_t const* shortName) { layer.AddDiagService(shortName); });
+}
+
+VDopStack::VDopStack(std::size_t visible) {
+    Fill(visible / 5, [](auto& layer, wchar_t const* shortName) {
+        auto& dictionary =
+            layer.HasDiagDataDictionarySpec() ? layer.GetDiagDataDictionarySpec() : layer.MakeDiagDataDictionarySpec();
+        dictionary.AddDataObjectProp(shortName);
+    });
+}
+
+VGlobalNegResponseStack::VGlobalNegResponseStack(std::size_t visible) {
+    Fill(visible / 5, [](auto& layer, wchar_t const* shortName) { layer.AddGlobalNegResponse(shortName); });
+}
+
+VDiagVariableStack::VDiagVariableStack(std::size_t visible) {
+    functionalGroup->AddParentRef(*ecuSharedData);
+    baseVariant->AddParentRef(*ecuSharedData);
+    Fill(visible / 4, [](auto& layer, wchar_t const* shortName) {
+        if constexpr (!std::is_same_v<decltype(layer), NMemory::VMemProtocol&>) {
+            layer.AddDiagVariable(shortName);
+        }
+    });
 }
 
 } // namespace NBench

@@ -2,17 +2,27 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Layers.h>
 
 namespace NBench {
 
-/// A stack of layers of all five kinds, ECU-VARIANT < BASE-VARIANT < FUNCTIONAL-GROUP and PROTOCOL < ECU-SHARED-DATA,
-/// with so many DIAG-COMMs visible in the ECU-VARIANT: a fifth of them in each layer, every name once. The FUNCTIONAL-
-/// GROUP inherits from the PROTOCOL too, so that one layer is reached in two ways.
+/// A stack of layers of all five kinds, ECU-VARIANT < BASE-VARIANT < FUNCTIONAL-GROUP and PROTOCOL < ECU-SHARED-DATA.
+/// The FUNCTIONAL-GROUP inherits from the PROTOCOL too, so that one layer is reached in two ways.
 struct VStack {
-    explicit VStack(std::size_t visible);
+    VStack();
+
+    /// Calls `add` with each layer and as many short names as it is to have of something. Every name occurs once.
+    template <class Add>
+    void Fill(std::size_t inEachLayer, Add add) {
+        FillLayer(*ecuSharedData, L"Shared_", inEachLayer, add);
+        FillLayer(*protocol, L"Protocol_", inEachLayer, add);
+        FillLayer(*functionalGroup, L"Group_", inEachLayer, add);
+        FillLayer(*baseVariant, L"Base_", inEachLayer, add);
+        FillLayer(*ecuVariant, L"Ecu_", inEachLayer, add);
+    }
 
     NMemory::VDatabase database;
     NMemory::VMemEcuSharedData* ecuSharedData;
@@ -20,6 +30,35 @@ struct VStack {
     NMemory::VMemFunctionalGroup* functionalGroup;
     NMemory::VMemBaseVariant* baseVariant;
     NMemory::VMemEcuVariant* ecuVariant;
+
+private:
+    template <class Layer, class Add>
+    static void FillLayer(Layer& layer, wchar_t const* prefix, std::size_t count, Add& add) {
+        for (std::size_t number = 0; number < count; ++number) {
+            add(layer, (prefix + std::to_wstring(1000000 + number)).c_str());
+        }
+    }
+};
+
+/// So many DIAG-COMMs visible in the ECU-VARIANT, a fifth of them in each layer.
+struct VDiagCommStack : VStack {
+    explicit VDiagCommStack(std::size_t visible);
+};
+
+/// The same with DOPs.
+struct VDopStack : VStack {
+    explicit VDopStack(std::size_t visible);
+};
+
+/// The same with GLOBAL-NEG-RESPONSEs.
+struct VGlobalNegResponseStack : VStack {
+    explicit VGlobalNegResponseStack(std::size_t visible);
+};
+
+/// So many DIAG-VARIABLEs visible in the ECU-VARIANT, a quarter of them in each layer but the PROTOCOL, which has none.
+/// The ECU-SHARED-DATA is reached through the FUNCTIONAL-GROUP and through the BASE-VARIANT.
+struct VDiagVariableStack : VStack {
+    explicit VDiagVariableStack(std::size_t visible);
 };
 
 } // namespace NBench

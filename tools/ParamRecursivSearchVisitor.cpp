@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/ParamRecursivSearchVisitor.h>
 
+#include <cwchar>
+
 #include <diagkit/model/Dops.h>
 #include <diagkit/model/Params.h>
 #include <diagkit/model/Tables.h>
@@ -30,7 +32,7 @@ void Visitor::VisitValue(NODX201::VValue& param) {
     if (IsDone()) {
         return;
     }
-    if (m_shortName == param.GetShortName()) {
+    if (std::wcscmp(param.GetShortName(), m_shortName.c_str()) == 0) {
         m_result = &param;
         return;
     }
