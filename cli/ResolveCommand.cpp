@@ -14,6 +14,7 @@
 #include <diagkit/cli/LayerFinder.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/NearNames.h>
+#include <diagkit/cli/OutParamPath.h>
 #include <diagkit/cli/Selections.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/ViewText.h>
@@ -38,6 +39,7 @@ struct VAnswer {
     NODX201::VOdxElement const* found = nullptr;
     std::string where;                    ///< what was searched, for the message when nothing is found
     std::vector<std::wstring_view> names; ///< those visible there
+    std::string path{};                   ///< how the search got to what was found, where that is more than its owners
 };
 
 template <class Element>
@@ -169,12 +171,23 @@ VAnswer ResolveOutParam(VQuestion& question) {
         return {};
     }
     auto const range = static_cast<NODX201::VSearchRange>(question.arguments.range);
+    VOutParamPath path;
+    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(selection.diagComm)) {
+        path = PathToOutParam(*service, range, question.name, *selection.layer);
+    }
+    if (path.endless != nullptr) {
+        question.output.Complain(fmt::format("{} leads to {} {}, which contains itself or nests without end; its "
+                                             "parameters are not searched",
+                                             TitleOf(selection), TagTextOf(*path.endless), ShownName(*path.endless)));
+        return {};
+    }
     NODX201::IOutParamIf* const found =
         selection.job != nullptr
             ? question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.job, *selection.layer)
             : question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.diagComm, *selection.layer,
                                                        range);
-    return {true, ElementOf(found), TitleOf(selection), NamesIn(*OutParamsOf(selection, question.arguments.range))};
+    return {true, ElementOf(found), TitleOf(selection), NamesIn(*OutParamsOf(selection, question.arguments.range)),
+            Printed(path)};
 }
 
 struct VResolveKind {
@@ -209,9 +222,10 @@ std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
     return message;
 }
 
-void WriteText(NODX201::VOdxElement const& found, VOutput& output) {
+void WriteText(VAnswer const& answer, VOutput& output) {
+    NODX201::VOdxElement const& found = *answer.found;
     NODX201::VDiagLayer const* const layer = LayerOf(found);
-    std::string const path = PathTo(found);
+    std::string const path = answer.path.empty() ? PathTo(found) : answer.path;
     VColumns columns;
     columns.Add({ShownName(found), KindOf(found), ShownId(found), layer != nullptr ? "from " + Titled(*layer) : "",
                  path.empty() ? "" : "in " + path});
@@ -227,7 +241,7 @@ VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output
         document["entry"] = answer.found != nullptr ? EntryOf(*answer.found) : nlohmann::ordered_json();
         output.WriteJson(document);
     } else if (answer.found != nullptr) {
-        WriteText(*answer.found, output);
+        WriteText(answer, output);
     }
     if (answer.found != nullptr) {
         return VStatus::Done;

@@ -11,25 +11,6 @@
 #include <diagkit/tools/ResponseParams.h>
 
 namespace NDIAGKIT {
-namespace {
-
-// The uneven combinations are meant, the empty one included (EverySearchRangeSelectsItsSources).
-bool TakesRequest(NODX201::VSearchRange range) {
-    int const value = static_cast<int>(range);
-    return value == 1 || value == 3 || value == 5;
-}
-
-bool TakesPosResponses(NODX201::VSearchRange range) {
-    int const value = static_cast<int>(range);
-    return value == 0 || value == 4 || value == 5;
-}
-
-bool TakesNegResponses(NODX201::VSearchRange range) {
-    int const value = static_cast<int>(range);
-    return value == 0 || value == 1 || value == 5;
-}
-
-} // namespace
 
 wchar_t const* VOutParamIfViewTraits::ShortNameOf(Element& param) {
     if (param.IsValue()) {
@@ -51,15 +32,7 @@ VOutParamIfView::VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearc
         }
         m_searchRoots.push_back(&param);
     };
-    if (TakesRequest(range)) {
-        ForEachRequestParam(service, take);
-    }
-    if (TakesPosResponses(range)) {
-        ForEachPosResponseParam(service, take);
-    }
-    if (TakesNegResponses(range)) {
-        ForEachNegResponseParam(service, take);
-    }
+    ForEachSelectedParam(service, range, take);
 }
 
 VOutParamIfView::VOutParamIfView(NODX201::VSingleEcuJob& job) {

@@ -4,6 +4,7 @@
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Params.h>
 #include <diagkit/model/Responses.h>
+#include <diagkit/model/SearchRange.h>
 
 namespace NDIAGKIT {
 
@@ -45,6 +46,37 @@ void ForEachRequestParam(NODX201::VDiagService& service, Take& take) {
         for (NODX201::VParam& param : service.GetRequestRef().GetRequest().ParamCollection()) {
             take(param);
         }
+    }
+}
+
+// Which sources a search range takes. The uneven combinations are meant, the empty one and that of any other value
+// included (EverySearchRangeSelectsItsSources).
+inline bool TakesRequest(NODX201::VSearchRange range) {
+    int const value = static_cast<int>(range);
+    return value == 1 || value == 3 || value == 5;
+}
+
+inline bool TakesPosResponses(NODX201::VSearchRange range) {
+    int const value = static_cast<int>(range);
+    return value == 0 || value == 4 || value == 5;
+}
+
+inline bool TakesNegResponses(NODX201::VSearchRange range) {
+    int const value = static_cast<int>(range);
+    return value == 0 || value == 1 || value == 5;
+}
+
+/// The parameters of all the sources that the range takes: request, positive responses, negative responses.
+template <class Take>
+void ForEachSelectedParam(NODX201::VDiagService& service, NODX201::VSearchRange range, Take& take) {
+    if (TakesRequest(range)) {
+        ForEachRequestParam(service, take);
+    }
+    if (TakesPosResponses(range)) {
+        ForEachPosResponseParam(service, take);
+    }
+    if (TakesNegResponses(range)) {
+        ForEachNegResponseParam(service, take);
     }
 }
 

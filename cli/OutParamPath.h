@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/SearchRange.h>
+
+namespace NCli {
+
+/// The way that the search for an output parameter takes from the parameters of a service to what it finds.
+struct VOutParamPath {
+    /// From a parameter of the request or a response to the one found, both included; empty when nothing has the name.
+    std::vector<NODX201::VOdxElement const*> steps;
+    /// What contains itself, or lies deeper than any search may go, on the way to the first match. The search itself
+    /// has no guard: it must not be made then. Null where all is well.
+    NODX201::VOdxElement const* endless = nullptr;
+};
+
+VOutParamPath PathToOutParam(NODX201::VDiagService& service, NODX201::VSearchRange range, std::wstring const& shortName,
+                             NODX201::VDiagLayer& layer);
+
+/// The steps before the parameter found: "POS-RESPONSE PR_Status > PARAM Wiper > STRUCTURE WiperStatus".
+std::string Printed(VOutParamPath const& path);
+
+} // namespace NCli
