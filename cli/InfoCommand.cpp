@@ -8,9 +8,11 @@
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/Entry.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/OdxCategoryInfoCollection.h>
 
 namespace NCli {
 namespace {
@@ -21,6 +23,45 @@ constexpr std::array kTags{
 };
 
 using VCounts = std::map<std::string, std::size_t>;
+
+/// A document, as the category list holds it.
+class VDocument final : public NDIAGKIT::VOdxCategoryInfo {
+public:
+    explicit VDocument(NReader::VDocumentInfo const& info)
+        : m_modelVersion(info.modelVersion), m_category(info.category) {
+        SetFileName(NReader::FromUtf8(info.file).c_str());
+        SetShortName(NReader::FromUtf8(info.shortName).c_str());
+    }
+
+    std::string const& GetModelVersion() const { return m_modelVersion; } ///< "" when absent
+    std::string const& GetCategory() const { return m_category; }         ///< its tag
+
+private:
+    std::string m_modelVersion;
+    std::string m_category;
+};
+
+/// The documents of a call in load order.
+class VDocuments {
+public:
+    explicit VDocuments(std::vector<NReader::VDocumentInfo> const& documents) {
+        for (NReader::VDocumentInfo const& info : documents) {
+            m_categories.Append(*new VDocument(info)); // the list owns it
+        }
+    }
+
+    std::size_t Count() const { return static_cast<std::size_t>(m_categories.Count()); }
+
+    template <class Take>
+    void ForEach(Take take) {
+        for (NDIAGKIT::VOdxCategoryInfo& info : m_categories) {
+            take(static_cast<VDocument&>(info));
+        }
+    }
+
+private:
+    NDIAGKIT::VOdxCategoryInfoCollection m_categories;
+};
 
 /// Elements by ODX tag. The root is not counted: every database has it, even without a document.
 VCounts CountsOf(NMemory::VDatabase const& database) {
@@ -35,43 +76,43 @@ VCounts CountsOf(NMemory::VDatabase const& database) {
 }
 
 /// Every version once, in load order; documents without one add nothing.
-std::vector<std::string> ModelVersionsOf(std::vector<NReader::VDocumentInfo> const& documents) {
+std::vector<std::string> ModelVersionsOf(VDocuments& documents) {
     std::vector<std::string> versions;
-    for (NReader::VDocumentInfo const& document : documents) {
-        bool const isKnown = std::find(versions.begin(), versions.end(), document.modelVersion) != versions.end();
-        if (!isKnown && !document.modelVersion.empty()) {
-            versions.push_back(document.modelVersion);
+    documents.ForEach([&versions](VDocument const& document) {
+        std::string const& version = document.GetModelVersion();
+        if (!version.empty() && std::find(versions.begin(), versions.end(), version) == versions.end()) {
+            versions.push_back(version);
         }
-    }
+    });
     return versions;
 }
 
-nlohmann::ordered_json JsonOf(NReader::VReadResult const& result) {
+nlohmann::ordered_json JsonOf(VDocuments& documents, NMemory::VDatabase const& database) {
     nlohmann::ordered_json answer;
-    answer["model_versions"] = ModelVersionsOf(result.documents);
+    answer["model_versions"] = ModelVersionsOf(documents);
     answer["documents"] = nlohmann::ordered_json::array();
-    for (NReader::VDocumentInfo const& document : result.documents) {
+    documents.ForEach([&answer](VDocument const& document) {
         nlohmann::ordered_json entry;
-        entry["file"] = document.file;
-        entry["category"] = document.category;
-        entry["short_name"] =
-            document.shortName.empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(document.shortName);
+        entry["file"] = NReader::ToUtf8(document.GetFileName());
+        entry["category"] = document.GetCategory();
+        entry["short_name"] = TextOrNull(document.GetShortName());
         answer["documents"].push_back(std::move(entry));
-    }
+    });
     answer["counts"] = nlohmann::ordered_json::object();
-    for (auto const& [tag, count] : CountsOf(*result.database)) {
+    for (auto const& [tag, count] : CountsOf(database)) {
         answer["counts"][tag] = count;
     }
     return answer;
 }
 
-void WriteDocuments(std::vector<NReader::VDocumentInfo> const& documents, VOutput& output) {
-    output.Write(output.Heading(Counted(documents.size(), "document")) + "\n");
+void WriteDocuments(VDocuments& documents, VOutput& output) {
+    output.Write(output.Heading(Counted(documents.Count(), "document")) + "\n");
     VColumns columns;
-    for (NReader::VDocumentInfo const& document : documents) {
-        std::string const version = document.modelVersion.empty() ? "no MODEL-VERSION" : "ODX " + document.modelVersion;
-        columns.Add({Shown(document.shortName), document.category, Shown(version), Shown(document.file)});
-    }
+    documents.ForEach([&columns](VDocument const& document) {
+        std::string const& version = document.GetModelVersion();
+        columns.Add({Shown(document.GetShortName()), document.GetCategory(),
+                     version.empty() ? "no MODEL-VERSION" : Shown("ODX " + version), Shown(document.GetFileName())});
+    });
     output.Write(columns.Format());
 }
 
@@ -84,8 +125,8 @@ void WriteCounts(std::string const& heading, VCounts const& counts, VOutput& out
     output.Write(columns.Format());
 }
 
-void WriteText(NReader::VReadResult const& result, VOutput& output) {
-    WriteDocuments(result.documents, output);
+void WriteText(VDocuments& documents, NReader::VReadResult const& result, VOutput& output) {
+    WriteDocuments(documents, output);
     VCounts const counts = CountsOf(*result.database);
     std::size_t all = 0;
     for (auto const& [tag, count] : counts) {
@@ -105,10 +146,11 @@ VStatus RunInfo(VArguments const& arguments, VOutput& output) {
     if (VStatus const status = Load(arguments, output, result); status != VStatus::Done) {
         return status;
     }
+    VDocuments documents(result.documents);
     if (arguments.isJson) {
-        output.WriteJson(JsonOf(result));
+        output.WriteJson(JsonOf(documents, *result.database));
     } else {
-        WriteText(result, output);
+        WriteText(documents, result, output);
     }
     return VStatus::Done;
 }
