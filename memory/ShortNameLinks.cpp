@@ -7,15 +7,25 @@
 #include <diagkit/memory/DiagCommLinks.h>
 #include <diagkit/memory/DopLinks.h>
 #include <diagkit/memory/Flash.h>
+#include <diagkit/model/Layers.h>
 
 namespace NMemory {
+namespace {
+
+/// An entry of DIAG-COMMS or DIAG-VARIABLES is part of the very view in which its short name would be looked up: it
+/// takes an ID only, whatever reference it was given since.
+bool IsEntryOfALayer(NODX201::VOdxElement const& link) {
+    return dynamic_cast<NODX201::VDiagLayer const*>(link.GetOwner()) != nullptr;
+}
+
+} // namespace
 
 bool VMemDiagCommLink::HasDiagComm(NODX201::VDiagLayer& layer) {
     wchar_t const* const shortName = Snref();
     if (shortName == nullptr) {
         return FindById(&IsDiagCommOfLayer);
     }
-    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    NODX201::VAbstractSnrefResolver* const resolver = IsEntryOfALayer(*this) ? nullptr : GetDatabase().GetResolver();
     return Remember(resolver != nullptr ? resolver->ResolveDiagCommSnref(shortName, layer) : nullptr);
 }
 
@@ -24,7 +34,7 @@ bool VMemDiagVariableLink::HasDiagVariable(NODX201::VDiagLayer& layer) {
     if (shortName == nullptr) {
         return FindById();
     }
-    NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
+    NODX201::VAbstractSnrefResolver* const resolver = IsEntryOfALayer(*this) ? nullptr : GetDatabase().GetResolver();
     return Remember(resolver != nullptr ? resolver->ResolveDiagVariableSnref(shortName, layer) : nullptr);
 }
 

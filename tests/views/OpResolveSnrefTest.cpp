@@ -84,6 +84,29 @@ TEST_F(OpResolveSnrefTest, OnlyDopViewsAreKept) {
     EXPECT_EQ(Resolver().ResolveProtocolSnref(L"New", m_container), protocol);
 }
 
+TEST_F(OpResolveSnrefTest, AResolverOutlivesEditsAndTheDatabase) {
+    auto database = std::make_unique<NMemory::VDatabase>();
+    NMemory::VMemDiagLayerContainer& container = database->AddDiagLayerContainer(L"Edited");
+    NMemory::VMemEcuVariant& one = container.AddEcuVariant(L"One");
+    NMemory::VMemEcuVariant& two = container.AddEcuVariant(L"Two");
+    NMemory::VMemDiagDataDictionarySpec& dictionary = one.MakeDiagDataDictionarySpec();
+    NODX201::VDopBase* const volt = &dictionary.AddDataObjectProp(L"Volt");
+    NODX201::VDopBase* const amp = &dictionary.AddDataObjectProp(L"Amp");
+    NMemory::VMemDiagService& read = one.AddDiagService(L"Read");
+    EXPECT_EQ(Resolver().ResolveDopBaseSnref(L"Volt", one), volt);
+    EXPECT_EQ(Resolver().ResolveDopBaseSnref(L"Volt", two), nullptr);
+    EXPECT_EQ(Resolver().ResolveDiagCommSnref(L"Read", one), &read);
+
+    delete amp;
+    delete &two; // a layer whose view is kept
+    delete &read;
+    EXPECT_EQ(Resolver().ResolveDopBaseSnref(L"Volt", one), volt);
+    EXPECT_EQ(Resolver().ResolveDiagCommSnref(L"Read", one), nullptr);
+    database.reset();
+    StartNewResolver(); // the kept views end after all that they showed
+    EXPECT_EQ(Resolver().ResolveDopBaseSnref(L"Volt", m_layer), nullptr);
+}
+
 TEST_F(OpResolveSnrefTest, ADopOfAnotherKindIsNoDataObjectProp) {
     NODX201::VDataObjectProp* const prop = &m_dictionary.AddDataObjectProp(L"Prop");
     NODX201::VDopBase* const others[] = {&m_dictionary.AddStructure(L"Structure"), &m_dictionary.AddDtcDop(L"DtcDop"),
@@ -294,6 +317,18 @@ TEST_F(OpResolveSnrefTest, AnInheritedServiceMeansEachEcuVariantsOwnDop) {
         EXPECT_EQ(meaning(m_layer), nullptr) << "a layer that does not inherit from there";
     }
     EXPECT_EQ(m_database.GetResolver()->ResolveDiagCommSnref(L"Read", one), &service);
+}
+
+TEST_F(OpResolveSnrefTest, AnEntryOfALayerGivenAShortNameLaterIsLeftOutOfTheViewItWouldAsk) {
+    m_database.SetResolverFactory([] { return std::make_unique<VOpResolveSnref>(); });
+    m_layer.AddDiagCommRef(m_service).SetReference(VReference::ByShortName(L"Service"));
+    NMemory::VMemDiagVariable& variable = m_layer.AddDiagVariable(L"Speed");
+    m_layer.AddDiagVariableRef(variable).SetReference(VReference::ByShortName(L"Speed"));
+    NDIAGKIT::VDiagCommView diagComms(m_layer);
+    EXPECT_EQ(diagComms.Count(), 2u) << "the service and the job of the fixture";
+    NDIAGKIT::VDiagVariableView diagVariables(m_layer);
+    EXPECT_EQ(diagVariables.Count(), 1u);
+    EXPECT_EQ(Resolver().ResolveDiagCommSnref(L"Service", m_layer), &m_service);
 }
 
 #ifdef DIAGKIT_TEST_SLOTS
