@@ -4,10 +4,12 @@
 #include <utility>
 
 #include <diagkit/memory/Odx.h>
+#include <diagkit/memory/PlaceIndex.h>
 
 namespace NMemory {
 
-VDatabase::VDatabase() : m_odx(std::make_unique<VMemOdx>(VPlace{nullptr, this})) {}
+VDatabase::VDatabase()
+    : m_places(std::make_unique<VPlaceIndex>()), m_odx(std::make_unique<VMemOdx>(VPlace{nullptr, this})) {}
 
 VDatabase::~VDatabase() {
     // Elements that are destroyed with the whole database need not leave its index one by one.

@@ -20,6 +20,7 @@ class VMemDiagLayerContainer;
 class VMemFlash;
 class VMemMultipleEcuJobSpec;
 class VMemOdx;
+class VPlaceIndex;
 
 class VFlashCollection : public NODX201::VElementCollection<VMemFlash> {};
 class VMultipleEcuJobSpecCollection : public NODX201::VElementCollection<VMemMultipleEcuJobSpec> {};
@@ -86,6 +87,7 @@ public:
     void Index(wchar_t const* id, NODX201::VReferencable& element);
     void Unindex(wchar_t const* id, NODX201::VReferencable const& element);
     VIdIndex const& GetIdIndex() const { return m_ids; }
+    VPlaceIndex& GetPlaceIndex() { return *m_places; }
     std::wstring MakeId();                ///< an ID that no element has
     void NoteChange() { ++m_generation; } ///< what links remember may not hold any more
     void NoteRemoval();                   ///< nor what the resolver remembers
@@ -97,6 +99,7 @@ public:
 private:
     VTextPool m_texts;
     VIdIndex m_ids;
+    std::unique_ptr<VPlaceIndex> m_places;
     std::vector<std::size_t> m_counts; // by tag value
     std::vector<std::string> m_documentNames;
     std::uint64_t m_generation = 1;

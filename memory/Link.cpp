@@ -5,95 +5,56 @@
 #include <string_view>
 
 #include <diagkit/memory/Importing.h>
+#include <diagkit/memory/PlaceIndex.h>
 #include <diagkit/model/DiagComms.h>
 
 namespace NMemory {
 namespace {
 
-bool IsLayer(Tag tag) {
-    return tag == Tag::Protocol || tag == Tag::FunctionalGroup || tag == Tag::BaseVariant || tag == Tag::EcuVariant ||
-           tag == Tag::EcuSharedData;
-}
+/// One search for an ID that several elements have.
+class VSearch {
+public:
+    VSearch(VDatabase& database, VIdIndex::VEntry const& entry, VExpect expect)
+        : m_database(database), m_entry(entry), m_expect(expect) {}
 
-bool IsDocument(Tag tag) {
-    return tag == Tag::DiagLayerContainer || tag == Tag::ComparamSpec || tag == Tag::Flash ||
-           tag == Tag::MultipleEcuJobSpec;
-}
+    NODX201::VReferencable* In(VSearchPlace const& place) const {
+        return m_database.GetPlaceIndex().Find(m_entry, m_expect, place, m_database.GetGeneration());
+    }
+    NODX201::VReferencable* In(NODX201::VOdxElement const* layerOrDocument) const {
+        return layerOrDocument != nullptr ? In({VPlaceKind::Element, layerOrDocument}) : nullptr;
+    }
 
-/// The layer and the category document that an element stands in; a layer stands in itself.
-struct VScope {
-    NODX201::VOdxElement* layer = nullptr;
-    NODX201::VOdxElement* document = nullptr;
+    NODX201::VReferencable* InNamedDocument(std::wstring_view docref, std::wstring_view doctype) const;
+    NODX201::VReferencable* Around(NODX201::VOdxElement& from) const;
+
+private:
+    NODX201::VReferencable* InImports(NODX201::VOdxElement& layer) const;
+
+    VDatabase& m_database;
+    VIdIndex::VEntry const& m_entry;
+    VExpect m_expect;
 };
 
-VScope ScopeOf(NODX201::VOdxElement& element) {
-    VScope scope;
-    for (NODX201::VOdxObject* object = &element; object != nullptr; object = object->GetOwner()) {
-        auto* const candidate = dynamic_cast<NODX201::VOdxElement*>(object);
-        if (candidate == nullptr) {
-            continue; // the collection of a container's layers
-        }
-        if (IsLayer(candidate->GetOdxTag())) {
-            scope.layer = candidate;
-        } else if (IsDocument(candidate->GetOdxTag())) {
-            scope.document = candidate;
-        }
-    }
-    return scope;
-}
-
-bool IsNamed(NODX201::VOdxElement const* element, std::wstring_view shortName) {
-    return element != nullptr && shortName == element->GetShortName();
-}
-
-/// The first candidate of the expected class for which the test on its scope holds.
-template <class Test>
-NODX201::VReferencable* FirstIn(VIdIndex::VEntry const& entry, VExpect expect, Test test) {
-    if (expect(*entry.first) && test(ScopeOf(*entry.first))) {
-        return entry.first;
-    }
-    for (NODX201::VReferencable* const other : entry.others) {
-        if (expect(*other) && test(ScopeOf(*other))) {
-            return other;
-        }
-    }
-    return nullptr;
-}
-
-bool IsOfDoctype(NODX201::VOdxElement const& document, std::wstring_view doctype) {
+NODX201::VReferencable* VSearch::InNamedDocument(std::wstring_view docref, std::wstring_view doctype) const {
     static constexpr std::array<std::pair<std::wstring_view, Tag>, 4> kDoctypes{{
         {L"FLASH", Tag::Flash},
         {L"CONTAINER", Tag::DiagLayerContainer},
         {L"MULTIPLE-ECU-JOB-SPEC", Tag::MultipleEcuJobSpec},
         {L"COMPARAM-SPEC", Tag::ComparamSpec},
     }};
-    for (auto const& [literal, tag] : kDoctypes) {
-        if (literal == doctype) {
-            return document.GetOdxTag() == tag;
-        }
-    }
-    return false;
-}
-
-NODX201::VReferencable* FindInNamedDocument(VIdIndex::VEntry const& entry, VExpect expect, std::wstring_view docref,
-                                            std::wstring_view doctype) {
     NODX201::VReferencable* found = nullptr;
     if (doctype == L"LAYER") {
-        found = FirstIn(entry, expect, [&](VScope const& scope) { return IsNamed(scope.layer, docref); });
-    } else if (!doctype.empty()) {
-        found = FirstIn(entry, expect, [&](VScope const& scope) {
-            return IsNamed(scope.document, docref) && IsOfDoctype(*scope.document, doctype);
-        });
+        found = In({VPlaceKind::NamedLayer, nullptr, docref});
     }
-    if (found != nullptr) {
-        return found;
+    for (auto const& [literal, category] : kDoctypes) {
+        if (literal == doctype) {
+            found = In({VPlaceKind::NamedDocument, nullptr, docref, category});
+        }
     }
-    return FirstIn(entry, expect, [&](VScope const& scope) {
-        return IsNamed(scope.layer, docref) || IsNamed(scope.document, docref);
-    });
+    return found != nullptr ? found : In({VPlaceKind::Named, nullptr, docref});
 }
 
-NODX201::VReferencable* FindInImports(VIdIndex::VEntry const& entry, VExpect expect, NODX201::VOdxElement& layer) {
+NODX201::VReferencable* VSearch::InImports(NODX201::VOdxElement& layer) const {
     auto* const importing = dynamic_cast<IImporting*>(&layer);
     if (importing == nullptr) {
         return nullptr;
@@ -102,32 +63,26 @@ NODX201::VReferencable* FindInImports(VIdIndex::VEntry const& entry, VExpect exp
         if (!import.HasDiagLayer()) {
             continue;
         }
-        NODX201::VOdxElement const* const imported = &import.GetDiagLayer();
-        if (auto* const found = FirstIn(entry, expect, [&](VScope const& scope) { return scope.layer == imported; })) {
+        if (auto* const found = In(&import.GetDiagLayer())) {
             return found;
         }
     }
     return nullptr;
 }
 
-NODX201::VReferencable* FindAround(VIdIndex::VEntry const& entry, VExpect expect, NODX201::VOdxElement& from) {
+NODX201::VReferencable* VSearch::Around(NODX201::VOdxElement& from) const {
     VScope const own = ScopeOf(from);
-    if (own.layer != nullptr) {
-        if (auto* const found = FirstIn(entry, expect, [&](VScope const& scope) { return scope.layer == own.layer; })) {
-            return found;
-        }
+    if (auto* const found = In(own.layer)) {
+        return found;
     }
-    if (own.document != nullptr) {
-        if (auto* const found =
-                FirstIn(entry, expect, [&](VScope const& scope) { return scope.document == own.document; })) {
-            return found;
-        }
+    if (auto* const found = In(own.document)) {
+        return found;
     }
     // Imports do not chain: an IMPORT-REF itself looks no further.
     if (own.layer == nullptr || from.GetOdxTag() == Tag::ImportRef) {
         return nullptr;
     }
-    return FindInImports(entry, expect, *own.layer);
+    return InImports(*own.layer);
 }
 
 } // namespace
@@ -162,11 +117,11 @@ NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& 
     if (entry->others.empty()) {
         return expect(*entry->first) ? entry->first : nullptr;
     }
+    VSearch const search(database, *entry, expect);
     std::wstring_view const docref = link.GetDocref();
-    NODX201::VReferencable* const found = docref.empty()
-                                              ? FindAround(*entry, expect, from)
-                                              : FindInNamedDocument(*entry, expect, docref, link.GetDoctype());
-    return found != nullptr ? found : FirstIn(*entry, expect, [](VScope const&) { return true; });
+    NODX201::VReferencable* const found =
+        docref.empty() ? search.Around(from) : search.InNamedDocument(docref, link.GetDoctype());
+    return found != nullptr ? found : search.In({VPlaceKind::Anywhere});
 }
 
 } // namespace NMemory

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string_view>
+#include <tuple>
+#include <unordered_map>
+#include <vector>
+
+#include <diagkit/memory/IdIndex.h>
+#include <diagkit/memory/Link.h>
+
+namespace NMemory {
+
+/// Where a reference by ID may look: the whole database, this very layer or document, the layers of a short name, the
+/// documents of a short name and category, or whatever bears a short name.
+enum class VPlaceKind { Anywhere, Element, NamedLayer, NamedDocument, Named };
+
+/// What is not part of the kind stays empty.
+struct VSearchPlace {
+    VPlaceKind kind = VPlaceKind::Anywhere;
+    NODX201::VOdxElement const* element = nullptr;
+    std::wstring_view shortName{};
+    NODX201::VOdxTagEnum category = NODX201::VOdxTagEnum::Odx;
+
+    bool operator<(VSearchPlace const& other) const {
+        return std::tie(kind, element, shortName, category) <
+               std::tie(other.kind, other.element, other.shortName, other.category);
+    }
+    bool operator==(VSearchPlace const& other) const {
+        return std::tie(kind, element, shortName, category) ==
+               std::tie(other.kind, other.element, other.shortName, other.category);
+    }
+};
+
+/// The layer and the category document that an element stands in; a layer stands in itself.
+struct VScope {
+    NODX201::VOdxElement* layer = nullptr;
+    NODX201::VOdxElement* document = nullptr;
+};
+
+VScope ScopeOf(NODX201::VOdxElement& element);
+
+/// Finds the elements of one ID by the places they stand in. Of an ID that few elements have each is looked at; those
+/// of an ID that many have are sorted by their places once, until the database changes, so that many references to it
+/// take no longer each.
+class VPlaceIndex {
+public:
+    /// The first element of the entry in load order that is of the expected class and stands in the place, or null.
+    /// `generation` is that of the database.
+    NODX201::VReferencable* Find(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
+                                 std::uint64_t generation);
+
+private:
+    struct VGroup {
+        std::vector<NODX201::VReferencable*> elements;           // in load order
+        std::map<VExpect, NODX201::VReferencable*> firstOfClass; // what has been asked for
+    };
+    using VGroups = std::map<VSearchPlace, VGroup>;
+
+    static VGroups Sort(VIdIndex::VEntry const& entry);
+
+    std::unordered_map<VIdIndex::VEntry const*, VGroups> m_sorted;
+    std::uint64_t m_generation = 0;
+};
+
+} // namespace NMemory
