@@ -2,7 +2,6 @@
 #include <diagkit/cli/DiagCommSelection.h>
 
 #include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/LayerFinder.h>
 
 namespace NCli {
 namespace {

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/cli/ElementFinder.h>
 
+#include <set>
+#include <string_view>
+#include <vector>
+
 #include <fmt/format.h>
 
 #include <diagkit/cli/Columns.h>
@@ -14,95 +18,170 @@
 namespace NCli {
 namespace {
 
+/// An element that may be meant, and what it stands in; null for one that stands in the database itself.
 template <class Element>
-std::string MissingMessage(std::string_view kind, std::wstring_view wanted, std::vector<Element*> const& elements) {
-    std::vector<std::wstring_view> names;
-    for (Element const* const element : elements) {
-        names.emplace_back(element->GetShortName());
-        names.emplace_back(element->GetId());
-    }
-    std::string message = fmt::format("no {} has the short name or ID '{}'", kind, Shown(wanted));
-    char const* separator = "; near names: ";
-    for (std::wstring_view const name : NearNames(wanted, names)) {
-        message += separator + Shown(name);
-        separator = ", ";
-    }
-    return message;
-}
+struct VCandidate {
+    Element* element;
+    NODX201::VReferencable const* place = nullptr;
+};
 
 template <class Element>
-std::string AmbiguousMessage(std::string_view kind, std::wstring_view wanted, std::vector<Element*> const& candidates) {
-    VColumns columns;
-    for (Element const* const element : candidates) {
-        columns.Add({ShownName(*element), TagTextOf(*element), ShownId(*element)});
+using VCandidates = std::vector<VCandidate<Element>>;
+
+/// How messages call the kind of an element and the kind of what it stands in.
+struct VKindOfElement {
+    char const* name;
+    char const* place = "";
+};
+
+using VAnyCandidate = VCandidate<NODX201::VReferencable const>;
+
+std::wstring InPlace(VAnyCandidate const& candidate, wchar_t const* name) {
+    return candidate.place != nullptr ? std::wstring(candidate.place->GetShortName()) + L"/" + name : L"";
+}
+
+// Every way to name an element.
+std::wstring ById(VAnyCandidate const& candidate) { return candidate.element->GetId(); }
+std::wstring ByShortName(VAnyCandidate const& candidate) { return candidate.element->GetShortName(); }
+std::wstring ByPlaceAndShortName(VAnyCandidate const& candidate) {
+    return InPlace(candidate, candidate.element->GetShortName());
+}
+std::wstring ByPlaceAndId(VAnyCandidate const& candidate) { return InPlace(candidate, candidate.element->GetId()); }
+
+bool IsNamed(VAnyCandidate const& candidate, std::wstring_view wanted) {
+    return wanted == ByShortName(candidate) || wanted == ById(candidate) || wanted == ByPlaceAndShortName(candidate) ||
+           wanted == ByPlaceAndId(candidate);
+}
+
+std::string MissingMessage(std::string_view kind, std::wstring_view wanted, std::vector<VAnyCandidate> const& all) {
+    std::vector<std::wstring_view> names;
+    for (VAnyCandidate const& candidate : all) {
+        names.emplace_back(candidate.element->GetShortName());
+        names.emplace_back(candidate.element->GetId());
     }
-    std::string message = fmt::format("'{}' fits {}, choose one by its ID:\n{}", Shown(wanted),
-                                      Counted(candidates.size(), kind), columns.Format());
+    return fmt::format("no {} has the short name or ID '{}'{}", kind, Shown(wanted), NearNote(wanted, names));
+}
+
+/// Whether a way to name elements tells these apart.
+bool TellsApart(std::vector<VAnyCandidate> const& candidates, std::wstring (*way)(VAnyCandidate const& candidate)) {
+    std::set<std::wstring> names;
+    for (VAnyCandidate const& candidate : candidates) {
+        std::wstring name = way(candidate);
+        if (name.empty() || !names.insert(std::move(name)).second) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string AdviceFor(VKindOfElement const& kind, std::vector<VAnyCandidate> const& candidates) {
+    if (TellsApart(candidates, &ById)) {
+        return "choose one by its ID";
+    }
+    if (TellsApart(candidates, &ByPlaceAndShortName)) {
+        return fmt::format("choose one as {}/SHORT-NAME", kind.place);
+    }
+    if (TellsApart(candidates, &ByPlaceAndId)) {
+        return fmt::format("choose one as {}/ID", kind.place);
+    }
+    return "and no name tells them apart; leave out the files of the others";
+}
+
+std::string AmbiguousMessage(VKindOfElement const& kind, std::wstring_view wanted,
+                             std::vector<VAnyCandidate> const& candidates) {
+    VColumns columns;
+    for (VAnyCandidate const& candidate : candidates) {
+        columns.Add({ShownName(*candidate.element), TagTextOf(*candidate.element), ShownId(*candidate.element),
+                     candidate.place != nullptr ? "in " + ShownName(*candidate.place) : ""});
+    }
+    std::string message = fmt::format("'{}' fits {}, {}:\n{}", Shown(wanted), Counted(candidates.size(), kind.name),
+                                      AdviceFor(kind, candidates), columns.Format());
     message.pop_back(); // the last line end
     return message;
 }
 
 template <class Element>
-std::vector<Element*> Fitting(std::vector<Element*> const& elements, std::wstring_view wanted) {
-    std::vector<Element*> candidates;
-    for (Element* const element : elements) {
-        if (wanted == element->GetShortName() || wanted == element->GetId()) {
-            candidates.push_back(element);
-        }
+std::vector<VAnyCandidate> AnyOf(VCandidates<Element> const& candidates) {
+    std::vector<VAnyCandidate> any;
+    for (VCandidate<Element> const& candidate : candidates) {
+        any.push_back({candidate.element, candidate.place});
     }
-    return candidates;
+    return any;
 }
 
 template <class Element>
-Element* FindOne(std::string_view kind, std::vector<Element*> const& elements, std::string const& name,
+VCandidates<Element> Fitting(VCandidates<Element> const& all, std::wstring_view wanted) {
+    VCandidates<Element> fitting;
+    for (VCandidate<Element> const& candidate : all) {
+        if (IsNamed({candidate.element, candidate.place}, wanted)) {
+            fitting.push_back(candidate);
+        }
+    }
+    return fitting;
+}
+
+template <class Element>
+Element* FindOne(VKindOfElement const& kind, VCandidates<Element> const& all, std::string const& name,
                  VOutput const& output) {
     std::wstring const wanted = NReader::FromUtf8(name);
-    std::vector<Element*> const candidates = Fitting(elements, wanted);
-    if (candidates.size() == 1) {
-        return candidates.front();
+    VCandidates<Element> const fitting = Fitting(all, wanted);
+    if (fitting.size() == 1) {
+        return fitting.front().element;
     }
-    output.Complain(candidates.empty() ? MissingMessage(kind, wanted, elements)
-                                       : AmbiguousMessage(kind, wanted, candidates));
+    output.Complain(fitting.empty() ? MissingMessage(kind.name, wanted, AnyOf(all))
+                                    : AmbiguousMessage(kind, wanted, AnyOf(fitting)));
     return nullptr;
 }
 
 } // namespace
 
+NODX201::VDiagLayer* FindLayer(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
+    VCandidates<NODX201::VDiagLayer> layers;
+    for (VPlacedLayer const& placed : LayersOf(database)) {
+        layers.push_back({placed.layer, placed.container});
+    }
+    return FindOne({"layer", "CONTAINER"}, layers, name, output);
+}
+
 NODX201::VDiagLayerContainer* FindContainer(NMemory::VDatabase& database, std::string const& name,
                                             VOutput const& output) {
-    std::vector<NODX201::VDiagLayerContainer*> containers;
+    VCandidates<NODX201::VDiagLayerContainer> containers;
     for (NODX201::VDiagLayerContainer& container : database.GetOdx().DiagLayerContainerCollection()) {
-        containers.push_back(&container);
+        containers.push_back({&container});
     }
-    return FindOne("container", containers, name, output);
+    return FindOne({"container"}, containers, name, output);
 }
 
 NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
-    std::vector<NMemory::VMemFlash*> flashes;
+    VCandidates<NMemory::VMemFlash> flashes;
     for (NMemory::VMemFlash& flash : database.FlashCollection()) {
-        flashes.push_back(&flash);
+        flashes.push_back({&flash});
     }
-    return FindOne("flash", flashes, name, output);
+    return FindOne({"flash"}, flashes, name, output);
 }
 
 NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
-    std::vector<NMemory::VMemMultipleEcuJob*> jobs;
+    VCandidates<NMemory::VMemMultipleEcuJob> jobs;
     for (NMemory::VMemMultipleEcuJobSpec& spec : database.MultipleEcuJobSpecCollection()) {
         for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
-            jobs.push_back(&job);
+            jobs.push_back({&job, &spec});
         }
     }
-    return FindOne("multiple-ECU job", jobs, name, output);
+    return FindOne({"multiple-ECU job", "MULTIPLE-ECU-JOB-SPEC"}, jobs, name, output);
 }
 
 NODX201::VDiagComm* FindDiagComm(NODX201::VDiagLayer& layer, std::string const& name, VOutput const& output) {
-    std::vector<NODX201::VDiagComm*> const visible = VisibleDiagComms(layer);
-    std::wstring const wanted = NReader::FromUtf8(name);
-    std::vector<NODX201::VDiagComm*> const candidates = Fitting(visible, wanted);
-    if (!candidates.empty()) {
-        return candidates.front(); // of one name in a view, the first counts
+    VCandidates<NODX201::VDiagComm> visible;
+    for (NODX201::VDiagComm* const diagComm : VisibleDiagComms(layer)) {
+        visible.push_back({diagComm});
     }
-    output.Complain(fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, visible)));
+    std::wstring const wanted = NReader::FromUtf8(name);
+    VCandidates<NODX201::VDiagComm> const fitting = Fitting(visible, wanted);
+    if (!fitting.empty()) {
+        return fitting.front().element; // of one name in a view, the first counts
+    }
+    output.Complain(
+        fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible))));
     return nullptr;
 }
 

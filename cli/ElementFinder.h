@@ -2,8 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include <diagkit/cli/Output.h>
 #include <diagkit/memory/Database.h>
@@ -13,9 +11,11 @@
 
 namespace NCli {
 
-// The one element of its kind that has this short name or ID. Null, with a message that helps to name it right, when
-// there is none or when several fit.
+// The one element of its kind that has this short name or ID. Where several documents have the same names and IDs, that
+// of what it stands in may go before it: CONTAINER/LAYER, MULTIPLE-ECU-JOB-SPEC/JOB. Null, with a message that helps to
+// name it right, when there is none or when several fit.
 
+NODX201::VDiagLayer* FindLayer(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
 NODX201::VDiagLayerContainer* FindContainer(NMemory::VDatabase& database, std::string const& name,
                                             VOutput const& output);
 NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& name, VOutput const& output);

@@ -6,6 +6,12 @@
 #include <string>
 #include <utility>
 
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <diagkit/cli/Text.h>
+#include <diagkit/reader/Utf8.h>
+
 namespace NCli {
 namespace {
 
@@ -74,6 +80,24 @@ std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<s
         near.push_back(ranked[index].second);
     }
     return near;
+}
+
+std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names) {
+    std::string note;
+    char const* separator = "; near names: ";
+    for (std::wstring_view const name : NearNames(wanted, names)) {
+        note += separator + Shown(name);
+        separator = ", ";
+    }
+    return note;
+}
+
+std::string NearOrAllNote(std::string const& wanted, std::vector<std::string> const& names) {
+    std::vector<std::wstring> wide(names.size());
+    std::transform(names.begin(), names.end(), wide.begin(), &NReader::FromUtf8);
+    std::string const note =
+        NearNote(NReader::FromUtf8(wanted), std::vector<std::wstring_view>(wide.begin(), wide.end()));
+    return note.empty() ? fmt::format("; there are {}", fmt::join(names, ", ")) : note;
 }
 
 } // namespace NCli

@@ -11,7 +11,7 @@
 #include <diagkit/cli/DiagCommSelection.h>
 #include <diagkit/cli/ElementFinder.h>
 #include <diagkit/cli/Entry.h>
-#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/Layers.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/OutParamPath.h>
@@ -211,15 +211,9 @@ constexpr std::array kKinds{
 // clang-format on
 
 std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
-    std::string message =
-        fmt::format("no {} '{}' in {}, where {} visible", question.arguments.kind, Shown(question.name), answer.where,
-                    Counted(answer.names.size(), "name") + (answer.names.size() == 1 ? " is" : " are"));
-    char const* separator = "; near names: ";
-    for (std::wstring_view const name : NearNames(question.name, answer.names)) {
-        message += separator + Shown(name);
-        separator = ", ";
-    }
-    return message;
+    return fmt::format("no {} '{}' in {}, where {} visible{}", question.arguments.kind, Shown(question.name),
+                       answer.where, Counted(answer.names.size(), "name") + (answer.names.size() == 1 ? " is" : " are"),
+                       NearNote(question.name, answer.names));
 }
 
 void WriteText(VAnswer const& answer, VOutput& output) {

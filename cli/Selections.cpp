@@ -5,6 +5,9 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include <diagkit/cli/NearNames.h>
+#include <diagkit/cli/Text.h>
+
 namespace NCli {
 
 char const* NeedsLayer(VArguments const& arguments) { return arguments.layer.empty() ? "--layer" : nullptr; }
@@ -31,11 +34,13 @@ char const* NeedsDiagCommInLayer(VArguments const& arguments) {
 char const* NeedsFlash(VArguments const& arguments) { return arguments.flash.empty() ? "--flash" : nullptr; }
 
 void DeclareKind(CLI::App& command, VArguments& arguments, std::vector<std::string> const& names, char const* help) {
-    CLI::Validator isKind = CLI::IsMember(names);
-    isKind.description("");
+    auto const check = [names](std::string const& word) -> std::string {
+        bool const isKind = std::find(names.begin(), names.end(), word) != names.end();
+        return isKind ? "" : fmt::format("no kind '{}'{}", Shown(word), NearOrAllNote(word, names));
+    };
     command.add_option("KIND", arguments.kind, fmt::format("{}: {}", help, fmt::join(names, ", ")))
         ->required()
-        ->check(isKind)
+        ->check(check)
         ->type_name("");
 }
 

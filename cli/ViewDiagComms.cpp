@@ -6,7 +6,8 @@
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/DiagCommOrigins.h>
-#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/ElementFinder.h>
+#include <diagkit/cli/Layers.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/Views.h>
 

@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/ElementFinder.h>
 #include <diagkit/cli/ViewText.h>
 #include <diagkit/cli/Views.h>
 #include <diagkit/model/DiagVariables.h>

@@ -2,7 +2,7 @@
 #include <fmt/format.h>
 
 #include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/Layers.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/ViewText.h>
 #include <diagkit/cli/Views.h>

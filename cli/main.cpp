@@ -9,7 +9,10 @@
 #include <fmt/format.h>
 
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/Platform.h>
+#include <diagkit/cli/Selections.h>
+#include <diagkit/cli/Text.h>
 
 namespace NCli {
 namespace {
@@ -35,9 +38,8 @@ void Declare(CLI::App& program, VArguments& arguments) {
     program.set_version_flag("--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    program.get_formatter()->label("Subcommands", "Commands");
     for (VCommand const& row : kCommands) {
-        CLI::App& command = *program.add_subcommand(row.name, row.help);
+        CLI::App& command = *program.add_subcommand(row.name, row.help)->group("Commands");
         row.declare(command, arguments);
         DeclareCommonOptions(command, arguments);
     }
@@ -48,6 +50,36 @@ VStatus RunCommand(CLI::App const& program, VArguments const& arguments, VOutput
     auto const row = std::find_if(kCommands.begin(), kCommands.end(),
                                   [&name](VCommand const& candidate) { return name == candidate.name; });
     return row->run(arguments, output);
+}
+
+/// The options of the command that is called, or of the program without one.
+std::vector<std::string> OptionsOf(CLI::App const& program) {
+    auto const commands = program.get_subcommands();
+    CLI::App const& called = commands.empty() ? program : *commands.front();
+    std::vector<std::string> names;
+    for (CLI::Option const* const option : called.get_options()) {
+        for (std::string const& name : option->get_lnames()) {
+            names.push_back("--" + name);
+        }
+    }
+    return names;
+}
+
+/// What is wrong with a call that could not be understood, with near names for what may be misspelt in it.
+std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) {
+    std::vector<std::string> const left = program.remaining(true);
+    auto const parsed = program.get_subcommands();
+    auto const isOption = [](std::string const& word) { return word.size() > 1 && word.front() == '-'; };
+    auto const option = std::find_if(left.begin(), left.end(), isOption);
+    auto const word = std::find_if_not(left.begin(), left.end(), isOption);
+    if (parsed.empty() && word != left.end()) {
+        return fmt::format("no command '{}'{}", Shown(*word), NearOrAllNote(*word, NamesOf(kCommands)));
+    }
+    if (option != left.end()) {
+        return fmt::format("no option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));
+    }
+    return parsed.empty() ? fmt::format("a command is required{}", NearOrAllNote("", NamesOf(kCommands)))
+                          : error.what();
 }
 
 VStatus Run(std::vector<std::string> words, VOutput& output) {
@@ -64,7 +96,7 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
         output.Write(fmt::format("{}\n", version.what()));
         return VStatus::Done;
     } catch (CLI::ParseError const& error) {
-        output.Complain(fmt::format("{}; see --help", error.what()));
+        output.Complain(fmt::format("{}; see --help", UsageMessage(program, error)));
         return VStatus::Usage;
     }
     return RunCommand(program, arguments, output);

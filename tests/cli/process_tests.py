@@ -43,7 +43,8 @@ class HelpAndVersion(unittest.TestCase):
     def test_help_names_every_command(self):
         done = run("--help")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
-        for command in ("info", "layers", "view"):
+        self.assertRegex(done.stdout, r"(?m)^Commands:$")
+        for command in ("info", "layers", "view", "resolve", "enums"):
             self.assertRegex(done.stdout, rf"(?m)^ +{command} ")
 
     def test_help_of_a_command_names_its_options(self):
