@@ -7,9 +7,9 @@
 #include <diagkit/tools/OpBuildDiagVariableView.h>
 
 #include "support/GraphText.h"
+#include "support/NaiveInheritance.h"
 #include "support/RandomGraph.h"
 #include "views/ContentGraph.h"
-#include "views/NaiveViews.h"
 
 namespace NTest {
 namespace {

@@ -10,11 +10,11 @@
 
 #include "support/GraphText.h"
 #include "support/MockElements.h"
+#include "support/NaiveInheritance.h"
 #include "support/RandomGraph.h"
 #include "support/RecordedLog.h"
 #include "views/ContentGraph.h"
 #include "views/MockDop.h"
-#include "views/NaiveViews.h"
 
 namespace NTest {
 namespace {

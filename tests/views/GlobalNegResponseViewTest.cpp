@@ -8,10 +8,10 @@
 
 #include "support/GraphText.h"
 #include "support/MockElements.h"
+#include "support/NaiveInheritance.h"
 #include "support/RandomGraph.h"
 #include "support/Slots.h"
 #include "views/ContentGraph.h"
-#include "views/NaiveViews.h"
 
 namespace NTest {
 namespace {
