@@ -22,7 +22,8 @@ namespace NDIAGKIT {
 /// Leaving a DIAG-COMM sets the current one to null; it is not restored, so after a nested DIAG-COMM there is none for
 /// the rest of the outer one.
 ///
-/// There is no guard: related DIAG-COMMs that name each other recurse without end.
+/// There is no guard: related DIAG-COMMs that name each other recurse without end. `VGuardedDiagLayerTraverser` is the
+/// same walk with one.
 class DIAGKIT_EXPORT VDiagLayerTraverser : public NODX201::VDiagLayerVisitor,
                                            public NODX201::VDiagCommVisitor,
                                            public VDiagDataDictionarySpecTraverser {

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/tools/GuardedDiagLayerTraverser.h>
+
+#include <diagkit/model/AdminData.h>
+#include <diagkit/model/Comparams.h>
+#include <diagkit/model/Compu.h>
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Dops.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/Params.h>
+#include <diagkit/model/Responses.h>
+#include <diagkit/model/Sdgs.h>
+#include <diagkit/model/Tables.h>
+#include <diagkit/model/Text.h>
+#include <diagkit/model/Units.h>
+
+namespace NDIAGKIT {
+
+/// An element that is being walked. Steps stand on the stack of the walk itself, so that an exception unwinds them too.
+struct VGuardedDiagLayerTraverser::VStep {
+    VStep(VGuardedDiagLayerTraverser& traverser, NODX201::VOdxElement const& element)
+        : m_traverser(traverser), m_element(element), m_outer(traverser.m_innermost) {
+        traverser.m_innermost = this;
+    }
+    ~VStep() { m_traverser.m_innermost = m_outer; }
+    VStep(VStep const&) = delete;
+    VStep& operator=(VStep const&) = delete;
+
+    VGuardedDiagLayerTraverser& m_traverser;
+    NODX201::VOdxElement const& m_element;
+    VStep const* m_outer;
+};
+
+VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser(NODX201::VDiagLayer& layer) : VDiagLayerTraverser(layer) {}
+
+VGuardedDiagLayerTraverser::~VGuardedDiagLayerTraverser() = default;
+
+void VGuardedDiagLayerTraverser::OnCycle(wchar_t const*, NODX201::VOdxElement&) {}
+
+bool VGuardedDiagLayerTraverser::IsWalking(NODX201::VOdxElement const& x) const {
+    for (VStep const* step = m_innermost; step != nullptr; step = step->m_outer) {
+        if (&step->m_element == &x) {
+            return true;
+        }
+    }
+    return false;
+}
+
+#define TRAVERSER_KIND(kind, element)                                                                                  \
+    void VGuardedDiagLayerTraverser::Visit##kind(NODX201::element& x) {                                                \
+        if (IsWalking(x)) {                                                                                            \
+            OnCycle(L## #kind, x);                                                                                     \
+            return;                                                                                                    \
+        }                                                                                                              \
+        VStep const step(*this, x);                                                                                    \
+        VDiagLayerTraverser::Visit##kind(x);                                                                           \
+    }
+#define TRAVERSER_TEXT_KIND(kind)
+#include <diagkit/tools/TraverserKinds.def>
+
+} // namespace NDIAGKIT

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/tools/DiagLayerTraverser.h>
+
+namespace NDIAGKIT {
+
+/// A `VDiagLayerTraverser` that ends on every database: it never enters an element that it is in the middle of,
+/// whatever led back to it (related DIAG-COMMs that name each other, tables whose rows lead back to them, ...), and
+/// calls `OnCycle` instead. Everything else is as there: the same elements in the same order, and an element that is
+/// reached in several ways, none inside the other, is visited once for each.
+///
+/// Derive from it, override the hooks you care about, and call `TraverseDiagLayer` or, for the dictionary alone,
+/// `TraverseDiagDataDictionarySpec`. An element counts as being walked from before its PreProcess until after its
+/// PostProcess; a Visit that is overridden is guarded as far as it calls the one of this class. Exceptions may leave
+/// the walk at any point. The guard allocates nothing, and costs a look at each element above for every visit.
+class DIAGKIT_EXPORT VGuardedDiagLayerTraverser : public VDiagLayerTraverser {
+public:
+    explicit VGuardedDiagLayerTraverser(NODX201::VDiagLayer& layer); ///< the layer must outlive the traverser
+    ~VGuardedDiagLayerTraverser() override;
+
+protected:
+    /// Called in place of `Visit<kind>(x)`, which is left out with all that it would call: the walk is in the middle of
+    /// `x`, perhaps as another kind. `kind` is static text, L"DiagComm" for `VisitDiagComm`. The current DIAG-COMM
+    /// stays what it is. Does nothing here.
+    virtual void OnCycle(wchar_t const* kind, NODX201::VOdxElement& x);
+
+#define TRAVERSER_KIND(kind, element) void Visit##kind(NODX201::element& x) override;
+#define TRAVERSER_TEXT_KIND(kind)
+#include <diagkit/tools/TraverserKinds.def>
+
+private:
+    struct VStep;
+
+    bool IsWalking(NODX201::VOdxElement const& x) const;
+
+    VStep const* m_innermost = nullptr; // what is being walked, from the inside out
+};
+
+} // namespace NDIAGKIT
