@@ -29,8 +29,13 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments) {
     command.set_version_flag("--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
 }
 
+CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments) {
+    auto& option = *command.add_option("--layer", arguments.layer, "The layer to look from, by its short name or ID");
+    return *option.type_name("L");
+}
+
 void DeclareSelections(CLI::App& command, VArguments& arguments) {
-    command.add_option("--layer", arguments.layer, "The layer to look from, by its short name or ID")->type_name("L");
+    DeclareLayer(command, arguments);
     command.add_option("--container", arguments.container, "A DIAG-LAYER-CONTAINER")->type_name("C");
     command.add_option("--diag-comm", arguments.diagComm, "A service or job visible in the layer")->type_name("D");
     command.add_option("--job", arguments.job, "A MULTIPLE-ECU-JOB")->type_name("J");

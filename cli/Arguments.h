@@ -8,7 +8,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 namespace NCli {
 
@@ -30,10 +31,15 @@ struct VArguments {
     std::string job;       ///< --job, a MULTIPLE-ECU-JOB
     std::string flash;     ///< --flash
     int range = 5;         ///< --range, a search range of output parameters
+
+    bool isDictionary = false; ///< --dictionary of `traverse`
 };
 
 /// The options that every command has.
 void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
+
+/// --layer alone, for commands that look at nothing else.
+CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
 
 /// The options that name what a command looks at: each takes a short name or an ID.
 void DeclareSelections(CLI::App& command, VArguments& arguments);

@@ -27,6 +27,11 @@ void VOutput::WriteJson(nlohmann::ordered_json const& document) {
     Write("\n");
 }
 
+void VOutput::WriteJsonLine(nlohmann::ordered_json const& document) {
+    Write(document.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+    Write("\n");
+}
+
 std::string VOutput::Heading(std::string_view text) const {
     return m_isColoured ? fmt::format("\x1b[1m{}\x1b[0m", text) : std::string(text);
 }

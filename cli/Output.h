@@ -16,6 +16,7 @@ public:
 
     void Write(std::string_view text);
     void WriteJson(nlohmann::ordered_json const& document);
+    void WriteJsonLine(nlohmann::ordered_json const& document); ///< one of several documents, as JSON Lines
 
     /// The text as a heading: emphasised when standard output is a terminal and NO_COLOR is unset.
     std::string Heading(std::string_view text) const;

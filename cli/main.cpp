@@ -26,11 +26,12 @@ struct VCommand {
 
 // clang-format off
 constexpr std::array kCommands{
-    VCommand{"info",    "Documents, model versions and how many elements of each kind", &DeclareFiles,   &RunInfo},
-    VCommand{"layers",  "The diagnostic layers and what they inherit from",             &DeclareFiles,   &RunLayers},
-    VCommand{"view",    "What is visible in a layer, with the layer it comes from",     &DeclareView,    &RunView},
-    VCommand{"resolve", "What a short name means in a layer, service, job or flash",    &DeclareResolve, &RunResolve},
-    VCommand{"enums",   "The literals of the ODX enumerations and their values",        &DeclareEnums,   &RunEnums},
+    VCommand{"info",     "Documents, model versions and how many elements of each kind", &DeclareFiles,    &RunInfo},
+    VCommand{"layers",   "The diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
+    VCommand{"view",     "What is visible in a layer, with the layer it comes from",     &DeclareView,     &RunView},
+    VCommand{"resolve",  "What a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
+    VCommand{"traverse", "All that a layer holds and refers to, as a tree",              &DeclareTraverse, &RunTraverse},
+    VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
 };
 // clang-format on
 

@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Tests of diagkit that need more than a call and its answer: help, full disks, terminals, packages, limits.
+"""Tests of diagkit that need more than a call and its answer: help, full disks, walks, terminals, packages, limits.
 
     process_tests.py PROGRAM...
 """
 
+import collections
 import json
+import math
 import os
 import pathlib
 import re
@@ -16,6 +18,7 @@ import unittest
 import zipfile
 
 DATA = pathlib.Path(__file__).resolve().parent / "data"
+SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "samples" / "WiperDatabase.pdx"
 IS_POSIX = os.name == "posix"
 PROGRAM = []
 
@@ -44,11 +47,11 @@ class HelpAndVersion(unittest.TestCase):
         done = run("--help")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertRegex(done.stdout, r"(?m)^Commands:$")
-        for command in ("info", "layers", "view", "resolve", "enums"):
+        for command in ("info", "layers", "view", "resolve", "traverse", "enums"):
             self.assertRegex(done.stdout, rf"(?m)^ +{command} ")
 
     def test_help_of_a_command_names_its_options(self):
-        for command in ("info", "layers", "view"):
+        for command in ("info", "layers", "view", "traverse"):
             done = run(command, "--help")
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             for option in ("--json", "--strict", "--quiet", "--help", "--version", "--max-member-size"):
@@ -64,6 +67,7 @@ class Writing(unittest.TestCase):
             ["layers", "gates.odx-d"],
             ["info", "--json", "--quiet", "gates.odx-d"],
             ["view", "diag-comms", "gates.odx-d", "--layer", "Door"],
+            ["traverse", "--json", "gates.odx-d", "--layer", "Door"],
         )
         for arguments in calls:
             with self.subTest(arguments), open("/dev/full", "w", encoding="utf-8") as full:
@@ -79,6 +83,57 @@ class Writing(unittest.TestCase):
     def test_a_pipe_gets_no_colour_and_no_progress(self):
         done = run("layers", "gates.odx-d")
         self.assertNotIn("\x1b", done.stdout + done.stderr)
+
+
+class Traversing(unittest.TestCase):
+    def calls_of(self, *arguments):
+        """The hook calls of a walk, each held against those around it."""
+        done = run("traverse", "--json", *arguments)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        calls = [json.loads(line) for line in done.stdout.splitlines()]
+        entered = []
+        for call in calls:
+            self.assertEqual(list(call), ["event", "kind", "short_name", "depth"])
+            if call["event"] == "post":
+                self.assertEqual(entered.pop(), dict(call, event="pre"))
+            self.assertEqual(call["depth"], len(entered))
+            if call["event"] == "pre":
+                entered.append(call)
+        self.assertEqual(entered, [])
+        return calls
+
+    def test_calls_of_every_layer_of_the_sample_are_pairs_at_the_right_depth(self):
+        layers = json.loads(run("layers", "--json", SAMPLE).stdout)["layers"]
+        self.assertEqual(len(layers), 11)
+        for layer in layers:
+            with self.subTest(layer["short_name"]):
+                calls = self.calls_of(SAMPLE, "--layer", layer["id"])
+                kind = "".join(word.capitalize() for word in layer["kind"].split("-"))
+                self.assertEqual((calls[0]["kind"], calls[0]["short_name"]), (kind, layer["short_name"]))
+                self.assertNotIn("cycle", {call["event"] for call in calls})
+
+    def test_services_that_all_name_each_other_give_a_line_for_every_way_through_them(self):
+        count = 5
+        references = "".join(f'<RELATED-DIAG-COMM-REF ID-REF="S{number}"/>' for number in range(count))
+        services = "".join(
+            f'<DIAG-SERVICE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME>'
+            f"<RELATED-DIAG-COMM-REFS>{references}</RELATED-DIAG-COMM-REFS></DIAG-SERVICE>"
+            for number in range(count)
+        )
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "all.odx-d"
+            path.write_text(
+                '<ODX><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS><PROTOCOL ID="P">'
+                f"<SHORT-NAME>P</SHORT-NAME><DIAG-COMMS>{services}</DIAG-COMMS>"
+                "</PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>",
+                encoding="utf-8",
+            )
+            calls = self.calls_of("--quiet", path, "--layer", "P")
+        # Ways of so many steps without a repetition; at the end of each, as many references lead back into it.
+        ways = {steps: math.perm(count, steps) for steps in range(1, count + 1)}
+        events = collections.Counter(call["event"] for call in calls)
+        self.assertEqual(events["pre"], 1 + sum(ways.values()))
+        self.assertEqual(events["cycle"], sum(steps * number for steps, number in ways.items()))
 
 
 @unittest.skipUnless(IS_POSIX, "needs pseudo terminals")

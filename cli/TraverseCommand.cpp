@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include <diagkit/cli/Commands.h>
+#include <diagkit/cli/Entry.h>
+#include <diagkit/cli/LayerFinder.h>
+#include <diagkit/cli/Load.h>
+#include <diagkit/cli/Text.h>
+#include <diagkit/cli/ViewText.h>
+#include <diagkit/model/AdminData.h>
+#include <diagkit/model/Comparams.h>
+#include <diagkit/model/Compu.h>
+#include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Dops.h>
+#include <diagkit/model/Params.h>
+#include <diagkit/model/Responses.h>
+#include <diagkit/model/Sdgs.h>
+#include <diagkit/model/Tables.h>
+#include <diagkit/model/Text.h>
+#include <diagkit/model/Units.h>
+#include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/GuardedDiagLayerTraverser.h>
+
+namespace NCli {
+namespace {
+
+/// One call of the traverser's hooks.
+struct VCall {
+    char const* event;                   ///< "pre", "post" or "cycle"
+    wchar_t const* kind;                 ///< the hook's, L"DiagService"
+    NODX201::VOdxElement const* element; ///< null for a text
+    wchar_t const* name;                 ///< the short name, or the text itself
+    std::size_t depth;                   ///< 0 for the layer
+};
+
+/// A walk that hands on all its calls one by one.
+class VWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
+public:
+    using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;
+
+    /// The same as inside a walk over the layer, at the same depth.
+    void TraverseDictionaryOf(NODX201::VDiagLayer& layer) {
+        m_depth = 1;
+        TraverseDiagDataDictionarySpec(layer.GetDiagDataDictionarySpec());
+    }
+
+protected:
+    virtual void Take(VCall const& call) = 0;
+
+    void OnCycle(wchar_t const* kind, NODX201::VOdxElement& x) override {
+        Take({"cycle", kind, &x, x.GetShortName(), m_depth});
+    }
+
+#define TRAVERSER_KIND(kind, element)                                                                                  \
+    void PreProcess##kind(NODX201::element& x) override { Before(L## #kind, &x, x.GetShortName()); }                   \
+    void PostProcess##kind(NODX201::element& x) override { After(L## #kind, &x, x.GetShortName()); }
+#define TRAVERSER_TEXT_KIND(kind)                                                                                      \
+    void PreProcess##kind(std::wstring& text) override { Before(L## #kind, nullptr, text.c_str()); }                   \
+    void PostProcess##kind(std::wstring& text) override { After(L## #kind, nullptr, text.c_str()); }
+#include <diagkit/tools/TraverserKinds.def>
+
+private:
+    void Before(wchar_t const* kind, NODX201::VOdxElement const* element, wchar_t const* name) {
+        Take({"pre", kind, element, name, m_depth++});
+    }
+
+    void After(wchar_t const* kind, NODX201::VOdxElement const* element, wchar_t const* name) {
+        Take({"post", kind, element, name, --m_depth});
+    }
+
+    std::size_t m_depth = 0;
+};
+
+class VJsonWalk : public VWalk {
+public:
+    VJsonWalk(NODX201::VDiagLayer& layer, VOutput& output) : VWalk(layer), m_output(output) {}
+
+protected:
+    void Take(VCall const& call) override {
+        nlohmann::ordered_json line;
+        line["event"] = call.event;
+        line["kind"] = NReader::ToUtf8(call.kind);
+        line["short_name"] = TextOrNull(call.name);
+        line["depth"] = call.depth;
+        m_output.WriteJsonLine(line);
+    }
+
+private:
+    VOutput& m_output;
+};
+
+/// A line for each element, indented, with its ODX tag; and at the end how many there were.
+class VTextWalk : public VWalk {
+public:
+    VTextWalk(NODX201::VDiagLayer& layer, VOutput& output) : VWalk(layer), m_output(output) {}
+
+    void WriteTotals() {
+        m_output.Write(fmt::format("\n{}, {}\n", Counted(m_visits, "visit"), Counted(m_cycles, "cycle")));
+    }
+
+protected:
+    void Take(VCall const& call) override {
+        std::string_view const event = call.event;
+        if (event == "post") {
+            return;
+        }
+        bool const isCycle = event == "cycle";
+        ++(isCycle ? m_cycles : m_visits);
+        m_output.Write(
+            fmt::format("{:{}}{}{}{}\n", "", 2 * call.depth, TitleOf(call), NameOf(call), isCycle ? " (cycle)" : ""));
+    }
+
+private:
+    static std::string TitleOf(VCall const& call) {
+        if (call.element != nullptr) {
+            return KindOf(*call.element);
+        }
+        return std::wstring_view(call.kind) == L"Role" ? "ROLE" : "AUT-METHOD";
+    }
+
+    static std::string NameOf(VCall const& call) {
+        std::string const name = Shown(std::wstring_view(call.name));
+        return name.empty() ? "" : ' ' + name;
+    }
+
+    VOutput& m_output;
+    std::size_t m_visits = 0;
+    std::size_t m_cycles = 0;
+};
+
+void Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& arguments) {
+    if (arguments.isDictionary) {
+        walk.TraverseDictionaryOf(layer);
+    } else {
+        walk.TraverseDiagLayer();
+    }
+}
+
+} // namespace
+
+void DeclareTraverse(CLI::App& command, VArguments& arguments) {
+    DeclareLayer(command, arguments).required();
+    command.add_flag("--dictionary", arguments.isDictionary, "Only what the layer's DIAG-DATA-DICTIONARY-SPEC holds");
+    DeclareFiles(command, arguments);
+}
+
+VStatus RunTraverse(VArguments const& arguments, VOutput& output) {
+    NReader::VReadResult result;
+    if (VStatus const status = Load(arguments, output, result); status != VStatus::Done) {
+        return status;
+    }
+    NODX201::VDiagLayer* const layer = FindLayer(*result.database, arguments.layer, output);
+    if (layer == nullptr) {
+        return VStatus::NotThere;
+    }
+    if (arguments.isDictionary && !layer->HasDiagDataDictionarySpec()) {
+        output.Complain(fmt::format("{} has no DIAG-DATA-DICTIONARY-SPEC", Titled(*layer)));
+        return VStatus::NotThere;
+    }
+    if (arguments.isJson) {
+        VJsonWalk walk(*layer, output);
+        Walk(walk, *layer, arguments);
+        return VStatus::Done;
+    }
+    if (arguments.isDictionary) {
+        output.Write(fmt::format("DIAG-DATA-DICTIONARY-SPEC of {}\n", Titled(*layer)));
+    }
+    VTextWalk walk(*layer, output);
+    Walk(walk, *layer, arguments);
+    walk.WriteTotals();
+    return VStatus::Done;
+}
+
+} // namespace NCli
