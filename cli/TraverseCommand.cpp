@@ -9,19 +9,9 @@
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/ViewText.h>
-#include <diagkit/model/AdminData.h>
-#include <diagkit/model/Comparams.h>
-#include <diagkit/model/Compu.h>
-#include <diagkit/model/DiagVariables.h>
-#include <diagkit/model/Dops.h>
-#include <diagkit/model/Params.h>
-#include <diagkit/model/Responses.h>
-#include <diagkit/model/Sdgs.h>
-#include <diagkit/model/Tables.h>
-#include <diagkit/model/Text.h>
-#include <diagkit/model/Units.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
+#include <diagkit/tools/TraverserKinds.h>
 
 namespace NCli {
 namespace {
