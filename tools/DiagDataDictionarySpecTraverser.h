@@ -20,10 +20,10 @@ namespace NDIAGKIT {
 ///   `DefaultVisit`, because a text is no element; the hooks receive a copy of it, whose changes go nowhere.
 ///
 /// References to DOPs, structures, tables and rows, units, companies and team members are followed into their targets,
-/// every time they are met: an element is visited once for each path to it. References to DOPs resolve against the layer
-/// given to the constructor, whoever owns the reference; unresolved ones and absent children are skipped. There is no
-/// guard: a table whose row leads back to it recurses without end. `VGuardedDiagLayerTraverser` has one, for dictionaries
-/// too.
+/// every time they are met: an element is visited once for each path to it. References to DOPs resolve against the
+/// layer given to the constructor, whoever owns the reference; unresolved ones and absent children are skipped. There
+/// is no guard: a table whose row leads back to it recurses without end. `VGuardedDiagLayerTraverser` has one, for
+/// dictionaries too.
 ///
 /// The walk reads the model and allocates nothing but the copies of texts. A traverser may be run several times.
 class DIAGKIT_EXPORT VDiagDataDictionarySpecTraverser : public NODX201::VParamVisitor, public NODX201::VDopBaseVisitor {

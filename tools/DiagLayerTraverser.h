@@ -13,8 +13,8 @@ namespace NDIAGKIT {
 /// PostProcess are those of `VDiagDataDictionarySpecTraverser`, which also walks the layer's dictionary, parameters,
 /// SDGs and administrative data.
 ///
-/// Followed, every time they are met: references to DIAG-COMMs (from DIAG-COMMS, related DIAG-COMMs, access levels, comm
-/// relations, dynamic definitions, matching parameters), requests and responses, functional classes, DOPs, tables.
+/// Followed, every time they are met: references to DIAG-COMMs (from DIAG-COMMS, related DIAG-COMMs, access levels,
+/// comm relations, dynamic definitions, matching parameters), requests and responses, functional classes, DOPs, tables.
 /// Not followed: PARENT-REFs (the walk is over the layer's own contents) and DIAG-VARIABLE-REFs. Every reference
 /// resolves against the layer given to the constructor, never against the layer that owns it.
 ///
