@@ -4,8 +4,8 @@
 #include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/ElementFinder.h>
 #include <diagkit/cli/Entry.h>
-#include <diagkit/cli/LayerFinder.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/ViewText.h>
