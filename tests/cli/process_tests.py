@@ -169,6 +169,40 @@ class Terminals(unittest.TestCase):
         self.assertEqual(json.loads(answer)["layers"][0]["short_name"], "Door")
 
 
+class DeepNesting(unittest.TestCase):
+    def ask(self, depth):
+        """Looks for a parameter behind so many structures, each inside the one before."""
+        structures = "".join(
+            f'<STRUCTURE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME><PARAMS><PARAM xsi:type="VALUE">'
+            f'<SHORT-NAME>P{number}</SHORT-NAME><DOP-REF ID-REF="S{number + 1}"/></PARAM></PARAMS></STRUCTURE>'
+            for number in range(depth)
+        )
+        document = (
+            '<ODX MODEL-VERSION="2.2.0" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">'
+            '<DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><BASE-VARIANTS><BASE-VARIANT ID="B">'
+            "<SHORT-NAME>B</SHORT-NAME><DIAG-DATA-DICTIONARY-SPEC><STRUCTURES>" + structures + "</STRUCTURES>"
+            "</DIAG-DATA-DICTIONARY-SPEC><DIAG-COMMS><DIAG-SERVICE ID='R'><SHORT-NAME>Read</SHORT-NAME>"
+            "<REQUEST-REF ID-REF='Q'/></DIAG-SERVICE></DIAG-COMMS><REQUESTS><REQUEST ID='Q'><SHORT-NAME>Q</SHORT-NAME>"
+            "<PARAMS><PARAM xsi:type='VALUE'><SHORT-NAME>Top</SHORT-NAME><DOP-REF ID-REF='S0'/></PARAM></PARAMS>"
+            "</REQUEST></REQUESTS></BASE-VARIANT></BASE-VARIANTS></DIAG-LAYER-CONTAINER></ODX>"
+        )
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "deep.odx-d"
+            path.write_text(document, encoding="utf-8")
+            name = f"P{depth - 1}"
+            return run("resolve", "out-param", name, str(path), "--quiet", "--layer", "B", "--diag-comm", "Read")
+
+    def test_a_deep_parameter_is_found(self):
+        done = self.ask(500)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertRegex(done.stdout, r"\AP499 .* > STRUCTURE S499\n\Z")
+
+    def test_an_endless_depth_is_refused(self):
+        done = self.ask(50000)
+        self.assertEqual((done.returncode, done.stdout), (1, ""))
+        self.assertIn("which contains itself or nests without end; its parameters are not searched", done.stderr)
+
+
 class Packages(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
