@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/tools/oem/AudiVwHeuristic.h>
+
+#include <diagkit/tools/oem/Conditions.h>
+#include <diagkit/tools/oem/ElementTexts.h>
+#include <diagkit/tools/oem/OwnDiagComms.h>
+#include <diagkit/tools/oem/ProcessingInstructionRule.h>
+#include <diagkit/util/TextConv.h>
+
+namespace NDIAGKIT {
+namespace {
+
+bool IsNamedAsByVolkswagen(NODX201::VProtocol const& protocol) {
+    std::wstring_view const name = protocol.GetShortName();
+    return StartsWithIgnoringCase(name, L"PR_OBDOnCAN") || StartsWithIgnoringCase(name, L"PR_UDSOnCAN");
+}
+
+constexpr std::wstring_view kCompanies[] = {L"audi", L"audi ag", L"volkswagen ag", L"volkswagen", L"vag"};
+
+bool IsOfVolkswagen(NODX201::VTeamMember const& member) {
+    auto* const company = dynamic_cast<NODX201::VCompanyData*>(member.GetOwner());
+    return company != nullptr && AnyOf(kCompanies, [name = LongNameOf(*company)](std::wstring_view wanted) {
+               return EqualsIgnoringCase(name, wanted);
+           });
+}
+
+bool IsContactPerson(NODX201::VTeamMember& member) {
+    return AnyOf(member.RoleCollection(), [&member](std::wstring const& role) {
+        return EqualsIgnoringCase(role, L"contact person oem") && IsOfVolkswagen(member);
+    });
+}
+
+bool IsStaffed(NODX201::VEcuSharedData* layer) {
+    NODX201::VCompanyDataCollection& companies = layer->CompanyDataCollection();
+    return companies.Count() != 0 &&
+           AllOf(companies, [](NODX201::VCompanyData& company) { return company.TeamMemberCollection().Count() != 0; });
+}
+
+constexpr std::wstring_view kServicePrefix = L"DiagnServi_";
+constexpr int kLettersOfWord = 5;
+
+} // namespace
+
+void VAudiVwHeuristic::CreateRules() {
+    Add<VAudiVwProtocolRule>();
+    Add<VAudiVwTeamMembersRule>();
+    Add<VAudiVwCharacterRule>();
+    Add<VProcessingInstructionRule>(L"8");
+}
+
+bool VAudiVwProtocolRule::Matches() {
+    bool isFound = false;
+    for (NODX201::VProtocol* const protocol : mpContext->m_protocols) {
+        isFound = isFound || IsNamedAsByVolkswagen(*protocol);
+        if (!HasOwnDiagComms(*protocol)) {
+            return false;
+        }
+    }
+    return isFound;
+}
+
+bool VAudiVwTeamMembersRule::Matches() {
+    bool isContactFound = false;
+    for (NODX201::VTeamMember* const member : mpContext->m_teamMembers) {
+        isContactFound = IsContactPerson(*member) || isContactFound;
+    }
+    return isContactFound && AllOf(mpContext->m_ecuSharedDatas, &IsStaffed);
+}
+
+VAudiVwCharacterRule::VAudiVwCharacterRule(VOemCheckContext* context) : VHeuristicRule(context) {
+    AddCodes(33, 47);
+    AddCodes(58, 64);
+    AddCodes(91, 96);
+    AddCodes(123, 127);
+    for (wchar_t const character : {L'\x20AC', L'\x201A', L'\x0192', L'\x201E', L'\x2026', L'\x2020', //
+                                    L'\x2021', L'\x02C6', L'\x2030', L'\x0160', L'\x2039', L'\x0152', //
+                                    L'\x2018', L'\x2019', L'\x201C', L'\x201D', L'\x2022', L'\x2013', //
+                                    L'\x2014', L'\x02DC', L'\x2122', L'\x203A'}) {
+        AddCharacters(character, character);
+    }
+    AddCharacters(L'\x00A3', L'\x00BF');
+    // Deliberate: letters too, and neither the no-break space nor the cent sign
+    // (AudiVwCharacterRuleTest.TheSpecialCharactersAreTheseAndNoOthers).
+    for (wchar_t const character : {L'\x00D7', L'\x00D8', L'\x00DE', L'\x00F7', L'\x00F8', L'\x00FE'}) {
+        AddCharacters(character, character);
+    }
+    m_isSeparator.set(L' ');
+    for (std::wstring const& text : m_specialCharacters) {
+        m_isSeparator.set(static_cast<std::size_t>(text.front()));
+    }
+}
+
+/// Codes of Windows-1252.
+void VAudiVwCharacterRule::AddCodes(unsigned char first, unsigned char last) {
+    for (unsigned char code = first; code <= last; ++code) {
+        char const text[] = {static_cast<char>(code), '\0'};
+        if (wchar_t const* const wide = NPavonaUtil::AnsiToWide(text); wide != nullptr) {
+            m_specialCharacters.insert(wide);
+        }
+    }
+}
+
+void VAudiVwCharacterRule::AddCharacters(wchar_t first, wchar_t last) {
+    for (wchar_t character = first; character <= last; ++character) {
+        m_specialCharacters.insert(std::wstring(1, character));
+    }
+}
+
+bool VAudiVwCharacterRule::IsSeparator(wchar_t character) const {
+    auto const code = static_cast<std::size_t>(character);
+    return code < m_isSeparator.size() && m_isSeparator[code];
+}
+
+/// Hands out the abbreviation character by character, as long as they are taken.
+template <class Take>
+bool VAudiVwCharacterRule::Abbreviate(std::wstring_view text, Take take) const {
+    int letters = 0;
+    for (wchar_t const character : text) {
+        if (IsSeparator(character)) {
+            letters = 0;
+        } else if (letters++ < kLettersOfWord && !take(letters == 1 ? ToUpper(character) : character)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::wstring VAudiVwCharacterRule::Abbreviate(std::wstring_view text) const {
+    std::wstring abbreviation;
+    Abbreviate(text, [&abbreviation](wchar_t character) {
+        abbreviation += character;
+        return true;
+    });
+    return abbreviation;
+}
+
+bool VAudiVwCharacterRule::IsNamedByConvention(NODX201::VDiagService& service) const {
+    std::wstring_view name = service.GetShortName();
+    if (!StartsWithIgnoringCase(name, kServicePrefix)) {
+        return false;
+    }
+    name.remove_prefix(kServicePrefix.size());
+    bool const isContinued = Abbreviate(LongNameOf(service), [&name](wchar_t character) {
+        bool const isNext = !name.empty() && ToLower(name.front()) == ToLower(character);
+        name.remove_prefix(isNext ? 1 : 0);
+        return isNext;
+    });
+    return isContinued && name.empty();
+}
+
+bool VAudiVwCharacterRule::Matches() {
+    if (mpContext->m_protocols.empty()) {
+        return false;
+    }
+    return AllOf(mpContext->m_protocols, [this](NODX201::VProtocol* protocol) {
+        // Deliberate: asked for and then not used (AudiVwCharacterRuleTest.TheProtocolsLongNameIsAskedForNothing).
+        static_cast<void>(Abbreviate(LongNameOf(*protocol)));
+        return AllOwnServices(*protocol,
+                              [this](NODX201::VDiagService& service) { return IsNamedByConvention(service); });
+    });
+}
+
+} // namespace NDIAGKIT

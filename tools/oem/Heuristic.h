@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <list>
+#include <memory>
+
+#include <diagkit/tools/oem/HeuristicRule.h>
+#include <diagkit/tools/oem/OemReport.h>
+
+namespace NDIAGKIT {
+
+/// The habits of a manufacturer, all of which a database of his shows.
+class VHeuristic {
+public:
+    explicit VHeuristic(VOemCheckContext* context) : mpContext(context) {}
+    virtual ~VHeuristic();
+    VHeuristic(VHeuristic const&) = delete;
+    VHeuristic& operator=(VHeuristic const&) = delete;
+
+    virtual bool Matches();         ///< whether all rules match
+    virtual void CreateRules() = 0; ///< adds the rules in the order in which they are to be asked
+    virtual wchar_t const* GetName() const = 0;
+
+    /// What `Matches` answers, with every rule's own answer. The manufacturer is the caller's to say.
+    VOemHeuristicReport Report();
+
+protected:
+    using VRules = std::list<std::unique_ptr<VHeuristicRule>>;
+
+    template <class Rule, class... Arguments>
+    void Add(Arguments... arguments) {
+        AddTo<Rule>(m_rules, arguments...);
+    }
+
+    template <class Rule, class... Arguments>
+    void AddTo(VRules& rules, Arguments... arguments) {
+        rules.push_back(std::make_unique<Rule>(mpContext, arguments...));
+    }
+
+    /// Whether every rule of a list matches. Asks them in order up to the first that does not; for a report all of
+    /// them.
+    bool AllMatch(VRules const& rules);
+
+    VOemCheckContext* mpContext;
+    VRules m_rules;
+
+private:
+    VOemHeuristicReport* mpReport = nullptr; // while one is being made
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/Layers.h>
+
+namespace NDIAGKIT {
+
+/// Whether a layer has DIAG-COMMs of its own, of whatever kind.
+inline bool HasOwnDiagComms(NODX201::VDiagLayer& layer) {
+    return layer.HasDiagCommProxyCollection() && layer.DiagCommProxyCollection().Count() != 0;
+}
+
+/// Whether all DIAG-SERVICEs among a layer's own DIAG-COMMs fulfil a condition; asked in order up to the first that
+/// does not. Jobs and references are passed over.
+template <class Condition>
+bool AllOwnServices(NODX201::VDiagLayer& layer, Condition condition) {
+    if (!layer.HasDiagCommProxyCollection()) {
+        return true;
+    }
+    for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
+        auto* const service = dynamic_cast<NODX201::VDiagService*>(&proxy);
+        if (service != nullptr && !condition(*service)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace NDIAGKIT
