@@ -33,6 +33,7 @@ struct VArguments {
     int range = 5;         ///< --range, a search range of output parameters
 
     bool isDictionary = false; ///< --dictionary of `traverse`
+    bool isEach = false;   ///< --each of `oem`
 };
 
 /// The options that every command has.

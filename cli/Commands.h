@@ -26,4 +26,7 @@ VStatus RunTraverse(VArguments const& arguments, VOutput& output);
 void DeclareEnums(CLI::App& command, VArguments& arguments);
 VStatus RunEnums(VArguments const& arguments, VOutput& output);
 
+void DeclareOem(CLI::App& command, VArguments& arguments);
+VStatus RunOem(VArguments const& arguments, VOutput& output);
+
 } // namespace NCli

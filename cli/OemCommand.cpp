@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <array>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include <diagkit/cli/Columns.h>
+#include <diagkit/cli/Commands.h>
+#include <diagkit/cli/Load.h>
+#include <diagkit/cli/Text.h>
+#include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/oem/OemChecker.h>
+
+namespace NCli {
+namespace {
+
+using NDIAGKIT::VManufacturer;
+using NDIAGKIT::VOemHeuristicReport;
+using NDIAGKIT::VOemReport;
+using NDIAGKIT::VOemRuleReport;
+
+struct VManufacturerName {
+    VManufacturer manufacturer;
+    char const* name;
+};
+
+constexpr std::array kNames{
+    VManufacturerName{VManufacturer::Daimler, "Daimler"}, VManufacturerName{VManufacturer::Claas, "Claas"},
+    VManufacturerName{VManufacturer::Pag, "Pag"},         VManufacturerName{VManufacturer::AudiVw, "AudiVw"},
+    VManufacturerName{VManufacturer::Bmw, "Bmw"},         VManufacturerName{VManufacturer::Fiat, "Fiat"},
+    VManufacturerName{VManufacturer::Gm, "Gm"},           VManufacturerName{VManufacturer::Psa, "Psa"},
+};
+
+char const* NameOf(VManufacturer manufacturer) {
+    for (VManufacturerName const& row : kNames) {
+        if (row.manufacturer == manufacturer) {
+            return row.name;
+        }
+    }
+    return "Unknown";
+}
+
+int CodeOf(VManufacturer manufacturer) { return static_cast<int>(manufacturer); }
+
+// JSON
+
+nlohmann::ordered_json JsonOf(VOemRuleReport const& rule, bool isListNamed) {
+    nlohmann::ordered_json entry;
+    entry["name"] = NReader::ToUtf8(rule.name);
+    entry["matches"] = rule.matches;
+    if (isListNamed) {
+        entry["list"] = rule.list;
+    }
+    return entry;
+}
+
+nlohmann::ordered_json JsonOf(VOemHeuristicReport const& heuristic) {
+    nlohmann::ordered_json entry;
+    entry["name"] = NReader::ToUtf8(heuristic.name);
+    entry["code"] = CodeOf(heuristic.manufacturer);
+    entry["matches"] = heuristic.matches;
+    entry["rules"] = nlohmann::ordered_json::array();
+    for (VOemRuleReport const& rule : heuristic.rules) {
+        entry["rules"].push_back(JsonOf(rule, heuristic.lists > 1));
+    }
+    return entry;
+}
+
+/// Adds the members of the report to what the document holds.
+void AddReport(VOemReport const& report, nlohmann::ordered_json& document) {
+    document["manufacturer"] = NameOf(report.manufacturer);
+    document["code"] = CodeOf(report.manufacturer);
+    document["heuristics"] = nlohmann::ordered_json::array();
+    for (VOemHeuristicReport const& heuristic : report.heuristics) {
+        document["heuristics"].push_back(JsonOf(heuristic));
+    }
+}
+
+// Text
+
+/// "Daimler (1)", or why nobody can be named.
+std::string AnswerOf(VOemReport const& report) {
+    std::string const answer = fmt::format("{} ({})", NameOf(report.manufacturer), CodeOf(report.manufacturer));
+    if (report.manufacturer != VManufacturer::Unknown) {
+        return answer;
+    }
+    std::string matching;
+    for (VOemHeuristicReport const& heuristic : report.heuristics) {
+        if (heuristic.matches) {
+            matching += (matching.empty() ? "" : ", ") + NReader::ToUtf8(heuristic.name);
+        }
+    }
+    return answer + (matching.empty() ? ": no heuristic matches" : ": several match, " + matching);
+}
+
+void WriteHeuristic(VOemHeuristicReport const& heuristic, VOutput& output) {
+    std::string const heading = fmt::format("{}, {} ({})", NReader::ToUtf8(heuristic.name),
+                                            NameOf(heuristic.manufacturer), CodeOf(heuristic.manufacturer));
+    output.Write(fmt::format("\n{}: {}\n", output.Heading(heading), heuristic.matches ? "matches" : "does not match"));
+    VColumns columns;
+    for (VOemRuleReport const& rule : heuristic.rules) {
+        bool const isMarked = rule.isDecisive && !heuristic.matches;
+        columns.Add({heuristic.lists > 1 ? fmt::format("list {}", rule.list) : "", NReader::ToUtf8(rule.name),
+                     rule.matches ? "yes" : "no", isMarked ? "<- decides" : ""});
+    }
+    output.Write(columns.Format());
+}
+
+void WriteText(VOemReport const& report, VOutput& output) {
+    output.Write(output.Heading(AnswerOf(report)) + "\n");
+    for (VOemHeuristicReport const& heuristic : report.heuristics) {
+        WriteHeuristic(heuristic, output);
+    }
+}
+
+VOemReport ReportOf(NReader::VReadResult const& result) {
+    return NDIAGKIT::VOemChecker().Report(result.database->GetOdx());
+}
+
+/// Why a file is not answered for: what made the reader refuse it is the last that it said.
+std::string ReasonOf(NReader::VReadResult const& result) {
+    if (result.database != nullptr) {
+        return "has errors, which --strict does not pass";
+    }
+    std::string reason = "cannot be read";
+    for (NReader::VDiagnostic const& diagnostic : result.diagnostics) {
+        if (diagnostic.severity == NReader::VSeverity::Error) {
+            reason = Shown(diagnostic.message);
+        }
+    }
+    return reason;
+}
+
+void WriteAnswer(std::string const& file, VOemReport const& report, bool isJson, VOutput& output) {
+    if (isJson) {
+        nlohmann::ordered_json line;
+        line["file"] = file;
+        AddReport(report, line);
+        output.WriteJsonLine(line);
+    } else {
+        output.Write(fmt::format("{}: {}\n", Shown(file), AnswerOf(report)));
+    }
+}
+
+void WriteError(std::string const& file, std::string const& reason, bool isJson, VOutput& output) {
+    if (isJson) {
+        nlohmann::ordered_json line;
+        line["file"] = file;
+        line["error"] = reason;
+        output.WriteJsonLine(line);
+    } else {
+        output.Write(fmt::format("{}: not answered for: {}\n", Shown(file), reason));
+    }
+}
+
+/// Every file as a database of its own.
+VStatus RunEach(VArguments const& arguments, VOutput& output) {
+    VStatus status = VStatus::Done;
+    VArguments one = arguments;
+    for (std::string const& file : arguments.files) {
+        one.files = {file};
+        NReader::VReadResult result;
+        if (VStatus const loaded = Load(one, output, result); loaded == VStatus::Done) {
+            WriteAnswer(file, ReportOf(result), arguments.isJson, output);
+        } else {
+            WriteError(file, ReasonOf(result), arguments.isJson, output);
+            status = loaded;
+        }
+    }
+    return status;
+}
+
+} // namespace
+
+void DeclareOem(CLI::App& command, VArguments& arguments) {
+    DeclareFiles(command, arguments);
+    command.add_flag("--each", arguments.isEach, "Every FILE is a database of its own; with --json one line each");
+}
+
+VStatus RunOem(VArguments const& arguments, VOutput& output) {
+    if (arguments.isEach) {
+        return RunEach(arguments, output);
+    }
+    NReader::VReadResult result;
+    if (VStatus const status = Load(arguments, output, result); status != VStatus::Done) {
+        return status;
+    }
+    VOemReport const report = ReportOf(result);
+    if (arguments.isJson) {
+        nlohmann::ordered_json document;
+        AddReport(report, document);
+        output.WriteJson(document);
+    } else {
+        WriteText(report, output);
+    }
+    return VStatus::Done;
+}
+
+} // namespace NCli
