@@ -118,9 +118,15 @@ bool VAudiVwCharacterRule::Abbreviate(std::wstring_view text, Take take) const {
     for (wchar_t const character : text) {
         if (IsSeparator(character)) {
             letters = 0;
-        } else if (letters++ < kLettersOfWord && !take(letters == 1 ? ToUpper(character) : character)) {
+            continue;
+        }
+        if (letters == kLettersOfWord) {
+            continue;
+        }
+        if (!take(letters == 0 ? ToUpper(character) : character)) {
             return false;
         }
+        ++letters;
     }
     return true;
 }
