@@ -6,6 +6,7 @@
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/ElementFinder.h>
 #include <diagkit/cli/Entry.h>
+#include <diagkit/cli/Layers.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/ViewText.h>

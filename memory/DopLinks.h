@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include <diagkit/memory/Parts.h>
 #include <diagkit/model/Dops.h>
 
@@ -14,6 +17,14 @@ public:
     using VMemLink::VMemLink;
     bool HasDopBase(NODX201::VDiagLayer& layer) override;
     NODX201::VDopBase& GetDopBase() override { return Found(); }
+
+    /// From now on the link, if by short name, resolves to nothing in this layer; see `Sever`.
+    void SeverIn(NODX201::VDiagLayer const& layer);
+
+private:
+    bool IsSeveredIn(NODX201::VDiagLayer const& layer) const;
+
+    std::unique_ptr<std::vector<NODX201::VDiagLayer const*>> m_severedIn; // null nearly always
 };
 
 /// DOP-REF, DATA-OBJECT-PROP-REF, KEY-DOP-REF and their SNREFs: a DATA-OBJECT-PROP.

@@ -113,8 +113,8 @@ public:
         m_isSevered = false;
     }
 
-    /// From now on the link resolves to nothing, in no layer, until it is given another reference. For readers of data
-    /// in which it closes a cycle that walks could not leave.
+    /// From now on the link, if by ID, resolves to nothing, until it is given another reference. For readers of data in
+    /// which it closes a cycle that walks could not leave.
     void Sever() {
         m_isSevered = true;
         m_generation = 0;
@@ -124,8 +124,6 @@ public:
     bool ResolvesById() const { return FindById(); }
 
 protected:
-    bool IsSevered() const { return m_isSevered; }
-
     /// The short name, or null for a reference by ID.
     wchar_t const* Snref() const {
         auto const* const snref = std::get_if<VMemSnref>(&m_form);

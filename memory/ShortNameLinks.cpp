@@ -3,6 +3,8 @@
 // Links that may stand by short name: these ask the database's resolver in the context they are read in, every time,
 // because the answer belongs to the context and not to the link.
 
+#include <algorithm>
+
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/DiagCommLinks.h>
 #include <diagkit/memory/DopLinks.h>
@@ -44,8 +46,19 @@ bool VMemDopBaseLink::HasDopBase(NODX201::VDiagLayer& layer) {
         return FindById();
     }
     NODX201::VAbstractSnrefResolver* const resolver = GetDatabase().GetResolver();
-    bool const canAsk = resolver != nullptr && !IsSevered();
+    bool const canAsk = resolver != nullptr && !IsSeveredIn(layer);
     return Remember(canAsk ? resolver->ResolveDopBaseSnref(shortName, layer) : nullptr);
+}
+
+void VMemDopBaseLink::SeverIn(NODX201::VDiagLayer const& layer) {
+    if (m_severedIn == nullptr) {
+        m_severedIn = std::make_unique<std::vector<NODX201::VDiagLayer const*>>();
+    }
+    m_severedIn->push_back(&layer);
+}
+
+bool VMemDopBaseLink::IsSeveredIn(NODX201::VDiagLayer const& layer) const {
+    return m_severedIn != nullptr && std::find(m_severedIn->begin(), m_severedIn->end(), &layer) != m_severedIn->end();
 }
 
 bool VMemDataObjectPropLink::HasDataObjectProp(NODX201::VDiagLayer& layer) {

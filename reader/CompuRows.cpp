@@ -81,9 +81,9 @@ VElementType const& TypeOf(VMemCompuScale*) {
 VElementType const& TypeOf(VMemCompuScales*) {
     using T = VMemCompuScales;
     using R = VRows<T>;
-    static VElementType const type = Table({}, {
+    static VElementType const type = ListTable(Table({}, {
         R::Item<&T::AddCompuScale>("COMPU-SCALE"),
-    });
+    }));
     return type;
 }
 

@@ -24,7 +24,7 @@ void AddValue(VEdges& edges, VMemDopBaseLink& link, VShortNameTargets const& sho
         return;
     }
     for (NODX201::VDopBase* const target : shortNameTargets(link)) {
-        edges.push_back({target, &link, [&link] { link.Sever(); }});
+        edges.push_back({target, &link, {}, &link});
     }
 }
 

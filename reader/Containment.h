@@ -12,8 +12,9 @@ namespace NReader {
 /// A way from one DOP into another: by a reference, or by standing inside it.
 struct VEdge {
     NODX201::VDopBase* target;
-    NMemory::VMemNode* node = nullptr; ///< the reference; null where the target stands inside
-    std::function<void()> sever{};
+    NMemory::VMemNode* node = nullptr;             ///< the reference; null where the target stands inside
+    std::function<void()> sever{};                 ///< of a reference by ID
+    NMemory::VMemDopBaseLink* shortName = nullptr; ///< of a reference by short name
 };
 using VEdges = std::vector<VEdge>;
 

@@ -13,17 +13,21 @@ namespace {
 
 using VDops = std::vector<NODX201::VDopBase*>;
 
-VDops NoTargets(NMemory::VMemDopBaseLink&) { return {}; }
-
 /// A depth-first search with a stack of its own: chains may be longer than the machine's stack is deep.
 class VSearch {
 public:
-    /// `where` ends the sentences that are reported.
-    VSearch(VReading& reading, VShortNameTargets shortNameTargets, std::string where)
-        : m_reading(reading), m_shortNameTargets(std::move(shortNameTargets)), m_where(std::move(where)) {}
+    /// Follows references by ID alone.
+    explicit VSearch(VReading& reading)
+        : m_reading(reading), m_shortNameTargets([](NMemory::VMemDopBaseLink&) { return VDops(); }) {}
+
+    /// Follows short names as well, to what they mean in the layer, and severs only these.
+    VSearch(VReading& reading, NODX201::VDiagLayer& layer)
+        : m_reading(reading), m_layer(&layer), m_shortNameTargets([&layer](NMemory::VMemDopBaseLink& link) {
+              return link.HasDopBase(layer) ? VDops{&link.GetDopBase()} : VDops();
+          }) {}
 
     void From(NODX201::VDopBase& root) {
-        Enter(root, nullptr);
+        Enter(root, {nullptr});
         while (!m_path.empty()) {
             VStep& step = m_path.back();
             if (step.next == step.edges.size()) {
@@ -31,10 +35,10 @@ public:
                 m_path.pop_back();
                 continue;
             }
-            VEdge& edge = step.edges[step.next++];
+            VEdge const edge = step.edges[step.next++];
             switch (m_states[edge.target]) {
             case VState::New:
-                Enter(*edge.target, &edge);
+                Enter(*edge.target, edge);
                 break;
             case VState::Open:
                 Close(edge);
@@ -51,38 +55,57 @@ private:
     struct VStep {
         NODX201::VDopBase* dop;
         VEdges edges;
+        VEdge entered; ///< by which the search came here
         std::size_t next = 0;
-        VEdge entered{nullptr}; ///< the edge by which the search came here
     };
 
-    void Enter(NODX201::VDopBase& dop, VEdge const* edge) {
+    void Enter(NODX201::VDopBase& dop, VEdge const& edge) {
         if (m_states[&dop] != VState::New) {
             return;
         }
         m_states[&dop] = VState::Open;
-        VEdge const entered = edge != nullptr ? *edge : VEdge{nullptr};
-        m_path.push_back({&dop, EdgesOf(dop, m_shortNameTargets), 0, entered});
+        m_path.push_back({&dop, EdgesOf(dop, m_shortNameTargets), edge});
     }
 
+    bool CanSever(VEdge const& edge) const {
+        return m_layer != nullptr ? edge.shortName != nullptr : edge.node != nullptr;
+    }
+
+    /// The edge leads back into the path. Severs it, or else the last one before it that can be: what stands inside its
+    /// container closes a cycle without a reference, and an ID may close one that is none in other layers.
     void Close(VEdge const& edge) {
-        // What stands inside its own container closes a cycle without a reference; the reference that led in does.
-        VEdge const& closing = edge.node != nullptr ? edge : m_path.back().entered;
-        if (closing.node == nullptr) {
+        if (CanSever(edge)) {
+            Sever(edge);
             return;
         }
-        closing.sever();
-        m_reading.findings.Add(closing.node->GetPosition(), VSeverity::Error, "containment-cycle",
+        while (m_path.back().dop != edge.target) {
+            VEdge const entered = m_path.back().entered;
+            m_states[m_path.back().dop] = VState::New; // not searched to its end
+            m_path.pop_back();
+            if (CanSever(entered)) {
+                Sever(entered);
+                return;
+            }
+        }
+    }
+
+    void Sever(VEdge const& edge) {
+        std::string where;
+        if (edge.shortName != nullptr) {
+            edge.shortName->SeverIn(*m_layer);
+            where = " in the layer '" + ToUtf8(m_layer->GetShortName()) + "'";
+        } else {
+            edge.sever();
+        }
+        m_reading.findings.Add(edge.node->GetPosition(), VSeverity::Error, "containment-cycle",
                                ToUtf8(NODX201::OdxTagText(edge.target->GetOdxTag())) + " '" +
                                    ToUtf8(edge.target->GetShortName()) + "' contains itself through this reference" +
-                                   m_where + ", which is left unresolved");
-        if (edge.node == nullptr) {
-            m_path.back().next = m_path.back().edges.size(); // no longer reached from here
-        }
+                                   where + ", which is left unresolved" + (where.empty() ? "" : " there"));
     }
 
     VReading& m_reading;
+    NODX201::VDiagLayer* m_layer = nullptr;
     VShortNameTargets m_shortNameTargets;
-    std::string m_where;
     std::unordered_map<NODX201::VDopBase*, VState> m_states;
     std::vector<VStep> m_path;
 };
@@ -172,21 +195,11 @@ VDops Suspects(VDops const& dops) {
     return suspects;
 }
 
-void SearchInLayer(VReading& reading, VDops const& suspects, NODX201::VDiagLayer& layer) {
-    auto const inLayer = [&layer](NMemory::VMemDopBaseLink& link) {
-        return link.HasDopBase(layer) ? VDops{&link.GetDopBase()} : VDops{};
-    };
-    VSearch search(reading, inLayer, " in the layer '" + ToUtf8(layer.GetShortName()) + "'");
-    for (NODX201::VDopBase* const dop : suspects) {
-        search.From(*dop);
-    }
-}
-
 } // namespace
 
 void SeverContainmentCycles(VReading& reading) {
     VDops const dops = DopsOf(reading);
-    VSearch search(reading, &NoTargets, "");
+    VSearch search(reading);
     for (NODX201::VDopBase* const dop : dops) {
         search.From(*dop);
     }
@@ -194,7 +207,12 @@ void SeverContainmentCycles(VReading& reading) {
     if (suspects.empty()) {
         return;
     }
-    ForEachLayer(reading, [&](NODX201::VDiagLayer& layer) { SearchInLayer(reading, suspects, layer); });
+    ForEachLayer(reading, [&](NODX201::VDiagLayer& layer) {
+        VSearch inLayer(reading, layer);
+        for (NODX201::VDopBase* const dop : suspects) {
+            inLayer.From(*dop);
+        }
+    });
     reading.database->StartNewResolver(); // the views of all layers are more than most programs want to hold
 }
 

@@ -7,7 +7,7 @@ namespace NReader {
 
 /// Finds DOPs that contain themselves through any chain of references: parameters, fields, multiplexers and environment
 /// data. The reference that closes a chain is severed and reported, so that walks and searches end. A reference by
-/// short name is followed in every layer, and severed for all of them if it closes a chain in one.
+/// short name is followed in every layer, and severed in those in which it closes a chain.
 void SeverContainmentCycles(VReading& reading);
 
 } // namespace NReader

@@ -58,7 +58,7 @@ VElementType const& TypeOf(VMemMultipleEcuJobSpec*) {
         AdminDataRow<T>(),
         CompanyDatasRow<T>(),
         R::Wrapper<&T::MakeMultipleEcuJobCollection>("MULTIPLE-ECU-JOBS", Optional, {R::Item<&T::AddMultipleEcuJob>("MULTIPLE-ECU-JOB")}),
-        R::Child<&T::MakeDiagDataDictionarySpec>("DIAG-DATA-DICTIONARY-SPEC"),
+        Appending(R::Child<&T::MakeDiagDataDictionarySpec>("DIAG-DATA-DICTIONARY-SPEC")),
         FunctClassesRow<T>(),
     });
     return type;

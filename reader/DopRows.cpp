@@ -70,9 +70,9 @@ VElementType const& TypeOf(VMemAllValue*) {
 VElementType const& TypeOf(VMemDtcValues*) {
     using T = VMemDtcValues;
     using R = VRows<T>;
-    static VElementType const type = Table({}, {
+    static VElementType const type = ListTable(Table({}, {
         R::Text<&T::AddValue>("DTC-VALUE", Many, VContent::Int),
-    });
+    }));
     return type;
 }
 

@@ -60,6 +60,12 @@ struct VRow {
     VElementType const& Type() const { return ownType != nullptr ? *ownType : type(); }
 };
 
+/// An xsi:type of an element that has one class for all of them, and the child that it alone has.
+struct VKind {
+    std::string xsiType;
+    std::string child;
+};
+
 struct VElementType {
     std::vector<VAttributeRow> attributes;
     std::vector<VRow> rows;
@@ -68,10 +74,9 @@ struct VElementType {
     /// Takes the element's own text, with the text identifier of its @TI; null where it has elements only.
     void (*setContent)(void* object, std::wstring const& text, std::wstring const& textId) = nullptr;
     wchar_t const* const* literals = nullptr;
-    std::vector<std::string>
-        xsiTypes;           ///< of an element that has one class for all; none where xsi:type is not looked at
-    bool isMarkup = false;  ///< the text is all inside, tags included
-    bool isWrapper = false; ///< its items may also stand beside it
+    std::vector<VKind> kinds; ///< where the xsi:type says no more than what is inside
+    bool isMarkup = false;    ///< the text is all inside, tags included
+    bool isWrapper = false;   ///< its items may also stand beside it
     void (*addInstruction)(void* object, std::wstring const& name, std::wstring const& content) = nullptr;
 
     std::vector<std::uint16_t> byName; ///< indices of rows, sorted by name
@@ -168,7 +173,7 @@ struct VRows {
                 },
                 []() -> VElementType const& { return TypeOf(static_cast<Made*>(nullptr)); },
                 nullptr,
-                choice != 0};
+                occurs != Many};
     }
 
     template <auto Make>

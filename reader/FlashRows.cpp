@@ -122,9 +122,15 @@ VElementType const& TypeOf(VMemDataformat*) {
     return type;
 }
 
+/// An element whose xsi:type says no more than what it holds.
+VElementType WithKinds(std::vector<VKind> kinds, VElementType type) {
+    type.kinds = std::move(kinds);
+    return type;
+}
+
 VRow DatafileRow() {
     using R = VRows<VMemFlashdata>;
-    VRow row = R::Text<&VMemFlashdata::SetDatafile>("DATAFILE", Required, VContent::Text, nullptr, 1);
+    VRow row = R::Text<&VMemFlashdata::SetDatafile>("DATAFILE");
     VElementType type = row.Type();
     type.attributes = {R::Flag<&VMemFlashdata::SetIsLatebound>("LATEBOUND-DATAFILE", Required)};
     row.ownType = std::make_shared<VElementType const>(std::move(type));
@@ -134,12 +140,12 @@ VRow DatafileRow() {
 VElementType const& TypeOf(VMemFlashdata*) {
     using T = VMemFlashdata;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({}, {
+    static VElementType const type = WithKinds({{"INTERN-FLASHDATA", "DATA"}, {"EXTERN-FLASHDATA", "DATAFILE"}}, IdentTable<T>({}, {
         R::Child<&T::MakeDataformat>("DATAFORMAT", Required),
         R::Child<&T::MakeEncryptCompressMethod>("ENCRYPT-COMPRESS-METHOD"),
-        R::Text<&T::SetData>("DATA", Required, VContent::Text, nullptr, 1),
+        R::Text<&T::SetData>("DATA"),
         DatafileRow(),
-    });
+    }));
     return type;
 }
 
@@ -156,19 +162,13 @@ VOpened OpenFlashdata(VLoader& loader, void* owner, VRow const&, VAttributes con
     return VOpened{&flashdata, &TypeOf(&flashdata)};
 }
 
-/// An element whose xsi:type says no more than what it holds.
-VElementType WithXsiTypes(std::vector<std::string> xsiTypes, VElementType type) {
-    type.xsiTypes = std::move(xsiTypes);
-    return type;
-}
-
 VElementType const& TypeOf(VMemFilter*) {
     using T = VMemFilter;
     using R = VRows<T>;
-    static VElementType const type = WithXsiTypes({"ADDRDEF-FILTER", "SIZEDEF-FILTER"}, Table({}, {
+    static VElementType const type = WithKinds({{"ADDRDEF-FILTER", "FILTER-END"}, {"SIZEDEF-FILTER", "FILTER-SIZE"}}, Table({}, {
         R::Text<&T::SetFilterStart>("FILTER-START", Required, VContent::Hex),
-        R::Text<&T::SetFilterEnd>("FILTER-END", Required, VContent::Hex, nullptr, 1),
-        R::Text<&T::SetFilterSize>("FILTER-SIZE", Required, VContent::Uint, nullptr, 1),
+        R::Text<&T::SetFilterEnd>("FILTER-END", Optional, VContent::Hex),
+        R::Text<&T::SetFilterSize>("FILTER-SIZE", Optional, VContent::Uint),
     }));
     return type;
 }
@@ -188,9 +188,9 @@ VElementType const& TypeOf(VMemSegment*) {
 VElementType const& TypeOf(VMemTargetAddrOffset*) {
     using T = VMemTargetAddrOffset;
     using R = VRows<T>;
-    static VElementType const type = WithXsiTypes({"POS-OFFSET", "NEG-OFFSET"}, Table({}, {
-        R::Text<&T::SetPositiveOffset>("POSITIVE-OFFSET", Required, VContent::Hex, nullptr, 1),
-        R::Text<&T::SetNegativeOffset>("NEGATIVE-OFFSET", Required, VContent::Hex, nullptr, 1),
+    static VElementType const type = WithKinds({{"POS-OFFSET", "POSITIVE-OFFSET"}, {"NEG-OFFSET", "NEGATIVE-OFFSET"}}, Table({}, {
+        R::Text<&T::SetPositiveOffset>("POSITIVE-OFFSET", Optional, VContent::Hex),
+        R::Text<&T::SetNegativeOffset>("NEGATIVE-OFFSET", Optional, VContent::Hex),
     }));
     return type;
 }
@@ -246,12 +246,12 @@ VElementType const& TypeOf(VMemProjectInfo*) {
 VElementType const& TypeOf(VMemPhysSegment*) {
     using T = VMemPhysSegment;
     using R = VRows<T>;
-    static VElementType const type = WithXsiTypes({"ADDRDEF-PHYS-SEGMENT", "SIZEDEF-PHYS-SEGMENT"}, IdentTable<T>({}, {
+    static VElementType const type = WithKinds({{"ADDRDEF-PHYS-SEGMENT", "END-ADDRESS"}, {"SIZEDEF-PHYS-SEGMENT", "SIZE"}}, IdentTable<T>({}, {
         R::Text<&T::SetFillbyte>("FILLBYTE", Optional, VContent::Hex),
         R::Text<&T::SetBlockSize>("BLOCK-SIZE", Optional, VContent::Uint),
         R::Text<&T::SetStartAddress>("START-ADDRESS", Required, VContent::Hex),
-        R::Text<&T::SetEndAddress>("END-ADDRESS", Required, VContent::Hex, nullptr, 1),
-        R::Text<&T::SetSize>("SIZE", Required, VContent::Uint, nullptr, 1),
+        R::Text<&T::SetEndAddress>("END-ADDRESS", Optional, VContent::Hex),
+        R::Text<&T::SetSize>("SIZE", Optional, VContent::Uint),
     }));
     return type;
 }

@@ -245,7 +245,7 @@ std::vector<VRow> LayerHead() {
         AdminDataRow<T>(),
         CompanyDatasRow<T>(),
         FunctClassesRow<T>(),
-        R::template Child<&T::MakeDiagDataDictionarySpec>("DIAG-DATA-DICTIONARY-SPEC"),
+        Appending(R::template Child<&T::MakeDiagDataDictionarySpec>("DIAG-DATA-DICTIONARY-SPEC")),
         DiagCommsRow<T>(),
         R::template Wrapper<&T::MakeRequestCollection>("REQUESTS", Optional, {R::template Item<&T::AddRequest>("REQUEST")}),
         R::template Wrapper<&T::MakeResponseCollection>("POS-RESPONSES", Optional, {R::template Item<&T::AddPosResponse>("POS-RESPONSE")}),

@@ -55,6 +55,14 @@ NMemory::VReference ShortNameReference(VLoader& loader, VAttributes const& attri
     return loader.ReadShortNameReference(attributes);
 }
 
+namespace {
+
+bool IsNumber(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+} // namespace
+
 VLoader::VLoader(VReading& reading, std::uint32_t document)
     : m_reading(reading), m_document(document), m_linksBefore(reading.links.size()),
       m_parentRefsBefore(reading.parentRefs.size()), m_findingsBefore(reading.findings.Count()) {}
@@ -101,8 +109,19 @@ NMemory::VPosition VLoader::Position() const {
 }
 
 void VLoader::SetModelVersion(std::string_view version) {
-    m_modelVersion = version;
-    m_isVersion20 = version == "2.0" || version.substr(0, 4) == "2.0.";
+    std::wstring text = FromUtf8(version);
+    Trim(text);
+    m_modelVersion = ToUtf8(text);
+    std::size_t const dot = m_modelVersion.find('.');
+    std::string const major = m_modelVersion.substr(0, dot);
+    std::string const minor =
+        dot != std::string::npos ? m_modelVersion.substr(dot + 1, m_modelVersion.find('.', dot + 1) - dot - 1) : "";
+    if (!IsNumber(major) || !IsNumber(minor)) {
+        Report(VSeverity::Warning, "unknown-model-version",
+               "MODEL-VERSION is '" + m_modelVersion + "', which is no version; the document is read as ODX 2.0.1");
+        return;
+    }
+    m_isVersion20 = major == "0" || major == "1" || (major == "2" && minor == "0");
 }
 
 void VLoader::AddCategory(NODX201::VReferencable& category, char const* element) {
@@ -121,7 +140,7 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
         AppendFromUtf8(m_reference[index], value != nullptr ? value : "");
         Trim(m_reference[index]); // as the IDs and short names that it names are
     }
-    if (attributes.Find("ID-REF") == nullptr) {
+    if (m_reference[0].empty()) {
         Report(VSeverity::Error, "missing-attribute", "the reference has no ID-REF");
     }
     if (m_isVersion20 && !m_reference[2].empty() && !IsLiteral(LiteralsOf<&Mapper::GetDoctypeStr>(), m_reference[2])) {
@@ -135,12 +154,12 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
 
 NMemory::VReference VLoader::ReadShortNameReference(VAttributes const& attributes) {
     char const* const value = attributes.Find("SHORT-NAME");
-    if (value == nullptr) {
-        Report(VSeverity::Error, "missing-attribute", "the short-name reference has no SHORT-NAME");
-    }
     m_reference[0].clear();
     AppendFromUtf8(m_reference[0], value != nullptr ? value : "");
     Trim(m_reference[0]);
+    if (m_reference[0].empty()) {
+        Report(VSeverity::Error, "missing-attribute", "the short-name reference has no SHORT-NAME");
+    }
     return NMemory::VReference::ByShortName(m_reference[0].c_str());
 }
 
@@ -197,14 +216,14 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
         SetModelVersion(version);
     } else {
         Report(VSeverity::Warning, "missing-model-version",
-               "ODX has no MODEL-VERSION; the document is read by its content");
+               "ODX has no MODEL-VERSION; the document is read as ODX 2.0.1");
     }
     m_frames.push_back({std::string(name), this, &RootType(), Position()});
 }
 
 void VLoader::StartRow(std::string_view name, VAttributes const& attributes, VRow const& row, int index) {
     if (NoteRow(name, m_frames.back(), row, index)) {
-        Open(name, attributes, row);
+        Open(name, attributes, row, m_frames.back().object);
     } else {
         Skip(name, attributes);
     }
@@ -214,18 +233,17 @@ bool VLoader::StartBesideWrapper(std::string_view name, VAttributes const& attri
     VFrame& frame = m_frames.back();
     for (std::size_t at = 0; at < frame.type->rows.size(); ++at) {
         VRow const& wrapper = frame.type->rows[at];
-        if (wrapper.ownType == nullptr || !wrapper.ownType->isWrapper) {
-            continue;
-        }
-        int const index = wrapper.ownType->FindRow(name);
+        bool const isWrapper = (wrapper.ownType != nullptr || wrapper.type != nullptr) && wrapper.Type().isWrapper;
+        int const index = isWrapper ? wrapper.Type().FindRow(name) : -1;
         if (index < 0) {
             continue;
         }
         Report(VSeverity::Warning, "missing-wrapper",
                "'" + std::string(name) + "' stands outside of '" + wrapper.name + "', where it belongs");
-        frame.seen |= std::uint64_t{1} << at;
-        wrapper.open(*this, frame.object, wrapper, attributes);
-        Open(name, attributes, wrapper.ownType->rows[static_cast<std::size_t>(index)]);
+        frame.implied |= std::uint64_t{1} << at;
+        frame.choices |= wrapper.choice != 0 ? std::uint64_t{1} << wrapper.choice : 0;
+        VOpened const opened = wrapper.open(*this, frame.object, wrapper, attributes);
+        Open(name, attributes, wrapper.Type().rows[static_cast<std::size_t>(index)], opened.object);
         return true;
     }
     return false;
@@ -259,8 +277,8 @@ bool VLoader::NoteRow(std::string_view name, VFrame& frame, VRow const& row, int
     return !isSecondAlternative && !(isRepeated && row.isFirstKept);
 }
 
-void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow const& row) {
-    VOpened const opened = row.open(*this, m_frames.back().object, row, attributes);
+void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow const& row, void* owner) {
+    VOpened const opened = row.open(*this, owner, row, attributes);
     if (opened.isDeferred) {
         m_recordedDepth = 1;
         m_recordedRow = &row;
@@ -284,18 +302,23 @@ void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow co
     if (opened.type->isMarkup) {
         m_markupDepth = 1;
     }
-    CheckXsiType(*opened.type, attributes);
+    m_frames.back().xsiType = ReadXsiType(*opened.type, attributes);
     ReadAttributes(m_frames.back(), attributes);
 }
 
-void VLoader::CheckXsiType(VElementType const& type, VAttributes const& attributes) {
-    if (type.xsiTypes.empty()) {
-        return;
+/// The xsi:type; "", and reported, when the element has none such, and "" where it is not looked at.
+std::string VLoader::ReadXsiType(VElementType const& type, VAttributes const& attributes) {
+    if (type.kinds.empty()) {
+        return {};
     }
-    std::string const xsiType = XsiType(*this, attributes);
-    if (std::find(type.xsiTypes.begin(), type.xsiTypes.end(), xsiType) == type.xsiTypes.end()) {
-        ReportUnknownType(*this, xsiType);
+    std::string xsiType = XsiType(*this, attributes);
+    for (VKind const& kind : type.kinds) {
+        if (kind.xsiType == xsiType) {
+            return xsiType;
+        }
     }
+    ReportUnknownType(*this, xsiType);
+    return {};
 }
 
 void VLoader::Skip(std::string_view name, VAttributes const& attributes) {
@@ -402,7 +425,11 @@ void VLoader::CheckComplete(VFrame const& frame) {
     std::uint64_t reportedChoices = 0;
     for (std::size_t index = 0; index < frame.type->rows.size(); ++index) {
         VRow const& row = frame.type->rows[index];
-        if (row.occurs != Required || (frame.seen & (std::uint64_t{1} << index)) != 0) {
+        if (row.occurs != Required || ((frame.seen | frame.implied) & (std::uint64_t{1} << index)) != 0) {
+            continue;
+        }
+        // Without xsi:type an element may be of the general kind, which has little but names.
+        if (frame.isInferred && std::strcmp(row.name, "SHORT-NAME") != 0) {
             continue;
         }
         std::uint64_t const choiceBit = row.choice != 0 ? std::uint64_t{1} << row.choice : 0;
@@ -413,6 +440,26 @@ void VLoader::CheckComplete(VFrame const& frame) {
         m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
                                "'" + frame.name + "' has no '" + row.name + "'" +
                                    (row.choice != 0 ? " nor an alternative to it" : ""));
+    }
+    CheckKind(frame);
+}
+
+/// Holds what is inside against the xsi:type.
+void VLoader::CheckKind(VFrame const& frame) {
+    if (frame.xsiType.empty() || frame.isInferred) {
+        return;
+    }
+    for (VKind const& kind : frame.type->kinds) {
+        int const index = frame.type->FindRow(kind.child);
+        bool const isSeen = (frame.seen & (std::uint64_t{1} << index)) != 0;
+        if (kind.xsiType == frame.xsiType && !isSeen) {
+            m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
+                                   "'" + frame.name + "' of the type " + kind.xsiType + " has no '" + kind.child + "'");
+        } else if (kind.xsiType != frame.xsiType && isSeen) {
+            m_reading.findings.Add(frame.position, VSeverity::Error, "contradicting-type",
+                                   "'" + frame.name + "' is of the type " + frame.xsiType + " and holds '" +
+                                       kind.child + "', as one of the type " + kind.xsiType + " does");
+        }
     }
 }
 
@@ -510,7 +557,8 @@ void VLoader::Replay() {
             std::vector<char const*> const raw = pointers(event.attributes);
             if (index == 0) {
                 // Noted among its siblings already, when it was met.
-                Open(LocalName(event.name), VAttributes(raw.data()), row);
+                Open(LocalName(event.name), VAttributes(raw.data()), row, m_frames.back().object);
+                m_frames.back().isInferred = true;
             } else {
                 Start(event.name, VAttributes(raw.data()));
             }

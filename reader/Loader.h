@@ -83,8 +83,11 @@ private:
         VElementType const* type;
         NMemory::VPosition position;
         std::uint64_t seen = 0;    // rows met, by index
+        std::uint64_t implied = 0; // wrappers that are not there, of which items are
         std::uint64_t choices = 0; // alternatives taken, by choice number
         int lastRow = -1;
+        std::string xsiType{};     // as written, where the type lists some
+        bool isInferred = false;   // its kind shows from its contents
         bool hasStrayText = false; // reported already
     };
 
@@ -99,8 +102,9 @@ private:
     void StartRoot(std::string_view name, VAttributes const& attributes);
     void StartRow(std::string_view name, VAttributes const& attributes, VRow const& row, int index);
     bool StartBesideWrapper(std::string_view name, VAttributes const& attributes);
-    void Open(std::string_view name, VAttributes const& attributes, VRow const& row);
-    void CheckXsiType(VElementType const& type, VAttributes const& attributes);
+    void Open(std::string_view name, VAttributes const& attributes, VRow const& row, void* owner);
+    std::string ReadXsiType(VElementType const& type, VAttributes const& attributes);
+    void CheckKind(VFrame const& frame);
     void Skip(std::string_view name, VAttributes const& attributes);
     void NoteLeftOut(std::string_view name, VAttributes const& attributes);
     bool NoteRow(std::string_view name, VFrame& frame, VRow const& row, int index);
@@ -121,7 +125,7 @@ private:
     std::uint32_t m_document;
     NMemory::VPosition m_rootPosition;
     bool m_isCommitted = false;
-    bool m_isVersion20 = false;
+    bool m_isVersion20 = true; // unless the document says otherwise
     std::string m_modelVersion;
     std::vector<std::pair<NODX201::VReferencable*, std::string>> m_categories;
     std::vector<std::pair<std::wstring, std::wstring>> m_instructions;

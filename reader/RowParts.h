@@ -16,6 +16,18 @@ inline VElementType Table(std::vector<VAttributeRow> attributes, std::vector<VRo
     return Indexed(std::move(type));
 }
 
+/// An element that is no more than a list: its items may also stand beside it.
+inline VElementType ListTable(VElementType type) {
+    type.isWrapper = true;
+    return type;
+}
+
+/// Where several may stand, malformed as that is, and add to the first.
+inline VRow Appending(VRow row) {
+    row.isFirstKept = false;
+    return row;
+}
+
 /// An element with names.
 template <class T>
 VElementType NamedTable(std::vector<VAttributeRow> attributes, std::vector<VRow> rows) {

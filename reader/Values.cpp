@@ -88,7 +88,7 @@ void Trim(std::wstring& text) {
 
 bool IsValue(VContent content, std::wstring_view text) {
     if (text.empty()) {
-        return true;
+        return content != VContent::Uint && content != VContent::Int && content != VContent::Double;
     }
     switch (content) {
     case VContent::Text:

@@ -10,8 +10,7 @@ namespace NReader {
 
 void Trim(std::wstring& text); ///< blanks, tabs and line ends at both ends
 
-/// Whether a text is a value of its kind, as XML Schema writes them. An empty text is a value of every kind: what is
-/// missing is reported as missing.
+/// Whether a text is a value of its kind, as XML Schema writes them. An empty text is none of a number's kinds.
 bool IsValue(VContent content, std::wstring_view text);
 char const* ValueText(VContent content); ///< "unsigned integer", for messages
 

@@ -187,7 +187,7 @@ TEST_F(VCyclesTest, ShortNameOfTheStructureItself) {
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle");
     ASSERT_EQ(m_result.diagnostics.size(), 1U);
     EXPECT_EQ(Message(0),
-              "STRUCTURE 'S' contains itself through this reference in the layer 'L', which is left unresolved");
+              "STRUCTURE 'S' contains itself through this reference in the layer 'L', which is left unresolved there");
     Walk();
 }
 
@@ -205,30 +205,58 @@ TEST_F(VCyclesTest, ShortNameThatMeansAnotherDopInEveryLayerIsNone) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
-TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantOnly) {
+TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) {
     // In the first variant "Payload" is a DOP, in the second a STRUCTURE that holds the frame that holds it.
-    std::string const frame = "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("Frame", {DopSnref("Payload")})) +
-                              "</DIAG-DATA-DICTIONARY-SPEC>";
+    std::string const shared =
+        "<ECU-SHARED-DATAS>" +
+        Xml("ECU-SHARED-DATA", "A",
+            "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("Frame", {DopSnref("Payload")})) +
+                "</DIAG-DATA-DICTIONARY-SPEC>") +
+        "</ECU-SHARED-DATAS>";
     auto const variant = [](std::string const& name, std::string const& dictionary) {
-        return Xml("ECU-VARIANT", name,
+        return "<ECU-VARIANTS>" +
+               Xml("ECU-VARIANT", name,
                    "<DIAG-DATA-DICTIONARY-SPEC>" + dictionary +
                        "</DIAG-DATA-DICTIONARY-SPEC><PARENT-REFS><PARENT-REF xsi:type=\"ECU-SHARED-DATA-REF\" "
-                       "ID-REF=\"A\"/></PARENT-REFS>");
+                       "ID-REF=\"A\"/></PARENT-REFS>") +
+               "</ECU-VARIANTS>";
     };
-    std::string const simple =
-        "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>Payload</SHORT-NAME></DATA-OBJECT-PROP>"
-        "</DATA-OBJECT-PROPS>";
-    std::string const nested = "<STRUCTURES><STRUCTURE ID=\"N\"><SHORT-NAME>Payload</SHORT-NAME>" +
-                               Params({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>";
-    std::string const shared = "<ECU-SHARED-DATAS>" + Xml("ECU-SHARED-DATA", "A", frame) + "</ECU-SHARED-DATAS>";
+    std::string const simple = variant(
+        "V1", "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>Payload</SHORT-NAME></DATA-OBJECT-PROP>"
+              "</DATA-OBJECT-PROPS>");
+    std::string const nested = variant("V2", "<STRUCTURES><STRUCTURE ID=\"N\"><SHORT-NAME>Payload</SHORT-NAME>" +
+                                                 Params({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>");
+    auto const document = [](std::string const& content) { return Container(content, kVersion); };
 
-    Read(Container(shared + "<ECU-VARIANTS>" + variant("V1", simple) + "</ECU-VARIANTS>", kVersion));
+    Read({document(shared), document(simple)});
     EXPECT_EQ(Diagnostics(), "");
-    Read(Container(shared + "<ECU-VARIANTS>" + variant("V1", simple) + variant("V2", nested) + "</ECU-VARIANTS>",
-                   kVersion));
-    EXPECT_EQ(m_result.diagnostics.size(), 1U);
-    EXPECT_EQ(m_result.diagnostics[0].code, "containment-cycle");
-    EXPECT_NE(Message(0).find("in the layer 'V2'"), std::string::npos) << Message(0);
+    for (auto const& documents : {std::vector{document(shared), document(simple), document(nested)},
+                                  std::vector{document(nested), document(simple), document(shared)}}) {
+        Read(documents);
+        ASSERT_EQ(m_result.diagnostics.size(), 1U);
+        EXPECT_EQ(m_result.diagnostics[0].code, "containment-cycle");
+        EXPECT_NE(Message(0).find("in the layer 'V2'"), std::string::npos) << Message(0);
+        auto& link = As<NODX201::VValue>(At(Get<NODX201::VStructure>(L"Frame").ParamCollection(), 0)).GetDopBaseLink();
+        EXPECT_TRUE(link.HasDopBase(Get<NODX201::VDiagLayer>(L"V1")));
+        EXPECT_FALSE(link.HasDopBase(Get<NODX201::VDiagLayer>(L"V2")));
+        auto& inner = As<NODX201::VValue>(At(Get<NODX201::VStructure>(L"N").ParamCollection(), 0)).GetDopBaseLink();
+        EXPECT_TRUE(inner.HasDopBase(Get<NODX201::VDiagLayer>(L"V2"))); // an ID is the same in all layers
+        Walk();
+    }
+}
+
+TEST_F(VCyclesTest, EveryEnvDataInsideADescriptionIsSearched) {
+    // The fields lead into the description from its inside, before it is met itself.
+    std::string fields;
+    std::string envDatas;
+    for (char const* const number : {"1", "2", "3", "4"}) {
+        fields += Xml("STATIC-FIELD", std::string("F") + number, Ref("BASIC-STRUCTURE-REF", std::string("E") + number));
+        envDatas += Xml("ENV-DATA", std::string("E") + number, Params({Dop("N")}));
+    }
+    ReadDictionary("<STATIC-FIELDS>" + fields + "</STATIC-FIELDS><ENV-DATA-DESCS>" +
+                   Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + envDatas + "</ENV-DATAS>") + "</ENV-DATA-DESCS>");
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle\ntest.odx:4:1 error containment-cycle\n"
+                             "test.odx:5:1 error containment-cycle\ntest.odx:6:1 error containment-cycle");
     Walk();
 }
 
@@ -250,9 +278,17 @@ bool IsInCycle(NODX201::VDopBase& dop, NODX201::VDiagLayer& layer, std::set<NODX
         }
     } else if (auto* const field = dynamic_cast<NODX201::VField*>(&dop)) {
         auto& choice = field->GetBasicStructureEnvDataDescChoice();
-        auto* const link = dynamic_cast<NODX201::VBasicStructureLink*>(&choice);
-        if (link != nullptr && link->HasBasicStructure()) {
-            enter(link->GetBasicStructure());
+        auto* const structureLink = dynamic_cast<NODX201::VBasicStructureLink*>(&choice);
+        if (structureLink != nullptr && structureLink->HasBasicStructure()) {
+            enter(structureLink->GetBasicStructure());
+        }
+        auto* const descLink = dynamic_cast<NODX201::VEnvDataDescLink*>(&choice);
+        if (descLink != nullptr && descLink->HasEnvDataDesc()) {
+            enter(descLink->GetEnvDataDesc());
+        }
+    } else if (auto* const desc = dynamic_cast<NODX201::VEnvDataDesc*>(&dop)) {
+        for (NODX201::IEnvDataProxy& proxy : desc->EnvDataProxyCollection()) {
+            enter(dynamic_cast<NODX201::VEnvData&>(proxy));
         }
     } else if (auto* const mux = dynamic_cast<NODX201::VMux*>(&dop)) {
         for (NODX201::VCase& muxCase : mux->CaseCollection()) {
@@ -273,22 +309,37 @@ TEST_F(VCyclesTest, NoRandomDictionaryHoldsACycleAfterReading) {
         std::string structures;
         std::string fields;
         std::string muxes;
-        for (int index = 0; index < 5; ++index) {
+        std::string descriptions;
+        for (int index = 0; index < 4; ++index) {
             std::string const number = std::to_string(index);
-            std::string const kinds[] = {"S", "F", "M"};
-            std::vector<std::string> params;
-            for (std::size_t count = random() % 3; count > 0; --count) {
-                std::string const target = kinds[random() % 3] + pick(5);
-                params.push_back(random() % 2 == 0 ? Dop(target) : DopSnref(target));
-            }
-            structures += Xml("STRUCTURE", "S" + number, Params(params));
-            fields += Xml("STATIC-FIELD", "F" + number, Ref("BASIC-STRUCTURE-REF", "S" + pick(5)));
+            std::string const kinds[] = {"S", "F", "M", "N", "G"};
+            auto const params = [&] {
+                std::vector<std::string> all;
+                for (std::size_t count = random() % 3; count > 0; --count) {
+                    std::string const target = kinds[random() % 5] + pick(4);
+                    all.push_back(random() % 2 == 0 ? Dop(target) : DopSnref(target));
+                }
+                return Params(all);
+            };
+            structures += Xml("STRUCTURE", "S" + number, params());
+            fields += Xml("STATIC-FIELD", "F" + number,
+                          Ref("BASIC-STRUCTURE-REF", (random() % 2 == 0 ? "S" : "E") + pick(4)));
+            fields += Xml("STATIC-FIELD", "G" + number, Ref("ENV-DATA-DESC-REF", "N" + pick(4)));
             muxes += Xml("MUX", "M" + number,
-                         "<CASES><CASE><SHORT-NAME>C</SHORT-NAME>" + Ref("STRUCTURE-REF", "S" + pick(5)) +
+                         "<CASES><CASE><SHORT-NAME>C</SHORT-NAME>" + Ref("STRUCTURE-REF", "S" + pick(4)) +
                              "</CASE></CASES>");
+            descriptions += Xml("ENV-DATA-DESC", "N" + number,
+                                "<ENV-DATAS>" + Xml("ENV-DATA", "E" + number, params()) +
+                                    Xml("ENV-DATA", "E'" + number, params()) + "</ENV-DATAS>");
         }
-        ReadDictionary("<STRUCTURES>" + structures + "</STRUCTURES><STATIC-FIELDS>" + fields +
-                       "</STATIC-FIELDS><MUXS>" + muxes + "</MUXS>");
+        std::string const lists[] = {"<STRUCTURES>" + structures + "</STRUCTURES>",
+                                     "<STATIC-FIELDS>" + fields + "</STATIC-FIELDS>", "<MUXS>" + muxes + "</MUXS>",
+                                     "<ENV-DATA-DESCS>" + descriptions + "</ENV-DATA-DESCS>"};
+        std::string content;
+        for (std::size_t first = random() % 4, index = first; index < first + 4; ++index) {
+            content += lists[index % 4];
+        }
+        ReadDictionary(content);
         severed += m_result.diagnostics.size();
         auto& layer = Get<NODX201::VDiagLayer>(L"L");
         for (NODX201::VDopBase& dop : layer.GetDiagDataDictionarySpec().DopBaseCollection()) {

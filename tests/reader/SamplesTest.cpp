@@ -3,7 +3,10 @@
 #include <set>
 #include <sstream>
 
+#include <diagkit/model/Dops.h>
 #include <diagkit/model/Layers.h>
+#include <diagkit/tools/DiagLayerTraverser.h>
+#include <diagkit/tools/OpBuildDopView.h>
 
 #include "reader/LayersInPrint.h"
 #include "reader/ReaderTest.h"
@@ -55,6 +58,40 @@ TEST_F(VSamplesTest, PackageAndDocumentsGiveTheSameDatabase) {
     EXPECT_EQ(PrintLayers(Database()), layers);
     EXPECT_EQ(PrintDiagCommViews(Database()), diagComms);
     EXPECT_EQ(PrintDiagVariableViews(Database()), variables);
+}
+
+TEST_F(VSamplesTest, EveryDopMayBeRemovedThroughAViewAndTheRestIsReadOn) {
+    ReadDocuments();
+    std::vector<NODX201::VDiagLayer*> layers;
+    for (NODX201::VDiagLayerContainer& container : Database().GetOdx().DiagLayerContainerCollection()) {
+        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
+            layers.push_back(&layer);
+        }
+    }
+    auto const walkAll = [&layers] {
+        for (NODX201::VDiagLayer* const layer : layers) {
+            NDIAGKIT::VDiagLayerTraverser(*layer).TraverseDiagLayer();
+        }
+    };
+    walkAll(); // every link has an answer to forget
+    std::size_t removed = 0;
+    for (NODX201::VDiagLayer* const layer : layers) {
+        NDIAGKIT::VOpBuildDopView builder;
+        NDIAGKIT::VDopView* const view = builder.CreateDopView(*layer);
+        ASSERT_NE(view, nullptr);
+        while (!view->IsEmpty()) {
+            view->Remove(view->Begin());
+            ++removed;
+        }
+        builder.DestroyDopView(*view);
+        VerifyModel(Database());
+        walkAll();
+        if (layer->HasDiagDataDictionarySpec()) {
+            EXPECT_EQ(layer->GetDiagDataDictionarySpec().DopBaseCollection().Count(), 0U);
+        }
+    }
+    EXPECT_GT(removed, 40U);
+    EXPECT_EQ(Database().Count(NODX201::VOdxTagEnum::EndOfPduField), 0U);
 }
 
 TEST_F(VSamplesTest, LayersHaveTheParentsThatTheirReadmeNames) {

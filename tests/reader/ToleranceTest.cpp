@@ -438,6 +438,65 @@ TEST_F(VToleranceTest, UnknownElementsAreCountedWithoutTheirContents) {
     EXPECT_EQ(m_result.unknownElements, (std::map<std::string, std::size_t>{{"SDGS", 1}, {"STATE-CHARTS", 2}}));
 }
 
+TEST_F(VToleranceTest, VersionsThatAreNoneAreReportedAndHeldAgainst20) {
+    std::string const bare =
+        "<PROTOCOLS><PROTOCOL TYPE=\"x\" ID=\"P\"><SHORT-NAME>P</SHORT-NAME></PROTOCOL></PROTOCOLS>";
+    for (char const* const version : {"", "abc", "2", "2.", ".0"}) {
+        Read(Container(bare, version));
+        EXPECT_EQ(Diagnostics(), "test.odx:1:1 warning unknown-model-version\ntest.odx:2:12 error missing-child");
+    }
+    for (char const* const version : {" 2.0.1 ", "2.0", "1.1.5"}) {
+        Read(Container(bare, version));
+        EXPECT_EQ(Diagnostics(), "test.odx:2:12 error missing-child") << version;
+    }
+    for (char const* const version : {"2.1.0", "2.2", "3.0.0", "10.0"}) {
+        Read(Container(bare, version));
+        EXPECT_EQ(Diagnostics(), "") << version;
+    }
+}
+
+TEST_F(VToleranceTest, ElementsOfTheGeneralKindLackNothing) {
+    Read(
+        Document("<FLASH ID=\"F\"><SHORT-NAME>F</SHORT-NAME><ECU-MEMS><ECU-MEM ID=\"E\"><SHORT-NAME>E</SHORT-NAME><MEM>"
+                 "<SESSIONS/><DATABLOCKS/><FLASHDATAS><FLASHDATA ID=\"D\"><SHORT-NAME>D</SHORT-NAME><DATAFORMAT "
+                 "SELECTION=\"BINARY\"/></FLASHDATA></FLASHDATAS></MEM></ECU-MEM></ECU-MEMS></FLASH>"));
+    EXPECT_EQ(Diagnostics(), "");
+    Read(Params("<PARAM xsi:type=\"CODED-CONST\"><SHORT-NAME>P</SHORT-NAME><CODED-VALUE>1</CODED-VALUE>"
+                "<DIAG-CODED-TYPE BASE-DATA-TYPE=\"A_UINT32\"/></PARAM>"));
+    EXPECT_EQ(Diagnostics(), "");
+    Read(Params("<PARAM><DOP-SNREF SHORT-NAME=\"D\"/></PARAM>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 error missing-child"); // its name, which all kinds have
+}
+
+TEST_F(VToleranceTest, ItemsBesideAListOfItsOwnClassAreReadWithANote) {
+    Read(Dictionary(
+        "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>D</SHORT-NAME><COMPU-METHOD><CATEGORY>LINEAR"
+        "</CATEGORY><COMPU-INTERNAL-TO-PHYS>\n<COMPU-SCALE><COMPU-CONST><V>1</V></COMPU-CONST></COMPU-SCALE>\n"
+        "<COMPU-SCALE><COMPU-CONST><V>2</V></COMPU-CONST></COMPU-SCALE></COMPU-INTERNAL-TO-PHYS></COMPU-METHOD>" +
+        std::string(kStandardType) +
+        "<PHYSICAL-TYPE BASE-DATA-TYPE=\"A_UINT32\"/></DATA-OBJECT-PROP></DATA-OBJECT-PROPS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning missing-wrapper\ntest.odx:4:1 warning missing-wrapper");
+    EXPECT_EQ(Count(L"COMPU-SCALE"), 2U);
+    Read(Dictionary(
+        "<ENV-DATAS><ENV-DATA ID=\"E\"><SHORT-NAME>E</SHORT-NAME><PARAMS/>\n<DTC-VALUE>7</DTC-VALUE></ENV-DATA>"
+        "</ENV-DATAS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning missing-wrapper");
+    EXPECT_EQ(Count(L"DTC-VALUES"), 1U);
+}
+
+TEST_F(VToleranceTest, ItemsBesideAWrapperThatIsThereTooAreNoSecondWrapper) {
+    std::string const request = "<REQUEST ID=\"R\"><SHORT-NAME>R</SHORT-NAME><PARAMS/></REQUEST>";
+    Read(
+        Layer(request + "\n<REQUESTS>" + "<REQUEST ID=\"Q\"><SHORT-NAME>Q</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 warning missing-wrapper");
+    EXPECT_EQ(Count(L"REQUEST"), 2U);
+}
+
+TEST_F(VToleranceTest, EmptyReferencesNameNothing) {
+    Read(Layer("<IMPORT-REFS>\n<IMPORT-REF ID-REF=\" \"/></IMPORT-REFS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error missing-attribute");
+}
+
 // Version 2.2
 
 TEST_F(VToleranceTest, Version22LayersAreReadWithoutErrors) {

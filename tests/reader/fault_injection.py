@@ -28,6 +28,8 @@ from odx_grammar import Grammar, Match  # noqa: E402
 
 GRAMMAR = pathlib.Path(__file__).resolve().parent.parent / "samples" / "grammar.txt"
 FREE_TYPES = ("text", "reference", "id", "day", None)  # of these, every text is a value
+# The second of these adds to the first; of everything else but wrappers it is left out.
+ADDING = ("DIAG-DATA-DICTIONARY-SPEC", "DIAG-COMM-SNREF", "DIAG-VARIABLE-SNREF", "MEM")
 NOT_IN_THE_MODEL = {"CATALOG", "VEHICLE-INFO-SPEC"}
 
 
@@ -83,6 +85,14 @@ def parse(data):
     parser.Parse(data, True)
     return roots[0]
 
+
+# xsi:types that say no more than what is inside.
+TYPES_THAT_SHOW = {
+    "FILTER": ("ADDRDEF-FILTER", "SIZEDEF-FILTER"),
+    "TARGET-ADDR-OFFSET": ("POS-OFFSET", "NEG-OFFSET"),
+    "PHYS-SEGMENT": ("ADDRDEF-PHYS-SEGMENT", "SIZEDEF-PHYS-SEGMENT"),
+    "FLASHDATA": ("INTERN-FLASHDATA", "EXTERN-FLASHDATA"),
+}
 
 Fault = collections.namedtuple("Fault", "what document data offset severity code touched")
 
@@ -171,10 +181,16 @@ class Faults:
                       element.start, severity, "unknown-literal")
         elif value_type not in FREE_TYPES:
             self._add(element, "no value", name, replaced("x1"), element.start, "error", "not-a-value")
+        if value_type in ("uint", "int", "double"):
+            self._add(element, "empty value", name, replaced(" "), element.start, "error", "not-a-value")
 
     def _type(self, element):
         if "xsi:type" not in element.attributes:
             return
+        if element.name in TYPES_THAT_SHOW:
+            other = next(kind for kind in TYPES_THAT_SHOW[element.name] if kind != element.attributes["xsi:type"])
+            self._add(element, "contradicting type", element.key, self._with_attribute(element, "xsi:type", other),
+                      element.start, "error", "contradicting-type", [element.name])
         self._add(element, "unknown type", element.key, self._with_attribute(element, "xsi:type", "NO-SUCH-TYPE"),
                   element.start, "error", "unknown-type", [element.name])
         data = bytearray(self._data)
@@ -201,8 +217,9 @@ class Faults:
                 self._missing(element, child)
             if not self._fits(model, names[:index] + [child.name] + names[index:]):
                 doubled = self._data[:child.end] + self._data[child.start:child.end] + self._data[child.end:]
+                adds = self._grammar.is_wrapper(child.name) or child.name in ADDING
                 self._add(element, "twice", child.name, doubled, child.end, "error", "repeated-child",
-                          self._touched(child) | {element.name})
+                          self._touched(child) | {element.name} if adds else ())
             if index > 0:
                 self._swapped(element, element.children[index - 1], child)
             self._alternatives(element, index, child)
@@ -313,7 +330,8 @@ def main(arguments):
     print(f"{len(faults)} faults: " + ", ".join(f"{count} {code}" for code, count in sorted(by_code.items())))
     missing = {"missing-attribute", "missing-child", "repeated-child", "misplaced-child", "second-alternative",
                "unknown-child", "not-a-value", "unknown-literal", "unknown-type", "unprefixed-type",
-               "unresolved-reference", "reference-kind"} - by_code.keys()
+               "contradicting-type", "unresolved-reference",
+               "reference-kind"} - by_code.keys()
     if missing:
         print(f"no fault was made for {', '.join(sorted(missing))}")
     return 1 if missing or any(answers) else 0

@@ -88,6 +88,9 @@ class Grammar:
                 return self.definitions[candidate]
         return None
 
+    def is_wrapper(self, name):
+        return name in self._wrappers
+
     def knows(self, name):
         return name in self._by_name
 

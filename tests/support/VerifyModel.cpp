@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <diagkit/memory/MultipleEcuJobs.h>
 #include <diagkit/model/DiagComms.h>
+#include <diagkit/model/Dops.h>
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/ParentRefs.h>
 
@@ -23,6 +25,11 @@ public:
         CollectLayers();
         for (NODX201::VDiagLayer* const layer : m_layers) {
             VerifyLayer(*layer);
+        }
+        for (NMemory::VMemMultipleEcuJobSpec& spec : m_database.MultipleEcuJobSpecCollection()) {
+            if (spec.HasDiagDataDictionarySpec()) {
+                VerifyDictionary(spec.GetDiagDataDictionarySpec(), spec);
+            }
         }
         VerifyCounts();
         return std::move(m_faults);
@@ -76,10 +83,26 @@ private:
         for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
             VerifyProxy(proxy, layer);
         }
+        if (layer.HasDiagDataDictionarySpec()) {
+            VerifyDictionary(layer.GetDiagDataDictionarySpec(), layer);
+        }
         VerifyParentsOf<NODX201::VProtocol>(layer);
         VerifyParentsOf<NODX201::VFunctionalGroup>(layer);
         VerifyParentsOf<NODX201::VBaseVariant>(layer);
         VerifyParentsOf<NODX201::VEcuVariant>(layer);
+    }
+
+    void VerifyDictionary(NODX201::VDiagDataDictionarySpec& dictionary, NODX201::VOdxObject const& owner) {
+        Meet(dictionary, owner);
+        VerifySize(dictionary.DopBaseCollection(), dictionary);
+        for (NODX201::VDopBase& dop : dictionary.DopBaseCollection()) {
+            Meet(dop, dictionary);
+        }
+        VerifySize(dictionary.EnvDataProxyCollection(), dictionary);
+        VerifySize(dictionary.TableCollection(), dictionary);
+        for (NODX201::VTable& table : dictionary.TableCollection()) {
+            Meet(table, dictionary);
+        }
     }
 
     void VerifyProxy(NODX201::IDiagCommProxy& proxy, NODX201::VDiagLayer& layer) {
@@ -150,11 +173,29 @@ private:
 
     void VerifyCounts() {
         static constexpr VOdxTagEnum kCounted[] = {
-            VOdxTagEnum::DiagLayerContainer, VOdxTagEnum::EcuSharedData,        VOdxTagEnum::Protocol,
-            VOdxTagEnum::FunctionalGroup,    VOdxTagEnum::BaseVariant,          VOdxTagEnum::EcuVariant,
-            VOdxTagEnum::DiagService,        VOdxTagEnum::SingleEcuJob,         VOdxTagEnum::ParentRef,
-            VOdxTagEnum::ProtocolRef,        VOdxTagEnum::FunctionalGroupRef,   VOdxTagEnum::BaseVariantRef,
-            VOdxTagEnum::EcuSharedDataRef,   VOdxTagEnum::NotInheritedDiagComm,
+            VOdxTagEnum::DiagLayerContainer,
+            VOdxTagEnum::EcuSharedData,
+            VOdxTagEnum::Protocol,
+            VOdxTagEnum::FunctionalGroup,
+            VOdxTagEnum::BaseVariant,
+            VOdxTagEnum::EcuVariant,
+            VOdxTagEnum::DiagService,
+            VOdxTagEnum::SingleEcuJob,
+            VOdxTagEnum::ParentRef,
+            VOdxTagEnum::ProtocolRef,
+            VOdxTagEnum::FunctionalGroupRef,
+            VOdxTagEnum::BaseVariantRef,
+            VOdxTagEnum::EcuSharedDataRef,
+            VOdxTagEnum::NotInheritedDiagComm,
+            VOdxTagEnum::Structure,
+            VOdxTagEnum::StaticField,
+            VOdxTagEnum::DynamicLengthField,
+            VOdxTagEnum::DynamicEndmarkerField,
+            VOdxTagEnum::EndOfPduField,
+            VOdxTagEnum::Mux,
+            VOdxTagEnum::EnvDataDesc,
+            VOdxTagEnum::DtcDop,
+            VOdxTagEnum::Table,
         };
         for (VOdxTagEnum const tag : kCounted) {
             if (m_database.Count(tag) != m_met[tag]) {
