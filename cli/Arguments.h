@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -32,8 +33,9 @@ struct VArguments {
     std::string flash;     ///< --flash
     int range = 5;         ///< --range, a search range of output parameters
 
-    bool isDictionary = false; ///< --dictionary of `traverse`
-    bool isEach = false;   ///< --each of `oem`
+    bool isDictionary = false;            ///< --dictionary of `traverse`
+    std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
+    bool isEach = false;                  ///< --each of `oem`
 };
 
 /// The options that every command has.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <array>
+#include <filesystem>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -14,6 +16,8 @@
 
 namespace NCli {
 namespace {
+
+namespace fs = std::filesystem;
 
 using NDIAGKIT::VManufacturer;
 using NDIAGKIT::VOemHeuristicReport;
@@ -154,11 +158,40 @@ void WriteError(std::string const& file, std::string const& reason, bool isJson,
     }
 }
 
+bool IsNamedLikeOdx(fs::path const& path) {
+    std::string const extension = path.extension().u8string();
+    return extension == ".pdx" || extension == ".zip" || extension == ".xml" || extension.rfind(".odx", 0) == 0;
+}
+
+/// The files, and in place of a folder those in it that are named like ODX, by name.
+std::vector<std::string> FilesOf(std::vector<std::string> const& named) {
+    std::vector<std::string> files;
+    for (std::string const& name : named) {
+        std::error_code error;
+        fs::directory_iterator const folder(fs::u8path(name), error);
+        if (error) {
+            files.push_back(name); // a file, or something whose reading says why it is none
+            continue;
+        }
+        std::size_t const first = files.size();
+        for (fs::directory_entry const& entry : folder) {
+            if (IsNamedLikeOdx(entry.path())) {
+                files.push_back(entry.path().u8string());
+            }
+        }
+        std::sort(files.begin() + static_cast<std::ptrdiff_t>(first), files.end());
+    }
+    return files;
+}
+
 /// Every file as a database of its own.
 VStatus RunEach(VArguments const& arguments, VOutput& output) {
     VStatus status = VStatus::Done;
     VArguments one = arguments;
-    for (std::string const& file : arguments.files) {
+    for (std::string const& file : FilesOf(arguments.files)) {
+        if (output.HasFailed()) {
+            break;
+        }
         one.files = {file};
         NReader::VReadResult result;
         if (VStatus const loaded = Load(one, output, result); loaded == VStatus::Done) {
@@ -175,7 +208,8 @@ VStatus RunEach(VArguments const& arguments, VOutput& output) {
 
 void DeclareOem(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
-    command.add_flag("--each", arguments.isEach, "Every FILE is a database of its own; with --json one line each");
+    command.add_flag("--each", arguments.isEach,
+                     "Every FILE, and every one in a FOLDER, is a database of its own; with --json one line each");
 }
 
 VStatus RunOem(VArguments const& arguments, VOutput& output) {

@@ -24,6 +24,8 @@ public:
     /// A message of the program about the call itself; --quiet does not silence it.
     void Complain(std::string_view message) const;
 
+    bool HasFailed() const { return m_error != 0; } ///< long work may as well end
+
     bool Finish(); ///< false, with a message, when not everything could be written
 
 private:

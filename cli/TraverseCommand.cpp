@@ -26,10 +26,17 @@ struct VCall {
     std::size_t depth;                   ///< 0 for the layer
 };
 
+/// Thrown to leave a walk that nobody waits for.
+struct VWalkLeft {};
+
 /// A walk that hands on all its calls one by one.
 class VWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
-    using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;
+    VWalk(NODX201::VDiagLayer& layer, std::uint64_t maxVisits, VOutput& output)
+        : VGuardedDiagLayerTraverser(layer), m_output(output), m_maxVisits(maxVisits) {}
+
+    bool IsTooLong() const { return m_visits > m_maxVisits; }
+    bool IsTooDeep() const { return m_isTooDeep; }
 
     /// The same as inside a walk over the layer, at the same depth.
     void TraverseDictionaryOf(NODX201::VDiagLayer& layer) {
@@ -40,9 +47,13 @@ public:
 protected:
     virtual void Take(VCall const& call) = 0;
 
+    VOutput& m_output;
+
     void OnCycle(wchar_t const* kind, NODX201::VOdxElement& x) override {
         Take({"cycle", kind, &x, x.GetShortName(), m_depth});
     }
+
+    void OnTooDeep(wchar_t const*, NODX201::VOdxElement&) override { m_isTooDeep = true; }
 
 #define TRAVERSER_KIND(kind, element)                                                                                  \
     void PreProcess##kind(NODX201::element& x) override { Before(L## #kind, &x, x.GetShortName()); }                   \
@@ -54,6 +65,9 @@ protected:
 
 private:
     void Before(wchar_t const* kind, NODX201::VOdxElement const* element, wchar_t const* name) {
+        if (++m_visits > m_maxVisits || m_output.HasFailed()) {
+            throw VWalkLeft();
+        }
         Take({"pre", kind, element, name, m_depth++});
     }
 
@@ -62,11 +76,14 @@ private:
     }
 
     std::size_t m_depth = 0;
+    std::uint64_t m_maxVisits;
+    std::uint64_t m_visits = 0;
+    bool m_isTooDeep = false;
 };
 
 class VJsonWalk : public VWalk {
 public:
-    VJsonWalk(NODX201::VDiagLayer& layer, VOutput& output) : VWalk(layer), m_output(output) {}
+    using VWalk::VWalk;
 
 protected:
     void Take(VCall const& call) override {
@@ -77,18 +94,15 @@ protected:
         line["depth"] = call.depth;
         m_output.WriteJsonLine(line);
     }
-
-private:
-    VOutput& m_output;
 };
 
 /// A line for each element, indented, with its ODX tag; and at the end how many there were.
 class VTextWalk : public VWalk {
 public:
-    VTextWalk(NODX201::VDiagLayer& layer, VOutput& output) : VWalk(layer), m_output(output) {}
+    using VWalk::VWalk;
 
     void WriteTotals() {
-        m_output.Write(fmt::format("\n{}, {}\n", Counted(m_visits, "visit"), Counted(m_cycles, "cycle")));
+        m_output.Write(fmt::format("\n{}, {}\n", Counted(m_lines, "visit"), Counted(m_cycles, "cycle")));
     }
 
 protected:
@@ -98,7 +112,7 @@ protected:
             return;
         }
         bool const isCycle = event == "cycle";
-        ++(isCycle ? m_cycles : m_visits);
+        ++(isCycle ? m_cycles : m_lines);
         m_output.Write(
             fmt::format("{:{}}{}{}{}\n", "", 2 * call.depth, TitleOf(call), NameOf(call), isCycle ? " (cycle)" : ""));
     }
@@ -116,17 +130,29 @@ private:
         return name.empty() ? "" : ' ' + name;
     }
 
-    VOutput& m_output;
-    std::size_t m_visits = 0;
+    std::size_t m_lines = 0;
     std::size_t m_cycles = 0;
 };
 
-void Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& arguments) {
-    if (arguments.isDictionary) {
-        walk.TraverseDictionaryOf(layer);
-    } else {
-        walk.TraverseDiagLayer();
+VStatus Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& arguments, VOutput const& output) {
+    try {
+        if (arguments.isDictionary) {
+            walk.TraverseDictionaryOf(layer);
+        } else {
+            walk.TraverseDiagLayer();
+        }
+    } catch (VWalkLeft const&) {
+        // Told below, or by the output itself.
     }
+    if (walk.IsTooLong()) {
+        output.Complain(fmt::format("the walk ends after {} visits; --max-visits allows more", arguments.maxVisits));
+        return VStatus::Unreadable;
+    }
+    if (walk.IsTooDeep()) {
+        output.Complain(fmt::format("elements deeper than {} inside one another are left out", VWalk::kMaxDepth));
+        return VStatus::Unreadable;
+    }
+    return VStatus::Done;
 }
 
 } // namespace
@@ -134,6 +160,9 @@ void Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& arguments) 
 void DeclareTraverse(CLI::App& command, VArguments& arguments) {
     DeclareLayer(command, arguments).required();
     command.add_flag("--dictionary", arguments.isDictionary, "Only what the layer's DIAG-DATA-DICTIONARY-SPEC holds");
+    command.add_option("--max-visits", arguments.maxVisits, "End after so many visits, with status 3")
+        ->type_name("N")
+        ->capture_default_str();
     DeclareFiles(command, arguments);
 }
 
@@ -151,17 +180,16 @@ VStatus RunTraverse(VArguments const& arguments, VOutput& output) {
         return VStatus::NotThere;
     }
     if (arguments.isJson) {
-        VJsonWalk walk(*layer, output);
-        Walk(walk, *layer, arguments);
-        return VStatus::Done;
+        VJsonWalk walk(*layer, arguments.maxVisits, output);
+        return Walk(walk, *layer, arguments, output);
     }
     if (arguments.isDictionary) {
         output.Write(fmt::format("DIAG-DATA-DICTIONARY-SPEC of {}\n", Titled(*layer)));
     }
-    VTextWalk walk(*layer, output);
-    Walk(walk, *layer, arguments);
+    VTextWalk walk(*layer, arguments.maxVisits, output);
+    VStatus const status = Walk(walk, *layer, arguments, output);
     walk.WriteTotals();
-    return VStatus::Done;
+    return status;
 }
 
 } // namespace NCli

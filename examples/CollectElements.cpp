@@ -58,7 +58,9 @@ int main(int count, char** words) {
             for (NODX201::VDtc* const dtc : VCollector<NODX201::VDtc>(layer).Collect()) {
                 std::cout << NReader::ToUtf8(dtc->GetShortName()) << '\n';
             }
+            return 0;
         }
     }
-    return 0;
+    std::cerr << words[2] << ": no such layer\n";
+    return 1;
 }

@@ -60,8 +60,10 @@ int main(int count, char** words) {
         for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
             if (NReader::ToUtf8(layer.GetShortName()) == words[2]) {
                 VPrinter(layer).TraverseDiagLayer();
+                return 0;
             }
         }
     }
-    return 0;
+    std::cerr << words[2] << ": no such layer\n";
+    return 1;
 }

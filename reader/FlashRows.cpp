@@ -151,7 +151,7 @@ VElementType const& TypeOf(VMemFlashdata*) {
 
 /// FLASHDATA, whose kind is its xsi:type or shows from its contents.
 VOpened OpenFlashdata(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
-    std::string const type = XsiType(loader, attributes);
+    std::string const type = XsiTypeIn(attributes); // held against the kinds of the table when it is open
     if (type != "INTERN-FLASHDATA" && type != "EXTERN-FLASHDATA") {
         ReportUnknownType(loader, type);
         return VOpened{nullptr, nullptr, true};

@@ -116,9 +116,9 @@ void VLoader::SetModelVersion(std::string_view version) {
     std::string const major = m_modelVersion.substr(0, dot);
     std::string const minor =
         dot != std::string::npos ? m_modelVersion.substr(dot + 1, m_modelVersion.find('.', dot + 1) - dot - 1) : "";
-    if (!IsNumber(major) || !IsNumber(minor)) {
+    if (!IsNumber(major) || (dot != std::string::npos && !IsNumber(minor))) {
         Report(VSeverity::Warning, "unknown-model-version",
-               "MODEL-VERSION is '" + m_modelVersion + "', which is no version; the document is read as ODX 2.0.1");
+               "MODEL-VERSION is '" + m_modelVersion + "', which is no version; the document is read by its content");
         return;
     }
     m_isVersion20 = major == "0" || major == "1" || (major == "2" && minor == "0");
@@ -216,7 +216,7 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
         SetModelVersion(version);
     } else {
         Report(VSeverity::Warning, "missing-model-version",
-               "ODX has no MODEL-VERSION; the document is read as ODX 2.0.1");
+               "ODX has no MODEL-VERSION; the document is read by its content");
     }
     m_frames.push_back({std::string(name), this, &RootType(), Position()});
 }

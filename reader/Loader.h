@@ -125,7 +125,7 @@ private:
     std::uint32_t m_document;
     NMemory::VPosition m_rootPosition;
     bool m_isCommitted = false;
-    bool m_isVersion20 = true; // unless the document says otherwise
+    bool m_isVersion20 = false; // as far as the document says
     std::string m_modelVersion;
     std::vector<std::pair<NODX201::VReferencable*, std::string>> m_categories;
     std::vector<std::pair<std::wstring, std::wstring>> m_instructions;

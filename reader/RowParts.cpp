@@ -7,25 +7,36 @@
 
 namespace NReader {
 
-std::string XsiType(VLoader& loader, VAttributes const& attributes) {
+namespace {
+
+/// Name and value of xsi:type; null when absent.
+char const* const* TypeAttribute(VAttributes const& attributes) {
     for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; attribute += 2) {
-        std::string_view const name = attribute[0];
-        if (LocalName(name) != "type") {
-            continue;
+        if (LocalName(*attribute) == "type") {
+            return attribute;
         }
-        if (name == "type") {
-            loader.Report(VSeverity::Warning, "unprefixed-type",
-                          "the attribute 'type' lacks the prefix of the XMLSchema-instance namespace (xsi:type)");
-        }
-        std::string value(LocalName(attribute[1]));
-        value.erase(std::remove_if(value.begin(), value.end(),
-                                   [](char character) {
-                                       return std::string_view(" \t\r\n").find(character) != std::string_view::npos;
-                                   }),
-                    value.end());
-        return value;
     }
-    return {};
+    return nullptr;
+}
+
+bool IsBlank(char character) { return std::string_view(" \t\r\n").find(character) != std::string_view::npos; }
+
+} // namespace
+
+std::string XsiTypeIn(VAttributes const& attributes) {
+    char const* const* const attribute = TypeAttribute(attributes);
+    std::string value(attribute != nullptr ? LocalName(attribute[1]) : "");
+    value.erase(std::remove_if(value.begin(), value.end(), &IsBlank), value.end());
+    return value;
+}
+
+std::string XsiType(VLoader& loader, VAttributes const& attributes) {
+    char const* const* const attribute = TypeAttribute(attributes);
+    if (attribute != nullptr && std::string_view(*attribute) == "type") {
+        loader.Report(VSeverity::Warning, "unprefixed-type",
+                      "the attribute 'type' lacks the prefix of the XMLSchema-instance namespace (xsi:type)");
+    }
+    return XsiTypeIn(attributes);
 }
 
 void ReportUnknownType(VLoader& loader, std::string const& type) {

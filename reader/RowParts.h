@@ -55,6 +55,7 @@ VElementType TextTable(std::vector<VAttributeRow> attributes, VContent content =
 /// The value of xsi:type without prefix and blanks; "" when absent. An attribute `type` that lacks the prefix counts,
 /// and is reported.
 std::string XsiType(VLoader& loader, VAttributes const& attributes);
+std::string XsiTypeIn(VAttributes const& attributes); ///< the same, and reports nothing
 
 /// Reports an xsi:type that the element does not have.
 void ReportUnknownType(VLoader& loader, std::string const& type);

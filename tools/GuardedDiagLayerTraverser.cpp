@@ -10,8 +10,12 @@ struct VGuardedDiagLayerTraverser::VStep {
     VStep(VGuardedDiagLayerTraverser& traverser, NODX201::VOdxElement const& element)
         : m_traverser(traverser), m_element(element), m_outer(traverser.m_innermost) {
         traverser.m_innermost = this;
+        ++traverser.m_depth;
     }
-    ~VStep() { m_traverser.m_innermost = m_outer; }
+    ~VStep() {
+        m_traverser.m_innermost = m_outer;
+        --m_traverser.m_depth;
+    }
     VStep(VStep const&) = delete;
     VStep& operator=(VStep const&) = delete;
 
@@ -20,11 +24,13 @@ struct VGuardedDiagLayerTraverser::VStep {
     VStep const* m_outer;
 };
 
-VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser(NODX201::VDiagLayer& layer) : VDiagLayerTraverser(layer) {}
+VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser(NODX201::VDiagLayer& layer, std::size_t maxDepth)
+    : VDiagLayerTraverser(layer), m_maxDepth(maxDepth) {}
 
 VGuardedDiagLayerTraverser::~VGuardedDiagLayerTraverser() = default;
 
 void VGuardedDiagLayerTraverser::OnCycle(wchar_t const*, NODX201::VOdxElement&) {}
+void VGuardedDiagLayerTraverser::OnTooDeep(wchar_t const*, NODX201::VOdxElement&) {}
 
 bool VGuardedDiagLayerTraverser::IsWalking(NODX201::VOdxElement const& x) const {
     for (VStep const* step = m_innermost; step != nullptr; step = step->m_outer) {
@@ -35,14 +41,24 @@ bool VGuardedDiagLayerTraverser::IsWalking(NODX201::VOdxElement const& x) const 
     return false;
 }
 
+bool VGuardedDiagLayerTraverser::MayEnter(wchar_t const* kind, NODX201::VOdxElement& x) {
+    if (IsWalking(x)) {
+        OnCycle(kind, x);
+        return false;
+    }
+    if (m_depth >= m_maxDepth) {
+        OnTooDeep(kind, x);
+        return false;
+    }
+    return true;
+}
+
 #define TRAVERSER_KIND(kind, element)                                                                                  \
     void VGuardedDiagLayerTraverser::Visit##kind(NODX201::element& x) {                                                \
-        if (IsWalking(x)) {                                                                                            \
-            OnCycle(L## #kind, x);                                                                                     \
-            return;                                                                                                    \
+        if (MayEnter(L## #kind, x)) {                                                                                  \
+            VStep const step(*this, x);                                                                                \
+            VDiagLayerTraverser::Visit##kind(x);                                                                       \
         }                                                                                                              \
-        VStep const step(*this, x);                                                                                    \
-        VDiagLayerTraverser::Visit##kind(x);                                                                           \
     }
 #define TRAVERSER_TEXT_KIND(kind)
 #include <diagkit/tools/TraverserKinds.def>

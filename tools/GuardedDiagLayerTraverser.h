@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+
 #include <diagkit/tools/DiagLayerTraverser.h>
 
 namespace NDIAGKIT {
 
 /// A `VDiagLayerTraverser` that ends on every database: it never enters an element that it is in the middle of,
 /// whatever led back to it (related DIAG-COMMs that name each other, tables whose rows lead back to them, ...), and
-/// calls `OnCycle` instead. Everything else is as there: the same elements in the same order, and an element that is
-/// reached in several ways, none inside the other, is visited once for each.
+/// calls `OnCycle` instead. Nor does it go deeper than a limit, so that no data overflow the stack, and calls
+/// `OnTooDeep` there. Everything else is as there: the same elements in the same order, and an element that is reached
+/// in several ways, none inside the other, is visited once for each. In data that refer to one another in many ways,
+/// such as a dozen related DIAG-COMMs that all name each other, these are more than anybody can wait for; a client that
+/// walks such data leaves the walk by an exception.
 ///
 /// Derive from it, override the hooks you care about, and call `TraverseDiagLayer` or, for the dictionary alone,
 /// `TraverseDiagDataDictionarySpec`. An element counts as being walked from before its PreProcess until after its
@@ -16,7 +21,10 @@ namespace NDIAGKIT {
 /// the walk at any point. The guard allocates nothing, and costs a look at each element above for every visit.
 class DIAGKIT_EXPORT VGuardedDiagLayerTraverser : public VDiagLayerTraverser {
 public:
-    explicit VGuardedDiagLayerTraverser(NODX201::VDiagLayer& layer); ///< the layer must outlive the traverser
+    static constexpr std::size_t kMaxDepth = 2000; ///< elements inside one another; honest data stay below 200
+
+    /// The layer must outlive the traverser.
+    explicit VGuardedDiagLayerTraverser(NODX201::VDiagLayer& layer, std::size_t maxDepth = kMaxDepth);
     ~VGuardedDiagLayerTraverser() override;
 
 protected:
@@ -24,6 +32,10 @@ protected:
     /// `x`, perhaps as another kind. `kind` is static text, L"DiagComm" for `VisitDiagComm`. The current DIAG-COMM
     /// stays what it is. Does nothing here.
     virtual void OnCycle(wchar_t const* kind, NODX201::VOdxElement& x);
+
+    /// Called in place of `Visit<kind>(x)`, which is left out with all that it would call: `x` would be one element
+    /// deeper than the limit. Does nothing here.
+    virtual void OnTooDeep(wchar_t const* kind, NODX201::VOdxElement& x);
 
 #define TRAVERSER_KIND(kind, element) void Visit##kind(NODX201::element& x) override;
 #define TRAVERSER_TEXT_KIND(kind)
@@ -33,7 +45,10 @@ private:
     struct VStep;
 
     bool IsWalking(NODX201::VOdxElement const& x) const;
+    bool MayEnter(wchar_t const* kind, NODX201::VOdxElement& x);
 
+    std::size_t m_maxDepth;
+    std::size_t m_depth = 0;            // of what is being walked
     VStep const* m_innermost = nullptr; // what is being walked, from the inside out
 };
 

@@ -105,7 +105,7 @@ void Visitor::VisitDynamicEndmarkerField(NODX201::VDynamicEndmarkerField& dop) {
 void Visitor::VisitEndOfPduField(NODX201::VEndOfPduField& dop) { SearchField(dop); }
 
 void Visitor::SearchParams(NODX201::VBasicStructure& structure) {
-    if (IsDone()) {
+    if (IsDone() || !m_searched.insert(&structure).second) {
         return;
     }
     for (NODX201::VParam& param : structure.ParamCollection()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <unordered_set>
 
 #include <diagkit/model/Visitors.h>
 #include <diagkit/tools/OutParamIfView.h>
@@ -53,6 +54,9 @@ private:
     std::wstring m_shortName;
     NODX201::VValue* m_result = nullptr;
     NODX201::VDiagLayer* m_layer;
+    /// A structure is searched once: a second search finds no more than the first. Data in which structures share others
+    /// would take exponential time otherwise, and data in which one contains itself would take for ever.
+    std::unordered_set<NODX201::VBasicStructure const*> m_searched;
 };
 
 } // namespace NDIAGKIT

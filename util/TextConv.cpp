@@ -2,6 +2,7 @@
 #include <diagkit/util/TextConv.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 
@@ -27,7 +28,8 @@ Character* Grown(Character*& start, Character*& end, std::uint32_t size, NBuffer
         return start;
     }
     std::size_t const newSize = std::max<std::size_t>(2 * capacity, size);
-    void* const memory = reallocate(start, newSize * sizeof(Character));
+    std::size_t const bytes = newSize * sizeof(Character);
+    void* const memory = reallocate != nullptr ? reallocate(start, bytes) : std::realloc(start, bytes);
     if (memory == nullptr) {
         ReportAssertion(noMemory);
         return nullptr;

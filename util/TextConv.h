@@ -28,7 +28,8 @@ using VReallocate = void* (*)(void* memory, std::size_t bytes);
 /// Buffers on the C heap. A buffer grows to twice its size, or to what is asked for when that is more.
 class VCommonBuffers final : public IBuffers {
 public:
-    constexpr explicit VCommonBuffers(VReallocate reallocate = &std::realloc) : m_reallocate(reallocate) {}
+    /// Null stands for `std::realloc`, whose address is no constant on every platform.
+    constexpr explicit VCommonBuffers(VReallocate reallocate = nullptr) : m_reallocate(reallocate) {}
     ~VCommonBuffers() override;
     VCommonBuffers(VCommonBuffers const&) = delete;
     VCommonBuffers& operator=(VCommonBuffers const&) = delete;

@@ -47,7 +47,7 @@ class HelpAndVersion(unittest.TestCase):
         done = run("--help")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertRegex(done.stdout, r"(?m)^Commands:$")
-        for command in ("info", "layers", "view", "resolve", "traverse", "enums"):
+        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "enums"):
             self.assertRegex(done.stdout, rf"(?m)^ +{command} ")
 
     def test_help_of_a_command_names_its_options(self):
@@ -112,28 +112,77 @@ class Traversing(unittest.TestCase):
                 self.assertEqual((calls[0]["kind"], calls[0]["short_name"]), (kind, layer["short_name"]))
                 self.assertNotIn("cycle", {call["event"] for call in calls})
 
+    @staticmethod
+    def write_related(folder, targets):
+        """A PROTOCOL whose service number n is related to the services targets[n]; the path."""
+        services = "".join(
+            f'<DIAG-SERVICE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME><RELATED-DIAG-COMM-REFS>'
+            + "".join(f'<RELATED-DIAG-COMM-REF ID-REF="S{other}"/>' for other in others)
+            + "</RELATED-DIAG-COMM-REFS></DIAG-SERVICE>"
+            for number, others in enumerate(targets)
+        )
+        path = pathlib.Path(folder) / "related.odx-d"
+        path.write_text(
+            '<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS>'
+            f'<PROTOCOL ID="P"><SHORT-NAME>P</SHORT-NAME><DIAG-COMMS>{services}</DIAG-COMMS>'
+            "</PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>",
+            encoding="utf-8",
+        )
+        return path
+
     def test_services_that_all_name_each_other_give_a_line_for_every_way_through_them(self):
         count = 5
-        references = "".join(f'<RELATED-DIAG-COMM-REF ID-REF="S{number}"/>' for number in range(count))
-        services = "".join(
-            f'<DIAG-SERVICE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME>'
-            f"<RELATED-DIAG-COMM-REFS>{references}</RELATED-DIAG-COMM-REFS></DIAG-SERVICE>"
-            for number in range(count)
-        )
         with tempfile.TemporaryDirectory() as folder:
-            path = pathlib.Path(folder) / "all.odx-d"
-            path.write_text(
-                '<ODX><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS><PROTOCOL ID="P">'
-                f"<SHORT-NAME>P</SHORT-NAME><DIAG-COMMS>{services}</DIAG-COMMS>"
-                "</PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>",
-                encoding="utf-8",
-            )
+            path = self.write_related(folder, [range(count)] * count)
             calls = self.calls_of("--quiet", path, "--layer", "P")
         # Ways of so many steps without a repetition; at the end of each, as many references lead back into it.
         ways = {steps: math.perm(count, steps) for steps in range(1, count + 1)}
         events = collections.Counter(call["event"] for call in calls)
         self.assertEqual(events["pre"], 1 + sum(ways.values()))
         self.assertEqual(events["cycle"], sum(steps * number for steps, number in ways.items()))
+
+    def test_a_walk_that_nobody_can_wait_for_ends_with_a_message(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = self.write_related(folder, [range(12)] * 12)
+            done = run("traverse", "--json", "--quiet", path, "--layer", "P", "--max-visits", "1000")
+        self.assertEqual(done.returncode, 3)
+        self.assertIn("ends after 1000 visits", done.stderr)
+        self.assertEqual(done.stdout.count('"event":"pre"'), 1000)
+
+    def test_a_ring_that_is_too_long_for_the_stack_is_cut_with_a_message(self):
+        count = 30000
+        with tempfile.TemporaryDirectory() as folder:
+            path = self.write_related(folder, [[1]] + [[(number + 1) % count] for number in range(1, count)])
+            done = run("traverse", "--json", "--quiet", path, "--layer", "P", "--max-visits", "20000")
+        self.assertEqual(done.returncode, 3)
+        self.assertIn("ends after 20000 visits", done.stderr)
+        depths = [json.loads(line)["depth"] for line in done.stdout.splitlines()]
+        self.assertEqual(max(depths), 1999)
+
+
+class OemOfEach(unittest.TestCase):
+    def test_a_folder_stands_for_the_odx_files_in_it(self):
+        databases = pathlib.Path(__file__).resolve().parents[1] / "oem" / "databases"
+        with tempfile.TemporaryDirectory() as folder:
+            for name, content in {
+                "b.odx-d": (databases / "Psa.odx-d").read_bytes(),
+                "a.xml": b"<ODX",
+                "c.pdx": b"PK\3\4",
+                "notes.txt": b"not looked at",
+            }.items():
+                (pathlib.Path(folder) / name).write_bytes(content)
+            done = run("oem", "--each", "--json", "--quiet", folder, databases / "Claas.odx-d")
+        self.assertEqual((done.returncode, done.stderr), (3, ""))
+        lines = [json.loads(line) for line in done.stdout.splitlines()]
+        names = [pathlib.Path(line["file"]).name for line in lines]
+        self.assertEqual(names, ["a.xml", "b.odx-d", "c.pdx", "Claas.odx-d"])
+        self.assertEqual([line.get("manufacturer") for line in lines], [None, "Psa", None, "Claas"])
+        self.assertEqual(["error" in line for line in lines], [True, False, True, False])
+
+    def test_an_empty_folder_gives_nothing(self):
+        with tempfile.TemporaryDirectory() as folder:
+            done = run("oem", "--each", "--json", folder)
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
 
 
 @unittest.skipUnless(IS_POSIX, "needs pseudo terminals")

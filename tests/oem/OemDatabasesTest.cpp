@@ -164,6 +164,7 @@ constexpr VHabitRow kHabits[] = {
     {"PagTp20", "PagTp20.odx-d", "_21_Spannung_V",         "_21_Spannung",      L"VPagOidRule VPagDopRule "},
 
     {"AudiVw",  "AudiVw.odx-d",  "PR_UDSOnCAN_Ext",        "UDSOnCAN",          L"VAudiVwProtocolRule "},
+    {"AudiVw",  "AudiVw.odx-d",  "DIAG-COMMS",             "NO-DIAG-COMMS",     L"VAudiVwProtocolRule "},
     {"AudiVw",  "AudiVw.odx-d",  "AUDI AG",                "AUDI AG Ingolstadt", L"VAudiVwTeamMembersRule "},
     {"AudiVw",  "AudiVw.odx-d",  "Contact Person OEM",     "Contact Person",    L"VAudiVwTeamMembersRule "},
     {"AudiVw",  "AudiVw.odx-d",  "DIAGNSERVI_DiagnServi",  "DiagnServi_DiagnoseService", L"VAudiVwCharacterRule "},

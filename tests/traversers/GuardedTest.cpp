@@ -279,6 +279,37 @@ TEST_F(GuardedTest, ADictionaryAloneIsGuardedToo) {
         )"));
 }
 
+/// Writes down the DIAG-COMMs that it enters, and those that stand too deep.
+class VShallowWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
+public:
+    using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;
+
+    std::wstring m_text;
+
+protected:
+    void PreProcessDiagService(NODX201::VDiagService& x) override { m_text += std::wstring(x.GetShortName()) + L' '; }
+    void PreProcessDiagComm(NODX201::VDiagComm& x) override { m_text += std::wstring(x.GetShortName()) + L' '; }
+    void OnTooDeep(wchar_t const* kind, NODX201::VOdxElement& x) override {
+        m_text += std::wstring(kind) + L' ' + x.GetShortName() + L" is too deep, ";
+    }
+};
+
+TEST_F(GuardedTest, WhatIsDeeperThanTheLimitIsLeftOutAndTold) {
+    NMemory::VMemDiagService& first = m_layer.AddDiagService(L"First");
+    NMemory::VMemDiagService& second = m_library.AddDiagService(L"Second");
+    NMemory::VMemDiagService& third = m_library.AddDiagService(L"Third");
+    first.AddRelatedDiagCommRef(second);
+    second.AddRelatedDiagCommRef(third);
+    m_layer.AddDiagService(L"Last");
+
+    VShallowWalk shallow(m_layer, 3); // the layer, First, Second
+    shallow.TraverseDiagLayer();
+    EXPECT_EQ(shallow.m_text, L"First Second DiagComm Third is too deep, Last ");
+    VShallowWalk deep(m_layer, 4);
+    deep.TraverseDiagLayer();
+    EXPECT_EQ(deep.m_text, L"First Second Third Last ");
+}
+
 TEST_F(GuardedTest, AnExceptionLeavesTheGuardAsItWas) {
     class VThrowing : public VGuardedRecorder {
     public:

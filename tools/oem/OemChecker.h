@@ -24,7 +24,8 @@ class VHeuristic;
 ///
 /// It reads the model, changes nothing and keeps nothing of it: a checker may be asked again, about the same database
 /// or another, and answers as a new one would. Whatever is missing in a database answers the rules that look for it;
-/// nothing is reported. Not for two threads at once.
+/// nothing is reported. Not for two threads at once, not even with a checker each: they share the process's buffer for
+/// text conversion.
 class DIAGKIT_EXPORT VOemChecker {
 public:
     VOemChecker();
