@@ -32,7 +32,8 @@ std::string PathTo(NODX201::VOdxElement const& element) {
 }
 
 void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& layer,
-                          std::vector<NODX201::VOdxElement const*> const& entries, VOutput& output) {
+                          std::vector<NODX201::VOdxElement const*> const& entries, VReferencedEntries const& referenced,
+                          VOutput& output) {
     struct VGroup {
         NODX201::VDiagLayer const* origin;
         VColumns columns;
@@ -42,13 +43,15 @@ void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& lay
     groups.front().origin = &layer;
     std::map<NODX201::VDiagLayer const*, std::size_t> places{{&layer, 0}};
     for (NODX201::VOdxElement const* const entry : entries) {
-        NODX201::VDiagLayer const* const origin = LayerOf(*entry);
+        auto const reference = referenced.find(entry);
+        NODX201::VDiagLayer const* const origin = reference != referenced.end() ? &layer : LayerOf(*entry);
         auto const [place, isNew] = places.try_emplace(origin, groups.size());
         if (isNew) {
             groups.push_back({origin, {}, 0});
         }
         VGroup& group = groups[place->second];
-        group.columns.Add({ShownName(*entry), KindOf(*entry), ShownId(*entry)});
+        group.columns.Add({ShownName(*entry), KindOf(*entry), ShownId(*entry),
+                           reference != referenced.end() ? reference->second : ""});
         ++group.count;
     }
     std::string const id = ShownId(layer);
