@@ -12,6 +12,7 @@
 #include <diagkit/cli/Layers.h>
 #include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/Text.h>
+#include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Odx.h>
 #include <diagkit/reader/Utf8.h>
 
@@ -133,6 +134,32 @@ Element* FindOne(VKindOfElement const& kind, VCandidates<Element> const& all, st
     return nullptr;
 }
 
+VCandidates<NMemory::VMemMultipleEcuJob> JobsOf(NMemory::VDatabase& database) {
+    VCandidates<NMemory::VMemMultipleEcuJob> jobs;
+    for (NMemory::VMemMultipleEcuJobSpec& spec : database.MultipleEcuJobSpecCollection()) {
+        for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
+            jobs.push_back({&job, &spec});
+        }
+    }
+    return jobs;
+}
+
+/// The first DIAG-COMM of this short name or ID that stands in any layer; null when none does.
+NODX201::VDiagComm const* DiagCommOfLayers(NMemory::VDatabase& database, std::wstring_view wanted) {
+    for (VPlacedLayer const& placed : LayersOf(database)) {
+        if (!placed.layer->HasDiagCommProxyCollection()) {
+            continue;
+        }
+        for (NODX201::IDiagCommProxy& proxy : placed.layer->DiagCommProxyCollection()) {
+            auto const* const diagComm = dynamic_cast<NODX201::VDiagComm const*>(&proxy);
+            if (diagComm != nullptr && IsNamed({diagComm}, wanted)) {
+                return diagComm;
+            }
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 NODX201::VDiagLayer* FindLayer(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
@@ -161,24 +188,35 @@ NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& n
 }
 
 NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
-    VCandidates<NMemory::VMemMultipleEcuJob> jobs;
-    for (NMemory::VMemMultipleEcuJobSpec& spec : database.MultipleEcuJobSpecCollection()) {
-        for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
-            jobs.push_back({&job, &spec});
-        }
+    VCandidates<NMemory::VMemMultipleEcuJob> const jobs = JobsOf(database);
+    std::wstring const wanted = NReader::FromUtf8(name);
+    NODX201::VDiagComm const* const other =
+        Fitting(jobs, wanted).empty() ? DiagCommOfLayers(database, wanted) : nullptr;
+    if (other != nullptr) {
+        output.Complain(fmt::format("'{}' is a {}; use --layer with --diag-comm instead of --job", Shown(wanted),
+                                    TagTextOf(*other)));
+        return nullptr;
     }
     return FindOne({"multiple-ECU job", "MULTIPLE-ECU-JOB-SPEC"}, jobs, name, output);
 }
 
-NODX201::VDiagComm* FindDiagComm(NODX201::VDiagLayer& layer, std::string const& name, VOutput const& output) {
+NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, std::string const& name,
+                                 VOutput const& output) {
     VCandidates<NODX201::VDiagComm> visible;
     for (NODX201::VDiagComm* const diagComm : VisibleDiagComms(layer)) {
         visible.push_back({diagComm});
     }
     std::wstring const wanted = NReader::FromUtf8(name);
-    VCandidates<NODX201::VDiagComm> const fitting = Fitting(visible, wanted);
-    if (!fitting.empty()) {
-        return fitting.front().element; // of one name in a view, the first counts
+    for (auto const way : {&ByShortName, &ById}) { // what has the name in the view goes before an ID that is spelt so
+        for (VCandidate<NODX201::VDiagComm> const& candidate : visible) {
+            if (wanted == way({candidate.element})) {
+                return candidate.element;
+            }
+        }
+    }
+    if (!Fitting(JobsOf(database), wanted).empty()) {
+        output.Complain(fmt::format("'{}' is a MULTIPLE-ECU-JOB; use --job instead of --diag-comm", Shown(wanted)));
+        return nullptr;
     }
     output.Complain(
         fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible))));

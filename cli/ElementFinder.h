@@ -21,7 +21,9 @@ NODX201::VDiagLayerContainer* FindContainer(NMemory::VDatabase& database, std::s
 NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
 NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
 
-/// The first DIAG-COMM of this short name, or the one of this ID, among those visible in the layer.
-NODX201::VDiagComm* FindDiagComm(NODX201::VDiagLayer& layer, std::string const& name, VOutput const& output);
+/// The first DIAG-COMM of this short name among those visible in the layer; where none has the name, the one of this
+/// ID.
+NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, std::string const& name,
+                                 VOutput const& output);
 
 } // namespace NCli
