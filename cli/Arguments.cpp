@@ -40,7 +40,7 @@ void DeclareSelections(CLI::App& command, VArguments& arguments) {
     command.add_option("--diag-comm", arguments.diagComm, "A service or job visible in the layer")->type_name("D");
     command.add_option("--job", arguments.job, "A MULTIPLE-ECU-JOB")->type_name("J");
     command.add_option("--flash", arguments.flash, "A FLASH")->type_name("F");
-    command.add_option("--range", arguments.range, "Which parameters of a service count as output, 0 to 5")
+    command.add_option("--range", arguments.range, "Which parameters of a service count as output, 0 to 5; default 5")
         ->check(CLI::Range(0, 5))
         ->type_name("N");
 }

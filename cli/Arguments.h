@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,20 +23,22 @@ struct VArguments {
     bool isQuiet = false;
     NReader::VReadOptions readOptions; ///< the limits
 
-    std::string kind;      ///< KIND of `view` and `resolve`
-    std::string name;      ///< NAME of `resolve`
-    std::string table;     ///< TABLE of `enums`
-    std::string literal;   ///< LITERAL or VALUE of `enums`
-    std::string layer;     ///< --layer: a short name or an ID, as of all selections
-    std::string container; ///< --container
-    std::string diagComm;  ///< --diag-comm
-    std::string job;       ///< --job, a MULTIPLE-ECU-JOB
-    std::string flash;     ///< --flash
-    int range = 5;         ///< --range, a search range of output parameters
+    std::string kind;                   ///< KIND of `view` and `resolve`
+    std::string name;                   ///< NAME of `resolve`
+    std::optional<std::string> table;   ///< TABLE of `enums`; an empty one is a name, too
+    std::optional<std::string> literal; ///< LITERAL or VALUE of `enums`
+    std::string layer;                  ///< --layer: a short name or an ID, as of all selections
+    std::string container;              ///< --container
+    std::string diagComm;               ///< --diag-comm
+    std::string job;                    ///< --job, a MULTIPLE-ECU-JOB
+    std::string flash;                  ///< --flash
+    std::optional<int> range;           ///< --range, a search range of output parameters
 
     bool isDictionary = false;            ///< --dictionary of `traverse`
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
     bool isEach = false;                  ///< --each of `oem`
+
+    int Range() const { return range.value_or(5); }
 };
 
 /// The options that every command has.

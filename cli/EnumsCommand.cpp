@@ -124,13 +124,13 @@ std::optional<VLiteral> LiteralNamed(VTable const& table, std::string const& wan
 }
 
 VStatus WriteLiteral(VTable const& table, VArguments const& arguments, VOutput& output) {
-    std::optional<VLiteral> const literal = LiteralNamed(table, arguments.literal);
+    std::optional<VLiteral> const literal = LiteralNamed(table, *arguments.literal);
     if (!literal.has_value()) {
         std::string all;
         for (VLiteral const& held : LiteralsOf(table)) {
             all += fmt::format("{}{} ({})", all.empty() ? "" : ", ", held.text, held.value);
         }
-        output.Complain(fmt::format("{} has no '{}'; it has {}", table.name, Shown(arguments.literal), all));
+        output.Complain(fmt::format("{} has no '{}'; it has {}", table.name, Shown(*arguments.literal), all));
         return VStatus::NotThere;
     }
     if (arguments.isJson) {
@@ -145,28 +145,34 @@ VStatus WriteLiteral(VTable const& table, VArguments const& arguments, VOutput& 
     return VStatus::Done;
 }
 
+/// A word that may be missing; CLI11 itself takes an empty one for a missing one.
+void DeclareWord(CLI::App& command, char const* name, std::optional<std::string>& word, char const* help) {
+    auto const take = [&word](std::string const& text) { word = text; };
+    command.add_option_function<std::string>(name, take, help)->type_name("");
+}
+
 } // namespace
 
 void DeclareEnums(CLI::App& command, VArguments& arguments) {
-    command.add_option("TABLE", arguments.table, "One of the tables, such as Addressing")->type_name("");
-    command.add_option("LITERAL", arguments.literal, "A literal of the table, or a value")->type_name("");
+    DeclareWord(command, "TABLE", arguments.table, "One of the tables, such as Addressing");
+    DeclareWord(command, "LITERAL", arguments.literal, "A literal of the table, or a value");
 }
 
 VStatus RunEnums(VArguments const& arguments, VOutput& output) {
-    if (arguments.table.empty()) {
+    if (!arguments.table.has_value()) {
         return WriteAll(arguments, output);
     }
     for (VTable const& table : kTables) {
         if (arguments.table == table.name) {
-            return arguments.literal.empty() ? WriteTable(table, arguments, output)
-                                             : WriteLiteral(table, arguments, output);
+            return arguments.literal.has_value() ? WriteLiteral(table, arguments, output)
+                                                 : WriteTable(table, arguments, output);
         }
     }
     std::string all;
     for (VTable const& table : kTables) {
         all += fmt::format("{}{}", all.empty() ? "" : ", ", table.name);
     }
-    output.Complain(fmt::format("no table '{}'; there are {}", Shown(arguments.table), all));
+    output.Complain(fmt::format("no table '{}'; there are {}", Shown(*arguments.table), all));
     return VStatus::NotThere;
 }
 

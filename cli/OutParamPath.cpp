@@ -26,6 +26,7 @@ public:
         m_path.steps.push_back(&param);
         bool isOver = false;
         if (auto* const value = dynamic_cast<NODX201::VValue*>(&param)) {
+            m_path.names.emplace_back(value->GetShortName());
             isOver = m_shortName == value->GetShortName() || DopOf(*value);
         } else if (auto* const tableStruct = dynamic_cast<NODX201::VTableStruct*>(&param)) {
             isOver = TableOf(*tableStruct);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <diagkit/model/DiagComms.h>
@@ -17,6 +18,9 @@ struct VOutParamPath {
     /// What contains itself, or lies deeper than any search may go, on the way to the first match. The search itself
     /// has no guard: it must not be made then. Null where all is well.
     NODX201::VOdxElement const* endless = nullptr;
+    /// What the parameters that were looked at in vain are called, nested ones included; with nothing found, that is
+    /// all.
+    std::vector<std::wstring_view> names;
 };
 
 VOutParamPath PathToOutParam(NODX201::VDiagService& service, NODX201::VSearchRange range, std::wstring const& shortName,

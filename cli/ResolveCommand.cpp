@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <array>
 #include <memory>
+#include <set>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -40,6 +42,8 @@ struct VAnswer {
     std::string where;                    ///< what was searched, for the message when nothing is found
     std::vector<std::wstring_view> names; ///< those visible there
     std::string path{};                   ///< how the search got to what was found, where that is more than its owners
+    std::string refusal{};                ///< why nothing was searched; "" when it was
+    NODX201::VOdxElement const* other = nullptr; ///< what has the name but is of another kind; null when nothing is
 };
 
 template <class Element>
@@ -84,20 +88,25 @@ VAnswer ResolveDop(VQuestion& question) {
 }
 
 VAnswer ResolveDataObjectProp(VQuestion& question) {
-    return InLayer(
+    NODX201::VOdxElement const* other = nullptr;
+    VAnswer answer = InLayer(
         question,
         [&](auto& layer) { return question.resolver.ResolveDataObjectPropSnref(question.name.c_str(), layer); },
-        [](auto& layer) {
+        [&](auto& layer) {
             NDIAGKIT::VOpBuildDopView builder;
             std::unique_ptr<NDIAGKIT::VDopView> const view(builder.CreateDopView(layer));
             std::vector<std::wstring_view> names;
             for (NODX201::VDopBase& dop : *view) {
                 if (dynamic_cast<NODX201::VDataObjectProp*>(&dop) != nullptr) {
                     names.emplace_back(dop.GetShortName());
+                } else if (question.name == dop.GetShortName()) {
+                    other = &dop;
                 }
             }
             return names;
         });
+    answer.other = other;
+    return answer;
 }
 
 VAnswer ResolveDiagComm(VQuestion& question) {
@@ -170,49 +179,63 @@ VAnswer ResolveOutParam(VQuestion& question) {
     if (selection.diagComm == nullptr) {
         return {};
     }
-    auto const range = static_cast<NODX201::VSearchRange>(question.arguments.range);
-    VOutParamPath path;
-    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(selection.diagComm)) {
-        path = PathToOutParam(*service, range, question.name, *selection.layer);
-    }
+    auto const range = static_cast<NODX201::VSearchRange>(question.arguments.Range());
+    auto* const service = dynamic_cast<NODX201::VDiagService*>(selection.diagComm);
+    VOutParamPath const path =
+        service != nullptr ? PathToOutParam(*service, range, question.name, *selection.layer) : VOutParamPath();
+    VAnswer answer;
+    answer.isSelected = true;
+    answer.where = TitleOf(selection);
     if (path.endless != nullptr) {
-        question.output.Complain(fmt::format("{} leads to {} {}, which contains itself or nests without end; its "
-                                             "parameters are not searched",
-                                             TitleOf(selection), TagTextOf(*path.endless), ShownName(*path.endless)));
-        return {};
+        answer.refusal = fmt::format(
+            "{} leads to {} {}, which contains itself or nests without end; its parameters are not searched",
+            answer.where, TagTextOf(*path.endless), ShownName(*path.endless));
+        return answer;
     }
     NODX201::IOutParamIf* const found =
         selection.job != nullptr
             ? question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.job, *selection.layer)
             : question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.diagComm, *selection.layer,
                                                        range);
-    return {true, ElementOf(found), TitleOf(selection), NamesIn(*OutParamsOf(selection, question.arguments.range)),
-            Printed(path)};
+    answer.found = ElementOf(found);
+    answer.names = service != nullptr ? path.names : NamesIn(*OutParamsOf(selection, question.arguments.Range()));
+    answer.path = Printed(path);
+    return answer;
 }
 
 struct VResolveKind {
     char const* name;
-    VSelectionCheck missing;
+    VSelectionRule const& selection;
     VAnswer (*resolve)(VQuestion& question);
 };
 
 // clang-format off
 constexpr std::array kKinds{
-    VResolveKind{"dop",              &NeedsLayer,           &ResolveDop},
-    VResolveKind{"data-object-prop", &NeedsLayer,           &ResolveDataObjectProp},
-    VResolveKind{"diag-comm",        &NeedsLayer,           &ResolveDiagComm},
-    VResolveKind{"diag-variable",    &NeedsLayer,           &ResolveDiagVariable},
-    VResolveKind{"protocol",         &NeedsContainer,       &ResolveProtocol},
-    VResolveKind{"ident",            &NeedsFlash,           &ResolveIdent},
-    VResolveKind{"session",          &NeedsFlash,           &ResolveSession},
-    VResolveKind{"in-param",         &NeedsDiagComm,        &ResolveInParam},
-    VResolveKind{"out-param",        &NeedsDiagCommInLayer, &ResolveOutParam},
+    VResolveKind{"dop",              kLayerSelection,           &ResolveDop},
+    VResolveKind{"data-object-prop", kLayerSelection,           &ResolveDataObjectProp},
+    VResolveKind{"diag-comm",        kLayerSelection,           &ResolveDiagComm},
+    VResolveKind{"diag-variable",    kLayerSelection,           &ResolveDiagVariable},
+    VResolveKind{"protocol",         kContainerSelection,       &ResolveProtocol},
+    VResolveKind{"ident",            kFlashSelection,           &ResolveIdent},
+    VResolveKind{"session",          kFlashSelection,           &ResolveSession},
+    VResolveKind{"in-param",         kDiagCommSelection,        &ResolveInParam},
+    VResolveKind{"out-param",        kOutParamSelectionInLayer, &ResolveOutParam},
 };
 // clang-format on
 
+/// "a STRUCTURE", "an END-OF-PDU-FIELD"
+std::string WithArticle(std::string const& tag) {
+    return (std::string_view("AEIO").find(tag.front()) != std::string_view::npos ? "an " : "a ") + tag;
+}
+
 std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
-    return fmt::format("no {} '{}' in {}, where {} visible{}", question.arguments.kind, Shown(question.name),
-                       answer.where, Counted(answer.names.size(), "name") + (answer.names.size() == 1 ? " is" : " are"),
+    std::string const missing =
+        fmt::format("no {} '{}' in {}", question.arguments.kind, Shown(question.name), answer.where);
+    if (answer.other != nullptr) {
+        return fmt::format("{}, where it is {}", missing, WithArticle(TagTextOf(*answer.other)));
+    }
+    std::size_t const count = std::set<std::wstring_view>(answer.names.begin(), answer.names.end()).size();
+    return fmt::format("{}, where {} {} visible{}", missing, Counted(count, "name"), count == 1 ? "is" : "are",
                        NearNote(question.name, answer.names));
 }
 
@@ -240,7 +263,7 @@ VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output
     if (answer.found != nullptr) {
         return VStatus::Done;
     }
-    output.Complain(MissingMessage(question, answer));
+    output.Complain(answer.refusal.empty() ? MissingMessage(question, answer) : answer.refusal);
     return VStatus::NotThere;
 }
 
@@ -251,12 +274,13 @@ void DeclareResolve(CLI::App& command, VArguments& arguments) {
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
     DeclareSelections(command, arguments);
     DeclareFiles(command, arguments);
+    command.footer(SelectionsOf(kKinds) + "\n" + kRangesHelp);
 }
 
 VStatus RunResolve(VArguments const& arguments, VOutput& output) {
     VResolveKind const& kind = KindOf(kKinds, arguments);
-    if (char const* const missing = kind.missing(arguments)) {
-        output.Complain(fmt::format("resolve {} needs {}; see --help", kind.name, missing));
+    if (std::string const wrong = WrongSelection(kind.selection, arguments); !wrong.empty()) {
+        output.Complain(fmt::format("resolve {} {}; see --help", kind.name, wrong));
         return VStatus::Usage;
     }
     NReader::VReadResult result;

@@ -16,21 +16,21 @@ namespace {
 
 struct VViewKind {
     char const* name;
-    VSelectionCheck missing;
+    VSelectionRule const& selection;
     VStatus (*run)(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output);
 };
 
 // clang-format off
 constexpr std::array kKinds{
-    VViewKind{"diag-comms",           &NeedsLayer,            &ViewDiagComms},
-    VViewKind{"diag-variables",       &NeedsLayer,            &ViewDiagVariables},
-    VViewKind{"global-neg-responses", &NeedsLayer,            &ViewGlobalNegResponses},
-    VViewKind{"dops",                 &NeedsLayer,            &ViewDops},
-    VViewKind{"protocols",            &NeedsContainerOrLayer, &ViewProtocols},
-    VViewKind{"in-params",            &NeedsDiagComm,         &ViewInParams},
-    VViewKind{"out-params",           &NeedsDiagComm,         &ViewOutParams},
-    VViewKind{"idents",               &NeedsFlash,            &ViewIdents},
-    VViewKind{"sessions",             &NeedsFlash,            &ViewSessions},
+    VViewKind{"diag-comms",           kLayerSelection,            &ViewDiagComms},
+    VViewKind{"diag-variables",       kLayerSelection,            &ViewDiagVariables},
+    VViewKind{"global-neg-responses", kLayerSelection,            &ViewGlobalNegResponses},
+    VViewKind{"dops",                 kLayerSelection,            &ViewDops},
+    VViewKind{"protocols",            kContainerOrLayerSelection, &ViewProtocols},
+    VViewKind{"in-params",            kDiagCommSelection,         &ViewInParams},
+    VViewKind{"out-params",           kOutParamSelection,         &ViewOutParams},
+    VViewKind{"idents",               kFlashSelection,            &ViewIdents},
+    VViewKind{"sessions",             kFlashSelection,            &ViewSessions},
 };
 // clang-format on
 
@@ -53,12 +53,13 @@ void DeclareView(CLI::App& command, VArguments& arguments) {
     DeclareKind(command, arguments, NamesOf(kKinds), "What to view");
     DeclareSelections(command, arguments);
     DeclareFiles(command, arguments);
+    command.footer(SelectionsOf(kKinds) + "\n" + kRangesHelp);
 }
 
 VStatus RunView(VArguments const& arguments, VOutput& output) {
     VViewKind const& kind = KindOf(kKinds, arguments);
-    if (char const* const missing = kind.missing(arguments)) {
-        output.Complain(fmt::format("view {} needs {}; see --help", kind.name, missing));
+    if (std::string const wrong = WrongSelection(kind.selection, arguments); !wrong.empty()) {
+        output.Complain(fmt::format("view {} {}; see --help", kind.name, wrong));
         return VStatus::Usage;
     }
     NReader::VReadResult result;

@@ -45,7 +45,8 @@ VStatus ViewOutParams(VArguments const& arguments, NMemory::VDatabase& database,
     if (selection.diagComm == nullptr) {
         return VStatus::NotThere;
     }
-    return Answer(arguments, "Output parameters", *selection.diagComm, OutParamsOf(selection, arguments.range), output);
+    return Answer(arguments, "Output parameters", *selection.diagComm, OutParamsOf(selection, arguments.Range()),
+                  output);
 }
 
 } // namespace NCli
