@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Tests of diagkit that need more than a call and its answer: help, full disks, walks, terminals, packages, limits.
+"""Tests of diagkit that need more than a call and its answer: help, long lists, full disks, walks, terminals, packages, limits.
 
     process_tests.py PROGRAM...
 """
@@ -56,6 +56,113 @@ class HelpAndVersion(unittest.TestCase):
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             for option in ("--json", "--strict", "--quiet", "--help", "--version", "--max-member-size"):
                 self.assertIn(option, done.stdout)
+
+    def test_help_says_which_selection_belongs_to_which_kind(self):
+        kinds = {
+            "view": {
+                "diag-comms": "--layer L",
+                "diag-variables": "--layer L",
+                "global-neg-responses": "--layer L",
+                "dops": "--layer L",
+                "protocols": "--container C, or --layer of a BASE-VARIANT",
+                "in-params": "--layer L --diag-comm D, or --job J",
+                "out-params": "--layer L --diag-comm D, or --job J; --range N",
+                "idents": "--flash F",
+                "sessions": "--flash F",
+            },
+            "resolve": {
+                "dop": "--layer L",
+                "data-object-prop": "--layer L",
+                "diag-comm": "--layer L",
+                "diag-variable": "--layer L",
+                "protocol": "--container C",
+                "ident": "--flash F",
+                "session": "--flash F",
+                "in-param": "--layer L --diag-comm D, or --job J",
+                "out-param": "--layer L --diag-comm D, or --layer L --job J; --range N",
+            },
+        }
+        for command, selections in kinds.items():
+            text = run(command, "--help").stdout
+            for kind, selection in selections.items():
+                self.assertRegex(text, rf"(?m)^  {kind} +{re.escape(selection)}$")
+
+    def test_help_says_what_the_ranges_take(self):
+        for command in ("view", "resolve"):
+            lines = run(command, "--help").stdout.splitlines()
+            for line in (
+                "  0  positive and negative responses",
+                "  1  request and negative responses",
+                "  2  nothing",
+                "  3  request",
+                "  4  positive responses",
+                "  5  request, positive and negative responses (default)",
+            ):
+                self.assertIn(line, lines)
+
+
+class Enumerations(unittest.TestCase):
+    # The literals of each table; their values are their places, from 0.
+    TABLES = (
+        ("CommRelationValueType", "CURRENT STORED STATIC SUBSTITUTED"),
+        ("Addressing", "FUNCTIONAL PHYSICAL FUNCTIONAL-OR-PHYSICAL"),
+        ("PhysicalDataType", "A_INT32 A_UINT32 A_FLOAT32 A_FLOAT64 A_UNICODE2STRING A_BYTEFIELD"),
+        ("Direction", "DOWNLOAD UPLOAD"),
+        ("IdentValueType", "A_UINT32 A_BYTEFIELD A_ASCIISTRING"),
+        ("ValidType", "VALID NOT-VALID NOT-DEFINED NOT-AVAILABLE"),
+        ("Termination", "END-OF-PDU ZERO HEX-FF"),
+        ("RowFragment", "KEY STRUCT KEY-AND-STRUCT"),
+        ("DataformatSelection", "INTEL-HEX MOTOROLA-S BINARY"),
+        (
+            "DataType",
+            "A_INT32 A_UINT32 A_FLOAT32 A_FLOAT64 A_ASCIISTRING A_UTF8STRING A_UNICODE2STRING A_BYTEFIELD",
+        ),
+        (
+            "PhysicalLinkType",
+            "ISO_11898_2_DWCAN ISO_11898_3_DWFTCAN ISO_11992_1_DWCAN ISO_9141_2_UART ISO_14230_1_UART ISO_11898_RAW "
+            "SAE_J1850_VPW SAE_J1850_PWM SAE_J2610_UART SAE_J1708_UART SAE_J1939_11_DWCAN GMW_3089_SWCAN XDE_5024_UART "
+            "CCD_UART",
+        ),
+        ("UnitGroupCategory", "COUNTRY EQUIV-UNITS"),
+        ("IntervalType", "OPEN CLOSED INFINITE"),
+        ("ProjIdentType", "DOC PART-NO TOOL"),
+        (
+            "DiagClassType",
+            "STARTCOMM STOPCOMM VARIANTIDENTIFICATION READ-DYN-DEFINED-MESSAGE DYN-DEF-MESSAGE CLEAR-DYN-DEF-MESSAGE",
+        ),
+        ("StandardisationLevel", "STANDARD OEM-SPECIFIC OPTIONAL"),
+        ("Radix", "HEX DEC BIN OCT"),
+        ("PinType", "HI LOW K L TX RX PLUS MINUS SINGLE"),
+        ("EncryptCompressMethodType", "A_UINT32 A_BYTEFIELD"),
+        ("Encoding", "BCD-P BCD-UP 1C 2C SM UTF-8 UCS-2 ISO-8859-1 ISO-8859-2 WINDOWS-1252 NONE"),
+        ("CompuCategory", "IDENTICAL LINEAR SCALE-LINEAR TEXTTABLE COMPUCODE TAB-INTP RAT-FUNC SCALE-RAT-FUNC"),
+        ("Doctype", "FLASH CONTAINER LAYER MULTIPLE-ECU-JOB-SPEC COMPARAM-SPEC"),
+        ("SessionSubElemType", "A_UINT32 A_BYTEFIELD A_ASCIISTRING"),
+    )
+
+    def test_without_arguments_all_tables_are_given_in_their_order(self):
+        done = run("enums", "--json")
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        expected = [
+            {
+                "name": name,
+                "literals": [{"literal": literal, "value": value} for value, literal in enumerate(literals.split())],
+            }
+            for name, literals in self.TABLES
+        ]
+        self.assertEqual(len(expected), 23)
+        self.assertEqual(sum(len(table["literals"]) for table in expected), 112)
+        self.assertEqual(json.loads(done.stdout), {"tables": expected})
+
+    def test_the_text_has_a_line_for_every_table_and_literal(self):
+        done = run("enums")
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        lines = [line.split() for line in done.stdout.splitlines()]
+        expected = []
+        for name, literals in self.TABLES:
+            expected.append([name])
+            expected += [[str(value), literal] for value, literal in enumerate(literals.split())]
+        self.assertEqual(lines, expected)
 
 
 class Writing(unittest.TestCase):
