@@ -359,6 +359,62 @@ class DeepNesting(unittest.TestCase):
         self.assertIn("which contains itself or nests without end; its parameters are not searched", done.stderr)
 
 
+class NestedParameters(unittest.TestCase):
+    STATUS = "POS-RESPONSE ReadWiperStatusResponse > PARAM "
+    FAULT = (
+        "POS-RESPONSE ReadFaultEnvironmentResponse > PARAM FaultEnvironments > END-OF-PDU-FIELD FaultEnvironments > "
+        "ENV-DATA-DESC FaultEnvironment > ENV-DATA "
+    )
+    RECORD = "POS-RESPONSE ReadDataRecordResponse > PARAM RecordData > TABLE DataRecords > TABLE-ROW "
+    OPERATION = RECORD + "OperatingData > STRUCTURE OperatingRecord"
+    WAYS = (
+        (
+            "UdsOnCan ReadTroubleCodes Confirmed",
+            "POS-RESPONSE ReadTroubleCodesResponse > PARAM TroubleCodes > END-OF-PDU-FIELD TroubleCodes > "
+            "STRUCTURE TroubleCodeRecord",
+        ),
+        (
+            "Kwp2000OnKLine ReadTroubleCodes Stored",
+            "POS-RESPONSE ReadTroubleCodesResponse > PARAM ShortTroubleCodes > DYNAMIC-LENGTH-FIELD ShortTroubleCodes > "
+            "STRUCTURE ShortTroubleCodeRecord",
+        ),
+        ("FrontWiper ReadWiperStatus MotorCurrent", STATUS + "MotorNow > STRUCTURE Motor"),
+        (
+            "FrontWiper ReadWiperStatus ParkedForHours",
+            STATUS + "Activity > MUX Activity > DEFAULT-CASE Parked > STRUCTURE Parked",
+        ),
+        ("FrontWiper ReadWiperStatus WipingSpeed", STATUS + "Activity > MUX Activity > CASE Wiping > STRUCTURE Wiping"),
+        ("FrontWiper ReadFaultEnvironment TimeOfFault", FAULT + "GeneralEnvironment"),
+        ("FrontWiper ReadFaultEnvironment MotorTemperature", FAULT + "MotorEnvironment"),
+        ("BodyLibrary ReadDataRecord SupplyVoltage", RECORD + "SupplyVoltage > STRUCTURE SupplyVoltageRecord"),
+        ("BodyLibrary ReadDataRecord OperatingTime", OPERATION),
+        (
+            "BodyLibrary ReadDataRecord WakeUpSource",
+            OPERATION + " > PARAM WakeUpHistory > DYNAMIC-ENDMARKER-FIELD WakeUps > STRUCTURE WakeUp",
+        ),
+        (
+            "RainLightLibrary ReadRainIntensity RainIntensity",
+            "POS-RESPONSE ReadRainIntensityResponse > PARAM RecordData > TABLE-ROW Rain > STRUCTURE RainRecord",
+        ),
+    )
+
+    def ask(self, question):
+        layer, diag_comm, name = question.split()
+        return run("resolve", "out-param", name, SAMPLE, "--layer", layer, "--diag-comm", diag_comm)
+
+    def test_the_way_to_each_is_shown(self):
+        for question, way in self.WAYS:
+            with self.subTest(question):
+                done = self.ask(question)
+                self.assertEqual((done.returncode, done.stderr), (0, ""))
+                self.assertTrue(done.stdout.endswith(f"  in {way}\n"), done.stdout)
+
+    def test_those_of_a_job_are_not_searched(self):
+        done = self.ask("FrontWiper CalibrateParkPosition MotorCurrent")
+        self.assertEqual((done.returncode, done.stdout), (1, ""))
+        self.assertIn("where 2 names are visible", done.stderr)
+
+
 class Packages(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
