@@ -67,7 +67,8 @@ std::uint32_t VDatabase::AddDocumentName(std::string name) {
 
 std::string const& VDatabase::GetDocumentName(VPosition const& position) const {
     static std::string const unknown;
-    return position.document == 0 ? unknown : m_documentNames[position.document - 1];
+    bool const isKnown = position.document > 0 && position.document <= m_documentNames.size();
+    return isKnown ? m_documentNames[position.document - 1] : unknown;
 }
 
 std::size_t VDatabase::Count(NODX201::VOdxTagEnum tag) const {

@@ -2,6 +2,7 @@
 #include <diagkit/reader/Checks.h>
 
 #include <string>
+#include <unordered_map>
 
 #include <diagkit/reader/Cycles.h>
 #include <diagkit/reader/Utf8.h>
@@ -68,13 +69,25 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
                              " and not what the reference wants");
 }
 
+using VReplaced = std::unordered_map<NODX201::VOdxElement*, NODX201::VOdxElement*>;
+
+/// Puts the elements that took the place of others into the list of all.
+void Replace(std::vector<NODX201::VOdxElement*>& elements, VReplaced const& replaced) {
+    for (NODX201::VOdxElement*& element : elements) {
+        if (auto const found = replaced.find(element); found != replaced.end()) {
+            element = found->second;
+        }
+    }
+}
+
 void GiveParentRefsTheirKinds(VReading& reading) {
+    VReplaced replaced;
     for (VPendingParentRef const& pending : reading.parentRefs) {
         auto& untyped = dynamic_cast<NMemory::VMemParentRef&>(pending.parentRef->ParentRef());
         VParentRefKind const kind =
             untyped.HasDiagLayer() ? NMemory::ParentRefKindOf(untyped.GetDiagLayer()) : VParentRefKind::Unknown;
         if (kind != VParentRefKind::Unknown) {
-            pending.changeKind(*pending.parentRef, kind);
+            replaced[&untyped] = &pending.changeKind(*pending.parentRef, kind).ParentRef();
             continue;
         }
         if (untyped.HasDiagLayer() && &untyped.GetDiagLayer() == untyped.GetOwner()) {
@@ -88,6 +101,9 @@ void GiveParentRefsTheirKinds(VReading& reading) {
         } else {
             ReportUnresolved(reading, untyped, untyped);
         }
+    }
+    if (!replaced.empty()) {
+        Replace(reading.elements, replaced);
     }
 }
 

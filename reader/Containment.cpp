@@ -23,17 +23,8 @@ void AddValue(VEdges& edges, VMemDopBaseLink& link, VShortNameTargets const& sho
     if (dynamic_cast<NODX201::VSnref const*>(&link.GetLink()) == nullptr) {
         return;
     }
-    for (NODX201::VDopBase* const target : shortNameTargets(link)) {
+    for (NODX201::VReferencable* const target : shortNameTargets(link)) {
         edges.push_back({target, &link, {}, &link});
-    }
-}
-
-void AddParams(VEdges& edges, NODX201::VParamCollection& params, VShortNameTargets const& shortNameTargets) {
-    for (NODX201::VParam& param : params) {
-        auto* const value = dynamic_cast<VMemValue*>(&param);
-        if (value != nullptr && value->HasDopBaseLink()) {
-            AddValue(edges, value->GetDopBaseLink(), shortNameTargets);
-        }
     }
 }
 
@@ -78,6 +69,15 @@ void AddMux(VEdges& edges, VMemMux& mux) {
 
 } // namespace
 
+void AddParams(VEdges& edges, NODX201::VParamCollection& params, VShortNameTargets const& shortNameTargets) {
+    for (NODX201::VParam& param : params) {
+        auto* const value = dynamic_cast<VMemValue*>(&param);
+        if (value != nullptr && value->HasDopBaseLink()) {
+            AddValue(edges, value->GetDopBaseLink(), shortNameTargets);
+        }
+    }
+}
+
 VEdges EdgesOf(NODX201::VDopBase& dop, VShortNameTargets const& shortNameTargets) {
     VEdges edges;
     if (auto* const structure = dynamic_cast<NODX201::VBasicStructure*>(&dop)) {
@@ -90,6 +90,40 @@ VEdges EdgesOf(NODX201::VDopBase& dop, VShortNameTargets const& shortNameTargets
         AddMux(edges, *mux);
     }
     return edges;
+}
+
+VReferencables NoTargets(VMemDopBaseLink&) { return {}; }
+
+VShortNameTargets TargetsIn(NODX201::VDiagLayer& layer) {
+    return [&layer](VMemDopBaseLink& link) {
+        return link.HasDopBase(layer) ? VReferencables{&link.GetDopBase()} : VReferencables{};
+    };
+}
+
+VDopsByName::VDopsByName(VReferencables const& dops) {
+    for (NODX201::VReferencable* const dop : dops) {
+        m_dops[dop->GetShortName()].push_back(dop);
+    }
+}
+
+VReferencables VDopsByName::operator()(VMemDopBaseLink& link) const {
+    auto const found = m_dops.find(dynamic_cast<NODX201::VSnref const&>(link.GetLink()).GetShortName());
+    return found != m_dops.end() ? found->second : VReferencables{};
+}
+
+VReferencables DopsOf(VDatabase& database) {
+    VReferencables dops;
+    ForEachDictionary(database, [&dops](NODX201::VDiagDataDictionarySpec& dictionary) {
+        for (NODX201::VDopBase& dop : dictionary.DopBaseCollection()) {
+            dops.push_back(&dop);
+        }
+        for (NODX201::IEnvDataProxy& proxy : dictionary.EnvDataProxyCollection()) {
+            if (auto* const envData = dynamic_cast<NODX201::VEnvData*>(&proxy)) {
+                dops.push_back(envData);
+            }
+        }
+    });
+    return dops;
 }
 
 } // namespace NReader

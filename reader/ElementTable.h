@@ -90,7 +90,12 @@ VElementType Indexed(VElementType type);
 
 // For the rows' functions, which know the loader no further.
 
-void NoteElement(VLoader& loader, NMemory::VMemNode& node);
+void NotePosition(VLoader& loader, NMemory::VMemNode& node);
+void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement& element);
+template <class Element>
+void NoteElement(VLoader& loader, Element& element) {
+    NoteElement(loader, element, element);
+}
 void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link));
 void NoteUntypedParentRef(VLoader& loader, NMemory::IMemParentRef& parentRef,
                           NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef,

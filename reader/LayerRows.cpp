@@ -130,7 +130,7 @@ template <class T, class Item, Item& (IMemParentRef::*Add)(VReference const&)>
 VOpened OpenExcluded(VLoader& loader, void* owner, VAttributes const& attributes, bool isSnref) {
     IMemParentRef& parentRef = VRows<T>::Owner(owner);
     Item& excluded = (parentRef.*Add)(isSnref ? ShortNameReference(loader, attributes) : IdReference(loader, attributes));
-    NoteElement(loader, excluded);
+    NotePosition(loader, excluded);
     return {&excluded, &LinkType()};
 }
 
@@ -202,7 +202,7 @@ VOpened OpenParentRef(VLoader& loader, void* owner, VRow const&, VAttributes con
         ReportUnknownType(loader, type);
     }
     IMemParentRef& untyped = add(VParentRefKind::Unknown);
-    NoteElement(loader, untyped.Node());
+    NoteElement(loader, untyped.Node(), untyped.ParentRef());
     NoteUntypedParentRef(loader, untyped, [](IMemParentRef& parentRef, VParentRefKind kind) -> IMemParentRef& {
         return dynamic_cast<Layer&>(*parentRef.ParentRef().GetOwner()).ChangeParentRefKind(parentRef, kind);
     });

@@ -35,7 +35,14 @@ VElementType const& LinkType() {
     return type;
 }
 
-void NoteElement(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.Position()); }
+void NotePosition(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.Position()); }
+
+void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement& element) {
+    NotePosition(loader, node);
+    if (loader.Reading().keepsElements) {
+        loader.Reading().elements.push_back(&element);
+    }
+}
 
 void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link)) {
     loader.Reading().links.push_back({&node, &link, resolves});
@@ -65,7 +72,8 @@ bool IsNumber(std::string_view text) {
 
 VLoader::VLoader(VReading& reading, std::uint32_t document)
     : m_reading(reading), m_document(document), m_linksBefore(reading.links.size()),
-      m_parentRefsBefore(reading.parentRefs.size()), m_findingsBefore(reading.findings.Count()) {}
+      m_parentRefsBefore(reading.parentRefs.size()), m_elementsBefore(reading.elements.size()),
+      m_findingsBefore(reading.findings.Count()) {}
 
 VLoader::~VLoader() {
     if (m_isCommitted) {
@@ -73,6 +81,7 @@ VLoader::~VLoader() {
     }
     m_reading.links.resize(m_linksBefore);
     m_reading.parentRefs.resize(m_parentRefsBefore);
+    m_reading.elements.resize(m_elementsBefore);
     m_reading.findings.Forget(m_findingsBefore);
     for (auto const& category : m_categories) {
         delete category.first;

@@ -38,6 +38,8 @@ struct VReading {
     std::map<std::string, std::size_t> unknownElements;
     std::vector<VPendingLink> links;
     std::vector<VPendingParentRef> parentRefs;
+    bool keepsElements = false;
+    std::vector<NODX201::VOdxElement*> elements; ///< when they are kept: all, in document order
     /// The IDs of elements that found no place in the model, with their tags: a reference to one is not to nothing.
     std::unordered_map<std::string, std::string> idsLeftOut;
 };
@@ -133,6 +135,7 @@ private:
     std::vector<std::pair<std::string, std::string>> m_idsLeftOut;
     std::size_t m_linksBefore;
     std::size_t m_parentRefsBefore;
+    std::size_t m_elementsBefore;
     std::size_t m_findingsBefore;
 
     std::vector<VFrame> m_frames;

@@ -266,6 +266,7 @@ std::uint64_t SizeOf(std::vector<std::string> const& files) {
 VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options) {
     VReading reading;
     reading.database = std::make_unique<NMemory::VDatabase>();
+    reading.keepsElements = options.keepsElements;
     reading.database->SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
     VSession session(reading, options);
     session.SetSizes(SizeOf(files));
@@ -283,6 +284,7 @@ VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& o
     result.diagnostics = reading.findings.Sorted(*reading.database);
     result.documents = std::move(reading.documents);
     result.unknownElements = std::move(reading.unknownElements);
+    result.elements = std::move(reading.elements);
     result.database = std::move(reading.database);
     return result;
 }

@@ -19,6 +19,9 @@ struct VReadOptions {
     std::uint64_t maxPackageSize = std::uint64_t{4} << 30; ///< unpacked bytes of all members read of one package
     std::uint32_t maxDepth = 1000;                         ///< elements inside one another
 
+    /// Whether `VReadResult::elements` is wanted, for programs that look at every element or reference.
+    bool keepsElements = false;
+
     /// Called now and then during long work with the bytes read so far and those to read in all (compressed sizes for
     /// packages); may be empty.
     std::function<void(std::uint64_t done, std::uint64_t all)> progress;
@@ -40,6 +43,10 @@ struct VReadResult {
     std::vector<VDiagnostic> diagnostics; ///< in the order of the files, by position within each
     /// Elements that found no place in the model, by tag; their contents are left out with them and not counted.
     std::map<std::string, std::size_t> unknownElements;
+    /// When `keepsElements` asked for them: every element of the database in document order, references among them
+    /// (cast to `NODX201::VLink`, and to `NMemory::VMemNode` for the position). LONG-NAMEs and the exclusions of
+    /// PARENT-REFs are left out. The pointers are valid until something is removed from the database.
+    std::vector<NODX201::VOdxElement*> elements;
 };
 
 /// Reads ODX documents and PDX packages as one database, in the order given. The names are paths in UTF-8.
