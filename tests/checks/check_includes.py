@@ -21,8 +21,9 @@ ROOMS = {
     "tools/oem": (["model", "util"], []),
     "memory": (["model"], []),
     "reader": (["memory", "tools", "model"], [r"expat\.h", r"zip\.h"]),
+    "check": (["reader", "memory", "tools", "model"], []),
     "cli": (
-        ["reader", "memory", "tools/oem", "tools", "util", "logging", "model"],
+        ["check", "reader", "memory", "tools/oem", "tools", "util", "logging", "model"],
         [r"CLI/\S+", r"nlohmann/\S+", r"fmt/\S+"],
     ),
 }

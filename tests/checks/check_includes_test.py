@@ -39,7 +39,9 @@ class IncludesTest(unittest.TestCase):
         self.allowed("tools/oem/A.cpp", "<diagkit/util/B.h>")
         self.allowed("memory/A.cpp", "<diagkit/model/B.h>")
         self.allowed("reader/A.cpp", "<expat.h>")
+        self.allowed("check/A.cpp", "<diagkit/reader/B.h>")
         self.allowed("cli/A.cpp", "<diagkit/reader/B.h>")
+        self.allowed("cli/A.cpp", "<diagkit/check/B.h>")
         self.allowed("cli/A.cpp", "<nlohmann/json.hpp>")
 
     def test_arrows_that_run_back(self):
@@ -53,6 +55,8 @@ class IncludesTest(unittest.TestCase):
         self.refused("tools/oem/A.cpp", "<diagkit/reader/B.h>")
         self.refused("memory/A.cpp", "<diagkit/tools/B.h>")
         self.refused("reader/A.cpp", "<diagkit/cli/B.h>")
+        self.refused("reader/A.cpp", "<diagkit/check/B.h>")
+        self.refused("check/A.cpp", "<diagkit/cli/B.h>")
 
     def test_libraries_and_quotes(self):
         self.refused("tools/A.cpp", "<expat.h>")

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <vector>
+
+#include <diagkit/reader/OdxReader.h>
+
+namespace NCheck {
+
+/// Everything that a database tells about itself: the reader's diagnostics, and besides these references by short name
+/// that do not resolve, DOCREFs that name another place than the target's, short names that are doubled or of odd
+/// characters, exclusions that exclude nothing, names that two parents of equal rank offer, and cycles.
+///
+///     NReader::VReadOptions options;
+///     options.keepsElements = true;
+///     NReader::VReadResult result = NReader::ReadOdx({"body.pdx"}, options);
+///     for (NReader::VDiagnostic const& diagnostic : NCheck::CheckDatabase(result)) { ... }
+///
+/// Wants a result whose elements were kept, and nothing removed since; without a database it gives the reader's
+/// diagnostics alone. They come in the order of the files, by position within each, and are the same on every run;
+/// `Codes()` tells their codes. Layers are looked at one by one and their views dropped again; the database's resolver
+/// is started afresh.
+std::vector<NReader::VDiagnostic> CheckDatabase(NReader::VReadResult& result);
+
+} // namespace NCheck

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <vector>
+
+#include <diagkit/memory/Database.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/Reference.h>
+
+namespace NCheck {
+
+enum class VCycleKind {
+    Containment,      ///< DOPs that contain themselves; the reader severs them, so only databases made by hand have any
+    TableRows,        ///< DOPs that reach themselves through tables
+    RelatedDiagComms, ///< DIAG-COMMs by their RELATED-DIAG-COMM-REFs
+};
+
+/// A chain of elements that leads back to its start. Walks and searches that follow references do not end on it.
+struct VCycle {
+    VCycleKind kind;
+    /// The chain, each element followed by one that it refers to or holds: DOPs, TABLEs and TABLE-ROWs, or DIAG-COMMs.
+    std::vector<NODX201::VReferencable*> elements;
+    NODX201::VLink* reference;  ///< the one that leads from the end of the chain back to its start
+    NODX201::VDiagLayer* layer; ///< in which short names mean these elements; null where the references are all by ID
+};
+
+/// The cycles of a database: for programs that ask before they walk or search. Every reference that closes a chain
+/// gives one cycle; what its chain has besides belongs to it or to another. First those that exist in every layer, DOPs
+/// and tables before DIAG-COMMs, then for each layer, in document order, those that exist by its short names alone.
+///
+/// Layers are only looked at when a short name might lead into a cycle at all; the database's resolver is started
+/// afresh then. Nothing else is changed. The pointers are valid until something is removed from the database.
+std::vector<VCycle> FindCycles(NMemory::VDatabase& database);
+
+} // namespace NCheck

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <array>
+#include <string_view>
+
+#include <diagkit/check/Topics.h>
+#include <diagkit/memory/Database.h>
+#include <diagkit/model/Reference.h>
+
+namespace NCheck {
+namespace {
+
+using NMemory::Tag;
+
+/// The documents that an element stands in, as references name them.
+struct VPlaces {
+    NODX201::VOdxElement const* layer = nullptr;
+    NODX201::VOdxElement const* category = nullptr;
+};
+
+VPlaces PlacesOf(NODX201::VOdxElement& element) {
+    VPlaces places{LayerOf(element)};
+    for (NODX201::VOdxObject* object = &element; object != nullptr; object = object->GetOwner()) {
+        auto* const candidate = dynamic_cast<NODX201::VOdxElement*>(object);
+        if (candidate != nullptr && candidate->GetOdxTag() != Tag::Odx) {
+            places.category = candidate;
+        }
+    }
+    return places;
+}
+
+struct VDoctypeRow {
+    std::wstring_view literal;
+    Tag category;
+};
+
+constexpr std::array<VDoctypeRow, 4> kDoctypes{{
+    {L"CONTAINER", Tag::DiagLayerContainer},
+    {L"COMPARAM-SPEC", Tag::ComparamSpec},
+    {L"FLASH", Tag::Flash},
+    {L"MULTIPLE-ECU-JOB-SPEC", Tag::MultipleEcuJobSpec},
+}};
+
+bool IsNamed(NODX201::VOdxElement const* element, std::wstring_view shortName) {
+    return element != nullptr && shortName == element->GetShortName();
+}
+
+/// Whether DOCREF and DOCTYPE name one of the places. A DOCTYPE of later versions is not held against the data.
+bool AreNamedBy(VPlaces const& places, NODX201::VOdxLink const& link) {
+    std::wstring_view const doctype = link.GetDoctype();
+    if (doctype == L"LAYER") {
+        return IsNamed(places.layer, link.GetDocref());
+    }
+    for (VDoctypeRow const& row : kDoctypes) {
+        if (row.literal == doctype) {
+            return IsNamed(places.category, link.GetDocref()) && places.category->GetOdxTag() == row.category;
+        }
+    }
+    return IsNamed(places.layer, link.GetDocref()) || IsNamed(places.category, link.GetDocref());
+}
+
+bool IsAnyNamedBy(NMemory::VIdIndex::VEntry const& entry, NODX201::VOdxLink const& link) {
+    if (AreNamedBy(PlacesOf(*entry.first), link)) {
+        return true;
+    }
+    for (NODX201::VReferencable* const other : entry.others) {
+        if (AreNamedBy(PlacesOf(*other), link)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string Shown(VPlaces const& places) {
+    std::string const layer = places.layer != nullptr ? Titled(*places.layer) + " of the " : "";
+    return layer + (places.category != nullptr ? Titled(*places.category) : "database");
+}
+
+} // namespace
+
+void CheckDocrefs(VChecked const& checked, VFindings& findings) {
+    for (NODX201::VOdxElement* const element : checked.elements) {
+        auto* const reference = dynamic_cast<NODX201::VLink*>(element);
+        auto const* const link =
+            reference != nullptr ? dynamic_cast<NODX201::VOdxLink const*>(&reference->GetLink()) : nullptr;
+        if (link == nullptr || *link->GetDocref() == L'\0') {
+            continue;
+        }
+        auto const* const entry = checked.database.GetIdIndex().Find(link->GetIdRef());
+        if (entry == nullptr || IsAnyNamedBy(*entry, *link)) {
+            continue; // one that names nothing is reported as unresolved
+        }
+        std::string const doctype = *link->GetDoctype() != L'\0' ? " and DOCTYPE " + Quoted(link->GetDoctype()) : "";
+        findings.push_back({"wrong-docref", PositionOf(*reference),
+                            TagOf(*reference) + " names the ID " + Quoted(link->GetIdRef()) + " with DOCREF " +
+                                Quoted(link->GetDocref()) + doctype + ", but it stands in the " +
+                                Shown(PlacesOf(*entry->first)) + "; other programs may not find it"});
+    }
+}
+
+} // namespace NCheck

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/check/Findings.h>
+
+#include <algorithm>
+
+#include <diagkit/reader/Containment.h>
+#include <diagkit/reader/Utf8.h>
+
+namespace NCheck {
+
+NMemory::VPosition PositionOf(NODX201::VOdxElement const& element) {
+    auto const* const node = dynamic_cast<NMemory::VMemNode const*>(&element);
+    return node != nullptr ? node->GetPosition() : NMemory::VPosition{};
+}
+
+NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement& element) {
+    for (NODX201::VOdxObject* object = &element; object != nullptr; object = object->GetOwner()) {
+        if (auto* const layer = dynamic_cast<NODX201::VDiagLayer*>(object)) {
+            return layer;
+        }
+    }
+    return nullptr;
+}
+
+std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database) {
+    std::vector<NODX201::VDiagLayer*> layers;
+    NReader::ForEachLayer(database, [&layers](NODX201::VDiagLayer& layer) { layers.push_back(&layer); });
+    return layers;
+}
+
+std::string Quoted(wchar_t const* text) { return "'" + NReader::ToUtf8(text) + "'"; }
+
+std::string TagOf(NODX201::VOdxElement const& element) {
+    return NReader::ToUtf8(NODX201::OdxTagText(element.GetOdxTag()));
+}
+
+std::string Titled(NODX201::VOdxElement const& element) {
+    return TagOf(element) + ' ' + Quoted(element.GetShortName());
+}
+
+std::string Listed(std::vector<std::string> const& items) {
+    constexpr std::size_t kMost = 10;
+    std::string text;
+    for (std::size_t index = 0; index < std::min(items.size(), kMost); ++index) {
+        text += (index > 0 ? ", " : "") + items[index];
+    }
+    return items.size() > kMost ? text + " and " + std::to_string(items.size() - kMost) + " more" : text;
+}
+
+std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers) {
+    std::vector<std::string> names;
+    for (NODX201::VDiagLayer const* const layer : layers) {
+        names.push_back(Quoted(layer->GetShortName()));
+    }
+    return (names.size() == 1 ? "in the layer " : "in the layers ") + Listed(names);
+}
+
+} // namespace NCheck

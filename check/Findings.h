@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <diagkit/memory/Node.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/reader/OdxReader.h>
+
+/// What the topics report, and how they name elements in messages.
+
+namespace NCheck {
+
+struct VFinding {
+    char const* code; ///< of `Codes()`, which has its severity
+    NMemory::VPosition position;
+    std::string message;
+};
+using VFindings = std::vector<VFinding>;
+
+/// What the topics look at.
+struct VChecked {
+    NMemory::VDatabase& database;
+    std::vector<NODX201::VOdxElement*> const& elements; ///< all, in document order
+};
+
+NMemory::VPosition PositionOf(NODX201::VOdxElement const& element);
+
+/// The layer that an element stands in; null outside layers. A layer stands in itself.
+NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement& element);
+
+std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database); ///< in document order
+
+std::string Quoted(wchar_t const* text);                 ///< 'NAME'
+std::string TagOf(NODX201::VOdxElement const& element);  ///< "ECU-VARIANT"
+std::string Titled(NODX201::VOdxElement const& element); ///< "ECU-VARIANT 'NAME'"
+std::string
+Listed(std::vector<std::string> const& items); ///< with commas; of very many the first ten and how many more
+
+/// "in the layer 'A'", "in the layers 'A', 'B'"
+std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers);
+
+} // namespace NCheck

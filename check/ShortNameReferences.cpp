@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <unordered_map>
+
+#include <diagkit/check/Topics.h>
+#include <diagkit/check/VisibleNames.h>
+#include <diagkit/memory/Flash.h>
+
+namespace NCheck {
+namespace {
+
+/// A reference by short name, and in how many of the layers tried it names nothing.
+struct VPending {
+    NODX201::VLink* reference;
+    NODX201::VDiagLayer* latest = nullptr; ///< of the layers tried
+    std::size_t tried = 0;
+    std::vector<NODX201::VDiagLayer*> failed{};
+};
+
+/// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
+/// Null where there is none.
+NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference) {
+    NODX201::VOdxElement* anchor = nullptr;
+    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
+        bool const isAnchor = dynamic_cast<NODX201::VDiagComm*>(object) != nullptr ||
+                              dynamic_cast<NODX201::VRequest*>(object) != nullptr ||
+                              dynamic_cast<NODX201::VResponse*>(object) != nullptr ||
+                              dynamic_cast<NODX201::VDopBase*>(object) != nullptr ||
+                              dynamic_cast<NODX201::VDiagVariable*>(object) != nullptr;
+        if (isAnchor) {
+            anchor = dynamic_cast<NODX201::VOdxElement*>(object); // the outermost: ENV-DATA stands in an ENV-DATA-DESC
+        }
+    }
+    return anchor;
+}
+
+/// The layers in which a reference of flash data is read.
+std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& reference) {
+    std::vector<NODX201::VDiagLayer*> layers;
+    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
+        auto* const connector = dynamic_cast<NMemory::VMemEcuMemConnector*>(object);
+        if (connector == nullptr) {
+            continue;
+        }
+        for (NMemory::VMemDiagLayerLink& link : connector->DiagLayerLinkCollection()) {
+            if (link.HasDiagLayer()) {
+                layers.push_back(&link.GetDiagLayer());
+            }
+        }
+    }
+    return layers;
+}
+
+struct VWanted {
+    bool (*is)(NODX201::VLink& reference);
+    char const* what;
+};
+
+template <class Link>
+bool Is(NODX201::VLink& reference) {
+    return dynamic_cast<Link*>(&reference) != nullptr;
+}
+
+bool IsOutParam(NODX201::VLink& reference) {
+    // The PARAM-SNREF of an ENV-DATA-DESC is read in whatever message leads to it.
+    return Is<NODX201::VOutParamIfLink>(reference) && reference.GetOdxTag() != NMemory::Tag::ParamSnref;
+}
+
+/// The references that layers resolve, and what they want there.
+constexpr VWanted kWanted[] = {
+    {&Is<NODX201::VDopBaseLink>, "no DOP of that name is visible"},
+    {&Is<NODX201::VDataObjectPropLink>, "no DATA-OBJECT-PROP of that name is visible"},
+    {&Is<NODX201::VDiagCommLink>, "no DIAG-COMM of that name is visible"},
+    {&Is<NMemory::VMemProtocolSnref>, "there is no PROTOCOL of that name in the container nor among the parents"},
+    {&IsOutParam, "the DIAG-COMM has no output parameter of that name"},
+    {&Is<NMemory::VMemInParamIfLink>, "the DIAG-COMM has no input parameter of that name"},
+};
+
+char const* WantedBy(NODX201::VLink& reference) {
+    for (VWanted const& row : kWanted) {
+        if (row.is(reference)) {
+            return row.what;
+        }
+    }
+    return nullptr;
+}
+
+std::string Named(NODX201::VLink& reference) {
+    return TagOf(reference) + " names " +
+           Quoted(dynamic_cast<NODX201::VSnref const&>(reference.GetLink()).GetShortName());
+}
+
+class VShortNameReferences {
+public:
+    explicit VShortNameReferences(VChecked const& checked) : m_checked(checked) {
+        for (NODX201::VOdxElement* const element : checked.elements) {
+            auto* const reference = dynamic_cast<NODX201::VLink*>(element);
+            if (reference != nullptr && IsByShortName(*reference) && WantedBy(*reference) != nullptr) {
+                Add(*reference);
+            }
+        }
+    }
+
+    void Check(VFindings& findings) {
+        if (m_pending.empty()) {
+            return;
+        }
+        for (NODX201::VDiagLayer* const layer : LayersOf(m_checked.database)) {
+            TryIn(*layer);
+        }
+        for (VPending const& pending : m_pending) {
+            Report(pending, findings);
+        }
+    }
+
+private:
+    using VIndices = std::vector<std::size_t>; // of pending ones
+
+    static bool IsByShortName(NODX201::VLink& reference) {
+        auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
+        return snref != nullptr && *snref->GetShortName() != L'\0';
+    }
+
+    void Add(NODX201::VLink& reference) {
+        std::size_t const index = m_pending.size();
+        m_pending.push_back({&reference});
+        if (NODX201::VDiagLayer* const home = LayerOf(reference)) {
+            m_at[home].push_back(index);
+            if (NODX201::VOdxElement* const anchor = AnchorOf(reference)) {
+                m_at[anchor].push_back(index);
+            }
+            return;
+        }
+        for (NODX201::VDiagLayer* const layer : LayersOfConnector(reference)) {
+            m_at[layer].push_back(index);
+        }
+    }
+
+    void TryIn(NODX201::VDiagLayer& layer) {
+        VVisibleNames names(layer);
+        TryAt(layer, names, layer);
+        for (NODX201::VDiagComm* const diagComm : names.DiagComms()) {
+            TryAt(*diagComm, names, layer);
+            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
+                TryMessages(*service, names, layer);
+            }
+        }
+        for (NODX201::VDopBase* const dop : names.Dops()) {
+            TryAt(*dop, names, layer);
+        }
+        for (NODX201::VDiagVariable* const variable : DiagVariablesIn(layer)) {
+            TryAt(*variable, names, layer);
+        }
+        for (NODX201::VGlobalNegResponse* const response : GlobalNegResponsesIn(layer)) {
+            TryAt(*response, names, layer);
+        }
+    }
+
+    void TryMessages(NODX201::VDiagService& service, VVisibleNames& names, NODX201::VDiagLayer& layer) {
+        if (service.HasRequestRef() && service.GetRequestRef().HasRequest()) {
+            TryAt(service.GetRequestRef().GetRequest(), names, layer);
+        }
+        for (NODX201::VPosResponseLink& link : service.PosResponseLinkCollection()) {
+            if (link.HasPosResponse()) {
+                TryAt(link.GetPosResponse(), names, layer);
+            }
+        }
+        for (NODX201::VNegResponseLink& link : service.NegResponseLinkCollection()) {
+            if (link.HasNegResponse()) {
+                TryAt(link.GetNegResponse(), names, layer);
+            }
+        }
+    }
+
+    /// Tries the references that stand in an element, once in each layer.
+    void TryAt(NODX201::VOdxElement const& place, VVisibleNames& names, NODX201::VDiagLayer& layer) {
+        auto const found = m_at.find(&place);
+        if (found == m_at.end()) {
+            return;
+        }
+        for (std::size_t const index : found->second) {
+            VPending& pending = m_pending[index];
+            if (pending.latest == &layer) {
+                continue;
+            }
+            pending.latest = &layer;
+            std::optional<bool> const resolves = names.Resolves(*pending.reference);
+            pending.tried += resolves.has_value() ? 1 : 0;
+            if (!resolves.value_or(true)) {
+                pending.failed.push_back(&layer);
+            }
+        }
+    }
+
+    static void Report(VPending const& pending, VFindings& findings) {
+        if (pending.failed.empty()) {
+            return;
+        }
+        bool const isNowhere = pending.failed.size() == pending.tried;
+        if (!isNowhere && Is<NMemory::VMemProtocolSnref>(*pending.reference)) {
+            return; // it says for which PROTOCOL something holds, and not every layer has that one
+        }
+        findings.push_back(
+            {isNowhere ? "unresolved-short-name" : "short-name-not-everywhere", PositionOf(*pending.reference),
+             Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + InLayers(pending.failed) +
+                 (isNowhere ? ""
+                            : "; it is in the other layers that see the "
+                              "reference")});
+    }
+
+    VChecked const& m_checked;
+    std::vector<VPending> m_pending;
+    std::unordered_map<NODX201::VOdxElement const*, VIndices> m_at; // by layer and by anchor
+};
+
+void ReportInFlash(NODX201::VLink& reference, NMemory::VMemFlash const& flash, char const* kind, VFindings& findings) {
+    findings.push_back({"unresolved-short-name", PositionOf(reference),
+                        Named(reference) + ", but the " + Titled(flash) + " has no " + kind + " of that name"});
+}
+
+/// References that stand in flash data and name flash data.
+void CheckFlash(NODX201::VLink& reference, VFindings& findings) {
+    NMemory::VMemFlash* flash = nullptr;
+    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
+        flash = flash != nullptr ? flash : dynamic_cast<NMemory::VMemFlash*>(object);
+    }
+    auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
+    if (flash == nullptr || snref == nullptr || *snref->GetShortName() == L'\0') {
+        return;
+    }
+    if (auto* const session = dynamic_cast<NMemory::VMemSessionLink*>(&reference)) {
+        if (!session->HasSession(*flash)) {
+            ReportInFlash(reference, *flash, "SESSION", findings);
+        }
+    } else if (auto* const ident = dynamic_cast<NMemory::VMemIdentIfLink*>(&reference)) {
+        if (!ident->HasIdentIf(*flash)) {
+            ReportInFlash(reference, *flash, "EXPECTED-IDENT and no OWN-IDENT", findings);
+        }
+    }
+}
+
+} // namespace
+
+void CheckShortNameReferences(VChecked const& checked, VFindings& findings) {
+    VShortNameReferences(checked).Check(findings);
+    for (NODX201::VOdxElement* const element : checked.elements) {
+        auto* const reference = dynamic_cast<NODX201::VLink*>(element);
+        if (reference != nullptr && LayerOf(*reference) == nullptr) {
+            CheckFlash(*reference, findings);
+        }
+    }
+}
+
+} // namespace NCheck

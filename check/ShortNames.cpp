@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+#include <string_view>
+#include <tuple>
+
+#include <diagkit/check/Topics.h>
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/Dops.h>
+
+namespace NCheck {
+namespace {
+
+bool IsShortNameCharacter(wchar_t character) {
+    return (character >= L'0' && character <= L'9') || (character >= L'A' && character <= L'Z') ||
+           (character >= L'a' && character <= L'z') || character == L'_';
+}
+
+void CheckCharacters(NODX201::VOdxElement const& element, VFindings& findings) {
+    constexpr std::size_t kLongest = 128;
+    std::wstring_view const shortName = element.GetShortName();
+    bool const isPlain = std::all_of(shortName.begin(), shortName.end(), &IsShortNameCharacter);
+    if (isPlain && shortName.size() <= kLongest) {
+        return;
+    }
+    std::string const what = isPlain ? "is longer than 128 characters"
+                                     : "has other characters than the letters A to Z and a to z, digits and underscore";
+    findings.push_back({"short-name-characters", PositionOf(element), Titled(element) + ' ' + what});
+}
+
+/// What shares its names with others in one list: ODX has several element kinds in some.
+std::wstring_view ListOf(NODX201::VOdxElement const& element) {
+    if (dynamic_cast<NODX201::VDiagLayer const*>(&element) != nullptr) {
+        return L"layer";
+    }
+    if (dynamic_cast<NODX201::VDiagComm const*>(&element) != nullptr) {
+        return L"DIAG-COMM";
+    }
+    bool const isEnvData = dynamic_cast<NODX201::VEnvData const*>(&element) != nullptr;
+    if (!isEnvData && dynamic_cast<NODX201::VDopBase const*>(&element) != nullptr) {
+        return L"DOP";
+    }
+    return NODX201::OdxTagText(element.GetOdxTag());
+}
+
+struct VNamed {
+    NODX201::VOdxObject const* owner;
+    std::wstring_view list;
+    std::wstring_view shortName;
+    std::size_t index; ///< in document order
+    NODX201::VOdxElement const* element;
+
+    auto Key() const { return std::tie(owner, list, shortName); }
+};
+
+/// Elements that can stand several times in what owns them. The categories are the files' own.
+std::vector<VNamed> NamedElements(VChecked const& checked) {
+    std::vector<VNamed> named;
+    for (NODX201::VOdxElement const* const element : checked.elements) {
+        NODX201::VOdxObject const* const owner = element->GetOwner();
+        bool const isCategory = owner == &checked.database.GetOdx();
+        if (*element->GetShortName() != L'\0' && !isCategory) {
+            named.push_back({owner, ListOf(*element), element->GetShortName(), named.size(), element});
+        }
+    }
+    return named;
+}
+
+void CheckDuplicates(VChecked const& checked, VFindings& findings) {
+    std::vector<VNamed> named = NamedElements(checked);
+    std::sort(named.begin(), named.end(), [](VNamed const& a, VNamed const& b) {
+        return std::tuple_cat(a.Key(), std::tie(a.index)) < std::tuple_cat(b.Key(), std::tie(b.index));
+    });
+    VNamed const* first = nullptr;
+    for (VNamed const& entry : named) {
+        if (first == nullptr || first->Key() != entry.Key()) {
+            first = &entry;
+            continue;
+        }
+        findings.push_back({"duplicate-short-name", PositionOf(*entry.element),
+                            Titled(*entry.element) + " has the short name of the " + TagOf(*first->element) +
+                                " at line " + std::to_string(PositionOf(*first->element).line) +
+                                " in the same list; where the name is looked up, that one is found"});
+    }
+}
+
+} // namespace
+
+void CheckShortNames(VChecked const& checked, VFindings& findings) {
+    for (NODX201::VOdxElement const* const element : checked.elements) {
+        CheckCharacters(*element, findings);
+    }
+    CheckDuplicates(checked, findings);
+}
+
+} // namespace NCheck

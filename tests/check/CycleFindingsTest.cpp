@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/check/Cycles.h>
+#include <diagkit/memory/Odx.h>
+#include <diagkit/tools/OpResolveSnref.h>
+
+#include "check/CheckTest.h"
+
+namespace NTest {
+namespace {
+
+std::string Related(std::string const& id) {
+    return "<RELATED-DIAG-COMM-REFS>\n<RELATED-DIAG-COMM-REF ID-REF=\"" + id +
+           "\"><RELATION-TYPE>r</RELATION-TYPE></RELATED-DIAG-COMM-REF></RELATED-DIAG-COMM-REFS>";
+}
+
+std::string Table(std::string const& structure) {
+    return "<TABLES>" +
+           Xml("TABLE", "T", Xml("TABLE-ROW", "R", "<KEY>1</KEY>\n<STRUCTURE-REF ID-REF=\"" + structure + "\"/>")) +
+           "</TABLES>";
+}
+
+std::string TableKey(std::string const& content) {
+    return "<PARAM xsi:type=\"TABLE-KEY\" ID=\"K\"><SHORT-NAME>K</SHORT-NAME>\n" + content + "</PARAM>";
+}
+
+std::wstring Names(NCheck::VCycle const& cycle) {
+    std::wstring names;
+    for (NODX201::VReferencable const* const element : cycle.elements) {
+        names += std::wstring(names.empty() ? L"" : L" ") + element->GetShortName();
+    }
+    return names + (cycle.layer != nullptr ? std::wstring(L" in ") + cycle.layer->GetShortName() : L"");
+}
+
+using VCycleFindingsTest = VCheckTest;
+
+TEST_F(VCycleFindingsTest, RelatedDiagComms) {
+    Check(LayerXml("BASE-VARIANT", "L", DiagComms(Service("A", Related("B")) + Service("B", Related("A")))));
+    EXPECT_EQ(Finding(),
+              "5:1 warning related-diag-comm-cycle: DIAG-SERVICE 'A' is related to itself by this reference; "
+              "walks that follow references do not end there: DIAG-SERVICE 'A', DIAG-SERVICE 'B'");
+}
+
+TEST_F(VCycleFindingsTest, DiagCommRelatedToItself) {
+    Check(LayerXml("BASE-VARIANT", "L", DiagComms(Service("A", Related("A")))));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 warning related-diag-comm-cycle");
+}
+
+TEST_F(VCycleFindingsTest, RelatedDiagCommsInALineAreNone) {
+    Check(LayerXml("BASE-VARIANT", "L",
+                   DiagComms(Service("A", Related("D")) + Service("B", Related("D")) + Service("D"))));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VCycleFindingsTest, TableKeyOfTheTableThatLeadsHere) {
+    Check(LayerXml("BASE-VARIANT", "L",
+                   InDictionary(Structure("S", TableKey("<TABLE-REF ID-REF=\"T\"/>") +
+                                                   "<PARAM xsi:type=\"TABLE-STRUCT\"><SHORT-NAME>D</SHORT-NAME>"
+                                                   "<TABLE-KEY-REF ID-REF=\"K\"/></PARAM>") +
+                                Table("S"))));
+    EXPECT_EQ(Finding(),
+              "5:1 warning table-row-cycle: STRUCTURE 'S' contains itself through a table by this reference; "
+              "walks that follow references do not end there: STRUCTURE 'S', TABLE 'T', TABLE-ROW 'R'");
+}
+
+TEST_F(VCycleFindingsTest, TableKeyOfTheRowThatLeadsHere) {
+    Check(LayerXml("BASE-VARIANT", "L",
+                   InDictionary(Structure("S", TableKey("<TABLE-ROW-REF ID-REF=\"R\"/>")) + Table("S"))));
+    EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle");
+}
+
+TEST_F(VCycleFindingsTest, TableEntryOfTheRowThatLeadsHere) {
+    Check(LayerXml("BASE-VARIANT", "L",
+                   InDictionary(Structure("S", "<PARAM xsi:type=\"TABLE-ENTRY\"><SHORT-NAME>E</SHORT-NAME><TARGET>KEY"
+                                               "</TARGET>\n<TABLE-ROW-REF ID-REF=\"R\"/></PARAM>") +
+                                Table("S"))));
+    EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle");
+}
+
+TEST_F(VCycleFindingsTest, TableOfStructuresWithoutTablesIsNone) {
+    Check(
+        LayerXml("BASE-VARIANT", "L",
+                 InDictionary("<STRUCTURES>" +
+                              Xml("STRUCTURE", "S", "<PARAMS>" + TableKey("<TABLE-REF ID-REF=\"T\"/>") + "</PARAMS>") +
+                              Xml("STRUCTURE", "U", "<PARAMS/>") + "</STRUCTURES>" + Table("U"))));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VCycleFindingsTest, TableThatAShortNameClosesInOneLayerOnly) {
+    // The row's structure holds "X", which is a plain DOP in the first variant and leads to the table in the second.
+    std::string const shared = InDictionary(Structure("S", Value("P", "\n<DOP-SNREF SHORT-NAME=\"X\"/>")) + Table("S"));
+    std::string const parents = ParentRefs({{"BASE-VARIANT", "B"}});
+    Check(LayerXml("BASE-VARIANT", "B", shared) + LayerXml("ECU-VARIANT", "V1", InDictionary(Dops("X")) + parents) +
+          LayerXml("ECU-VARIANT", "V2", InDictionary(Structure("X", TableKey("<TABLE-REF ID-REF=\"T\"/>"))) + parents));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 warning short-name-not-everywhere\ntest.odx:4:1 warning table-row-cycle");
+    EXPECT_EQ(Message(1),
+              "STRUCTURE 'X' contains itself through a table by this reference in the layer 'V2'; walks that "
+              "follow references do not end there: STRUCTURE 'X', TABLE 'T', TABLE-ROW 'R', STRUCTURE 'S'");
+    std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(Database());
+    ASSERT_EQ(cycles.size(), 1U);
+    EXPECT_EQ(cycles[0].kind, NCheck::VCycleKind::TableRows);
+    EXPECT_EQ(Names(cycles[0]), L"X T R S in V2");
+}
+
+TEST_F(VCycleFindingsTest, ContainmentIsReportedByTheReaderAlone) {
+    Check(LayerXml("BASE-VARIANT", "L", InDictionary(Structure("S", Value("P", "\n<DOP-REF ID-REF=\"S\"/>")))));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error containment-cycle");
+    EXPECT_TRUE(NCheck::FindCycles(Database()).empty());
+}
+
+/// A database made by hand, in which nothing was severed.
+class VFindCyclesTest : public testing::Test {
+protected:
+    VFindCyclesTest() {
+        m_database.SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
+    }
+
+    NMemory::VDatabase m_database;
+    NMemory::VMemDiagLayerContainer& m_container = m_database.AddDiagLayerContainer(L"C");
+};
+
+TEST_F(VFindCyclesTest, NoneInAnEmptyDatabase) { EXPECT_TRUE(NCheck::FindCycles(m_database).empty()); }
+
+TEST_F(VFindCyclesTest, ContainmentById) {
+    auto& dictionary = m_container.AddBaseVariant(L"L").MakeDiagDataDictionarySpec();
+    auto& outer = dictionary.AddStructure(L"Outer");
+    auto& inner = dictionary.AddStructure(L"Inner");
+    outer.AddValue(L"P").SetDopBaseLink(inner);
+    auto& back = inner.AddValue(L"P").SetDopBaseLink(outer);
+    std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(m_database);
+    ASSERT_EQ(cycles.size(), 1U);
+    EXPECT_EQ(cycles[0].kind, NCheck::VCycleKind::Containment);
+    EXPECT_EQ(Names(cycles[0]), L"Outer Inner");
+    EXPECT_EQ(cycles[0].reference, &back);
+    EXPECT_EQ(cycles[0].layer, nullptr);
+    EXPECT_TRUE(back.ResolvesById()) << "asking changes nothing";
+}
+
+TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenForEveryLayerWithIt) {
+    auto& base = m_container.AddBaseVariant(L"B");
+    auto& structure = base.MakeDiagDataDictionarySpec().AddStructure(L"S");
+    structure.AddValue(L"P").SetDopBaseLink(NMemory::VReference::ByShortName(L"S"));
+    m_container.AddEcuVariant(L"V1").AddParentRef(base);
+    auto& other = m_container.AddEcuVariant(L"V2");
+    other.AddParentRef(base);
+    other.MakeDiagDataDictionarySpec().AddStructure(L"S"); // what the name means there
+    std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(m_database);
+    ASSERT_EQ(cycles.size(), 2U);
+    EXPECT_EQ(Names(cycles[0]), L"S in B");
+    EXPECT_EQ(Names(cycles[1]), L"S in V1");
+}
+
+TEST_F(VFindCyclesTest, RelatedDiagComms) {
+    auto& layer = m_container.AddBaseVariant(L"L");
+    auto& first = layer.AddDiagService(L"A");
+    auto& second = layer.AddDiagService(L"B");
+    first.AddRelatedDiagCommRef(second);
+    second.AddRelatedDiagCommRef(first);
+    std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(m_database);
+    ASSERT_EQ(cycles.size(), 1U);
+    EXPECT_EQ(cycles[0].kind, NCheck::VCycleKind::RelatedDiagComms);
+    EXPECT_EQ(Names(cycles[0]), L"A B");
+}
+
+} // namespace
+} // namespace NTest

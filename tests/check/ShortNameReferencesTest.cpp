@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "check/CheckTest.h"
+
+namespace NTest {
+namespace {
+
+std::string DopSnref(std::string const& name) { return "\n<DOP-SNREF SHORT-NAME=\"" + name + "\"/>"; }
+
+std::string WithRequest(std::string const& params) {
+    return DiagComms(Service("S", "<REQUEST-REF ID-REF=\"RQ\"/>")) + Request("RQ", params);
+}
+
+class VShortNameReferencesTest : public VCheckTest {
+protected:
+    /// A BASE-VARIANT "B" with this content, and two ECU-VARIANTs of it.
+    void CheckFamily(std::string const& base, std::string const& first, std::string const& second,
+                     std::string const& exclusions = "") {
+        std::string const parents = ParentRefs({{"BASE-VARIANT", "B", exclusions}});
+        Check(LayerXml("BASE-VARIANT", "B", base) + LayerXml("ECU-VARIANT", "V1", first + parents) +
+              LayerXml("ECU-VARIANT", "V2", second + parents));
+    }
+
+    /// A layer with this content besides a service "S" with the output parameter "P".
+    void CheckLayer(std::string const& content) {
+        Check(LayerXml("ECU-VARIANT", "V",
+                       InDictionary(Dops("D")) + WithRequest(Value("P", "<DOP-SNREF SHORT-NAME=\"D\"/>")) + content));
+    }
+};
+
+TEST_F(VShortNameReferencesTest, ToADopThatIsNotThere) {
+    CheckFamily(WithRequest(Value("P", DopSnref("X"))), "", "");
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DOP-SNREF names 'X', but no DOP of that name is visible in "
+                         "the layers 'B', 'V1', 'V2'");
+}
+
+TEST_F(VShortNameReferencesTest, ToADopThatOneVariantLacks) {
+    CheckFamily(WithRequest(Value("P", DopSnref("X"))), InDictionary(Dops("X")), "");
+    EXPECT_EQ(Finding(),
+              "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
+              "in the layers 'B', 'V2'; it is in the other layers that see the reference");
+}
+
+TEST_F(VShortNameReferencesTest, AreNotTriedWhereTheServiceIsExcluded) {
+    CheckFamily(WithRequest(Value("P", DopSnref("X"))), "", "", Excluded("S"));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DOP-SNREF names 'X', but no DOP of that name is visible in "
+                         "the layer 'B'");
+}
+
+TEST_F(VShortNameReferencesTest, AreNotTriedWhereTheServiceIsOverridden) {
+    CheckFamily(WithRequest(Value("P", DopSnref("X"))), "",
+                DiagComms("<DIAG-SERVICE ID=\"S2\"><SHORT-NAME>S</SHORT-NAME></DIAG-SERVICE>"));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DOP-SNREF names 'X', but no DOP of that name is visible in "
+                         "the layers 'B', 'V1'");
+}
+
+TEST_F(VShortNameReferencesTest, OfAMessageThatNoServiceNamesAreTriedInItsOwnLayer) {
+    CheckFamily(Request("RQ", Value("P", DopSnref("X"))), InDictionary(Dops("X")), InDictionary(Dops("X")));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name");
+}
+
+TEST_F(VShortNameReferencesTest, OfADopAreTriedWhereItIsVisible) {
+    CheckFamily(InDictionary(Structure("T", Value("P", DopSnref("X")))), InDictionary(Dops("X")),
+                InDictionary(Dops("T")));
+    EXPECT_EQ(Finding(),
+              "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
+              "in the layer 'B'; it is in the other layers that see the reference");
+}
+
+TEST_F(VShortNameReferencesTest, OfAVariableAreTriedWhereItIsVisible) {
+    CheckFamily("<DIAG-VARIABLES>" +
+                    Xml("DIAG-VARIABLE", "W",
+                        "<COMM-RELATIONS><COMM-RELATION><RELATION-TYPE>r</RELATION-TYPE>\n<DIAG-COMM-SNREF "
+                        "SHORT-NAME=\"X\"/></COMM-RELATION></COMM-RELATIONS>") +
+                    "</DIAG-VARIABLES>",
+                DiagComms(Service("X")), "");
+    EXPECT_EQ(Finding(), "4:1 warning short-name-not-everywhere: DIAG-COMM-SNREF names 'X', but no DIAG-COMM of that "
+                         "name is visible in the layers 'B', 'V2'; it is in the other layers that see the reference");
+}
+
+TEST_F(VShortNameReferencesTest, OfAGlobalNegResponseAreTriedWhereItIsVisible) {
+    CheckFamily("<GLOBAL-NEG-RESPONSES>" +
+                    Xml("GLOBAL-NEG-RESPONSE", "N", "<PARAMS>" + Value("P", DopSnref("X")) + "</PARAMS>") +
+                    "</GLOBAL-NEG-RESPONSES>",
+                InDictionary(Dops("X")), InDictionary(Dops("X")));
+    EXPECT_EQ(Finding(),
+              "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
+              "in the layer 'B'; it is in the other layers that see the reference");
+}
+
+TEST_F(VShortNameReferencesTest, ThatResolveEverywhereAreNoFindings) {
+    CheckFamily(InDictionary(Dops("X")) + WithRequest(Value("P", DopSnref("X"))), InDictionary(Dops("X")), "");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VShortNameReferencesTest, CompareExactly) {
+    CheckFamily(InDictionary(Dops("x")) + WithRequest(Value("P", DopSnref("X"))), "", "");
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name");
+}
+
+TEST_F(VShortNameReferencesTest, ToADataObjectPropThatIsAStructure) {
+    Check(LayerXml("ECU-VARIANT", "V",
+                   InDictionary(Structure("T", "")) +
+                       Request("RQ", "<PARAM xsi:type=\"SYSTEM\" SYSPARAM=\"DAY\"><SHORT-NAME>P</SHORT-NAME>" +
+                                         DopSnref("T") + "</PARAM>")));
+    EXPECT_EQ(Finding(),
+              "4:1 error unresolved-short-name: DOP-SNREF names 'T', but no DATA-OBJECT-PROP of that name is "
+              "visible in the layer 'V'");
+}
+
+TEST_F(VShortNameReferencesTest, ThatCloseACycleAreReportedAsThatAlone) {
+    Check(LayerXml("ECU-VARIANT", "V", InDictionary(Structure("T", Value("P", DopSnref("T"))))));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error containment-cycle");
+}
+
+TEST_F(VShortNameReferencesTest, OfAnAccessLevel) {
+    CheckLayer("<ACCESS-LEVELS><ACCESS-LEVEL><VALUE>1</VALUE><DESC/>\n<DIAG-COMM-SNREF "
+               "SHORT-NAME=\"X\"/></ACCESS-LEVEL></ACCESS-LEVELS>");
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DIAG-COMM-SNREF names 'X', but no DIAG-COMM of that name is "
+                         "visible in the layer 'V'");
+}
+
+std::string Pattern(std::string const& diagComm, std::string const& param) {
+    return "<ECU-VARIANT-PATTERNS><ECU-VARIANT-PATTERN><MATCHING-PARAMETERS><MATCHING-PARAMETER>"
+           "<EXPECTED-VALUE>1</EXPECTED-VALUE>\n<DIAG-COMM-SNREF SHORT-NAME=\"" +
+           diagComm + "\"/>\n<OUT-PARAM-IF-SNREF SHORT-NAME=\"" + param +
+           "\"/></MATCHING-PARAMETER></MATCHING-PARAMETERS></ECU-VARIANT-PATTERN></ECU-VARIANT-PATTERNS>";
+}
+
+TEST_F(VShortNameReferencesTest, ToAnOutputParameter) {
+    CheckLayer(Pattern("S", "P"));
+    EXPECT_EQ(Diagnostics(), "");
+    CheckLayer(Pattern("S", "X"));
+    EXPECT_EQ(Finding(),
+              "5:1 error unresolved-short-name: OUT-PARAM-IF-SNREF names 'X', but the DIAG-COMM has no output "
+              "parameter of that name in the layer 'V'");
+}
+
+TEST_F(VShortNameReferencesTest, ToAParameterOfAnUnresolvedDiagCommAreNotReportedAgain) {
+    CheckLayer(Pattern("Y", "X"));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name");
+}
+
+TEST_F(VShortNameReferencesTest, ToAnOutputParameterDeepInside) {
+    // In a structure by short name, in a row of a table that leads back to the table.
+    std::string const table = "<TABLES>" +
+                              Xml("TABLE", "TB", Xml("TABLE-ROW", "R", "<KEY>1</KEY>\n<STRUCTURE-REF ID-REF=\"T\"/>")) +
+                              "</TABLES>";
+    std::string const key = "<PARAM xsi:type=\"TABLE-KEY\" ID=\"K\"><SHORT-NAME>K</SHORT-NAME>\n<TABLE-REF "
+                            "ID-REF=\"TB\"/></PARAM>";
+    std::string const dictionary =
+        InDictionary(Dops("D") + Structure("T", key + Value("Deep", "<DOP-SNREF SHORT-NAME=\"D\"/>")) + table);
+    auto const layer = [&](std::string const& param) {
+        return LayerXml("ECU-VARIANT", "V",
+                        dictionary + WithRequest(Value("P", "<DOP-SNREF SHORT-NAME=\"T\"/>")) + Pattern("S", param));
+    };
+    Check(layer("Deep"));
+    EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle");
+    Check(layer("X"));
+    EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle\ntest.odx:7:1 error unresolved-short-name");
+}
+
+std::string Relation(std::string const& snref) {
+    return "<DIAG-VARIABLES>" +
+           Xml("DIAG-VARIABLE", "W",
+               "<COMM-RELATIONS><COMM-RELATION><RELATION-TYPE>r</RELATION-TYPE><DIAG-COMM-REF ID-REF=\"S\"/>\n" +
+                   snref + "</COMM-RELATION></COMM-RELATIONS>") +
+           "</DIAG-VARIABLES>";
+}
+
+TEST_F(VShortNameReferencesTest, ToAnInputParameter) {
+    CheckLayer(Relation("<IN-PARAM-IF-SNREF SHORT-NAME=\"P\"/>"));
+    EXPECT_EQ(Diagnostics(), "");
+    CheckLayer(Relation("<IN-PARAM-IF-SNREF SHORT-NAME=\"X\"/>"));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: IN-PARAM-IF-SNREF names 'X', but the DIAG-COMM has no input "
+                         "parameter of that name in the layer 'V'");
+}
+
+TEST_F(VShortNameReferencesTest, ToParametersOfAJob) {
+    auto const layer = [](std::string const& snref) {
+        return LayerXml(
+            "ECU-VARIANT", "V",
+            DiagComms(Xml("SINGLE-ECU-JOB", "S",
+                          "<INPUT-PARAMS><INPUT-PARAM><SHORT-NAME>I</SHORT-NAME></INPUT-PARAM></INPUT-PARAMS>"
+                          "<OUTPUT-PARAMS>" +
+                              Xml("OUTPUT-PARAM", "O") + "</OUTPUT-PARAMS>")) +
+                Relation(snref));
+    };
+    for (char const* const snref :
+         {"<IN-PARAM-IF-SNREF SHORT-NAME=\"I\"/>", "<OUT-PARAM-IF-SNREF SHORT-NAME=\"O\"/>"}) {
+        Check(layer(snref));
+        EXPECT_EQ(Diagnostics(), "") << snref;
+    }
+    Check(layer("<OUT-PARAM-IF-SNREF SHORT-NAME=\"I\"/>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name");
+}
+
+TEST_F(VShortNameReferencesTest, ToAProtocol) {
+    std::string const service = "<PROTOCOL-SNREFS>\n<PROTOCOL-SNREF SHORT-NAME=\"P\"/></PROTOCOL-SNREFS>";
+    std::string const document =
+        "<ODX MODEL-VERSION=\"2.2.0\"><DIAG-LAYER-CONTAINER ID=\"D\"><SHORT-NAME>D</SHORT-NAME>" +
+        LayerXml("PROTOCOL", "P") + "</DIAG-LAYER-CONTAINER></ODX>";
+    auto const base = [&](std::string const& parents) {
+        return Container(LayerXml("BASE-VARIANT", "B", DiagComms(Service("S", service)) + parents), "2.2.0");
+    };
+    Check(LayerXml("PROTOCOL", "P") + LayerXml("BASE-VARIANT", "B", DiagComms(Service("S", service))));
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({"<?xml version=\"1.0\"?>" + document, base(ParentRefs({{"PROTOCOL", "P"}}))});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocument(base(""));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: PROTOCOL-SNREF names 'P', but there is no PROTOCOL of that "
+                         "name in the container nor among the parents in the layer 'B'");
+}
+
+std::string FlashDocument(std::string const& diagComm, std::string const& session) {
+    return "<ODX MODEL-VERSION=\"2.2.0\"><FLASH ID=\"F\"><SHORT-NAME>F</SHORT-NAME><ECU-MEMS>" +
+           Xml("ECU-MEM", "E", "<MEM><SESSIONS>" + Xml("SESSION", "N") + "</SESSIONS></MEM>") +
+           "</ECU-MEMS><ECU-MEM-CONNECTORS>" +
+           Xml("ECU-MEM-CONNECTOR", "EC",
+               "<SESSION-DESCS><SESSION-DESC DIRECTION=\"DOWNLOAD\"><SHORT-NAME>SD</SHORT-NAME>\n<SESSION-SNREF "
+               "SHORT-NAME=\"" +
+                   session + "\"/>\n<DIAG-COMM-SNREF SHORT-NAME=\"" + diagComm +
+                   "\"/></SESSION-DESC></SESSION-DESCS><LAYER-REFS><LAYER-REF ID-REF=\"B\"/></LAYER-REFS>") +
+           "</ECU-MEM-CONNECTORS></FLASH></ODX>";
+}
+
+TEST_F(VShortNameReferencesTest, OfFlashData) {
+    std::string const layers = Container(LayerXml("BASE-VARIANT", "B", DiagComms(Service("S"))), "2.2.0");
+    CheckDocuments({layers, FlashDocument("S", "N")});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({layers, FlashDocument("X", "N")});
+    EXPECT_EQ(Finding(), "3:1 error unresolved-short-name: DIAG-COMM-SNREF names 'X', but no DIAG-COMM of that name is "
+                         "visible in the layer 'B'");
+    CheckDocuments({layers, FlashDocument("S", "X")});
+    EXPECT_EQ(Finding(),
+              "2:1 error unresolved-short-name: SESSION-SNREF names 'X', but the FLASH 'F' has no SESSION of "
+              "that name");
+}
+
+TEST_F(VShortNameReferencesTest, InManyLayersAreListedUpToTen) {
+    std::string layers = LayerXml("BASE-VARIANT", "B", WithRequest(Value("P", DopSnref("X"))));
+    for (int index = 1; index <= 11; ++index) {
+        layers += LayerXml("ECU-VARIANT", "V" + std::to_string(index), ParentRefs({{"BASE-VARIANT", "B"}}));
+    }
+    Check(layers);
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DOP-SNREF names 'X', but no DOP of that name is visible in "
+                         "the layers 'B', 'V1', 'V2', 'V3', 'V4', 'V5', 'V6', 'V7', 'V8', 'V9' and 2 more");
+}
+
+} // namespace
+} // namespace NTest
