@@ -32,6 +32,7 @@ struct VArguments {
     std::string diagComm;               ///< --diag-comm
     std::string job;                    ///< --job, a MULTIPLE-ECU-JOB
     std::string flash;                  ///< --flash
+    std::string format;                 ///< --format of `check`; "" for text, or JSON with --json
     std::optional<int> range;           ///< --range, a search range of output parameters
 
     bool isDictionary = false;            ///< --dictionary of `traverse`

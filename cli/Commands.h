@@ -29,4 +29,7 @@ VStatus RunEnums(VArguments const& arguments, VOutput& output);
 void DeclareOem(CLI::App& command, VArguments& arguments);
 VStatus RunOem(VArguments const& arguments, VOutput& output);
 
+void DeclareCheck(CLI::App& command, VArguments& arguments);
+VStatus RunCheck(VArguments const& arguments, VOutput& output);
+
 } // namespace NCli

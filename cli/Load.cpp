@@ -13,8 +13,9 @@
 namespace NCli {
 namespace {
 
-NReader::VReadResult Read(VArguments const& arguments) {
+NReader::VReadResult Read(VArguments const& arguments, bool keepsElements) {
     NReader::VReadOptions options = arguments.readOptions;
+    options.keepsElements = keepsElements;
     VProgressBar bar;
     if (!arguments.isQuiet && IsTerminal(stderr)) {
         options.progress = [&bar](std::uint64_t done, std::uint64_t all) { bar.Show(done, all); };
@@ -29,20 +30,8 @@ void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
     }
 }
 
-std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
-    return static_cast<std::size_t>(
-        std::count_if(diagnostics.begin(), diagnostics.end(), [](NReader::VDiagnostic const& diagnostic) {
-            return diagnostic.severity == NReader::VSeverity::Error;
-        }));
-}
-
-} // namespace
-
-VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
-    result = Read(arguments);
-    if (!arguments.isQuiet) {
-        PrintDiagnostics(result.diagnostics);
-    }
+/// Whether the command may go on with what was read.
+VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VReadResult const& result) {
     if (result.database == nullptr) {
         return VStatus::Unreadable;
     }
@@ -54,6 +43,32 @@ VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadR
         output.Complain(fmt::format("{}, which --strict does not pass", Counted(errors, "error")));
     }
     return VStatus::Unreadable;
+}
+
+} // namespace
+
+std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    return static_cast<std::size_t>(
+        std::count_if(diagnostics.begin(), diagnostics.end(), [](NReader::VDiagnostic const& diagnostic) {
+            return diagnostic.severity == NReader::VSeverity::Error;
+        }));
+}
+
+VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
+    result = Read(arguments, false);
+    if (!arguments.isQuiet) {
+        PrintDiagnostics(result.diagnostics);
+    }
+    return Judge(arguments, output, result);
+}
+
+VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
+    result = Read(arguments, true);
+    bool const isRefused = result.database == nullptr || (arguments.isStrict && CountErrors(result.diagnostics) > 0);
+    if (isRefused && !arguments.isQuiet) {
+        PrintDiagnostics(result.diagnostics);
+    }
+    return Judge(arguments, output, result);
 }
 
 } // namespace NCli

@@ -11,4 +11,10 @@ namespace NCli {
 /// `Done` only, and then has a database.
 VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
+/// The same with every element kept, for a command whose answer holds the diagnostics: they go to standard error only
+/// when it does not go on.
+VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
+
+std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
+
 } // namespace NCli

@@ -33,6 +33,7 @@ constexpr std::array kCommands{
     VCommand{"traverse", "All that a layer holds and refers to, as a tree",              &DeclareTraverse, &RunTraverse},
     VCommand{"oem",      "Whose habits a database shows, and why no other's",             &DeclareOem,      &RunOem},
     VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
+    VCommand{"check",    "Everything that is wrong with the files, or looks like it",    &DeclareCheck,    &RunCheck},
 };
 // clang-format on
 

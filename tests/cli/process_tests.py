@@ -47,11 +47,11 @@ class HelpAndVersion(unittest.TestCase):
         done = run("--help")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertRegex(done.stdout, r"(?m)^Commands:$")
-        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "enums"):
+        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "enums", "check"):
             self.assertRegex(done.stdout, rf"(?m)^ +{command} ")
 
     def test_help_of_a_command_names_its_options(self):
-        for command in ("info", "layers", "view", "traverse"):
+        for command in ("info", "layers", "view", "traverse", "check"):
             done = run(command, "--help")
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             for option in ("--json", "--strict", "--quiet", "--help", "--version", "--max-member-size"):

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include <diagkit/check/Check.h>
+#include <diagkit/cli/Commands.h>
+#include <diagkit/cli/Load.h>
+#include <diagkit/cli/Sarif.h>
+#include <diagkit/cli/Text.h>
+
+namespace NCli {
+namespace {
+
+using VDiagnostics = std::vector<NReader::VDiagnostic>;
+
+nlohmann::ordered_json JsonOf(NReader::VDiagnostic const& diagnostic) {
+    nlohmann::ordered_json entry;
+    entry["file"] = diagnostic.file;
+    entry["line"] = diagnostic.line;
+    entry["column"] = diagnostic.column;
+    entry["severity"] = SeverityText(diagnostic.severity);
+    entry["code"] = diagnostic.code;
+    entry["message"] = diagnostic.message;
+    return entry;
+}
+
+nlohmann::ordered_json JsonOf(VDiagnostics const& diagnostics) {
+    std::size_t const errors = CountErrors(diagnostics);
+    nlohmann::ordered_json answer;
+    answer["errors"] = errors;
+    answer["warnings"] = diagnostics.size() - errors;
+    answer["diagnostics"] = nlohmann::ordered_json::array();
+    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
+        answer["diagnostics"].push_back(JsonOf(diagnostic));
+    }
+    return answer;
+}
+
+void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
+    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
+        output.Write(Shown(FormatDiagnostic(diagnostic)) + "\n"); // one a line, whatever the data holds
+    }
+    std::size_t const errors = CountErrors(diagnostics);
+    output.Write(diagnostics.empty() ? "" : "\n");
+    output.Write(fmt::format("{}, {}\n", Counted(errors, "error"), Counted(diagnostics.size() - errors, "warning")));
+}
+
+} // namespace
+
+void DeclareCheck(CLI::App& command, VArguments& arguments) {
+    DeclareFiles(command, arguments);
+    command.add_option("--format", arguments.format, "How to answer: text, json or sarif (SARIF 2.1.0)")
+        ->check(CLI::IsMember({"text", "json", "sarif"}))
+        ->type_name("FORMAT");
+}
+
+VStatus RunCheck(VArguments const& arguments, VOutput& output) {
+    bool const isJson = arguments.isJson || arguments.format == "json";
+    if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
+        output.Complain("--json and --format " + arguments.format + " exclude each other; see --help");
+        return VStatus::Usage;
+    }
+    NReader::VReadResult result;
+    if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
+        return status;
+    }
+    VDiagnostics const diagnostics = NCheck::CheckDatabase(result);
+    if (arguments.format == "sarif") {
+        output.WriteJson(SarifOf(diagnostics));
+    } else if (isJson) {
+        output.WriteJson(JsonOf(diagnostics));
+    } else {
+        WriteText(diagnostics, output);
+    }
+    return CountErrors(diagnostics) > 0 ? VStatus::NotThere : VStatus::Done;
+}
+
+} // namespace NCli
