@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <fstream>
+#include <map>
+#include <set>
+
+#include <diagkit/check/Codes.h>
+
+#include "check/CheckTest.h"
+
+namespace NTest {
+namespace {
+
+/// An entry of docs/diagnostics.md.
+struct VEntry {
+    std::string severity;
+    bool hasMend = false;
+    std::string place; ///< what the example stands in; "" for a call of the program
+    std::string example;
+};
+
+bool StartsWith(std::string const& text, std::string const& start) { return text.compare(0, start.size(), start) == 0; }
+
+std::map<std::string, VEntry> ReadEntries() {
+    std::map<std::string, VEntry> entries;
+    std::ifstream stream(std::string(DIAGKIT_DOCS) + "/diagnostics.md");
+    std::string const place = "```xml in ";
+    VEntry* entry = nullptr;
+    bool isInExample = false;
+    for (std::string line; std::getline(stream, line);) {
+        if (StartsWith(line, "### `")) {
+            entry = &entries[line.substr(5, line.size() - 6)];
+        } else if (entry != nullptr && StartsWith(line, "```")) {
+            isInExample = !isInExample;
+            entry->place += StartsWith(line, place) ? line.substr(place.size()) : "";
+        } else if (isInExample) {
+            entry->example += line + '\n';
+        } else if (entry != nullptr && StartsWith(line, "**")) {
+            entry->severity = StartsWith(line, "**Error.**")     ? "error"
+                              : StartsWith(line, "**Warning.**") ? "warning"
+                                                                 : "";
+        } else if (entry != nullptr && StartsWith(line, "Mend: ")) {
+            entry->hasMend = true;
+        }
+    }
+    return entries;
+}
+
+/// What the example stands in, by the word that the documentation has for it.
+std::string Wrapped(VEntry const& entry) {
+    static std::map<std::string, std::string (*)(std::string_view, std::string_view)> const wrappers{
+        {"DIAG-LAYER-CONTAINER", &Container},
+        {"BASE-VARIANT", &Layer},
+        {"DIAG-DATA-DICTIONARY-SPEC", &Dictionary},
+        {"PARAMS", &Params},
+    };
+    return entry.place == "ODX" ? entry.example : wrappers.at(entry.place)(entry.example, "2.0.1");
+}
+
+class VDocumentationTest : public VCheckTest {
+protected:
+    /// The codes of what is found, with their severities.
+    std::set<std::string> Found() const {
+        std::set<std::string> found;
+        for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
+            found.insert(diagnostic.code + ' ' + SeverityText(diagnostic.severity));
+        }
+        return found;
+    }
+
+    /// Makes what a document alone cannot show; false for a code that a document can.
+    bool ReadSpecial(std::string const& code) {
+        std::string const good = Layer("");
+        if (code == "empty") {
+            ReadFiles({Write("empty.odx", "")});
+        } else if (code == "no-file") {
+            ReadFiles({Path("absent.odx-d")});
+        } else if (code == "no-package") {
+            ReadFiles({Write("notes.pdx", "notes")});
+        } else if (code == "too-deep") {
+            m_options.maxDepth = 2;
+            Read(good);
+        } else if (code == "too-large") {
+            m_options.maxPackageSize = 10;
+            ReadFiles({WritePackage("large.pdx", {{"good.odx", good}})});
+        } else if (code == "unreadable") {
+            ReadFiles({WritePackage("p.pdx", {{"good.odx", good}, {"secret.odx", good, "password"}})});
+        } else {
+            return false;
+        }
+        m_options = {};
+        m_options.keepsElements = true;
+        return true;
+    }
+};
+
+TEST_F(VDocumentationTest, EveryCodeHasAnEntryWithItsSeverityAndMend) {
+    std::map<std::string, VEntry> const entries = ReadEntries();
+    EXPECT_EQ(entries.size(), NCheck::Codes().size());
+    for (NCheck::VCode const& code : NCheck::Codes()) {
+        auto const entry = entries.find(code.code);
+        ASSERT_NE(entry, entries.end()) << code.code;
+        EXPECT_EQ(entry->second.severity, SeverityText(code.severity)) << code.code;
+        EXPECT_TRUE(entry->second.hasMend) << code.code;
+        EXPECT_NE(entry->second.example, "") << code.code;
+    }
+}
+
+TEST_F(VDocumentationTest, EveryExampleGivesItsCodeAndNoOther) {
+    for (auto const& [code, entry] : ReadEntries()) {
+        SCOPED_TRACE(code);
+        bool const isSpecial = ReadSpecial(code);
+        EXPECT_EQ(isSpecial, entry.place.empty());
+        if (!isSpecial) {
+            CheckDocument(Wrapped(entry));
+        }
+        std::set<std::string> found = Found();
+        if (code == "too-large") {
+            found.erase("unreadable error"); // the member at which the package gets too large
+        }
+        EXPECT_EQ(found, std::set<std::string>{code + ' ' + entry.severity}) << Diagnostics();
+    }
+}
+
+TEST_F(VDocumentationTest, CodesAreFoundByTheirText) {
+    ASSERT_NE(NCheck::FindCode("duplicate-id"), nullptr);
+    EXPECT_EQ(NCheck::FindCode("duplicate-id")->severity, NReader::VSeverity::Error);
+    EXPECT_EQ(NCheck::FindCode("duplicate"), nullptr);
+}
+
+} // namespace
+} // namespace NTest
