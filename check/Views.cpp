@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/check/Views.h>
 
+#include <diagkit/model/Layers.h>
 #include <diagkit/model/Visitors.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
