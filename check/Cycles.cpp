@@ -153,7 +153,7 @@ std::string ChainText(VCycle const& cycle) {
 void Report(VCycle const& cycle, std::vector<NODX201::VDiagLayer*> const& layers, VFindings& findings) {
     auto const* const text = std::find_if(std::begin(kCycleTexts), std::end(kCycleTexts),
                                           [&cycle](VCycleText const& row) { return row.kind == cycle.kind; });
-    std::string const where = layers.empty() ? "" : ' ' + InLayers(layers);
+    std::string const where = layers.empty() ? "" : ' ' + InLayers(layers, layers.size());
     findings.push_back(
         {text->code, PositionOf(*cycle.reference),
          Titled(*cycle.elements.front()) + ' ' + text->leads + " by this reference" + where + ChainText(cycle)});

@@ -38,21 +38,27 @@ std::string Titled(NODX201::VOdxElement const& element) {
     return TagOf(element) + ' ' + Quoted(element.GetShortName());
 }
 
-std::string Listed(std::vector<std::string> const& items) {
-    constexpr std::size_t kMost = 10;
+namespace {
+
+std::string ListedOf(std::vector<std::string> const& items, std::size_t count) {
     std::string text;
-    for (std::size_t index = 0; index < std::min(items.size(), kMost); ++index) {
+    std::size_t const listed = std::min(items.size(), kMostListed);
+    for (std::size_t index = 0; index < listed; ++index) {
         text += (index > 0 ? ", " : "") + items[index];
     }
-    return items.size() > kMost ? text + " and " + std::to_string(items.size() - kMost) + " more" : text;
+    return count > listed ? text + " and " + std::to_string(count - listed) + " more" : text;
 }
 
-std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers) {
+} // namespace
+
+std::string Listed(std::vector<std::string> const& items) { return ListedOf(items, items.size()); }
+
+std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers, std::size_t count) {
     std::vector<std::string> names;
     for (NODX201::VDiagLayer const* const layer : layers) {
         names.push_back(Quoted(layer->GetShortName()));
     }
-    return (names.size() == 1 ? "in the layer " : "in the layers ") + Listed(names);
+    return (count == 1 ? "in the layer " : "in the layers ") + ListedOf(names, count);
 }
 
 } // namespace NCheck

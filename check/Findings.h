@@ -35,10 +35,13 @@ std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database); ///< i
 std::string Quoted(wchar_t const* text);                 ///< 'NAME'
 std::string TagOf(NODX201::VOdxElement const& element);  ///< "ECU-VARIANT"
 std::string Titled(NODX201::VOdxElement const& element); ///< "ECU-VARIANT 'NAME'"
-std::string
-Listed(std::vector<std::string> const& items); ///< with commas; of very many the first ten and how many more
 
-/// "in the layer 'A'", "in the layers 'A', 'B'"
-std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers);
+/// Of very many things messages name this many, and say how many more there are.
+inline constexpr std::size_t kMostListed = 10;
+
+std::string Listed(std::vector<std::string> const& items); ///< with commas
+
+/// "in the layer 'A'", "in the layers 'A', 'B'": of `count` layers, of which the first are given.
+std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers, std::size_t count);
 
 } // namespace NCheck

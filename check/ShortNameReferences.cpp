@@ -13,7 +13,8 @@ struct VPending {
     NODX201::VLink* reference;
     NODX201::VDiagLayer* latest = nullptr; ///< of the layers tried
     std::size_t tried = 0;
-    std::vector<NODX201::VDiagLayer*> failed{};
+    std::size_t failed = 0;
+    std::vector<NODX201::VDiagLayer*> failedIn{}; ///< the first ones, to be named
 };
 
 /// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
@@ -186,25 +187,31 @@ private:
             std::optional<bool> const resolves = names.Resolves(*pending.reference);
             pending.tried += resolves.has_value() ? 1 : 0;
             if (!resolves.value_or(true)) {
-                pending.failed.push_back(&layer);
+                NoteFailure(pending, layer);
             }
         }
     }
 
+    static void NoteFailure(VPending& pending, NODX201::VDiagLayer& layer) {
+        ++pending.failed;
+        if (pending.failedIn.size() < kMostListed) {
+            pending.failedIn.push_back(&layer);
+        }
+    }
+
     static void Report(VPending const& pending, VFindings& findings) {
-        if (pending.failed.empty()) {
+        if (pending.failed == 0) {
             return;
         }
-        bool const isNowhere = pending.failed.size() == pending.tried;
+        bool const isNowhere = pending.failed == pending.tried;
         if (!isNowhere && Is<NMemory::VMemProtocolSnref>(*pending.reference)) {
             return; // it says for which PROTOCOL something holds, and not every layer has that one
         }
-        findings.push_back(
-            {isNowhere ? "unresolved-short-name" : "short-name-not-everywhere", PositionOf(*pending.reference),
-             Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + InLayers(pending.failed) +
-                 (isNowhere ? ""
-                            : "; it is in the other layers that see the "
-                              "reference")});
+        char const* const rest = isNowhere ? "" : "; it is in the other layers that see the reference";
+        findings.push_back({isNowhere ? "unresolved-short-name" : "short-name-not-everywhere",
+                            PositionOf(*pending.reference),
+                            Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' +
+                                InLayers(pending.failedIn, pending.failed) + rest});
     }
 
     VChecked const& m_checked;

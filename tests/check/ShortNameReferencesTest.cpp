@@ -236,6 +236,61 @@ TEST_F(VShortNameReferencesTest, OfFlashData) {
               "that name");
 }
 
+TEST_F(VShortNameReferencesTest, ToIdentsAndTheirParameters) {
+    auto const flash = [](std::string const& ident, std::string const& param) {
+        return "<ODX MODEL-VERSION=\"2.2.0\"><FLASH ID=\"F\"><SHORT-NAME>F</SHORT-NAME><ECU-MEMS>" +
+               Xml("ECU-MEM", "E",
+                   "<MEM><SESSIONS>" +
+                       Xml("SESSION", "N", "<EXPECTED-IDENTS>" + Xml("EXPECTED-IDENT", "I") + "</EXPECTED-IDENTS>") +
+                       "</SESSIONS></MEM>") +
+               "</ECU-MEMS><ECU-MEM-CONNECTORS>" +
+               Xml("ECU-MEM-CONNECTOR", "EC",
+                   "<IDENT-DESCS><IDENT-DESC><DIAG-COMM-SNREF SHORT-NAME=\"S\"/>\n<IDENT-IF-SNREF SHORT-NAME=\"" +
+                       ident + "\"/>\n<OUT-PARAM-IF-SNREF SHORT-NAME=\"" + param +
+                       "\"/></IDENT-DESC></IDENT-DESCS><LAYER-REFS><LAYER-REF ID-REF=\"B\"/></LAYER-REFS>") +
+               "</ECU-MEM-CONNECTORS></FLASH></ODX>";
+    };
+    std::string const layers = Container(
+        LayerXml("BASE-VARIANT", "B", InDictionary(Dops("D")) + WithRequest(Value("P", DopSnref("D")))), "2.2.0");
+    CheckDocuments({layers, flash("I", "P")});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({layers, flash("X", "P")});
+    EXPECT_EQ(Finding(), "2:1 error unresolved-short-name: IDENT-IF-SNREF names 'X', but the FLASH 'F' has no "
+                         "EXPECTED-IDENT and no OWN-IDENT of that name");
+    CheckDocuments({layers, flash("I", "X")});
+    EXPECT_EQ(Finding(),
+              "3:1 error unresolved-short-name: OUT-PARAM-IF-SNREF names 'X', but the DIAG-COMM has no output "
+              "parameter of that name in the layer 'B'");
+}
+
+TEST_F(VShortNameReferencesTest, OfFlashDataForLayersThatAreNotThereAreNoFindingsOfTheirOwn) {
+    CheckDocument(FlashDocument("X", "N"));
+    ASSERT_EQ(m_result.diagnostics.size(), 1U) << Diagnostics();
+    EXPECT_EQ(m_result.diagnostics[0].code, "unresolved-reference");
+}
+
+TEST_F(VShortNameReferencesTest, ThatNoLayerAloneCanResolveAreLeftAlone) {
+    CheckLayer("<DYN-DEFINED-SPEC><DYN-ID-DEF-MODE-INFOS><DYN-ID-DEF-MODE-INFO><SELECTION-TABLE-REFS>"
+               "<SELECTION-TABLE-SNREF SHORT-NAME=\"X\"/></SELECTION-TABLE-REFS></DYN-ID-DEF-MODE-INFO>"
+               "</DYN-ID-DEF-MODE-INFOS></DYN-DEFINED-SPEC>");
+    EXPECT_EQ(Diagnostics(), "");
+    Check(LayerXml("ECU-VARIANT", "V",
+                   InDictionary("<ENV-DATA-DESCS>" +
+                                Xml("ENV-DATA-DESC", "E", "<PARAM-SNREF SHORT-NAME=\"X\"/><ENV-DATAS/>") +
+                                "</ENV-DATA-DESCS>")));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataAreTriedWhereItsDescriptionIsVisible) {
+    std::string const envData = Xml("ENV-DATA", "N", "<PARAMS>" + Value("P", DopSnref("X")) + "</PARAMS>");
+    CheckFamily(InDictionary("<ENV-DATA-DESCS>" + Xml("ENV-DATA-DESC", "E", "<ENV-DATAS>" + envData + "</ENV-DATAS>") +
+                             "</ENV-DATA-DESCS>"),
+                InDictionary(Dops("X")), "");
+    EXPECT_EQ(Finding(),
+              "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
+              "in the layers 'B', 'V2'; it is in the other layers that see the reference");
+}
+
 TEST_F(VShortNameReferencesTest, InManyLayersAreListedUpToTen) {
     std::string layers = LayerXml("BASE-VARIANT", "B", WithRequest(Value("P", DopSnref("X"))));
     for (int index = 1; index <= 11; ++index) {
