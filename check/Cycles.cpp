@@ -142,12 +142,11 @@ constexpr VCycleText kCycleTexts[] = {
 };
 
 std::string ChainText(VCycle const& cycle) {
-    std::string text = "; walks that follow references do not end there: ";
     std::vector<std::string> names;
     for (NODX201::VReferencable const* const element : cycle.elements) {
         names.push_back(Titled(*element));
     }
-    return text + Listed(names);
+    return "; walks that follow references do not end there: " + Listed(names);
 }
 
 void Report(VCycle const& cycle, std::vector<NODX201::VDiagLayer*> const& layers, VFindings& findings) {

@@ -25,8 +25,9 @@ struct VCycle {
 };
 
 /// The cycles of a database: for programs that ask before they walk or search. Every reference that closes a chain
-/// gives one cycle; what its chain has besides belongs to it or to another. First those that exist in every layer, DOPs
-/// and tables before DIAG-COMMs, then for each layer, in document order, those that exist by its short names alone.
+/// gives one cycle: a walk in a layer that follows none of those given for every layer or for that one comes to its
+/// end. First those that exist in every layer, DOPs and tables before DIAG-COMMs, then for each layer, in document
+/// order, those that exist by its short names alone.
 ///
 /// Layers are only looked at when a short name might lead into a cycle at all; the database's resolver is started
 /// afresh then. Nothing else is changed. The pointers are valid until something is removed from the database.

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <random>
+#include <set>
+
 #include <diagkit/check/Cycles.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/tools/OpResolveSnref.h>
@@ -147,6 +150,61 @@ TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenForEveryLayerWithIt) {
     ASSERT_EQ(cycles.size(), 2U);
     EXPECT_EQ(Names(cycles[0]), L"S in B");
     EXPECT_EQ(Names(cycles[1]), L"S in V1");
+}
+
+/// Whether a walk from a structure that leaves out these references comes back to where it is.
+bool ComesBack(NODX201::VStructure& structure, NODX201::VDiagLayer& layer,
+               std::set<NODX201::VLink const*> const& leftOut, std::set<NODX201::VDopBase const*>& above) {
+    if (!above.insert(&structure).second) {
+        return true;
+    }
+    for (NODX201::VParam& param : structure.ParamCollection()) {
+        NODX201::VDopBaseLink& link = As<NODX201::VValue>(param).GetDopBaseLink();
+        if (leftOut.count(&link) == 0 && link.HasDopBase(layer) &&
+            ComesBack(As<NODX201::VStructure>(link.GetDopBase()), layer, leftOut, above)) {
+            return true;
+        }
+    }
+    above.erase(&structure);
+    return false;
+}
+
+TEST(FindCycles, WalksThatFollowNoneOfThemComeToTheirEnd) {
+    std::mt19937 random(20112);
+    std::size_t found = 0;
+    for (int round = 0; round < 200; ++round) {
+        NMemory::VDatabase database;
+        database.SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
+        auto& container = database.AddDiagLayerContainer(L"C");
+        auto& base = container.AddBaseVariant(L"B");
+        auto& variant = container.AddEcuVariant(L"V");
+        variant.AddParentRef(base);
+        std::vector<NMemory::VMemStructure*> structures;
+        std::wstring const names[] = {L"S0", L"S1", L"S2", L"S3", L"S4"};
+        for (std::wstring const& name : names) {
+            structures.push_back(&base.MakeDiagDataDictionarySpec().AddStructure(name.c_str()));
+        }
+        structures.push_back(&variant.MakeDiagDataDictionarySpec().AddStructure(names[random() % 5].c_str()));
+        for (NMemory::VMemStructure* const structure : structures) {
+            structure->AddValue(L"P").SetDopBaseLink(*structures[random() % structures.size()]);
+            structure->AddValue(L"Q").SetDopBaseLink(NMemory::VReference::ByShortName(names[random() % 5].c_str()));
+        }
+        std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(database);
+        found += cycles.size();
+        for (NODX201::VDiagLayer* const layer : std::initializer_list<NODX201::VDiagLayer*>{&base, &variant}) {
+            std::set<NODX201::VLink const*> leftOut;
+            for (NCheck::VCycle const& cycle : cycles) {
+                if (cycle.layer == nullptr || cycle.layer == layer) {
+                    leftOut.insert(cycle.reference);
+                }
+            }
+            for (NMemory::VMemStructure* const structure : structures) {
+                std::set<NODX201::VDopBase const*> above;
+                ASSERT_FALSE(ComesBack(*structure, *layer, leftOut, above)) << "round " << round;
+            }
+        }
+    }
+    EXPECT_GT(found, 200U);
 }
 
 TEST_F(VFindCyclesTest, RelatedDiagComms) {
