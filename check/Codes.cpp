@@ -12,6 +12,7 @@ std::vector<VCode> const& Codes() {
     static std::vector<VCode> const codes{
         {"ambiguous-name",             Warning, "Two parents of equal rank offer different elements under one short name"},
         {"containment-cycle",          Error,   "A DOP contains itself"},
+        {"contradicting-type",         Error,   "An element holds what another xsi:type has"},
         {"document-type",              Error,   "A document type declaration"},
         {"duplicate-id",               Error,   "An ID is used twice in one document"},
         {"duplicate-short-name",       Error,   "A short name is used twice in one list"},
@@ -45,6 +46,7 @@ std::vector<VCode> const& Codes() {
         {"too-large",                  Error,   "A package unpacks to more than the limit"},
         {"unknown-child",              Warning, "An element that ODX does not have here"},
         {"unknown-literal",            Error,   "A text is none of the literals of its enumeration"},
+        {"unknown-model-version",      Warning, "The MODEL-VERSION is no version"},
         {"unknown-type",               Error,   "An xsi:type that ODX does not have here"},
         {"unprefixed-type",            Warning, "The attribute type lacks its prefix xsi"},
         {"unreadable",                 Error,   "A file or a member of a package cannot be read"},

@@ -117,6 +117,9 @@ TEST_F(VDocumentationTest, EveryExampleGivesItsCodeAndNoOther) {
         if (code == "too-large") {
             found.erase("unreadable error"); // the member at which the package gets too large
         }
+        if (code == "contradicting-type") {
+            found.erase("missing-child error"); // what the type that is written has, and what the example leaves out
+        }
         EXPECT_EQ(found, std::set<std::string>{code + ' ' + entry.severity}) << Diagnostics();
     }
 }
