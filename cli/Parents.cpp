@@ -7,6 +7,7 @@
 #include <diagkit/cli/Text.h>
 #include <diagkit/memory/ParentRefs.h>
 #include <diagkit/model/Visitors.h>
+#include <diagkit/reader/ParentTargets.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NCli {
@@ -25,18 +26,10 @@ struct VParentRefsFinder : NODX201::VDiagLayerVisitor {
     void VisitEcuSharedData(NODX201::VEcuSharedData&) override {}
 };
 
+/// Of a reference without a kind as well.
 NODX201::VDiagLayer* TargetOf(NODX201::VParentRef& parentRef) {
-    if (auto* const ref = dynamic_cast<NODX201::VProtocolRef*>(&parentRef)) {
-        return ref->HasProtocol() ? &ref->GetProtocol() : nullptr;
-    }
-    if (auto* const ref = dynamic_cast<NODX201::VFunctionalGroupRef*>(&parentRef)) {
-        return ref->HasFunctionalGroup() ? &ref->GetFunctionalGroup() : nullptr;
-    }
-    if (auto* const ref = dynamic_cast<NODX201::VBaseVariantRef*>(&parentRef)) {
-        return ref->HasBaseVariant() ? &ref->GetBaseVariant() : nullptr;
-    }
-    if (auto* const ref = dynamic_cast<NODX201::VEcuSharedDataRef*>(&parentRef)) {
-        return ref->HasEcuSharedData() ? &ref->GetEcuSharedData() : nullptr;
+    if (NODX201::VDiagLayer* const target = NReader::TargetOf(parentRef)) {
+        return target;
     }
     auto* const ref = dynamic_cast<NMemory::VMemParentRef*>(&parentRef);
     return ref != nullptr && ref->HasDiagLayer() ? &ref->GetDiagLayer() : nullptr;

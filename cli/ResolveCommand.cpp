@@ -278,9 +278,8 @@ void DeclareResolve(CLI::App& command, VArguments& arguments) {
 }
 
 VStatus RunResolve(VArguments const& arguments, VOutput& output) {
-    VResolveKind const& kind = KindOf(kKinds, arguments);
-    if (std::string const wrong = WrongSelection(kind.selection, arguments); !wrong.empty()) {
-        output.Complain(fmt::format("resolve {} {}; see --help", kind.name, wrong));
+    VResolveKind const* const kind = FittingKind("resolve", kKinds, arguments, output);
+    if (kind == nullptr) {
         return VStatus::Usage;
     }
     NReader::VReadResult result;
@@ -288,7 +287,7 @@ VStatus RunResolve(VArguments const& arguments, VOutput& output) {
         return status;
     }
     VQuestion question{arguments, *result.database, output, NReader::FromUtf8(arguments.name)};
-    VAnswer const answer = kind.resolve(question);
+    VAnswer const answer = kind->resolve(question);
     return answer.isSelected ? Answer(question, answer, output) : VStatus::NotThere;
 }
 

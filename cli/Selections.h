@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <diagkit/cli/Arguments.h>
 #include <diagkit/cli/Columns.h>
+#include <diagkit/cli/Output.h>
 
 /// What the commands with a KIND share: the list of kinds, and what each must be told to look at.
 
@@ -66,11 +68,19 @@ std::string SelectionsOf(Kinds const& kinds) {
     return "What each KIND looks at:\n" + columns.Format();
 }
 
-/// The row of the KIND that was given, which the command line has checked to be there.
+/// The row of the KIND that was given, which the command line has checked to be there. Null, with a message, when the
+/// selection does not fit it.
 template <class Kinds>
-auto const& KindOf(Kinds const& kinds, VArguments const& arguments) {
-    return *std::find_if(kinds.begin(), kinds.end(),
-                         [&arguments](auto const& kind) { return arguments.kind == kind.name; });
+auto const* FittingKind(std::string_view command, Kinds const& kinds, VArguments const& arguments,
+                        VOutput const& output) {
+    auto const* const kind = &*std::find_if(kinds.begin(), kinds.end(),
+                                            [&arguments](auto const& row) { return arguments.kind == row.name; });
+    std::string const wrong = WrongSelection(kind->selection, arguments);
+    if (wrong.empty()) {
+        return kind;
+    }
+    output.Complain(std::string(command) + ' ' + kind->name + ' ' + wrong + "; see --help");
+    return static_cast<decltype(kind)>(nullptr);
 }
 
 } // namespace NCli

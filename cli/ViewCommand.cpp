@@ -2,7 +2,6 @@
 #include <array>
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Commands.h>
@@ -57,16 +56,15 @@ void DeclareView(CLI::App& command, VArguments& arguments) {
 }
 
 VStatus RunView(VArguments const& arguments, VOutput& output) {
-    VViewKind const& kind = KindOf(kKinds, arguments);
-    if (std::string const wrong = WrongSelection(kind.selection, arguments); !wrong.empty()) {
-        output.Complain(fmt::format("view {} {}; see --help", kind.name, wrong));
+    VViewKind const* const kind = FittingKind("view", kKinds, arguments, output);
+    if (kind == nullptr) {
         return VStatus::Usage;
     }
     NReader::VReadResult result;
     if (VStatus const status = Load(arguments, output, result); status != VStatus::Done) {
         return status;
     }
-    return kind.run(arguments, *result.database, output);
+    return kind->run(arguments, *result.database, output);
 }
 
 } // namespace NCli

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include <diagkit/reader/Cycles.h>
+#include <diagkit/reader/ParentTargets.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NReader {
@@ -115,43 +116,27 @@ void ReportUnresolvedReferences(VReading& reading) {
     }
 }
 
+NMemory::VPosition const& PositionOf(NODX201::VReferencable const& element) {
+    return dynamic_cast<NMemory::VMemNode const&>(element).GetPosition();
+}
+
 void ReportRepeatedIds(VReading& reading) {
     reading.database->GetIdIndex().ForEachRepeated([&reading](NMemory::VIdIndex::VEntry const& entry) {
         std::vector<NODX201::VReferencable*> elements{entry.first};
         elements.insert(elements.end(), entry.others.begin(), entry.others.end());
-        for (std::size_t later = 1; later < elements.size(); ++later) {
-            auto const& node = dynamic_cast<NMemory::VMemNode const&>(*elements[later]);
-            for (std::size_t earlier = 0; earlier < later; ++earlier) {
-                auto const& first = dynamic_cast<NMemory::VMemNode const&>(*elements[earlier]);
-                if (first.GetPosition().document != node.GetPosition().document) {
-                    continue;
-                }
-                reading.findings.Add(node.GetPosition(), VSeverity::Error, "duplicate-id",
-                                     TagOf(*elements[later]) + ' ' + Quoted(*elements[later]) + " has the ID " +
-                                         Quoted(elements[later]->GetId()) + " of the " + TagOf(*elements[earlier]) +
-                                         ' ' + Quoted(*elements[earlier]) + " at line " +
-                                         std::to_string(first.GetPosition().line) + "; IDs must differ in a document");
-                break;
+        std::unordered_map<std::uint32_t, NODX201::VReferencable*> firstOf; // by document
+        for (NODX201::VReferencable* const element : elements) {
+            NMemory::VPosition const& position = PositionOf(*element);
+            NODX201::VReferencable& first = *firstOf.emplace(position.document, element).first->second;
+            if (&first == element) {
+                continue;
             }
+            reading.findings.Add(position, VSeverity::Error, "duplicate-id",
+                                 TagOf(*element) + ' ' + Quoted(*element) + " has the ID " + Quoted(element->GetId()) +
+                                     " of the " + TagOf(first) + ' ' + Quoted(first) + " at line " +
+                                     std::to_string(PositionOf(first).line) + "; IDs must differ in a document");
         }
     });
-}
-
-/// The target of a reference of known kind, or null.
-NODX201::VDiagLayer* TargetOf(NODX201::VParentRef& parentRef) {
-    if (auto* const ref = dynamic_cast<NODX201::VProtocolRef*>(&parentRef)) {
-        return ref->HasProtocol() ? &ref->GetProtocol() : nullptr;
-    }
-    if (auto* const ref = dynamic_cast<NODX201::VFunctionalGroupRef*>(&parentRef)) {
-        return ref->HasFunctionalGroup() ? &ref->GetFunctionalGroup() : nullptr;
-    }
-    if (auto* const ref = dynamic_cast<NODX201::VBaseVariantRef*>(&parentRef)) {
-        return ref->HasBaseVariant() ? &ref->GetBaseVariant() : nullptr;
-    }
-    if (auto* const ref = dynamic_cast<NODX201::VEcuSharedDataRef*>(&parentRef)) {
-        return ref->HasEcuSharedData() ? &ref->GetEcuSharedData() : nullptr;
-    }
-    return nullptr;
 }
 
 void CheckParents(VReading& reading, NODX201::VDiagLayer& layer, NODX201::VParentRefCollection& parentRefs) {
