@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/check/Views.h>
 
+#include <memory>
+
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/Visitors.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
@@ -37,26 +39,20 @@ struct VDiagVariablesFinder : NODX201::VDiagLayerVisitor {
 
 std::vector<NODX201::VDiagComm*> DiagCommsIn(NODX201::VDiagLayer& layer) {
     NDIAGKIT::VOpBuildDiagCommView builder;
-    NDIAGKIT::VDiagCommView& view = *builder.CreateDiagCommView(layer);
-    auto entries = EntriesOf<NODX201::VDiagComm>(view);
-    builder.DestroyDiagCommView(view);
-    return entries;
+    std::unique_ptr<NDIAGKIT::VDiagCommView> const view(builder.CreateDiagCommView(layer));
+    return EntriesOf<NODX201::VDiagComm>(*view);
 }
 
 std::vector<NODX201::VDopBase*> DopsIn(NODX201::VDiagLayer& layer) {
     NDIAGKIT::VOpBuildDopView builder;
-    NDIAGKIT::VDopView& view = *builder.CreateDopView(layer);
-    auto entries = EntriesOf<NODX201::VDopBase>(view);
-    builder.DestroyDopView(view);
-    return entries;
+    std::unique_ptr<NDIAGKIT::VDopView> const view(builder.CreateDopView(layer));
+    return EntriesOf<NODX201::VDopBase>(*view);
 }
 
 std::vector<NODX201::VDiagVariable*> DiagVariablesIn(NODX201::VDiagLayer& layer) {
     NDIAGKIT::VOpBuildDiagVariableView builder;
-    NDIAGKIT::VDiagVariableView& view = *builder.CreateDiagVariableView(layer);
-    auto entries = EntriesOf<NODX201::VDiagVariable>(view);
-    builder.DestroyDiagVariableView(view);
-    return entries;
+    std::unique_ptr<NDIAGKIT::VDiagVariableView> const view(builder.CreateDiagVariableView(layer));
+    return EntriesOf<NODX201::VDiagVariable>(*view);
 }
 
 std::vector<NODX201::VGlobalNegResponse*> GlobalNegResponsesIn(NODX201::VDiagLayer& layer) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cwchar>
+
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Element.h>
 
@@ -21,10 +23,14 @@ VMemIdent<Contract, Tag>::~VMemIdent() {
 
 template <class Contract, NODX201::VOdxTagEnum Tag>
 void VMemIdent<Contract, Tag>::SetId(wchar_t const* id) {
-    VDatabase& database = this->GetDatabase();
-    database.Unindex(m_id, *this);
-    m_id = this->Store(id);
-    database.Index(m_id, *this);
+    wchar_t const* const stored = this->Store(id);
+    if (std::wcscmp(stored, m_id) == 0) {
+        return;
+    }
+    // The new one first: when memory runs out, the old one still finds the element.
+    this->GetDatabase().Index(stored, *this);
+    this->GetDatabase().Unindex(m_id, *this);
+    m_id = stored;
 }
 
 template <class Contract, NODX201::VOdxTagEnum Tag>

@@ -20,11 +20,11 @@ IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRe
     return parentRefs.Insert(before, New<VMemParentRef>(place, reference));
 }
 
-IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace const& place, IMemParentRef& parentRef,
-                                   VParentRefKind kind) {
+namespace {
+
+/// What a PARENT-REF holds besides its kind and its reference.
+void CopyContent(IMemParentRef& parentRef, IMemParentRef& changed) {
     NODX201::VParentRef& before = parentRef.ParentRef();
-    IMemParentRef& changed =
-        InsertParentRef(parentRefs, parentRefs.Position(&before), place, kind, ReferenceOf(before.GetLink()));
     changed.Node().SetPosition(parentRef.Node().GetPosition());
     if (before.HasNotInheritedDiagCommCollection()) {
         changed.MakeNotInheritedDiagCommCollection();
@@ -39,6 +39,21 @@ IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace c
     for (NODX201::VNotInheritedVariable& excluded : before.NotInheritedVariableCollection()) {
         changed.AddNotInheritedVariable(ReferenceOf(excluded.GetDiagVariableSnref().GetLink()))
             .SetPosition(dynamic_cast<VMemNode&>(excluded).GetPosition());
+    }
+}
+
+} // namespace
+
+IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace const& place, IMemParentRef& parentRef,
+                                   VParentRefKind kind) {
+    NODX201::VParentRef& before = parentRef.ParentRef();
+    IMemParentRef& changed =
+        InsertParentRef(parentRefs, parentRefs.Position(&before), place, kind, ReferenceOf(before.GetLink()));
+    try {
+        CopyContent(parentRef, changed);
+    } catch (...) {
+        delete &changed.ParentRef();
+        throw;
     }
     delete &before;
     return changed;
@@ -68,9 +83,9 @@ Layer& VMemDiagLayerCollection::Add(std::unique_ptr<Layer> layer) {
 
 template <class Layer>
 Layer& VMemDiagLayerContainer::Add(wchar_t const* shortName) {
-    Layer& layer = m_diagLayer.Add(New<Layer>(VPlace{&m_diagLayer, &GetDatabase()}));
-    layer.SetShortName(shortName);
-    return layer;
+    auto layer = New<Layer>(VPlace{&m_diagLayer, &GetDatabase()});
+    layer->SetShortName(shortName);
+    return m_diagLayer.Add(std::move(layer));
 }
 
 VMemProtocol& VMemDiagLayerContainer::AddProtocol(wchar_t const* shortName) { return Add<VMemProtocol>(shortName); }

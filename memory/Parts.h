@@ -11,6 +11,7 @@
 #include <diagkit/model/Collections.h>
 
 /// How the classes of the memory model make their children; each function is one way in which ODX elements have them.
+/// A child comes into its parent when it is finished, so that one whose making fails is not there at all.
 
 namespace NMemory {
 
@@ -32,16 +33,27 @@ Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place) {
     return *slot;
 }
 
-template <class Child>
-Child& MakeNamedChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* shortName) {
-    MakeChild(slot, place).SetShortName(shortName);
+/// The same; `finish` says what the child holds.
+template <class Child, class Finish>
+Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place, Finish finish) {
+    if (slot != nullptr) {
+        finish(*slot);
+        return *slot;
+    }
+    auto child = New<Child>(place);
+    finish(*child);
+    slot = std::move(child);
     return *slot;
 }
 
 template <class Child>
+Child& MakeNamedChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* shortName) {
+    return MakeChild(slot, place, [shortName](Child& child) { child.SetShortName(shortName); });
+}
+
+template <class Child>
 Child& MakeTextChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* text) {
-    MakeChild(slot, place).SetText(text);
-    return *slot;
+    return MakeChild(slot, place, [text](Child& child) { child.SetText(text); });
 }
 
 /// The optional link, made or directed at another target.
@@ -73,16 +85,16 @@ Item& AddPlain(VMemMany<Collection>& many, VPlace const& place) {
 
 template <class Item, class Collection>
 Item& AddNamed(VMemMany<Collection>& many, VPlace const& place, wchar_t const* shortName) {
-    Item& item = AddPlain<Item>(many, place);
-    item.SetShortName(shortName);
-    return item;
+    auto item = New<Item>(place);
+    item->SetShortName(shortName);
+    return many.Make().Append(std::move(item));
 }
 
 template <class Item, class Collection>
 Item& AddText(VMemMany<Collection>& many, VPlace const& place, wchar_t const* text) {
-    Item& item = AddPlain<Item>(many, place);
-    item.SetText(text);
-    return item;
+    auto item = New<Item>(place);
+    item->SetText(text);
+    return many.Make().Append(std::move(item));
 }
 
 template <class Item, class Collection>
