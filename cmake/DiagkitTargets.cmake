@@ -3,7 +3,7 @@
 # Headers are included as <diagkit/FOLDER/Header.h>, in the build tree as in an installed one.
 set(DIAGKIT_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
 file(MAKE_DIRECTORY ${DIAGKIT_INCLUDE_DIR}/diagkit)
-foreach(folder model logging util tools memory reader check cli)
+foreach(folder model logging util tools memory reader check cli fuzz)
     file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} SYMBOLIC)
 endforeach()
 

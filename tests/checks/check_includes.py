@@ -26,6 +26,7 @@ ROOMS = {
         ["check", "reader", "memory", "tools/oem", "tools", "util", "logging", "model"],
         [r"CLI/\S+", r"nlohmann/\S+", r"fmt/\S+"],
     ),
+    "fuzz": (["check", "reader", "memory", "tools/oem", "tools", "model"], []),
 }
 
 # Rooms that may use the platform, in sources that say for which one they are.

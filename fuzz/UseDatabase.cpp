@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/fuzz/UseDatabase.h>
+
+#include <cstdlib>
+
+#include <diagkit/check/Check.h>
+#include <diagkit/check/Cycles.h>
+#include <diagkit/memory/Odx.h>
+#include <diagkit/tools/DiagCommView.h>
+#include <diagkit/tools/GlobalNegResponseView.h>
+#include <diagkit/tools/GuardedDiagLayerTraverser.h>
+#include <diagkit/tools/IdentIfView.h>
+#include <diagkit/tools/InParamIfView.h>
+#include <diagkit/tools/OpBuildDiagCommView.h>
+#include <diagkit/tools/OpBuildDiagVariableView.h>
+#include <diagkit/tools/OpBuildDopView.h>
+#include <diagkit/tools/OpResolveSnref.h>
+#include <diagkit/tools/OutParamIfView.h>
+#include <diagkit/tools/ProtocolView.h>
+#include <diagkit/tools/SessionView.h>
+#include <diagkit/tools/oem/OemChecker.h>
+
+namespace NFuzz {
+namespace {
+
+constexpr std::size_t kSteps = 2000; // of each part
+
+void Require(bool isTrue) {
+    if (!isTrue) {
+        std::abort();
+    }
+}
+
+/// Reads the entries of a view and finds each of them by itself; hands them on while there are steps left.
+template <class View, class Take>
+void Use(View& view, VBudget& budget, Take take) {
+    unsigned long long count = 0;
+    for (auto& entry : view) {
+        ++count;
+        if (budget.Take()) {
+            Require(view.Find(entry) != view.End());
+            take(entry);
+        }
+    }
+    Require(count == view.Count());
+}
+
+template <class View>
+void Use(View& view, VBudget& budget) {
+    Use(view, budget, [](auto&) {});
+}
+
+/// The same for a view by short name, which finds the entry that stands first under its name.
+template <class View, class Take>
+void UseNamed(View& view, VBudget& budget, Take take) {
+    Use(view, budget, [&](auto& entry) {
+        auto const first = view.Find(entry.GetShortName());
+        Require(first != view.End() && std::wstring_view((*first).GetShortName()) == entry.GetShortName());
+        take(entry, *first);
+    });
+}
+
+template <class View>
+void UseNamed(View& view, VBudget& budget) {
+    UseNamed(view, budget, [](auto&, auto&) {});
+}
+
+wchar_t const* ShortNameOf(NODX201::IOutParamIf& param) {
+    auto const* const element = dynamic_cast<NODX201::VOdxElement const*>(&param);
+    Require(element != nullptr);
+    return element->GetShortName();
+}
+
+void UseOutParams(NDIAGKIT::VOutParamIfView&& view, NODX201::VDiagLayer& layer, VBudget& budget) {
+    std::vector<std::wstring> names{L"NoSuchParam"};
+    Use(view, budget, [&](NODX201::IOutParamIf& param) { names.emplace_back(ShortNameOf(param)); });
+    for (std::wstring const& name : names) {
+        if (budget.Take()) {
+            Require(view.FindParam(name.c_str(), layer) != nullptr || name == L"NoSuchParam");
+        }
+    }
+}
+
+void UseParams(NODX201::VDiagComm& diagComm, NODX201::VDiagLayer& layer, VBudget& budget) {
+    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
+        NDIAGKIT::VInParamIfView inParams(*service);
+        Use(inParams, budget);
+        for (int range = 0; range <= 5; ++range) {
+            UseOutParams(NDIAGKIT::VOutParamIfView(*service, static_cast<NODX201::VSearchRange>(range)), layer, budget);
+        }
+    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
+        NDIAGKIT::VInParamIfView inParams(*job);
+        Use(inParams, budget);
+        UseOutParams(NDIAGKIT::VOutParamIfView(*job), layer, budget);
+    }
+}
+
+void ViewLayer(NODX201::VDiagLayer& layer, VBudget& budget) {
+    NDIAGKIT::VOpResolveSnref resolver;
+    NDIAGKIT::VOpBuildDiagCommView diagComms;
+    NDIAGKIT::VDiagCommView& diagCommView = *diagComms.CreateDiagCommView(layer);
+    UseNamed(diagCommView, budget, [&](NODX201::VDiagComm& diagComm, NODX201::VDiagComm& first) {
+        UseParams(diagComm, layer, budget);
+        if (diagCommView.Count() < 100) { // each answer makes a view
+            Require(resolver.ResolveDiagCommSnref(first.GetShortName(), layer) == &first);
+        }
+    });
+    diagComms.DestroyDiagCommView(diagCommView);
+
+    NDIAGKIT::VOpBuildDopView dops;
+    NDIAGKIT::VDopView& dopView = *dops.CreateDopView(layer);
+    UseNamed(dopView, budget, [&](NODX201::VDopBase&, NODX201::VDopBase& first) {
+        Require(resolver.ResolveDopBaseSnref(first.GetShortName(), layer) == &first);
+    });
+    dops.DestroyDopView(dopView);
+
+    NDIAGKIT::VOpBuildDiagVariableView variables;
+    NDIAGKIT::VDiagVariableView& variableView = *variables.CreateDiagVariableView(layer);
+    UseNamed(variableView, budget);
+    variables.DestroyDiagVariableView(variableView);
+
+    NDIAGKIT::VGlobalNegResponseView responses(layer);
+    UseNamed(responses, budget);
+
+    if (auto* const baseVariant = dynamic_cast<NODX201::VBaseVariant*>(&layer)) {
+        NDIAGKIT::VProtocolView protocols(*baseVariant);
+        UseNamed(protocols, budget);
+    }
+}
+
+/// Walks a layer until the budget is used up.
+class VWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
+public:
+    VWalk(NODX201::VDiagLayer& layer, VBudget& budget) : VGuardedDiagLayerTraverser(layer), m_budget(budget) {}
+
+    void Run() {
+        try {
+            TraverseDiagLayer();
+        } catch (VBudget const&) {
+            // Related DIAG-COMMs that all name each other make walks that nobody waits for.
+        }
+    }
+
+protected:
+    void DefaultVisit(NODX201::VOdxElement& element) override {
+        static_cast<void>(element.GetOdxTag());
+        if (!m_budget.Take()) {
+            throw m_budget;
+        }
+    }
+
+private:
+    VBudget& m_budget;
+};
+
+template <class Use>
+void ForEachLayer(NODX201::VOdx& odx, Use use) {
+    for (NODX201::VDiagLayerContainer& container : odx.DiagLayerContainerCollection()) {
+        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
+            use(layer);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
+    std::vector<NReader::VDiagnostic> diagnostics = NCheck::CheckDatabase(result);
+    NMemory::VDatabase& database = *result.database;
+    NCheck::FindCycles(database);
+    NDIAGKIT::VOemChecker checker;
+    Require(checker.GetManufacturer(database.GetOdx()) == checker.Report(database.GetOdx()).manufacturer);
+
+    VBudget views(kSteps);
+    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { ViewLayer(layer, views); });
+    for (NODX201::VDiagLayerContainer& container : database.GetOdx().DiagLayerContainerCollection()) {
+        NDIAGKIT::VProtocolView protocols(container);
+        UseNamed(protocols, views);
+    }
+    for (NMemory::VMemFlash& flash : database.FlashCollection()) {
+        NDIAGKIT::VIdentIfView idents(flash);
+        Use(idents, views);
+        NDIAGKIT::VSessionView sessions(flash);
+        UseNamed(sessions, views);
+    }
+    VBudget references(kSteps);
+    ResolveReferences(result, references);
+    VBudget walks(kSteps);
+    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { VWalk(layer, walks).Run(); });
+    return diagnostics;
+}
+
+} // namespace NFuzz

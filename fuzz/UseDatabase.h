@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/reader/OdxReader.h>
+
+namespace NFuzz {
+
+/// Does with a database what programs do: checks it, asks for its cycles and its manufacturer, builds every view of
+/// every layer, container and FLASH and finds what is in it, resolves every reference in every layer, and walks all
+/// layers. Each of these ends after a number of steps, so that hostile data do not take long. Answers that contradict
+/// one another end the program (`std::abort`), which is a finding.
+///
+/// Wants a result with a database whose elements were kept. Returns what the check said.
+std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result);
+
+/// The part of it that works reference by reference.
+class VBudget;
+void ResolveReferences(NReader::VReadResult& result, VBudget& budget);
+
+/// Counts steps down. Thrown as it is, it leaves a walk.
+class VBudget {
+public:
+    explicit VBudget(std::size_t steps) : m_left(steps) {}
+
+    /// False when nothing is left.
+    bool Take() {
+        m_left -= m_left > 0 ? 1 : 0;
+        return m_left > 0;
+    }
+
+private:
+    std::size_t m_left;
+};
+
+} // namespace NFuzz

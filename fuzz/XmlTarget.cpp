@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+
+// Bytes as one ODX document, through the reader and the texts of its diagnostics.
+
+#include <string_view>
+
+#include <diagkit/reader/OdxReader.h>
+
+#include <diagkit/fuzz/Limits.h>
+#include <diagkit/fuzz/ScratchFile.h>
+#include <diagkit/fuzz/Target.h>
+
+int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    static NFuzz::VScratchFile file(".odx");
+    file.Write({reinterpret_cast<char const*>(data), size});
+    for (NReader::VDiagnostic const& diagnostic : NReader::ReadOdx({file.Path()}, NFuzz::LowLimits()).diagnostics) {
+        NReader::FormatDiagnostic(diagnostic);
+    }
+    return 0;
+}
