@@ -4,8 +4,8 @@
 // that may crash or take long. `DIAGKIT_MUTATIONS` says how many are made instead, `DIAGKIT_MUTATION` which one alone.
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
+#include <ctime>
 
 #include <expat.h>
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::uint32_t kMutations = 10000;
 constexpr std::uint32_t kShards = 10; // run side by side
-constexpr std::chrono::seconds kMostTime{1};
+constexpr double kMostSeconds = 1;    // of the processor: what else the machine does is not held against us
 
 std::vector<VSampleDocument> const& Documents() {
     static std::vector<VSampleDocument> const documents = ReadSampleDocuments(DIAGKIT_SAMPLE_PARTS);
@@ -54,11 +54,11 @@ struct VOutcome {
     std::size_t documents = 0;
     std::size_t diagnostics = 0;
     std::size_t missing = 0; ///< of these, that something required is missing
-    std::chrono::steady_clock::duration time{};
+    double seconds = 0;
 };
 
 VOutcome LoadAndUse(std::vector<std::string> const& paths) {
-    auto const start = std::chrono::steady_clock::now();
+    std::clock_t const start = std::clock();
     NReader::VReadOptions options;
     options.keepsElements = true;
     NReader::VReadResult result = NReader::ReadOdx(paths, options);
@@ -68,7 +68,7 @@ VOutcome LoadAndUse(std::vector<std::string> const& paths) {
     auto const diagnostics = outcome.isLoaded ? NFuzz::UseDatabase(result) : result.diagnostics;
     outcome.diagnostics = diagnostics.size();
     outcome.missing = static_cast<std::size_t>(std::count_if(diagnostics.begin(), diagnostics.end(), &IsOfMissing));
-    outcome.time = std::chrono::steady_clock::now() - start;
+    outcome.seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     return outcome;
 }
 
@@ -104,7 +104,7 @@ void Try(std::uint32_t number) {
                  std::to_string(mutation.document) + " at byte " + std::to_string(mutation.offset));
     std::vector<std::string> const paths = PathsOf(mutation, number);
     VOutcome const outcome = LoadAndUse(paths);
-    EXPECT_LT(outcome.time, kMostTime);
+    EXPECT_LT(outcome.seconds, kMostSeconds);
     if (mutation.kind != VMutationKind::FlipBytes || (mutation.isCategoryIntact && IsWellFormed(mutation.bytes))) {
         EXPECT_TRUE(outcome.isLoaded);
         EXPECT_EQ(outcome.documents, paths.size());
