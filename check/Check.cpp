@@ -7,6 +7,7 @@
 
 #include <diagkit/check/Codes.h>
 #include <diagkit/check/Topics.h>
+#include <diagkit/reader/Findings.h>
 
 namespace NCheck {
 namespace {
@@ -40,7 +41,7 @@ std::vector<NReader::VDiagnostic> CheckDatabase(NReader::VReadResult& result) {
     for (VFinding& finding : findings) {
         diagnostics.push_back({database.GetDocumentName(finding.position), finding.position.line,
                                finding.position.column, FindCode(finding.code)->severity, finding.code,
-                               std::move(finding.message)});
+                               NReader::Clipped(std::move(finding.message))});
     }
     auto order = FileOrder(database);
     std::stable_sort(

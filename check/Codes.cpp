@@ -15,6 +15,7 @@ std::vector<VCode> const& Codes() {
         {"contradicting-type",         Error,   "An element holds what another xsi:type has"},
         {"document-type",              Error,   "A document type declaration"},
         {"duplicate-id",               Error,   "An ID is used twice in one document"},
+        {"duplicate-member",           Error,   "A package holds several members of one name"},
         {"duplicate-short-name",       Error,   "A short name is used twice in one list"},
         {"empty",                      Error,   "The file is empty"},
         {"encoding",                   Warning, "The bytes are not in the encoding that the document declares"},
@@ -42,8 +43,10 @@ std::vector<VCode> const& Codes() {
         {"stray-text",                 Warning, "Text where ODX has elements only"},
         {"table-row-cycle",            Warning, "A table's rows lead back to the table"},
         {"target-left-out",            Warning, "A reference names an element for which the model has no place"},
+        {"too-compressed",             Error,   "A member of a package is packed more tightly than the limit"},
         {"too-deep",                   Error,   "Elements are nested deeper than the limit"},
-        {"too-large",                  Error,   "A package unpacks to more than the limit"},
+        {"too-large",                  Error,   "A file, member, package, tag or text is larger than the limit"},
+        {"too-many",                   Error,   "There are more members, elements or attributes than the limit"},
         {"unknown-child",              Warning, "An element that ODX does not have here"},
         {"unknown-literal",            Error,   "A text is none of the literals of its enumeration"},
         {"unknown-model-version",      Warning, "The MODEL-VERSION is no version"},
@@ -52,6 +55,7 @@ std::vector<VCode> const& Codes() {
         {"unreadable",                 Error,   "A file or a member of a package cannot be read"},
         {"unresolved-reference",       Error,   "A reference by ID names nothing"},
         {"unresolved-short-name",      Error,   "A reference by short name names nothing in any layer"},
+        {"unsafe-name",                Error,   "A member's name leads out of its package"},
         {"wrong-docref",               Warning, "DOCREF or DOCTYPE name another place than the target's"},
     };
     // clang-format on

@@ -9,7 +9,7 @@
 namespace NCli {
 namespace {
 
-void DeclareSize(CLI::App& command, char const* name, std::uint64_t& size, char const* help) {
+CLI::Option& DeclareSize(CLI::App& command, char const* name, std::uint64_t& size, char const* help) {
     auto const take = [name, &size](std::string const& text) {
         std::optional<std::uint64_t> const taken = SizeIn(text);
         if (!taken.has_value()) {
@@ -17,8 +17,30 @@ void DeclareSize(CLI::App& command, char const* name, std::uint64_t& size, char 
         }
         size = *taken;
     };
-    command.add_option_function<std::string>(name, take, help)->type_name("SIZE");
+    return *command.add_option_function<std::string>(name, take, help)->type_name("SIZE");
 }
+
+struct VLimitRow {
+    char const* name;
+    std::uint64_t NReader::VReadLimits::*limit;
+    bool isSize;
+    char const* help;
+};
+
+// clang-format off
+constexpr VLimitRow kLimits[] = {
+    {"--max-file-size",    &NReader::VReadLimits::maxFileSize,    true,  "Of a document or package on the disk"},
+    {"--max-members",      &NReader::VReadLimits::maxMembers,     false, "Members of a package"},
+    {"--max-member-size",  &NReader::VReadLimits::maxMemberSize,  true,  "Of one unpacked member of a package"},
+    {"--max-package-size", &NReader::VReadLimits::maxPackageSize, true,  "Of all unpacked members of a package"},
+    {"--max-ratio",        &NReader::VReadLimits::maxRatio,       false, "Unpacked bytes for each packed one"},
+    {"--max-elements",     &NReader::VReadLimits::maxElements,    false, "Elements of a document"},
+    {"--max-depth",        &NReader::VReadLimits::maxDepth,       false, "Elements inside one another"},
+    {"--max-attributes",   &NReader::VReadLimits::maxAttributes,  false, "Attributes of an element"},
+    {"--max-tag-size",     &NReader::VReadLimits::maxTagSize,     true,  "Of a tag or comment"},
+    {"--max-text-size",    &NReader::VReadLimits::maxTextSize,    true,  "Of the text of an element"},
+};
+// clang-format on
 
 } // namespace
 
@@ -49,11 +71,13 @@ void DeclareFiles(CLI::App& command, VArguments& arguments) {
     command.add_option("FILE", arguments.files, "ODX documents and PDX packages; together they form one database")
         ->required()
         ->type_name("");
-    NReader::VReadOptions& limits = arguments.readOptions;
-    DeclareSize(command, "--max-member-size", limits.maxMemberSize,
-                "Limit for one unpacked member of a package, such as 512M");
-    DeclareSize(command, "--max-package-size", limits.maxPackageSize,
-                "Limit for all unpacked members of a package, such as 8G");
+    for (VLimitRow const& row : kLimits) {
+        std::uint64_t& limit = arguments.readOptions.*row.limit;
+        CLI::Option& option = row.isSize ? DeclareSize(command, row.name, limit, row.help)
+                                         : *command.add_option(row.name, limit, row.help)->type_name("N");
+        option.default_str(row.isSize ? SizeText(limit) : fmt::format("{}", limit));
+        option.group("Limits, for files known to be large (SIZE is such as 512M)");
+    }
 }
 
 } // namespace NCli

@@ -3,7 +3,6 @@
 
 #include <charconv>
 #include <limits>
-#include <string>
 #include <system_error>
 
 namespace NCli {
@@ -41,6 +40,16 @@ std::optional<std::uint64_t> SizeIn(std::string_view text) {
         return std::nullopt;
     }
     return number << *shift;
+}
+
+std::string SizeText(std::uint64_t size) {
+    constexpr std::string_view kUnits = "KMGT";
+    std::size_t unit = 0;
+    while (unit < kUnits.size() && size != 0 && size % 1024 == 0) {
+        size /= 1024;
+        ++unit;
+    }
+    return std::to_string(size) + (unit > 0 ? std::string(1, kUnits[unit - 1]) : std::string());
 }
 
 } // namespace NCli

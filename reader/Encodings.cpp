@@ -22,6 +22,8 @@ std::string Folded(char const* name) {
 
 } // namespace
 
+char const* KnownEncodings() { return "UTF-8, UTF-16, US-ASCII, ISO-8859-1, ISO-8859-15 and Windows-1252"; }
+
 bool FillEncoding(char const* name, int (&map)[256]) {
     std::string const folded = Folded(name);
     bool const isWindows1252 = folded == "windows-1252" || folded == "cp1252" || folded == "cp-1252";

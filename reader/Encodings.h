@@ -7,4 +7,7 @@ namespace NReader {
 /// a name that we do not know either. Case does not matter.
 bool FillEncoding(char const* name, int (&map)[256]);
 
+/// The names of all encodings that documents can have, for messages.
+char const* KnownEncodings();
+
 } // namespace NReader

@@ -7,8 +7,20 @@
 
 namespace NReader {
 
+std::string Clipped(std::string message) {
+    constexpr std::size_t kLongest = 2000;
+    if (message.size() <= kLongest) {
+        return message;
+    }
+    std::size_t end = kLongest;
+    while ((static_cast<unsigned char>(message[end]) & 0xC0) == 0x80) { // inside a character of UTF-8
+        --end;
+    }
+    return message.substr(0, end) + "...";
+}
+
 void VFindings::Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message) {
-    m_findings.push_back({position, severity, std::move(code), std::move(message)});
+    m_findings.push_back({position, severity, std::move(code), Clipped(std::move(message))});
 }
 
 void VFindings::Forget(std::size_t from) {

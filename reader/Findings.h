@@ -9,6 +9,9 @@
 
 namespace NReader {
 
+/// The message, cut off where it is longer than anybody reads: it may quote a text of many megabytes.
+std::string Clipped(std::string message);
+
 /// The diagnostics of one reading, while they are collected.
 class VFindings {
 public:

@@ -181,7 +181,7 @@ void VLoader::Start(std::string_view name, VAttributes const& attributes) {
             event.attributes.emplace_back(*attribute);
         }
         ++m_recordedDepth;
-        m_recorded.push_back(std::move(event));
+        Record(std::move(event));
         return;
     }
     if (m_skipped > 0) {
@@ -295,7 +295,7 @@ void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow co
         for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
             event.attributes.emplace_back(*attribute);
         }
-        m_recorded.push_back(std::move(event));
+        Record(std::move(event));
         return;
     }
     if (opened.type == nullptr) {
@@ -372,7 +372,7 @@ void VLoader::CheckValue(VContent content, wchar_t const* const* literals, std::
 
 void VLoader::Text(std::string_view text) {
     if (m_recordedDepth > 0) {
-        m_recorded.push_back({VEvent::VKind::Text, {}, std::string(text), {}, Position()});
+        Record({VEvent::VKind::Text, {}, std::string(text), {}, Position()});
         return;
     }
     if (m_skipped > 0 || m_frames.empty()) {
@@ -385,8 +385,10 @@ void VLoader::Text(std::string_view text) {
             m_isTagOpen = false;
         }
         AppendEscaped(m_text, text);
+        m_parser->LimitText(m_text.size());
     } else if (frame.type->setContent != nullptr) {
         m_text += text;
+        m_parser->LimitText(m_text.size());
     } else if (!frame.hasStrayText && text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
         frame.hasStrayText = true;
         Report(VSeverity::Warning, "stray-text", "'" + frame.name + "' holds text, which is left out");
@@ -395,7 +397,7 @@ void VLoader::Text(std::string_view text) {
 
 void VLoader::End(std::string_view name) {
     if (m_recordedDepth > 0) {
-        m_recorded.push_back({VEvent::VKind::End, std::string(name), {}, {}, Position()});
+        Record({VEvent::VKind::End, std::string(name), {}, {}, Position()});
         if (--m_recordedDepth == 0) {
             Replay();
         }
@@ -474,7 +476,7 @@ void VLoader::CheckKind(VFrame const& frame) {
 
 void VLoader::Instruction(std::string_view name, std::string_view content) {
     if (m_recordedDepth > 0) {
-        m_recorded.push_back({VEvent::VKind::Instruction, std::string(name), std::string(content), {}, Position()});
+        Record({VEvent::VKind::Instruction, std::string(name), std::string(content), {}, Position()});
         return;
     }
     if (m_skipped > 0) {
@@ -507,6 +509,7 @@ void VLoader::StartMarkup(std::string_view name, VAttributes const& attributes) 
     }
     m_isTagOpen = true;
     ++m_markupDepth;
+    m_parser->LimitText(m_text.size());
 }
 
 void VLoader::EndMarkup(std::string_view name) {
@@ -523,9 +526,19 @@ void VLoader::EndMarkup(std::string_view name) {
 
 // Elements whose kind shows only from their contents
 
+void VLoader::Record(VEvent event) {
+    m_recordedSize += sizeof event + event.name.size() + event.text.size();
+    for (std::string const& text : event.attributes) {
+        m_recordedSize += sizeof text + text.size();
+    }
+    m_parser->LimitText(m_recordedSize); // they are held as a text is
+    m_recorded.push_back(std::move(event));
+}
+
 void VLoader::Replay() {
     std::vector<VEvent> events;
     events.swap(m_recorded);
+    m_recordedSize = 0;
     VRow const& row = *m_recordedRow;
 
     std::vector<std::string> childNames;

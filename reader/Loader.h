@@ -146,6 +146,7 @@ private:
     bool m_isTagOpen = false; // of markup: its start may still turn out to be empty
 
     std::vector<VEvent> m_recorded;
+    std::uint64_t m_recordedSize = 0;
     std::uint32_t m_recordedDepth = 0;
     VRow const* m_recordedRow = nullptr; // of the element that is recorded
     NMemory::VPosition const* m_replayed = nullptr;

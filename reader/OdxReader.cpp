@@ -19,15 +19,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Hands out the bytes of a document from the start, as often as asked, until `take` returns false. False when reading
-/// failed, with the reason in `error`.
-using VBytes = std::function<bool(std::function<bool(std::string_view bytes)> const& take, std::string& error)>;
-
 struct VFailure {
     VXmlPosition position;
-    std::string code;
+    std::string code; // "" when it is told elsewhere
     std::string message;
 };
+
+/// Hands out the bytes of a document from the start, as often as asked, until `take` returns false. False when reading
+/// failed, with the reason in `failure`.
+using VBytes = std::function<bool(std::function<bool(std::string_view bytes)> const& take, VFailure& failure)>;
 
 /// What one try at a document came to.
 struct VTry {
@@ -73,6 +73,12 @@ void VSession::Progress(std::uint64_t bytes) {
     }
 }
 
+VFailure Unreadable(std::string const& reason) { return {{}, "unreadable", "cannot be read: " + reason}; }
+
+VFailure FileTooLarge(VReadLimits const& limits) {
+    return {{}, "too-large", OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
+}
+
 bool StartsLikeZip(std::string const& file) {
     std::ifstream stream(fs::u8path(file), std::ios::binary);
     char head[4] = {};
@@ -111,29 +117,35 @@ bool VSession::ReadFile(std::string const& file) {
     if (fs::is_regular_file(status) && fs::file_size(path, error) == 0) {
         return Fail(file, {{}, "empty", "is empty"});
     }
+    if (fs::is_regular_file(status) && fs::file_size(path, error) > m_options.maxFileSize) {
+        return Fail(file, FileTooLarge(m_options));
+    }
     if (StartsLikeZip(file)) {
         return ReadPackage(file);
     }
     if (IsPackageName(file)) {
         return Fail(file, {{}, "no-package", "is no PDX package: the file is not a zip archive"});
     }
-    return ReadDocument(file, [&](auto const& take, std::string& reason) {
+    return ReadDocument(file, [&](auto const& take, VFailure& failure) {
+        errno = 0;
         std::ifstream stream(path, std::ios::binary);
-        if (!stream) {
-            reason = std::strerror(errno);
-            return false;
-        }
         std::vector<char> buffer(256 * 1024);
+        std::uint64_t total = 0; // a file that is no regular one, or that grows, tells no size
         while (stream) {
             stream.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
             auto const length = static_cast<std::size_t>(stream.gcount());
             Progress(length);
+            total += length;
+            if (total > m_options.maxFileSize) {
+                failure = FileTooLarge(m_options);
+                return false;
+            }
             if (length > 0 && !take(std::string_view(buffer.data(), length))) {
                 return true;
             }
         }
-        if (stream.bad()) {
-            reason = "reading failed";
+        if (stream.bad() || !stream.is_open()) {
+            failure = Unreadable(errno != 0 ? std::strerror(errno) : "reading failed");
             return false;
         }
         return true;
@@ -146,6 +158,11 @@ bool VSession::ReadPackage(std::string const& file) {
     if (!package.Open(file, error)) {
         return Fail(file, {{}, "no-package", "the package cannot be read: " + error});
     }
+    if (package.Count() > m_options.maxMembers) {
+        return Fail(file, {{},
+                           "too-many",
+                           OverLimit("the package has more members than", m_options.maxMembers, "", "--max-members")});
+    }
     if (package.Documents().empty()) {
         return Fail(file, {{}, "no-package", "the package holds no ODX document (no member named .odx, .odx-d, ...)"});
     }
@@ -157,19 +174,57 @@ bool VSession::ReadPackage(std::string const& file) {
         isAnyRead = ReadMember(package, member, file + '!' + member.name) || isAnyRead;
         Progress(member.compressedSize);
         if (m_isPackageTooLarge) {
-            return Fail(file,
-                        {{},
-                         "too-large",
-                         "the package unpacks to more than " + std::to_string(m_options.maxPackageSize) + " bytes"});
+            return Fail(file, {{},
+                               "too-large",
+                               OverLimit("the package unpacks to more than", m_options.maxPackageSize, " bytes",
+                                         "--max-package-size")});
         }
     }
     return isAnyRead || Fail(file, {{}, "no-package", "none of the documents in the package can be read"});
 }
 
+/// How many bytes a member may unpack to, and what is wrong when there are more.
+struct VMemberLimit {
+    std::uint64_t bytes;
+    VFailure failure;
+};
+
+VMemberLimit LimitOf(VPackage::VMember const& member, VReadLimits const& limits) {
+    constexpr std::uint64_t kRatioCountsFrom = std::uint64_t{16} << 20;
+    std::uint64_t const packed = std::max<std::uint64_t>(member.compressedSize, 1);
+    std::uint64_t const byRatio = packed > limits.maxMemberSize / std::max<std::uint64_t>(limits.maxRatio, 1)
+                                      ? limits.maxMemberSize
+                                      : std::max(packed * limits.maxRatio, kRatioCountsFrom);
+    if (byRatio < limits.maxMemberSize) {
+        return {byRatio,
+                {{},
+                 "too-compressed",
+                 OverLimit("the member unpacks to more than", limits.maxRatio, " times its size in the package",
+                           "--max-ratio")}};
+    }
+    return {limits.maxMemberSize,
+            {{},
+             "too-large",
+             OverLimit("the member unpacks to more than", limits.maxMemberSize, " bytes", "--max-member-size")}};
+}
+
+VFailure FailureOf(VPackage::VFault fault) {
+    if (fault == VPackage::VFault::LeadsOut) {
+        return {{}, "unsafe-name", "the member's name is no path inside the package, so the member is left out"};
+    }
+    return {
+        {}, "duplicate-member", "another member of this name follows in the package and counts; this one is left out"};
+}
+
 bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, std::string const& name) {
+    if (member.fault != VPackage::VFault::None) {
+        return Fail(name, FailureOf(member.fault));
+    }
     std::uint64_t const left = m_packageLeft; // the same for every try at the member
-    return ReadDocument(name, [&](auto const& take, std::string& reason) {
-        std::uint64_t const limit = std::min(m_options.maxMemberSize, left);
+    VMemberLimit const memberLimit = LimitOf(member, m_options);
+    return ReadDocument(name, [&](auto const& take, VFailure& failure) {
+        std::uint64_t const limit = std::min(memberLimit.bytes, left);
+        std::string reason;
         std::uint64_t unpacked = 0;
         VPackage::VOutcome const outcome = package.Read(
             member, limit,
@@ -180,8 +235,10 @@ bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, st
             reason);
         m_packageLeft = left - std::min(unpacked, left);
         if (outcome == VPackage::VOutcome::TooLarge) {
-            m_isPackageTooLarge = limit < m_options.maxMemberSize;
-            reason = "the member unpacks to more than " + std::to_string(limit) + " bytes";
+            m_isPackageTooLarge = limit < memberLimit.bytes;
+            failure = m_isPackageTooLarge ? VFailure() : memberLimit.failure;
+        } else if (outcome == VPackage::VOutcome::Broken) {
+            failure = Unreadable(reason);
         }
         return outcome == VPackage::VOutcome::Done || outcome == VPackage::VOutcome::Stopped;
     });
@@ -189,11 +246,10 @@ bool VSession::ReadMember(VPackage& package, VPackage::VMember const& member, st
 
 VTry VSession::TryDocument(std::uint32_t document, VBytes const& bytes, char const* encoding, bool isRepaired) {
     VLoader loader(m_reading, document);
-    VXmlParser parser(loader, m_options.maxDepth, encoding);
+    VXmlParser parser(loader, m_options, encoding);
     loader.SetParser(parser);
 
     VTry result;
-    std::string error;
     bool isEmpty = true;
     bool isParsed = true;
     bool const isDelivered = bytes(
@@ -201,9 +257,8 @@ VTry VSession::TryDocument(std::uint32_t document, VBytes const& bytes, char con
             isEmpty = false;
             return isParsed = parser.Feed(piece, false);
         },
-        error);
+        result.failure);
     if (!isDelivered) {
-        result.failure = {{}, "unreadable", "cannot be read: " + error};
         return result;
     }
     if (isEmpty) {
@@ -232,9 +287,10 @@ bool VSession::ReadDocument(std::string const& name, VBytes const& bytes) {
     if (first.isRead) {
         return true;
     }
+    VFailure failure = first.failure;
     if (first.isEncoding) {
         // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
-        for (char const* const encoding : {"UTF-8", "windows-1252"}) {
+        for (char const* const encoding : {"UTF-8", "UTF-16", "windows-1252"}) {
             VTry const next = TryDocument(document, bytes, encoding, true);
             if (next.isRead) {
                 m_reading.findings.Add({document, first.failure.position.line, first.failure.position.column},
@@ -244,10 +300,16 @@ bool VSession::ReadDocument(std::string const& name, VBytes const& bytes) {
                                            std::string(encoding));
                 return true;
             }
+            if (next.failure.code != "not-xml") { // it is the encoding, and something else is wrong
+                failure = next.failure;
+                break;
+            }
         }
     }
-    m_reading.findings.Add({document, first.failure.position.line, first.failure.position.column}, VSeverity::Error,
-                           first.failure.code, first.failure.message);
+    if (!failure.code.empty()) {
+        m_reading.findings.Add({document, failure.position.line, failure.position.column}, VSeverity::Error,
+                               failure.code, failure.message);
+    }
     return false;
 }
 

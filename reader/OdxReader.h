@@ -10,15 +10,12 @@
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/reader/Diagnostic.h>
+#include <diagkit/reader/Limits.h>
 
 namespace NReader {
 
-/// Limits that honest databases never meet.
-struct VReadOptions {
-    std::uint64_t maxMemberSize = std::uint64_t{1} << 30;  ///< unpacked bytes of one member of a package
-    std::uint64_t maxPackageSize = std::uint64_t{4} << 30; ///< unpacked bytes of all members read of one package
-    std::uint32_t maxDepth = 1000;                         ///< elements inside one another
-
+/// The limits, and what else a caller may ask for.
+struct VReadOptions : VReadLimits {
     /// Whether `VReadResult::elements` is wanted, for programs that look at every element or reference.
     bool keepsElements = false;
 
@@ -53,7 +50,8 @@ struct VReadResult {
 ///
 /// A file is a package when it starts like a zip archive, whatever its name; anything else is read as XML. What can be
 /// loaded is loaded, and the rest reported: only a file that is not readable as ODX at all is refused, and then nothing
-/// is loaded. A member of a package that cannot be read is left out whole.
+/// is loaded. A member of a package that cannot be read is left out whole, and so is one whose name leads out of the
+/// package, or that another member of the same name follows. Packages inside packages are not opened.
 VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options = {});
 
 } // namespace NReader

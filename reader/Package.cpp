@@ -46,11 +46,31 @@ bool IsOdxName(std::string_view name) {
                       [](char wanted, char character) { return wanted == Folded(character); });
 }
 
+bool LeadsOut(std::string_view name) {
+    bool const hasDrive = name.size() >= 2 && name[1] == ':' && Folded(name[0]) >= 'a' && Folded(name[0]) <= 'z';
+    if (hasDrive || name.substr(0, 1) == "/") {
+        return true;
+    }
+    for (std::size_t at = 0; at < name.size();) {
+        std::size_t const end = std::min(name.find('/', at), name.size());
+        if (name.substr(at, end - at) == "..") {
+            return true;
+        }
+        at = end + 1;
+    }
+    return false;
+}
+
+std::uint64_t VPackage::Count() const {
+    zip_int64_t const count = zip_get_num_entries(m_archive->zip, 0);
+    return count > 0 ? static_cast<std::uint64_t>(count) : 0;
+}
+
 bool VPackage::Open(std::string const& path, std::string& error) {
     int code = 0;
     m_archive->zip = zip_open(path.c_str(), ZIP_RDONLY, &code);
     if (m_archive->zip == nullptr) {
-        error = Text(code);
+        error = code == ZIP_ER_NOZIP ? "the archive has no directory at its end; it is cut off or damaged" : Text(code);
         return false;
     }
     zip_int64_t const count = zip_get_num_entries(m_archive->zip, 0);
@@ -64,12 +84,19 @@ bool VPackage::Open(std::string const& path, std::string& error) {
         std::replace(member.name.begin(), member.name.end(), '\\', '/');
         member.index = static_cast<std::uint64_t>(index);
         member.compressedSize = (stat.valid & ZIP_STAT_COMP_SIZE) != 0 ? stat.comp_size : 0;
+        member.fault = LeadsOut(member.name) ? VFault::LeadsOut : VFault::None;
         if (IsOdxName(member.name)) {
             m_documents.push_back(std::move(member));
         }
     }
     std::stable_sort(m_documents.begin(), m_documents.end(),
                      [](VMember const& a, VMember const& b) { return a.name < b.name; });
+    for (std::size_t next = 1; next < m_documents.size(); ++next) {
+        VMember& member = m_documents[next - 1];
+        if (member.fault == VFault::None && member.name == m_documents[next].name) {
+            member.fault = VFault::Superseded;
+        }
+    }
     return true;
 }
 

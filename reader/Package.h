@@ -13,10 +13,14 @@ namespace NReader {
 /// A PDX package: a zip archive. Names are UTF-8, with '/' between folders.
 class VPackage {
 public:
+    /// Why a member is not to be read, whatever it holds.
+    enum class VFault { None, LeadsOut, Superseded };
+
     struct VMember {
         std::string name;
         std::uint64_t index = 0;
         std::uint64_t compressedSize = 0;
+        VFault fault = VFault::None;
     };
 
     /// What reading a member came to.
@@ -30,7 +34,11 @@ public:
     /// False when the file is no archive that can be read; `error` then says why.
     bool Open(std::string const& path, std::string& error);
 
-    /// The ODX documents (suffix .odx, .odx-d and the like, in any case), in the order of their names.
+    /// How many members there are, documents or not.
+    std::uint64_t Count() const;
+
+    /// The ODX documents (suffix .odx, .odx-d and the like, in any case), in the order of their names. Of several of
+    /// one name the last in the archive counts, as when it is unpacked; the others are superseded.
     std::vector<VMember> const& Documents() const { return m_documents; }
 
     /// Hands out the unpacked bytes piece by piece until `take` returns false or more than `limit` bytes came: the size
@@ -46,5 +54,9 @@ private:
 
 /// Whether a member's name has the suffix of an ODX document.
 bool IsOdxName(std::string_view name);
+
+/// Whether a member's name, with '/' between folders, is no path inside the package: absolute, with a drive, or with a
+/// "..".
+bool LeadsOut(std::string_view name);
 
 } // namespace NReader

@@ -21,8 +21,10 @@ struct VXmlParser::VState {
     std::string declaredEncoding;
     VXmlPosition skipped; // lines, and columns of the last one, that were left out before the XML declaration
     IXmlHandler* handler = nullptr;
-    std::uint32_t maxDepth = 0;
-    std::uint32_t depth = 0;
+    VReadLimits limits;
+    std::uint64_t depth = 0;
+    std::uint64_t elements = 0;
+    std::uint64_t taken = 0; // bytes that expat has been given
     bool isRefused = false;
     std::exception_ptr thrown; // expat is C: exceptions of the handler travel around it
     VXmlError error;
@@ -75,6 +77,18 @@ VXmlPosition ExtentOf(std::string_view text) {
     return extent;
 }
 
+/// What is wrong, with what helps where expat's own words do not.
+std::string MessageOf(XML_Error code, std::string const& declaredEncoding) {
+    std::string const message = std::string("not well-formed XML: ") + XML_ErrorString(code);
+    if (code == XML_ERROR_UNKNOWN_ENCODING) {
+        return message + " '" + declaredEncoding.substr(0, 100) + "'; known are " + KnownEncodings();
+    }
+    if (code == XML_ERROR_MISPLACED_XML_PI) {
+        return message + "; remove what stands before the declaration";
+    }
+    return message;
+}
+
 bool StartsWithFolded(std::string_view text, std::string_view start) {
     return text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), [](char a, char b) {
                return (b >= 'a' && b <= 'z' ? b - 'a' + 'A' : b) == a;
@@ -83,10 +97,10 @@ bool StartsWithFolded(std::string_view text, std::string_view start) {
 
 } // namespace
 
-VXmlParser::VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const* encoding)
+VXmlParser::VXmlParser(IXmlHandler& handler, VReadLimits const& limits, char const* encoding)
     : m_state(std::make_unique<VState>()) {
     m_state->handler = &handler;
-    m_state->maxDepth = maxDepth;
+    m_state->limits = limits;
     m_state->isEncodingGiven = encoding != nullptr;
     m_state->parser = XML_ParserCreate(encoding);
     if (m_state->parser == nullptr) {
@@ -115,11 +129,9 @@ VXmlParser::VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const*
         parser,
         [](void* self, char const* name, char const** attributes) {
             guarded(self, [&](VXmlParser& xml, VState& state) {
-                if (++state.depth > state.maxDepth) {
-                    xml.Refuse("too-deep", "elements are nested deeper than " + std::to_string(state.maxDepth));
-                    return;
+                if (xml.IsStartWithinLimits(name, attributes)) {
+                    state.handler->Start(name, VAttributes(attributes));
                 }
-                state.handler->Start(name, VAttributes(attributes));
             });
         },
         [](void* self, char const* name) {
@@ -134,7 +146,16 @@ VXmlParser::VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const*
         });
     });
     XML_SetProcessingInstructionHandler(parser, [](void* self, char const* name, char const* content) {
-        guarded(self, [&](VXmlParser&, VState& state) { state.handler->Instruction(name, content); });
+        guarded(self, [&](VXmlParser& xml, VState& state) {
+            if (xml.IsTagWithinLimit(static_cast<std::uint64_t>(XML_GetCurrentByteCount(state.parser)))) {
+                state.handler->Instruction(name, content);
+            }
+        });
+    });
+    XML_SetCommentHandler(parser, [](void* self, char const*) {
+        guarded(self, [](VXmlParser& xml, VState& state) {
+            xml.IsTagWithinLimit(static_cast<std::uint64_t>(XML_GetCurrentByteCount(state.parser)));
+        });
     });
     XML_SetStartDoctypeDeclHandler(parser, [](void* self, char const*, char const*, char const*, int) {
         guarded(self, [&](VXmlParser& xml, VState&) {
@@ -200,22 +221,77 @@ bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
             std::rethrow_exception(m_state->thrown);
         }
         if (status != XML_STATUS_OK) {
-            if (!m_state->isRefused) {
-                XML_Error const code = XML_GetErrorCode(parser);
-                if (code == XML_ERROR_NO_MEMORY) {
-                    throw std::bad_alloc();
-                }
-                m_state->error.position = GetPosition();
-                m_state->error.code = "not-xml";
-                m_state->error.message = std::string("not well-formed XML: ") + XML_ErrorString(code);
-                m_state->error.isEncoding = code == XML_ERROR_INVALID_TOKEN || code == XML_ERROR_INCORRECT_ENCODING ||
-                                            code == XML_ERROR_UNKNOWN_ENCODING || code == XML_ERROR_PARTIAL_CHAR;
-            }
+            return Fail();
+        }
+        m_state->taken += length;
+        if (!isLastPiece && !AreLeftBytesWithinLimit()) {
             return false;
         }
         bytes.remove_prefix(length);
     } while (!bytes.empty());
     return true;
+}
+
+/// Notes what expat stopped at, where the handler has not refused already.
+bool VXmlParser::Fail() {
+    if (m_state->isRefused) {
+        return false;
+    }
+    XML_Error const code = XML_GetErrorCode(m_state->parser);
+    if (code == XML_ERROR_NO_MEMORY) {
+        throw std::bad_alloc();
+    }
+    bool const isEncoding = code == XML_ERROR_INVALID_TOKEN || code == XML_ERROR_INCORRECT_ENCODING ||
+                            code == XML_ERROR_UNKNOWN_ENCODING || code == XML_ERROR_PARTIAL_CHAR;
+    m_state->error = {GetPosition(), "not-xml", MessageOf(code, m_state->declaredEncoding), isEncoding};
+    return false;
+}
+
+bool VXmlParser::IsStartWithinLimits(std::string_view name, char const* const* attributes) {
+    VState& state = *m_state;
+    if (++state.depth > state.limits.maxDepth) {
+        Refuse("too-deep", OverLimit("elements are nested deeper than", state.limits.maxDepth, "", "--max-depth"));
+        return false;
+    }
+    if (++state.elements > state.limits.maxElements) {
+        Refuse("too-many",
+               OverLimit("the document has more elements than", state.limits.maxElements, "", "--max-elements"));
+        return false;
+    }
+    std::uint64_t count = 0;
+    while (attributes[2 * count] != nullptr) {
+        ++count;
+    }
+    if (count > state.limits.maxAttributes) {
+        Refuse("too-many", OverLimit("'" + std::string(name.substr(0, 100)) + "' has more attributes than",
+                                     state.limits.maxAttributes, "", "--max-attributes"));
+        return false;
+    }
+    return IsTagWithinLimit(static_cast<std::uint64_t>(XML_GetCurrentByteCount(state.parser)));
+}
+
+bool VXmlParser::IsTagWithinLimit(std::uint64_t size) {
+    std::uint64_t const limit = m_state->limits.maxTagSize;
+    if (size > limit) {
+        Refuse("too-large",
+               OverLimit("a tag, comment or processing instruction is longer than", limit, " bytes", "--max-tag-size"));
+    }
+    return size <= limit;
+}
+
+/// What expat has taken and not reported yet belongs to one tag, or follows one: while it waits for the end of a tag it
+/// looks again only when what it holds has doubled.
+bool VXmlParser::AreLeftBytesWithinLimit() {
+    XML_Index const reached = XML_GetCurrentByteIndex(m_state->parser);
+    std::uint64_t const left = m_state->taken - static_cast<std::uint64_t>(std::max<XML_Index>(reached, 0));
+    return left / 2 <= m_state->limits.maxTagSize || IsTagWithinLimit(left);
+}
+
+void VXmlParser::LimitText(std::uint64_t size) {
+    std::uint64_t const limit = m_state->limits.maxTextSize;
+    if (size > limit) {
+        Refuse("too-large", OverLimit("a text is longer than", limit, " bytes", "--max-text-size"));
+    }
 }
 
 VXmlError const& VXmlParser::GetError() const { return m_state->error; }
@@ -237,6 +313,9 @@ std::string VXmlParser::GetContradictedEncoding() const {
 char const* VXmlParser::GetMarkedEncoding() const { return m_state->markedEncoding; }
 
 void VXmlParser::Refuse(std::string code, std::string message) {
+    if (m_state->isRefused) {
+        return;
+    }
     m_state->isRefused = true;
     m_state->error = {GetPosition(), std::move(code), std::move(message), false};
     XML_StopParser(m_state->parser, XML_FALSE);

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include <diagkit/reader/Attributes.h>
+#include <diagkit/reader/Limits.h>
 
 namespace NReader {
 
@@ -43,7 +44,7 @@ struct VXmlError {
 class VXmlParser {
 public:
     /// `encoding` overrides what the document says; null leaves it to the document.
-    VXmlParser(IXmlHandler& handler, std::uint32_t maxDepth, char const* encoding);
+    VXmlParser(IXmlHandler& handler, VReadLimits const& limits, char const* encoding);
     ~VXmlParser();
     VXmlParser(VXmlParser const&) = delete;
     VXmlParser& operator=(VXmlParser const&) = delete;
@@ -62,9 +63,16 @@ public:
     /// Ends parsing from within the handler with an error at the current position.
     void Refuse(std::string code, std::string message);
 
+    /// Refuses when a text that the handler keeps has grown beyond its limit.
+    void LimitText(std::uint64_t size);
+
 private:
     std::string_view Begin(std::string_view head);
     bool Parse(std::string_view bytes, bool isLast);
+    bool IsStartWithinLimits(std::string_view name, char const* const* attributes);
+    bool IsTagWithinLimit(std::uint64_t size);
+    bool AreLeftBytesWithinLimit();
+    bool Fail();
 
     struct VState;
     std::unique_ptr<VState> m_state;

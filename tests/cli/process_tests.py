@@ -54,8 +54,27 @@ class HelpAndVersion(unittest.TestCase):
         for command in ("info", "layers", "view", "traverse", "check"):
             done = run(command, "--help")
             self.assertEqual((done.returncode, done.stderr), (0, ""))
-            for option in ("--json", "--strict", "--quiet", "--help", "--version", "--max-member-size"):
+            for option in ("--json", "--strict", "--quiet", "--help", "--version"):
                 self.assertIn(option, done.stdout)
+
+    def test_help_of_a_command_tells_the_limits_with_their_defaults(self):
+        limits = (
+            ("file-size", "SIZE", "4G"),
+            ("members", "N", "100000"),
+            ("member-size", "SIZE", "1G"),
+            ("package-size", "SIZE", "4G"),
+            ("ratio", "N", "500"),
+            ("elements", "N", "50000000"),
+            ("depth", "N", "1000"),
+            ("attributes", "N", "1000"),
+            ("tag-size", "SIZE", "8M"),
+            ("text-size", "SIZE", "256M"),
+        )
+        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "check"):
+            text = run(command, "--help").stdout
+            for name, kind, default in limits:
+                self.assertRegex(text, rf"(?m)^  --max-{name} {kind}(={default}| \[{default}\]) ")
+        self.assertNotIn("--max-file-size", run("enums", "--help").stdout)
 
     def test_help_says_which_selection_belongs_to_which_kind(self):
         kinds = {
@@ -452,13 +471,15 @@ class Packages(unittest.TestCase):
         self.pack(large="<ODX>" + " " * 100000 + "</ODX>")
         done = run("layers", "--json", "--max-member-size", "64K", self.package)
         self.assertEqual((done.returncode, len(json.loads(done.stdout)["layers"])), (0, 3))
-        self.assertRegex(done.stderr, r"!large\.odx-d: error: ")
+        self.assertRegex(done.stderr, r"!large\.odx-d: error: .* 65536 bytes; --max-member-size allows more \[too-large\]\n\Z")
 
     def test_what_is_over_the_limit_for_packages_is_an_error(self):
         self.pack()
         done = run("layers", "--json", "--strict", "--max-package-size", "1K", self.package)
         self.assertEqual((done.returncode, done.stdout), (3, ""))
-        self.assertIn(": error: ", done.stderr)
+        self.assertRegex(
+            done.stderr, r"\A.*Doors\.pdx: error: .* 1024 bytes; --max-package-size allows more \[too-large\]\n\Z"
+        )
 
 
 if __name__ == "__main__":

@@ -270,9 +270,9 @@ TEST_F(VBadInputTest, SizeOfAMemberIsLimited) {
     m_options.maxMemberSize = large.size() - 1;
     ReadFiles({path});
     EXPECT_EQ(Names(), L"A C");
-    EXPECT_EQ(Diagnostics(), "a.pdx!b.odx-d:0:0 error unreadable");
-    EXPECT_EQ(Message(0),
-              "cannot be read: the member unpacks to more than " + std::to_string(large.size() - 1) + " bytes");
+    EXPECT_EQ(Diagnostics(), "a.pdx!b.odx-d:0:0 error too-large");
+    EXPECT_EQ(Message(0), "the member unpacks to more than " + std::to_string(large.size() - 1) +
+                              " bytes; --max-member-size allows more");
 }
 
 TEST_F(VBadInputTest, SizeOfAPackageIsLimited) {
@@ -285,8 +285,9 @@ TEST_F(VBadInputTest, SizeOfAPackageIsLimited) {
     m_options.maxPackageSize = 3 * size - 1;
     ReadFiles({path});
     EXPECT_EQ(m_result.database, nullptr);
-    EXPECT_EQ(Diagnostics(), "a.pdx!c.odx-d:0:0 error unreadable\na.pdx:0:0 error too-large");
-    EXPECT_EQ(Message(1), "the package unpacks to more than " + std::to_string(3 * size - 1) + " bytes");
+    EXPECT_EQ(Diagnostics(), "a.pdx:0:0 error too-large"); // and nothing of the member at which it shows
+    EXPECT_EQ(Message(0), "the package unpacks to more than " + std::to_string(3 * size - 1) +
+                              " bytes; --max-package-size allows more");
 }
 
 TEST_F(VBadInputTest, MemberThatIsReadAgainInAnotherEncodingCountsOnceAgainstTheLimit) {
@@ -309,8 +310,8 @@ TEST_F(VBadInputTest, SizeInTheHeaderIsNotBelieved) {
     m_options.maxMemberSize = 5000;
     ReadFiles({Path("a.pdx")});
     EXPECT_EQ(Names(), L"B");
-    EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:0:0 error unreadable");
-    EXPECT_EQ(Message(0), "cannot be read: the member unpacks to more than 5000 bytes");
+    EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:0:0 error too-large");
+    EXPECT_EQ(Message(0), "the member unpacks to more than 5000 bytes; --max-member-size allows more");
 }
 
 TEST_F(VBadInputTest, ProgressGrowsAndNeverPassesTheWhole) {
