@@ -130,6 +130,7 @@ void CheckAmbiguousNames(VChecked const& checked, VFindings& findings) {
     static constexpr VInherited<NODX201::VGlobalNegResponse> kResponses{"GLOBAL-NEG-RESPONSE", &GlobalNegResponsesIn, &OwnGlobalNegResponses, &NoExclusions};
     // clang-format on
     for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
+        checked.layerDone();
         std::vector<std::vector<VParent>> const ranks = ParentsByRank(*layer);
         if (!HasEqualParents(ranks)) {
             continue;

@@ -16,6 +16,30 @@ constexpr void (*kTopics[])(VChecked const& checked, VFindings& findings) = {
     &CheckShortNames, &CheckDocrefs, &CheckExclusions, &CheckAmbiguousNames, &CheckShortNameReferences, &CheckCycles,
 };
 
+/// How far a check is: a step for each layer of each topic.
+class VSteps {
+public:
+    VSteps(std::size_t layers, std::function<void(std::uint64_t done, std::uint64_t all)> const& progress)
+        : m_layers(layers + 1), m_progress(progress) {}
+
+    void LayerDone() { Tell(m_done + 1); }
+
+    void TopicDone() { Tell(++m_topics * m_layers); }
+
+private:
+    void Tell(std::uint64_t done) {
+        m_done = std::min(done, (m_topics + 1) * m_layers);
+        if (m_progress) {
+            m_progress(m_done, std::size(kTopics) * m_layers);
+        }
+    }
+
+    std::uint64_t m_layers;
+    std::function<void(std::uint64_t done, std::uint64_t all)> const& m_progress;
+    std::uint64_t m_done = 0;
+    std::uint64_t m_topics = 0;
+};
+
 /// The files by name, in the order in which they were read.
 std::unordered_map<std::string, std::uint32_t> FileOrder(NMemory::VDatabase const& database) {
     std::unordered_map<std::string, std::uint32_t> order;
@@ -27,16 +51,21 @@ std::unordered_map<std::string, std::uint32_t> FileOrder(NMemory::VDatabase cons
 
 } // namespace
 
-std::vector<NReader::VDiagnostic> CheckDatabase(NReader::VReadResult& result) {
+std::vector<NReader::VDiagnostic>
+CheckDatabase(NReader::VReadResult& result,
+              std::function<void(std::uint64_t done, std::uint64_t all)> const& progress) {
     std::vector<NReader::VDiagnostic> diagnostics = result.diagnostics;
     if (result.database == nullptr) {
         return diagnostics;
     }
     NMemory::VDatabase& database = *result.database;
     VFindings findings;
+    VSteps steps(LayersOf(database).size(), progress);
+    std::function<void()> const layerDone = [&steps] { steps.LayerDone(); };
     for (auto const topic : kTopics) {
-        topic({database, result.elements}, findings);
+        topic({database, result.elements, layerDone}, findings);
         database.StartNewResolver(); // the views of all layers are more than most programs want to hold
+        steps.TopicDone();
     }
     for (VFinding& finding : findings) {
         diagnostics.push_back({database.GetDocumentName(finding.position), finding.position.line,

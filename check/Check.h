@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <vector>
 
 #include <diagkit/reader/OdxReader.h>
@@ -19,7 +21,10 @@ namespace NCheck {
 /// Wants a result whose elements were kept, and nothing removed since; without a database it gives the reader's
 /// diagnostics alone. They come in the order of the files, by position within each, and are the same on every run;
 /// `Codes()` tells their codes. Layers are looked at one by one and their views dropped again; the database's resolver
-/// is started afresh.
-std::vector<NReader::VDiagnostic> CheckDatabase(NReader::VReadResult& result);
+/// is started afresh. `progress` is called now and then with the steps done so far and those to do in all, which say
+/// little but their ratio; it may be empty.
+std::vector<NReader::VDiagnostic>
+CheckDatabase(NReader::VReadResult& result,
+              std::function<void(std::uint64_t done, std::uint64_t all)> const& progress = {});
 
 } // namespace NCheck

@@ -52,6 +52,7 @@ void CheckExclusions(VChecked const& checked, VFindings& findings) {
                 CheckVariables(parent, findings);
             }
         }
+        checked.layerDone();
     }
 }
 

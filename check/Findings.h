@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,10 +20,11 @@ struct VFinding {
 };
 using VFindings = std::vector<VFinding>;
 
-/// What the topics look at.
+/// What the topics look at, and whom they tell how far they are.
 struct VChecked {
     NMemory::VDatabase& database;
     std::vector<NODX201::VOdxElement*> const& elements; ///< all, in document order
+    std::function<void()> const& layerDone;             ///< called by topics that take layers one by one
 };
 
 NMemory::VPosition PositionOf(NODX201::VOdxElement const& element);

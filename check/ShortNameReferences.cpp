@@ -107,6 +107,7 @@ public:
         }
         for (NODX201::VDiagLayer* const layer : LayersOf(m_checked.database)) {
             TryIn(*layer);
+            m_checked.layerDone();
         }
         for (VPending const& pending : m_pending) {
             Report(pending, findings);

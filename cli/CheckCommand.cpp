@@ -6,6 +6,8 @@
 #include <diagkit/check/Check.h>
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/Load.h>
+#include <diagkit/cli/Platform.h>
+#include <diagkit/cli/ProgressBar.h>
 #include <diagkit/cli/Sarif.h>
 #include <diagkit/cli/Text.h>
 
@@ -46,6 +48,14 @@ void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
     output.Write(fmt::format("{}, {}\n", Counted(errors, "error"), Counted(diagnostics.size() - errors, "warning")));
 }
 
+VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
+    VProgressBar bar;
+    if (arguments.isQuiet || !IsTerminal(stderr)) {
+        return NCheck::CheckDatabase(result);
+    }
+    return NCheck::CheckDatabase(result, [&bar](std::uint64_t done, std::uint64_t all) { bar.Show(done, all); });
+}
+
 } // namespace
 
 void DeclareCheck(CLI::App& command, VArguments& arguments) {
@@ -65,7 +75,7 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output) {
     if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
         return status;
     }
-    VDiagnostics const diagnostics = NCheck::CheckDatabase(result);
+    VDiagnostics const diagnostics = Check(arguments, result);
     if (arguments.format == "sarif") {
         output.WriteJson(SarifOf(diagnostics));
     } else if (isJson) {

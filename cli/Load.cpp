@@ -40,7 +40,9 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
         return VStatus::Done;
     }
     if (!arguments.isQuiet) {
-        output.Complain(fmt::format("{}, which --strict does not pass", Counted(errors, "error")));
+        // One of many databases is named; a single one is the call itself.
+        std::string const file = arguments.isEach ? Shown(arguments.files.front()) + ": " : "";
+        output.Complain(fmt::format("{}{}, which --strict does not pass", file, Counted(errors, "error")));
     }
     return VStatus::Unreadable;
 }

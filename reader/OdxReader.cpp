@@ -32,7 +32,7 @@ using VBytes = std::function<bool(std::function<bool(std::string_view bytes)> co
 /// What one try at a document came to.
 struct VTry {
     bool isRead = false;
-    bool isEncoding = false; ///< another encoding may help
+    std::string doubt{}; ///< when another encoding may help: why
     VFailure failure;
 };
 
@@ -268,7 +268,7 @@ VTry VSession::TryDocument(std::uint32_t document, VBytes const& bytes, char con
     if (!isParsed || !parser.Feed({}, true)) {
         VXmlError const& problem = parser.GetError();
         result.failure = {problem.position, problem.code, problem.message};
-        result.isEncoding = problem.isEncoding && !isRepaired;
+        result.doubt = isRepaired ? "" : problem.doubt;
         return result;
     }
     if (std::string const declared = parser.GetContradictedEncoding(); !declared.empty()) {
@@ -288,16 +288,13 @@ bool VSession::ReadDocument(std::string const& name, VBytes const& bytes) {
         return true;
     }
     VFailure failure = first.failure;
-    if (first.isEncoding) {
+    if (!first.doubt.empty()) {
         // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
-        for (char const* const encoding : {"UTF-8", "UTF-16", "windows-1252"}) {
+        for (char const* const encoding : {"UTF-16", "UTF-8", "windows-1252"}) {
             VTry const next = TryDocument(document, bytes, encoding, true);
             if (next.isRead) {
                 m_reading.findings.Add({document, first.failure.position.line, first.failure.position.column},
-                                       VSeverity::Warning, "encoding",
-                                       "the bytes are not in the encoding that the document declares (UTF-8 where it "
-                                       "declares none); read as " +
-                                           std::string(encoding));
+                                       VSeverity::Warning, "encoding", first.doubt + "; read as " + encoding);
                 return true;
             }
             if (next.failure.code != "not-xml") { // it is the encoding, and something else is wrong

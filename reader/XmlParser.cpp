@@ -32,6 +32,16 @@ struct VXmlParser::VState {
 
 namespace {
 
+/// A byte order mark.
+struct VMark {
+    std::string_view bytes;
+    char const* name;     // for messages
+    char const* encoding; // for expat
+};
+
+constexpr VMark kMarks[] = {
+    {"\xEF\xBB\xBF", "UTF-8", "UTF-8"}, {"\xFE\xFF", "UTF-16", "UTF-16BE"}, {"\xFF\xFE", "UTF-16", "UTF-16LE"}};
+
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kDeclaration = "<?xml";
 constexpr std::size_t kLongestHead = 64 * 1024; // what goes on beyond it is the parser's to judge
@@ -79,14 +89,24 @@ VXmlPosition ExtentOf(std::string_view text) {
 
 /// What is wrong, with what helps where expat's own words do not.
 std::string MessageOf(XML_Error code, std::string const& declaredEncoding) {
-    std::string const message = std::string("not well-formed XML: ") + XML_ErrorString(code);
     if (code == XML_ERROR_UNKNOWN_ENCODING) {
-        return message + " '" + declaredEncoding.substr(0, 100) + "'; known are " + KnownEncodings();
+        return "the encoding '" + declaredEncoding.substr(0, 100) + "' is unknown; known are " + KnownEncodings();
     }
-    if (code == XML_ERROR_MISPLACED_XML_PI) {
-        return message + "; remove what stands before the declaration";
+    std::string const message = XML_ErrorString(code);
+    return code == XML_ERROR_MISPLACED_XML_PI ? message + "; remove what stands before the declaration" : message;
+}
+
+std::string DoubtOf(XML_Error code, std::string const& message) {
+    switch (code) {
+    case XML_ERROR_UNKNOWN_ENCODING:
+        return message;
+    case XML_ERROR_INVALID_TOKEN:
+    case XML_ERROR_INCORRECT_ENCODING:
+    case XML_ERROR_PARTIAL_CHAR:
+        return "the bytes are not in the encoding that the document declares (UTF-8 where it declares none)";
+    default:
+        return {};
     }
-    return message;
 }
 
 bool StartsWithFolded(std::string_view text, std::string_view start) {
@@ -193,14 +213,15 @@ bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
 /// comments before an XML declaration, which expat does not take.
 std::string_view VXmlParser::Begin(std::string_view head) {
     VState& state = *m_state;
-    if (StartsWith(head, "\xEF\xBB\xBF")) {
-        state.markedEncoding = "UTF-8";
-        head.remove_prefix(3);
-    } else if (StartsWith(head, "\xFE\xFF") || StartsWith(head, "\xFF\xFE")) {
-        state.markedEncoding = "UTF-16";
-    }
-    if (*state.markedEncoding != '\0' && !state.isEncodingGiven) {
-        XML_SetEncoding(state.parser, state.markedEncoding);
+    for (VMark const& mark : kMarks) {
+        if (!StartsWith(head, mark.bytes)) {
+            continue;
+        }
+        state.markedEncoding = mark.name;
+        head.remove_prefix(mark.bytes.size());
+        if (!state.isEncodingGiven) {
+            XML_SetEncoding(state.parser, mark.encoding);
+        }
     }
     std::size_t const start = StartOfMarkup(head);
     if (start > 0 && IsDeclaration(head.substr(start))) {
@@ -241,9 +262,8 @@ bool VXmlParser::Fail() {
     if (code == XML_ERROR_NO_MEMORY) {
         throw std::bad_alloc();
     }
-    bool const isEncoding = code == XML_ERROR_INVALID_TOKEN || code == XML_ERROR_INCORRECT_ENCODING ||
-                            code == XML_ERROR_UNKNOWN_ENCODING || code == XML_ERROR_PARTIAL_CHAR;
-    m_state->error = {GetPosition(), "not-xml", MessageOf(code, m_state->declaredEncoding), isEncoding};
+    std::string const message = MessageOf(code, m_state->declaredEncoding);
+    m_state->error = {GetPosition(), "not-xml", std::string("not well-formed XML: ") + message, DoubtOf(code, message)};
     return false;
 }
 
@@ -317,7 +337,7 @@ void VXmlParser::Refuse(std::string code, std::string message) {
         return;
     }
     m_state->isRefused = true;
-    m_state->error = {GetPosition(), std::move(code), std::move(message), false};
+    m_state->error = {GetPosition(), std::move(code), std::move(message), {}};
     XML_StopParser(m_state->parser, XML_FALSE);
 }
 

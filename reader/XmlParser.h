@@ -36,7 +36,7 @@ struct VXmlError {
     VXmlPosition position;
     std::string code;
     std::string message;
-    bool isEncoding = false; ///< the bytes are not what the document's encoding says: another one may fit
+    std::string doubt{}; ///< when another encoding may fit: what is wrong with the one that the document says
 };
 
 /// A streaming parser for one document: strict about well-formedness, without document type declarations (ODX has

@@ -11,6 +11,7 @@ import math
 import os
 import pathlib
 import re
+import signal
 import subprocess
 import sys
 import tempfile
@@ -185,26 +186,72 @@ class Enumerations(unittest.TestCase):
 
 
 class Writing(unittest.TestCase):
+    # Every command that answers, in every format.
+    CALLS = (
+        ["--version"],
+        ["layers", "--help"],
+        ["info", "gates.odx-d"],
+        ["layers", "gates.odx-d"],
+        ["view", "diag-comms", "gates.odx-d", "--layer", "Door"],
+        ["resolve", "dop", "Volt", "signals.odx-d", "--layer", "LampLeft"],
+        ["traverse", "gates.odx-d", "--layer", "Door"],
+        ["oem", "gates.odx-d"],
+        ["oem", "--each", "gates.odx-d"],
+        ["enums"],
+        ["enums", "Radix"],
+        ["check", "gates.odx-d"],
+        ["check", "gates.odx-d", "--format", "json"],
+        ["check", "gates.odx-d", "--format", "sarif"],
+    )
+
+    def answering_calls(self):
+        """The calls with an answer, and those as JSON; --quiet, which must not silence what is wrong with writing."""
+        for call in self.CALLS:
+            if call[-1].startswith("--"):
+                yield call
+                continue
+            yield [*call, "--quiet"]
+            if "--format" not in call:
+                yield [*call, "--json", "--quiet"]
+
     @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
     def test_full_disk_is_status_3_with_a_message(self):
-        calls = (
-            ["--version"],
-            ["layers", "--help"],
-            ["layers", "gates.odx-d"],
-            ["info", "--json", "--quiet", "gates.odx-d"],
-            ["view", "diag-comms", "gates.odx-d", "--layer", "Door"],
-            ["traverse", "--json", "gates.odx-d", "--layer", "Door"],
-        )
-        for arguments in calls:
+        for arguments in self.answering_calls():
             with self.subTest(arguments), open("/dev/full", "w", encoding="utf-8") as full:
+                self.assertNotEqual(run(*arguments).stdout, "")
                 done = run(*arguments, stdout=full)
                 self.assertEqual(done.returncode, 3)
                 self.assertRegex(done.stderr, r"\Adiagkit: standard output: .+\n\Z")
 
     @unittest.skipUnless(IS_POSIX, "needs a stream that can be closed")
-    def test_closed_standard_output_is_status_3(self):
-        done = run("layers", "gates.odx-d", preexec_fn=lambda: os.close(1))
-        self.assertEqual(done.returncode, 3)
+    def test_closed_standard_output_is_status_3_with_a_message(self):
+        for arguments in self.answering_calls():
+            with self.subTest(arguments):
+                done = run(*arguments, preexec_fn=lambda: os.close(1))
+                self.assertEqual(done.returncode, 3)
+                self.assertRegex(done.stderr, r"\Adiagkit: standard output: .+\n\Z")
+
+    @unittest.skipUnless(IS_POSIX, "needs pipes whose reader is gone")
+    def test_a_reader_that_is_gone_ends_the_call(self):
+        for keeps_signal in (True, False):
+            outer, inner = os.pipe()
+            os.close(outer)
+            done = run("traverse", "--json", "gates.odx-d", "--layer", "Door", stdout=inner, restore_signals=keeps_signal)
+            os.close(inner)
+            if keeps_signal:  # as of every program in a pipeline
+                self.assertEqual((done.returncode, done.stderr), (-signal.SIGPIPE, ""))
+            else:  # where the signal is ignored, as the interpreter of these tests does
+                self.assertEqual(done.returncode, 3)
+                self.assertRegex(done.stderr, r"\Adiagkit: standard output: .+\n\Z")
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_standard_error_that_cannot_be_written_changes_no_answer(self):
+        expected = run("layers", "--json", "doors.odx-d")
+        self.assertNotEqual(expected.stderr, "")
+        with open("/dev/full", "w", encoding="utf-8") as full:
+            done = subprocess.run([*PROGRAM, "layers", "--json", "doors.odx-d"], cwd=DATA, stdin=subprocess.DEVNULL,
+                                  stdout=subprocess.PIPE, stderr=full, encoding="utf-8")
+        self.assertEqual((done.returncode, done.stdout), (expected.returncode, expected.stdout))
 
     def test_a_pipe_gets_no_colour_and_no_progress(self):
         done = run("layers", "gates.odx-d")
@@ -305,6 +352,14 @@ class OemOfEach(unittest.TestCase):
         self.assertEqual([line.get("manufacturer") for line in lines], [None, "Psa", None, "Claas"])
         self.assertEqual(["error" in line for line in lines], [True, False, True, False])
 
+    def test_what_strict_does_not_pass_is_said_of_the_file(self):
+        done = run("oem", "--each", "--strict", "doors.odx-d", "gates.odx-d")
+        self.assertEqual(done.returncode, 3)
+        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not pass$")
+        self.assertNotIn("diagkit: gates.odx-d", done.stderr)
+        alone = run("oem", "--strict", "doors.odx-d")
+        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not pass$")
+
     def test_an_empty_folder_gives_nothing(self):
         with tempfile.TemporaryDirectory() as folder:
             done = run("oem", "--each", "--json", folder)
@@ -338,6 +393,32 @@ class Terminals(unittest.TestCase):
 
     def test_no_color_is_obeyed(self):
         self.assertNotIn("\x1b", self.run_on_terminal("layers", "gates.odx-d", NO_COLOR="1"))
+
+    def test_a_long_check_shows_how_far_it_is(self):
+        services = "".join(
+            f'<DIAG-SERVICE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME></DIAG-SERVICE>' for number in range(1000)
+        )
+        variants = "".join(
+            f'<ECU-VARIANT ID="V{number}"><SHORT-NAME>V{number}</SHORT-NAME><PARENT-REFS>'
+            '<PARENT-REF xsi:type="BASE-VARIANT-REF" ID-REF="B"/></PARENT-REFS></ECU-VARIANT>'
+            for number in range(1500)
+        )
+        document = (
+            '<ODX MODEL-VERSION="2.2.0" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">'
+            '<DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><BASE-VARIANTS><BASE-VARIANT ID="B">'
+            f"<SHORT-NAME>B</SHORT-NAME><DIAG-COMMS>{services}</DIAG-COMMS>"
+            "<DIAG-VARIABLES><DIAG-VARIABLE ID='W'><SHORT-NAME>W</SHORT-NAME><COMM-RELATIONS><COMM-RELATION>"
+            "<RELATION-TYPE>r</RELATION-TYPE><DIAG-COMM-SNREF SHORT-NAME='S1'/></COMM-RELATION></COMM-RELATIONS>"
+            "</DIAG-VARIABLE></DIAG-VARIABLES></BASE-VARIANT></BASE-VARIANTS>"
+            f"<ECU-VARIANTS>{variants}</ECU-VARIANTS></DIAG-LAYER-CONTAINER></ODX>"
+        )
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "long.odx-d"
+            path.write_text(document, encoding="utf-8")
+            bar = r"\r\x1b\[K\[#* *\] +\d+ %"
+            answer = r"\r\x1b\[K0 errors, 0 warnings\r\n\Z"
+            self.assertRegex(self.run_on_terminal("check", path), f"(?s)\\A({bar})+.*{answer}")
+            self.assertNotIn("%", self.run_on_terminal("check", path, "--quiet"))
 
     def test_json_has_no_colour(self):
         answer = self.run_on_terminal("layers", "--json", "gates.odx-d")

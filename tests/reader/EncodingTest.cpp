@@ -144,5 +144,84 @@ TEST_F(VEncodingTest, CommentsMayStandBeforeTheRoot) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
+TEST_F(VEncodingTest, Utf16WithoutAByteOrderMarkIsToldByItsFirstBytes) {
+    for (char const* const encoding : {"UTF-16", "utf-16"}) {
+        std::string const declaration = std::string("<?xml version=\"1.0\" encoding=\"") + encoding + "\"?>";
+        EXPECT_EQ(NameIn(Utf16(With(declaration, "Door"), false)), L"Door");
+        EXPECT_EQ(Diagnostics(), "");
+        EXPECT_EQ(NameIn(Utf16(With(declaration, "Door"), true)), L"Door");
+        EXPECT_EQ(Diagnostics(), "");
+    }
+    EXPECT_EQ(NameIn(Utf16(With(R"(<?xml version="1.0" encoding="UTF-16LE"?>)", "Door"), false)), L"Door");
+    EXPECT_EQ(NameIn(Utf16(With(R"(<?xml version="1.0" encoding="UTF-16BE"?>)", "Door"), true)), L"Door");
+    EXPECT_EQ(NameIn("\xFF\xFE" + Utf16(With(R"(<?xml version="1.0" encoding="UTF-16LE"?>)", "Door"), false)), L"Door");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VEncodingTest, CharactersOfUtf16AreKept) {
+    std::string bytes = "\xFF\xFE" + Utf16(With(kUtf16, "@"), false);
+    bytes.replace(bytes.find("@"), 2, "\xFC\x00\x3D\xD8\x97\xDE", 6); // a letter, and a pair of surrogates
+    EXPECT_EQ(NameIn(bytes), L"\u00FC\U0001F697");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VEncodingTest, Utf16ThatIsCutInsideACharacterIsRefusedAtItsEnd) {
+    std::string bytes = "\xFF\xFE" + Utf16("<ODX MODEL-VERSION=\"2.0.1\">", false);
+    Read(bytes + "<");
+    EXPECT_EQ(m_result.database, nullptr);
+    EXPECT_EQ(Diagnostics(), "test.odx:1:28 error not-xml");
+}
+
+TEST_F(VEncodingTest, Latin9IsRead) {
+    EXPECT_EQ(NameIn(With(R"(<?xml version="1.0" encoding="iso-8859-15"?>)", "\xA4\xFC")), L"\u20AC\u00FC");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VEncodingTest, AsciiThatIsNoneIsReadAsWhatItMayBeAndReportedWhereItShows) {
+    std::string const declaration = "<?xml version=\"1.0\" encoding=\"US-ASCII\"?>\n";
+    EXPECT_EQ(NameIn(With(declaration, "T\xFCr")), L"T\u00FCr");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
+    EXPECT_NE(Message(0).find("read as windows-1252"), std::string::npos) << Message(0);
+    EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr")), L"T\u00FCr");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
+    EXPECT_NE(Message(0).find("read as UTF-8"), std::string::npos) << Message(0);
+}
+
+TEST_F(VEncodingTest, DeclaredUtf8OfAUtf16FileIsIgnoredAndReported) {
+    for (bool const isBigEndian : {false, true}) {
+        EXPECT_EQ(NameIn(Utf16(With(kUtf8, "Door"), isBigEndian)), L"Door");
+        ASSERT_EQ(m_result.diagnostics.size(), 1U);
+        EXPECT_EQ(m_result.diagnostics[0].code, "encoding");
+        EXPECT_NE(Message(0).find("read as UTF-16"), std::string::npos) << Message(0);
+    }
+}
+
+TEST_F(VEncodingTest, UnknownEncodingIsReportedWithTheKnownOnes) {
+    std::string const known = "known are UTF-8, UTF-16, US-ASCII, ISO-8859-1, ISO-8859-15 and Windows-1252";
+    Read(With(R"(<?xml version="1.0" encoding="x-other"?>)", "Door"));
+    ASSERT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(Message(0), "the encoding 'x-other' is unknown; " + known + "; read as UTF-8");
+    Read("<?xml version=\"1.0\" encoding=\"x-other\"?>\n<ODX");
+    EXPECT_EQ(m_result.database, nullptr);
+    ASSERT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(Message(0), "not well-formed XML: the encoding 'x-other' is unknown; " + known);
+}
+
+TEST_F(VEncodingTest, WhatElseIsWrongInAFileOfAnotherEncodingIsReported) {
+    Read("<html>\xFC</html>");
+    EXPECT_EQ(m_result.database, nullptr);
+    EXPECT_EQ(Diagnostics(), "test.odx:1:1 error not-odx");
+}
+
+TEST_F(VEncodingTest, OtherThingsBeforeTheDeclarationAreRefusedWithWhatToDo) {
+    for (std::string const& document :
+         {"<?a b?>" + With(kUtf8, "Door"), "\xFF\xFE" + Utf16("<!---->" + With(kUtf16, "Door"), false)}) {
+        Read(document);
+        EXPECT_EQ(m_result.database, nullptr);
+        EXPECT_EQ(Diagnostics(), "test.odx:1:8 error not-xml");
+        EXPECT_NE(Message(0).find("remove what stands before the declaration"), std::string::npos) << Message(0);
+    }
+}
+
 } // namespace
 } // namespace NTest
