@@ -14,7 +14,8 @@ struct VPending {
     NODX201::VDiagLayer* latest = nullptr; ///< of the layers tried
     std::size_t tried = 0;
     std::size_t failed = 0;
-    std::vector<NODX201::VDiagLayer*> failedIn{}; ///< the first ones, to be named
+    std::vector<NODX201::VDiagLayer*> failedIn{};    ///< the first ones, to be named
+    NMemory::VMemMultipleEcuJobSpec* spec = nullptr; ///< that it stands in, and that does not have the name itself
 };
 
 /// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
@@ -51,6 +52,30 @@ std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& refere
     return layers;
 }
 
+template <class Element>
+Element* Around(NODX201::VLink const& reference) {
+    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
+        if (auto* const element = dynamic_cast<Element*>(object)) {
+            return element;
+        }
+    }
+    return nullptr;
+}
+
+/// The layers that the jobs of a MULTIPLE-ECU-JOB-SPEC run in; nothing when one of them is not loaded.
+std::optional<std::vector<NODX201::VDiagLayer*>> LayersOfJobs(NMemory::VMemMultipleEcuJobSpec& spec) {
+    std::vector<NODX201::VDiagLayer*> layers;
+    for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
+        for (NMemory::VMemDiagLayerLink& link : job.DiagLayerLinkCollection()) {
+            if (!link.HasDiagLayer()) {
+                return std::nullopt;
+            }
+            layers.push_back(&link.GetDiagLayer());
+        }
+    }
+    return layers;
+}
+
 struct VWanted {
     bool (*is)(NODX201::VLink& reference);
     char const* what;
@@ -61,9 +86,9 @@ bool Is(NODX201::VLink& reference) {
     return dynamic_cast<Link*>(&reference) != nullptr;
 }
 
-bool IsOutParam(NODX201::VLink& reference) {
-    // The PARAM-SNREF of an ENV-DATA-DESC is read in whatever message leads to it.
-    return Is<NODX201::VOutParamIfLink>(reference) && reference.GetOdxTag() != NMemory::Tag::ParamSnref;
+/// The PARAM-SNREF of an ENV-DATA-DESC, which is read in whatever message leads to it.
+bool IsOfEnvDataDesc(NODX201::VLink& reference) {
+    return dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner()) != nullptr;
 }
 
 /// The references that layers resolve, and what they want there.
@@ -72,7 +97,9 @@ constexpr VWanted kWanted[] = {
     {&Is<NODX201::VDataObjectPropLink>, "no DATA-OBJECT-PROP of that name is visible"},
     {&Is<NODX201::VDiagCommLink>, "no DIAG-COMM of that name is visible"},
     {&Is<NMemory::VMemProtocolSnref>, "there is no PROTOCOL of that name in the container nor among the parents"},
-    {&IsOutParam, "the DIAG-COMM has no output parameter of that name"},
+    {&Is<NODX201::VTableLink>, "there is no TABLE of that name among its own and its parents'"},
+    {&IsOfEnvDataDesc, "no DIAG-COMM or job that leads to it has an output parameter of that name"},
+    {&Is<NODX201::VOutParamIfLink>, "the DIAG-COMM has no output parameter of that name"},
     {&Is<NMemory::VMemInParamIfLink>, "the DIAG-COMM has no input parameter of that name"},
 };
 
@@ -132,7 +159,24 @@ private:
             }
             return;
         }
+        if (auto* const spec = Around<NMemory::VMemMultipleEcuJobSpec>(reference)) {
+            AddOfSpec(*spec, index);
+            return;
+        }
         for (NODX201::VDiagLayer* const layer : LayersOfConnector(reference)) {
+            m_at[layer].push_back(index);
+        }
+    }
+
+    /// What the dictionary of the job's document does not have, the layers in which its jobs run may.
+    void AddOfSpec(NMemory::VMemMultipleEcuJobSpec& spec, std::size_t index) {
+        NODX201::VLink& reference = *m_pending[index].reference;
+        auto const layers = LayersOfJobs(spec);
+        if (ResolvesInSpec(reference, spec).value_or(true) || !layers.has_value()) {
+            return;
+        }
+        m_pending[index].spec = &spec;
+        for (NODX201::VDiagLayer* const layer : *layers) {
             m_at[layer].push_back(index);
         }
     }
@@ -201,7 +245,7 @@ private:
     }
 
     static void Report(VPending const& pending, VFindings& findings) {
-        if (pending.failed == 0) {
+        if (pending.failed == 0 && (pending.spec == nullptr || pending.tried > 0)) {
             return;
         }
         bool const isNowhere = pending.failed == pending.tried;
@@ -209,10 +253,17 @@ private:
             return; // it says for which PROTOCOL something holds, and not every layer has that one
         }
         char const* const rest = isNowhere ? "" : "; it is in the other layers that see the reference";
-        findings.push_back({isNowhere ? "unresolved-short-name" : "short-name-not-everywhere",
-                            PositionOf(*pending.reference),
-                            Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' +
-                                InLayers(pending.failedIn, pending.failed) + rest});
+        findings.push_back(
+            {isNowhere ? "unresolved-short-name" : "short-name-not-everywhere", PositionOf(*pending.reference),
+             Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + PlacesOf(pending) + rest});
+    }
+
+    static std::string PlacesOf(VPending const& pending) {
+        std::string const layers = pending.failed > 0 ? InLayers(pending.failedIn, pending.failed) : "";
+        if (pending.spec == nullptr) {
+            return layers;
+        }
+        return "in the " + Titled(*pending.spec) + (layers.empty() ? "" : ", nor " + layers);
     }
 
     VChecked const& m_checked;
@@ -227,10 +278,7 @@ void ReportInFlash(NODX201::VLink& reference, NMemory::VMemFlash const& flash, c
 
 /// References that stand in flash data and name flash data.
 void CheckFlash(NODX201::VLink& reference, VFindings& findings) {
-    NMemory::VMemFlash* flash = nullptr;
-    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
-        flash = flash != nullptr ? flash : dynamic_cast<NMemory::VMemFlash*>(object);
-    }
+    auto* const flash = Around<NMemory::VMemFlash>(reference);
     auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
     if (flash == nullptr || snref == nullptr || *snref->GetShortName() == L'\0') {
         return;

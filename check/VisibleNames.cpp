@@ -2,9 +2,7 @@
 #include <diagkit/check/VisibleNames.h>
 
 #include <algorithm>
-#include <unordered_set>
 
-#include <diagkit/check/Containment.h>
 #include <diagkit/check/Parents.h>
 
 namespace NCheck {
@@ -31,11 +29,34 @@ void AddProtocols(NODX201::VDiagLayer& layer, std::vector<NODX201::VProtocol*>& 
     }
 }
 
-/// Looks for a VALUE parameter through everything that parameters contain, each element once.
+void AddTables(NODX201::VDiagLayer& layer, VNames& tables) {
+    if (layer.HasDiagDataDictionarySpec()) {
+        for (NODX201::VTable const& table : layer.GetDiagDataDictionarySpec().TableCollection()) {
+            tables.insert(table.GetShortName());
+        }
+    }
+    for (std::vector<VParent> const& rank : ParentsByRank(layer)) {
+        for (VParent const& parent : rank) {
+            AddTables(*parent.layer, tables);
+        }
+    }
+}
+
+/// Looks for a VALUE parameter through everything that parameters contain, each element once; without a name it sees
+/// everything.
 class VParamSearch {
 public:
     VParamSearch(std::wstring_view shortName, NReader::VShortNameTargets shortNameTargets)
         : m_shortName(shortName), m_shortNameTargets(std::move(shortNameTargets)) {}
+
+    /// The names seen are those of parameters that belong to the ENV-DATA-DESCs seen.
+    void AddTo(VNamesByElement& params) const {
+        for (NODX201::VReferencable const* const element : m_visited) {
+            if (dynamic_cast<NODX201::VEnvDataDesc const*>(element) != nullptr) {
+                params[element].insert(m_names.begin(), m_names.end());
+            }
+        }
+    }
 
     void See(NODX201::VParamCollection& params) {
         NoteNames(params);
@@ -53,7 +74,13 @@ public:
         }
     }
 
-    void See(wchar_t const* shortName) { m_isFound = m_isFound || m_shortName == shortName; }
+    void See(wchar_t const* shortName) {
+        if (m_shortName.empty()) {
+            m_names.insert(shortName);
+        } else {
+            m_isFound = m_isFound || m_shortName == shortName;
+        }
+    }
 
     bool Finish() {
         while (!m_isFound && !m_toVisit.empty()) {
@@ -89,6 +116,7 @@ private:
     NReader::VShortNameTargets m_shortNameTargets;
     std::vector<NODX201::VReferencable*> m_toVisit;
     std::unordered_set<NODX201::VReferencable*> m_visited;
+    VNames m_names;
     bool m_isFound = false;
 };
 
@@ -121,6 +149,24 @@ void SeeJobParams(VParamSearch& search, Params& params) {
     }
 }
 
+void SeeDiagComm(VParamSearch& search, NODX201::VDiagComm& diagComm, bool isInput) {
+    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
+        SeeService(search, *service, isInput);
+    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
+        if (isInput) {
+            SeeJobParams(search, job->InputParamCollection());
+        } else {
+            SeeJobParams(search, job->OutputParamCollection());
+        }
+    }
+}
+
+std::optional<bool> HasName(VNamesByElement const& names, NODX201::VReferencable const& element,
+                            std::wstring_view shortName) {
+    auto const found = names.find(&element);
+    return found != names.end() ? std::optional<bool>(found->second.count(shortName) != 0) : std::nullopt;
+}
+
 } // namespace
 
 VVisibleNames::VVisibleNames(NODX201::VDiagLayer& layer)
@@ -140,6 +186,12 @@ std::optional<bool> VVisibleNames::Resolves(NODX201::VLink& reference) {
     }
     if (dynamic_cast<NMemory::VMemProtocolSnref*>(&reference) != nullptr) {
         return HasProtocol(name);
+    }
+    if (dynamic_cast<NODX201::VTableLink*>(&reference) != nullptr) {
+        return HasTable(name);
+    }
+    if (auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner())) {
+        return HasParamFor(*envDataDesc, name);
     }
     NODX201::VDiagComm* const diagComm = DiagCommBeside(reference);
     if (diagComm == nullptr) {
@@ -168,6 +220,33 @@ bool VVisibleNames::HasProtocol(std::wstring_view shortName) {
     });
 }
 
+bool VVisibleNames::HasTable(std::wstring_view shortName) {
+    if (!m_tables.has_value()) {
+        AddTables(m_layer, m_tables.emplace());
+    }
+    return m_tables->count(shortName) != 0;
+}
+
+std::optional<bool> VVisibleNames::HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName) {
+    if (!m_params.has_value()) {
+        m_params.emplace();
+        for (NODX201::VDiagComm* const diagComm : m_diagComms) {
+            VParamSearch search({}, Targets());
+            SeeDiagComm(search, *diagComm, false);
+            search.Finish();
+            search.AddTo(*m_params);
+        }
+    }
+    return HasName(*m_params, envDataDesc, shortName);
+}
+
+NReader::VShortNameTargets VVisibleNames::Targets() const {
+    return [this](NMemory::VMemDopBaseLink& link) {
+        NODX201::VDopBase* const dop = FindDop(NameIn(link));
+        return dop != nullptr ? NReader::VReferencables{dop} : NReader::VReferencables{};
+    };
+}
+
 NODX201::VDiagComm* VVisibleNames::DiagCommBeside(NODX201::VLink& reference) const {
     NODX201::VOdxObject* const owner = reference.GetOwner();
     if (auto* const relation = dynamic_cast<NODX201::VCommRelation*>(owner)) {
@@ -188,20 +267,37 @@ NODX201::VDiagComm* VVisibleNames::TargetOf(NODX201::VDiagCommLink& link) const 
 }
 
 bool VVisibleNames::HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput) const {
-    VParamSearch search(shortName, [this](NMemory::VMemDopBaseLink& link) {
-        NODX201::VDopBase* const dop = FindDop(NameIn(link));
-        return dop != nullptr ? NReader::VReferencables{dop} : NReader::VReferencables{};
-    });
-    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
-        SeeService(search, *service, isInput);
-    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
-        if (isInput) {
-            SeeJobParams(search, job->InputParamCollection());
-        } else {
-            SeeJobParams(search, job->OutputParamCollection());
+    VParamSearch search(shortName, Targets());
+    SeeDiagComm(search, diagComm, isInput);
+    return search.Finish();
+}
+
+std::optional<bool> ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec) {
+    std::vector<NODX201::VDopBase*> dops;
+    if (spec.HasDiagDataDictionarySpec()) {
+        for (NODX201::VDopBase& dop : spec.GetDiagDataDictionarySpec().DopBaseCollection()) {
+            dops.push_back(&dop);
         }
     }
-    return search.Finish();
+    auto const byName = ByShortName(dops);
+    std::wstring_view const name = NameIn(reference);
+    auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner());
+    if (envDataDesc == nullptr) {
+        NODX201::VDopBase* const dop = Find(byName, name);
+        bool const isDataObjectProp = dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr;
+        return dop != nullptr && (!isDataObjectProp || dynamic_cast<NODX201::VDataObjectProp*>(dop) != nullptr);
+    }
+    VNamesByElement params;
+    for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
+        VParamSearch search({}, [&byName](NMemory::VMemDopBaseLink& link) {
+            NODX201::VDopBase* const dop = Find(byName, NameIn(link));
+            return dop != nullptr ? NReader::VReferencables{dop} : NReader::VReferencables{};
+        });
+        SeeJobParams(search, job.OutputParamCollection());
+        search.Finish();
+        search.AddTo(params);
+    }
+    return HasName(params, *envDataDesc, name);
 }
 
 } // namespace NCheck

@@ -4,12 +4,17 @@
 #include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
+#include <diagkit/check/Containment.h>
 #include <diagkit/check/Views.h>
 #include <diagkit/memory/Odx.h>
 
 namespace NCheck {
+
+using VNames = std::unordered_set<std::wstring_view>;
+using VNamesByElement = std::unordered_map<NODX201::VReferencable const*, VNames>;
 
 /// What short names mean in one layer. The views of the layer live as long as this object.
 class VVisibleNames {
@@ -17,7 +22,8 @@ public:
     explicit VVisibleNames(NODX201::VDiagLayer& layer);
 
     /// Whether a reference by short name, which stands in an element visible in the layer, names something. Nothing for
-    /// a reference to a parameter of a DIAG-COMM that is not there itself.
+    /// a reference to a parameter of a DIAG-COMM that is not there itself, and for the one of an ENV-DATA-DESC to which
+    /// no DIAG-COMM of the layer leads.
     std::optional<bool> Resolves(NODX201::VLink& reference);
 
     std::vector<NODX201::VDiagComm*> const& DiagComms() const { return m_diagComms; }
@@ -30,6 +36,9 @@ private:
     NODX201::VDopBase* FindDop(std::wstring_view shortName) const;
     NODX201::VDiagComm* FindDiagComm(std::wstring_view shortName) const;
     bool HasProtocol(std::wstring_view shortName);
+    bool HasTable(std::wstring_view shortName);
+    NReader::VShortNameTargets Targets() const;
+    std::optional<bool> HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName);
 
     /// The DIAG-COMM that stands beside a reference to one of its parameters; null when it does not resolve.
     NODX201::VDiagComm* DiagCommBeside(NODX201::VLink& reference) const;
@@ -41,7 +50,15 @@ private:
     std::vector<NODX201::VDopBase*> m_dops;
     VByName<NODX201::VDiagComm> m_diagCommsByName;
     VByName<NODX201::VDopBase> m_dopsByName;
-    std::vector<NODX201::VProtocol*> m_protocols; ///< filled when first asked for
+
+    // Filled when first asked for.
+    std::vector<NODX201::VProtocol*> m_protocols;
+    std::optional<VNames> m_tables;
+    std::optional<VNamesByElement> m_params; ///< of the DIAG-COMMs that lead to an ENV-DATA-DESC
 };
+
+/// Whether a reference by short name, which stands in a MULTIPLE-ECU-JOB-SPEC, names something in its dictionary, or a
+/// parameter of a job that leads to it. Nothing for a PARAM-SNREF of an ENV-DATA-DESC to which no job leads.
+std::optional<bool> ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec);
 
 } // namespace NCheck

@@ -269,16 +269,108 @@ TEST_F(VShortNameReferencesTest, OfFlashDataForLayersThatAreNotThereAreNoFinding
     EXPECT_EQ(m_result.diagnostics[0].code, "unresolved-reference");
 }
 
-TEST_F(VShortNameReferencesTest, ThatNoLayerAloneCanResolveAreLeftAlone) {
-    CheckLayer("<DYN-DEFINED-SPEC><DYN-ID-DEF-MODE-INFOS><DYN-ID-DEF-MODE-INFO><SELECTION-TABLE-REFS>"
-               "<SELECTION-TABLE-SNREF SHORT-NAME=\"X\"/></SELECTION-TABLE-REFS></DYN-ID-DEF-MODE-INFO>"
-               "</DYN-ID-DEF-MODE-INFOS></DYN-DEFINED-SPEC>");
+TEST_F(VShortNameReferencesTest, ToATable) {
+    auto const layers = [](std::string const& name) {
+        std::string const spec = "<DYN-DEFINED-SPEC><DYN-ID-DEF-MODE-INFOS><DYN-ID-DEF-MODE-INFO><SELECTION-TABLE-REFS>"
+                                 "\n<SELECTION-TABLE-SNREF SHORT-NAME=\"" +
+                                 name +
+                                 "\"/></SELECTION-TABLE-REFS></DYN-ID-DEF-MODE-INFO></DYN-ID-DEF-MODE-INFOS>"
+                                 "</DYN-DEFINED-SPEC>";
+        auto const tables = [](std::string const& id) {
+            return InDictionary("<TABLES>" + Xml("TABLE", id) + "</TABLES>");
+        };
+        return LayerXml("BASE-VARIANT", "B", tables("T1")) +
+               LayerXml("ECU-VARIANT", "V", tables("T2") + spec + ParentRefs({{"BASE-VARIANT", "B"}})) +
+               LayerXml("ECU-VARIANT", "W", tables("T3"));
+    };
+    for (char const* const name : {"T1", "T2"}) {
+        Check(layers(name));
+        EXPECT_EQ(Diagnostics(), "") << name;
+    }
+    Check(layers("T3"));
+    EXPECT_EQ(Finding(), "6:1 error unresolved-short-name: SELECTION-TABLE-SNREF names 'T3', but there is no TABLE of "
+                         "that name among its own and its parents' in the layer 'V'");
+}
+
+std::string EnvDataDesc(std::string const& param) {
+    return "<ENV-DATA-DESCS>" + Xml("ENV-DATA-DESC", "E", "\n<PARAM-SNREF SHORT-NAME=\"" + param + "\"/><ENV-DATAS/>") +
+           "</ENV-DATA-DESCS>";
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsToAParameterOfWhatLeadsThere) {
+    std::string const field = "<END-OF-PDU-FIELDS>" +
+                              Xml("END-OF-PDU-FIELD", "F", "<ENV-DATA-DESC-REF ID-REF=\"E\"/>") +
+                              "</END-OF-PDU-FIELDS>";
+    auto const layer = [&](std::string const& param) {
+        std::string const response =
+            "<POS-RESPONSES>" +
+            Xml("POS-RESPONSE", "PR",
+                "<PARAMS>" + Value("Code", "") + Value("Env", "<DOP-REF ID-REF=\"F\"/>") + "</PARAMS>") +
+            "</POS-RESPONSES>";
+        std::string const refs = "<POS-RESPONSE-REFS><POS-RESPONSE-REF ID-REF=\"PR\"/></POS-RESPONSE-REFS>";
+        return LayerXml("BASE-VARIANT", "B",
+                        InDictionary(EnvDataDesc(param) + field) +
+                            DiagComms(Service("S", refs) + Service("R", "<REQUEST-REF ID-REF=\"RQ\"/>")) +
+                            Request("RQ", Value("Other", "")) + response);
+    };
+    Check(layer("Code"));
     EXPECT_EQ(Diagnostics(), "");
-    Check(LayerXml("ECU-VARIANT", "V",
-                   InDictionary("<ENV-DATA-DESCS>" +
-                                Xml("ENV-DATA-DESC", "E", "<PARAM-SNREF SHORT-NAME=\"X\"/><ENV-DATAS/>") +
-                                "</ENV-DATA-DESCS>")));
+    Check(layer("Other")); // of a service that does not lead there
+    EXPECT_EQ(Finding(),
+              "4:1 error unresolved-short-name: PARAM-SNREF names 'Other', but no DIAG-COMM or job that leads "
+              "to it has an output parameter of that name in the layer 'B'");
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsToWhichNothingLeadsAreLeftAlone) {
+    Check(LayerXml("ECU-VARIANT", "V", InDictionary(EnvDataDesc("X"))));
     EXPECT_EQ(Diagnostics(), "");
+}
+
+/// A MULTIPLE-ECU-JOB-SPEC whose job runs in this layer and gives a structure with a parameter of this DOP.
+std::string JobSpec(std::string const& dop, std::string const& layer, std::string const& param = "Out") {
+    std::string const job =
+        Xml("MULTIPLE-ECU-JOB", "MJ",
+            "<OUTPUT-PARAMS>" + Xml("OUTPUT-PARAM", "Out", "<DOP-BASE-REF ID-REF=\"MS\"/>") +
+                Xml("OUTPUT-PARAM", "Env", "<DOP-BASE-REF ID-REF=\"E\"/>") + "</OUTPUT-PARAMS><DIAG-LAYER-REFS>" +
+                (layer.empty() ? "" : "<DIAG-LAYER-REF ID-REF=\"" + layer + "\"/>") + "</DIAG-LAYER-REFS>");
+    return "<ODX MODEL-VERSION=\"2.2.0\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">" +
+           Xml("MULTIPLE-ECU-JOB-SPEC", "M",
+               "<MULTIPLE-ECU-JOBS>" + job + "</MULTIPLE-ECU-JOBS>" +
+                   InDictionary(Dops("D") + EnvDataDesc(param) + Structure("MS", Value("P", DopSnref(dop))))) +
+           "</ODX>";
+}
+
+TEST_F(VShortNameReferencesTest, OfJobSpecsToTheirOwnDopsOrThoseOfTheLayersOfTheirJobs) {
+    std::string const layers =
+        Container(LayerXml("BASE-VARIANT", "B", InDictionary(Dops("L"))) + LayerXml("ECU-VARIANT", "V"), "2.2.0");
+    CheckDocuments({layers, JobSpec("D", "")});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({layers, JobSpec("D", "V")});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({layers, JobSpec("L", "B")});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({layers, JobSpec("L", "V")});
+    EXPECT_EQ(Finding(),
+              "3:1 error unresolved-short-name: DOP-SNREF names 'L', but no DOP of that name is visible in the "
+              "MULTIPLE-ECU-JOB-SPEC 'M', nor in the layer 'V'");
+    CheckDocuments({layers, JobSpec("L", "")});
+    EXPECT_EQ(Finding(),
+              "3:1 error unresolved-short-name: DOP-SNREF names 'L', but no DOP of that name is visible in the "
+              "MULTIPLE-ECU-JOB-SPEC 'M'");
+    CheckDocument(JobSpec("L", "V")); // the layer is not loaded, and may have it
+    ASSERT_EQ(m_result.diagnostics.size(), 1U) << Diagnostics();
+    EXPECT_EQ(m_result.diagnostics[0].code, "unresolved-reference");
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsInJobSpecsToAnOutputParameterOfTheJob) {
+    CheckDocument(JobSpec("D", "", "Env"));
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocument(JobSpec("D", "", "P")); // inside the structure
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocument(JobSpec("D", "", "X"));
+    EXPECT_EQ(Finding(),
+              "2:1 error unresolved-short-name: PARAM-SNREF names 'X', but no DIAG-COMM or job that leads to it "
+              "has an output parameter of that name in the MULTIPLE-ECU-JOB-SPEC 'M'");
 }
 
 TEST_F(VShortNameReferencesTest, OfEnvDataAreTriedWhereItsDescriptionIsVisible) {
