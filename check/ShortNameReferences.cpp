@@ -98,7 +98,7 @@ constexpr VWanted kWanted[] = {
     {&Is<NODX201::VDiagCommLink>, "no DIAG-COMM of that name is visible"},
     {&Is<NMemory::VMemProtocolSnref>, "there is no PROTOCOL of that name in the container nor among the parents"},
     {&Is<NODX201::VTableLink>, "there is no TABLE of that name among its own and its parents'"},
-    {&IsOfEnvDataDesc, "no DIAG-COMM or job that leads to it has an output parameter of that name"},
+    {&IsOfEnvDataDesc, "no DIAG-SERVICE that leads to it has an output parameter of that name"},
     {&Is<NODX201::VOutParamIfLink>, "the DIAG-COMM has no output parameter of that name"},
     {&Is<NMemory::VMemInParamIfLink>, "the DIAG-COMM has no input parameter of that name"},
 };
@@ -172,7 +172,7 @@ private:
     void AddOfSpec(NMemory::VMemMultipleEcuJobSpec& spec, std::size_t index) {
         NODX201::VLink& reference = *m_pending[index].reference;
         auto const layers = LayersOfJobs(spec);
-        if (ResolvesInSpec(reference, spec).value_or(true) || !layers.has_value()) {
+        if (IsOfEnvDataDesc(reference) || ResolvesInSpec(reference, spec) || !layers.has_value()) {
             return;
         }
         m_pending[index].spec = &spec;

@@ -149,24 +149,6 @@ void SeeJobParams(VParamSearch& search, Params& params) {
     }
 }
 
-void SeeDiagComm(VParamSearch& search, NODX201::VDiagComm& diagComm, bool isInput) {
-    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
-        SeeService(search, *service, isInput);
-    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
-        if (isInput) {
-            SeeJobParams(search, job->InputParamCollection());
-        } else {
-            SeeJobParams(search, job->OutputParamCollection());
-        }
-    }
-}
-
-std::optional<bool> HasName(VNamesByElement const& names, NODX201::VReferencable const& element,
-                            std::wstring_view shortName) {
-    auto const found = names.find(&element);
-    return found != names.end() ? std::optional<bool>(found->second.count(shortName) != 0) : std::nullopt;
-}
-
 } // namespace
 
 VVisibleNames::VVisibleNames(NODX201::VDiagLayer& layer)
@@ -231,13 +213,16 @@ std::optional<bool> VVisibleNames::HasParamFor(NODX201::VEnvDataDesc& envDataDes
     if (!m_params.has_value()) {
         m_params.emplace();
         for (NODX201::VDiagComm* const diagComm : m_diagComms) {
-            VParamSearch search({}, Targets());
-            SeeDiagComm(search, *diagComm, false);
-            search.Finish();
-            search.AddTo(*m_params);
+            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
+                VParamSearch search({}, Targets());
+                SeeService(search, *service, false);
+                search.Finish();
+                search.AddTo(*m_params);
+            }
         }
     }
-    return HasName(*m_params, envDataDesc, shortName);
+    auto const found = m_params->find(&envDataDesc);
+    return found != m_params->end() ? std::optional<bool>(found->second.count(shortName) != 0) : std::nullopt;
 }
 
 NReader::VShortNameTargets VVisibleNames::Targets() const {
@@ -268,11 +253,19 @@ NODX201::VDiagComm* VVisibleNames::TargetOf(NODX201::VDiagCommLink& link) const 
 
 bool VVisibleNames::HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput) const {
     VParamSearch search(shortName, Targets());
-    SeeDiagComm(search, diagComm, isInput);
+    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
+        SeeService(search, *service, isInput);
+    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
+        if (isInput) {
+            SeeJobParams(search, job->InputParamCollection());
+        } else {
+            SeeJobParams(search, job->OutputParamCollection());
+        }
+    }
     return search.Finish();
 }
 
-std::optional<bool> ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec) {
+bool ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec) {
     std::vector<NODX201::VDopBase*> dops;
     if (spec.HasDiagDataDictionarySpec()) {
         for (NODX201::VDopBase& dop : spec.GetDiagDataDictionarySpec().DopBaseCollection()) {
@@ -280,24 +273,9 @@ std::optional<bool> ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMulti
         }
     }
     auto const byName = ByShortName(dops);
-    std::wstring_view const name = NameIn(reference);
-    auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner());
-    if (envDataDesc == nullptr) {
-        NODX201::VDopBase* const dop = Find(byName, name);
-        bool const isDataObjectProp = dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr;
-        return dop != nullptr && (!isDataObjectProp || dynamic_cast<NODX201::VDataObjectProp*>(dop) != nullptr);
-    }
-    VNamesByElement params;
-    for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
-        VParamSearch search({}, [&byName](NMemory::VMemDopBaseLink& link) {
-            NODX201::VDopBase* const dop = Find(byName, NameIn(link));
-            return dop != nullptr ? NReader::VReferencables{dop} : NReader::VReferencables{};
-        });
-        SeeJobParams(search, job.OutputParamCollection());
-        search.Finish();
-        search.AddTo(params);
-    }
-    return HasName(params, *envDataDesc, name);
+    NODX201::VDopBase* const dop = Find(byName, NameIn(reference));
+    bool const isDataObjectProp = dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr;
+    return dop != nullptr && (!isDataObjectProp || dynamic_cast<NODX201::VDataObjectProp*>(dop) != nullptr);
 }
 
 } // namespace NCheck

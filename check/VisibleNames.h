@@ -23,7 +23,7 @@ public:
 
     /// Whether a reference by short name, which stands in an element visible in the layer, names something. Nothing for
     /// a reference to a parameter of a DIAG-COMM that is not there itself, and for the one of an ENV-DATA-DESC to which
-    /// no DIAG-COMM of the layer leads.
+    /// no DIAG-SERVICE of the layer leads: jobs make their answers themselves.
     std::optional<bool> Resolves(NODX201::VLink& reference);
 
     std::vector<NODX201::VDiagComm*> const& DiagComms() const { return m_diagComms; }
@@ -54,11 +54,10 @@ private:
     // Filled when first asked for.
     std::vector<NODX201::VProtocol*> m_protocols;
     std::optional<VNames> m_tables;
-    std::optional<VNamesByElement> m_params; ///< of the DIAG-COMMs that lead to an ENV-DATA-DESC
+    std::optional<VNamesByElement> m_params; ///< of the DIAG-SERVICEs that lead to an ENV-DATA-DESC
 };
 
-/// Whether a reference by short name, which stands in a MULTIPLE-ECU-JOB-SPEC, names something in its dictionary, or a
-/// parameter of a job that leads to it. Nothing for a PARAM-SNREF of an ENV-DATA-DESC to which no job leads.
-std::optional<bool> ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec);
+/// Whether a reference to a DOP by short name, which stands in a MULTIPLE-ECU-JOB-SPEC, names one in its dictionary.
+bool ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec);
 
 } // namespace NCheck

@@ -114,7 +114,8 @@ bool VSession::ReadFile(std::string const& file) {
     if (std::ifstream(path, std::ios::binary).fail()) {
         return Fail(file, {{}, "unreadable", std::string("cannot be read: ") + std::strerror(errno)});
     }
-    if (fs::is_regular_file(status) && fs::file_size(path, error) == 0) {
+    // Of other files reading tells: those of the system say to be empty and are not.
+    if (IsPackageName(file) && fs::is_regular_file(status) && fs::file_size(path, error) == 0) {
         return Fail(file, {{}, "empty", "is empty"});
     }
     if (fs::is_regular_file(status) && fs::file_size(path, error) > m_options.maxFileSize) {

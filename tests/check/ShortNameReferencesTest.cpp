@@ -317,7 +317,7 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsToAParameterOfWhatLeadsThere) {
     EXPECT_EQ(Diagnostics(), "");
     Check(layer("Other")); // of a service that does not lead there
     EXPECT_EQ(Finding(),
-              "4:1 error unresolved-short-name: PARAM-SNREF names 'Other', but no DIAG-COMM or job that leads "
+              "4:1 error unresolved-short-name: PARAM-SNREF names 'Other', but no DIAG-SERVICE that leads "
               "to it has an output parameter of that name in the layer 'B'");
 }
 
@@ -362,15 +362,14 @@ TEST_F(VShortNameReferencesTest, OfJobSpecsToTheirOwnDopsOrThoseOfTheLayersOfThe
     EXPECT_EQ(m_result.diagnostics[0].code, "unresolved-reference");
 }
 
-TEST_F(VShortNameReferencesTest, OfEnvDataDescsInJobSpecsToAnOutputParameterOfTheJob) {
-    CheckDocument(JobSpec("D", "", "Env"));
-    EXPECT_EQ(Diagnostics(), "");
-    CheckDocument(JobSpec("D", "", "P")); // inside the structure
-    EXPECT_EQ(Diagnostics(), "");
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsToWhichOnlyJobsLeadAreLeftAlone) {
     CheckDocument(JobSpec("D", "", "X"));
-    EXPECT_EQ(Finding(),
-              "2:1 error unresolved-short-name: PARAM-SNREF names 'X', but no DIAG-COMM or job that leads to it "
-              "has an output parameter of that name in the MULTIPLE-ECU-JOB-SPEC 'M'");
+    EXPECT_EQ(Diagnostics(), "");
+    std::string const job =
+        Xml("SINGLE-ECU-JOB", "J",
+            "<OUTPUT-PARAMS>" + Xml("OUTPUT-PARAM", "Env", "<DOP-BASE-REF ID-REF=\"E\"/>") + "</OUTPUT-PARAMS>");
+    Check(LayerXml("ECU-VARIANT", "V", DiagComms(job) + InDictionary(EnvDataDesc("X"))));
+    EXPECT_EQ(Diagnostics(), "");
 }
 
 TEST_F(VShortNameReferencesTest, OfEnvDataAreTriedWhereItsDescriptionIsVisible) {
