@@ -6,6 +6,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <utility>
 
 #include <diagkit/reader/Checks.h>
@@ -79,8 +80,18 @@ VFailure FileTooLarge(VReadLimits const& limits) {
     return {{}, "too-large", OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
 }
 
-bool StartsLikeZip(std::string const& file) {
-    std::ifstream stream(fs::u8path(file), std::ios::binary);
+/// The file, opened, or a stream that failed; running out of memory says nothing about a file.
+std::ifstream Opened(fs::path const& path) {
+    errno = 0;
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream && errno == ENOMEM) {
+        throw std::bad_alloc();
+    }
+    return stream;
+}
+
+bool StartsLikeZip(fs::path const& path) {
+    std::ifstream stream = Opened(path);
     char head[4] = {};
     stream.read(head, sizeof head);
     return stream.gcount() == 4 && head[0] == 'P' && head[1] == 'K' &&
@@ -111,7 +122,7 @@ bool VSession::ReadFile(std::string const& file) {
     if (fs::is_fifo(status)) {
         return Fail(file, {{}, "no-file", "is a pipe, which cannot be read twice; save it to a file first"});
     }
-    if (std::ifstream(path, std::ios::binary).fail()) {
+    if (Opened(path).fail()) {
         return Fail(file, {{}, "unreadable", std::string("cannot be read: ") + std::strerror(errno)});
     }
     // Of other files reading tells: those of the system say to be empty and are not.
@@ -121,15 +132,14 @@ bool VSession::ReadFile(std::string const& file) {
     if (fs::is_regular_file(status) && fs::file_size(path, error) > m_options.maxFileSize) {
         return Fail(file, FileTooLarge(m_options));
     }
-    if (StartsLikeZip(file)) {
+    if (StartsLikeZip(path)) {
         return ReadPackage(file);
     }
     if (IsPackageName(file)) {
         return Fail(file, {{}, "no-package", "is no PDX package: the file is not a zip archive"});
     }
     return ReadDocument(file, [&](auto const& take, VFailure& failure) {
-        errno = 0;
-        std::ifstream stream(path, std::ios::binary);
+        std::ifstream stream = Opened(path);
         std::vector<char> buffer(256 * 1024);
         std::uint64_t total = 0; // a file that is no regular one, or that grows, tells no size
         while (stream) {

@@ -2,6 +2,8 @@
 #include <diagkit/reader/Package.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <new>
 
 #include <zip.h>
 
@@ -12,12 +14,24 @@ char Folded(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
+/// Running out of memory says nothing about a package. libzip may take it for bad data; the system's number, which is
+/// cleared before every call, tells.
+void RequireMemory(zip_error_t& error) {
+    if (zip_error_code_zip(&error) == ZIP_ER_MEMORY || errno == ENOMEM) {
+        throw std::bad_alloc();
+    }
+}
+
+std::string Text(zip_error_t& error) {
+    RequireMemory(error);
+    return zip_error_strerror(&error);
+}
+
 std::string Text(int code) {
     zip_error_t error;
     zip_error_init_with_code(&error, code);
-    std::string const text = zip_error_strerror(&error);
-    zip_error_fini(&error);
-    return text;
+    std::unique_ptr<zip_error_t, void (*)(zip_error_t*)> const released(&error, &zip_error_fini);
+    return Text(error);
 }
 
 } // namespace
@@ -68,15 +82,21 @@ std::uint64_t VPackage::Count() const {
 
 bool VPackage::Open(std::string const& path, std::string& error) {
     int code = 0;
+    errno = 0;
     m_archive->zip = zip_open(path.c_str(), ZIP_RDONLY, &code);
     if (m_archive->zip == nullptr) {
-        error = code == ZIP_ER_NOZIP ? "the archive has no directory at its end; it is cut off or damaged" : Text(code);
+        error = Text(code);
+        if (code == ZIP_ER_NOZIP) {
+            error = "the archive has no directory at its end; it is cut off or damaged";
+        }
         return false;
     }
     zip_int64_t const count = zip_get_num_entries(m_archive->zip, 0);
     for (zip_int64_t index = 0; index < count; ++index) {
         zip_stat_t stat;
+        errno = 0;
         if (zip_stat_index(m_archive->zip, static_cast<zip_uint64_t>(index), 0, &stat) != 0 || stat.name == nullptr) {
+            RequireMemory(*zip_get_error(m_archive->zip));
             continue;
         }
         VMember member;
@@ -102,18 +122,20 @@ bool VPackage::Open(std::string const& path, std::string& error) {
 
 VPackage::VOutcome VPackage::Read(VMember const& member, std::uint64_t limit,
                                   std::function<bool(std::string_view bytes)> const& take, std::string& error) {
+    errno = 0;
     zip_file_t* const opened = zip_fopen_index(m_archive->zip, member.index, 0);
     if (opened == nullptr) {
-        error = zip_strerror(m_archive->zip);
+        error = Text(*zip_get_error(m_archive->zip));
         return VOutcome::Broken;
     }
     std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> const file(opened, &zip_fclose);
     std::vector<char> buffer(256 * 1024);
     std::uint64_t total = 0;
     for (;;) {
+        errno = 0;
         zip_int64_t const length = zip_fread(file.get(), buffer.data(), buffer.size());
         if (length < 0) {
-            error = zip_file_strerror(file.get());
+            error = Text(*zip_file_get_error(file.get()));
             return VOutcome::Broken;
         }
         if (length == 0) {
