@@ -287,6 +287,11 @@ VTry VSession::TryDocument(std::uint32_t document, VBytes const& bytes, char con
                                "the document declares " + declared + " but has the byte order mark of " +
                                    parser.GetMarkedEncoding() + ", in which it is read");
     }
+    if (VXmlPosition const place = parser.GetDoubtfulPosition(); place.line != 0) {
+        m_reading.findings.Add({document, place.line, place.column}, VSeverity::Warning, "encoding",
+                               "the document declares " + parser.GetDeclaredEncoding() +
+                                   ", in which it is read, but all that is beyond ASCII is UTF-8, first here");
+    }
     loader.Commit();
     result.isRead = true;
     return result;

@@ -12,6 +12,40 @@
 
 namespace NReader {
 
+namespace {
+
+/// Whether bytes that are read one by one are UTF-8, and where the first character beyond ASCII stands.
+class VUtf8Watch {
+public:
+    void See(std::string_view bytes) {
+        for (char const character : bytes) {
+            See(static_cast<unsigned char>(character));
+        }
+    }
+
+    VXmlPosition First() const { return m_isUtf8 && m_left == 0 ? m_first : VXmlPosition(); }
+
+private:
+    void See(unsigned char byte) {
+        bool const isContinued = (byte & 0xC0) == 0x80;
+        if (byte >= 0x80 && m_first.line == 0) {
+            m_first = m_at;
+        }
+        m_isUtf8 = m_isUtf8 && isContinued == (m_left > 0) && (byte < 0x80 || isContinued || IsLead(byte));
+        m_left = isContinued ? m_left - 1 : byte < 0xC0 ? 0 : byte < 0xE0 ? 1 : byte < 0xF0 ? 2 : 3;
+        m_at = byte == '\n' ? VXmlPosition{m_at.line + 1, 1} : VXmlPosition{m_at.line, m_at.column + 1};
+    }
+
+    static bool IsLead(unsigned char byte) { return byte >= 0xC2 && byte <= 0xF4; }
+
+    bool m_isUtf8 = true;
+    int m_left = 0; // bytes of the character that has begun
+    VXmlPosition m_at{1, 1};
+    VXmlPosition m_first;
+};
+
+} // namespace
+
 struct VXmlParser::VState {
     XML_Parser parser = nullptr;
     bool isEncodingGiven = false;
@@ -19,6 +53,7 @@ struct VXmlParser::VState {
     std::string head;                // the first bytes, until they tell how the document begins
     char const* markedEncoding = ""; // what a byte order mark says
     std::string declaredEncoding;
+    VUtf8Watch watch;     // of what a document in a one-byte encoding holds
     VXmlPosition skipped; // lines, and columns of the last one, that were left out before the XML declaration
     IXmlHandler* handler = nullptr;
     VReadLimits limits;
@@ -231,6 +266,13 @@ std::string_view VXmlParser::Begin(std::string_view head) {
     return head;
 }
 
+/// Whether the document itself says that its bytes are characters.
+bool VXmlParser::IsInOneByteEncoding() const {
+    std::string const& declared = m_state->declaredEncoding;
+    bool const isDeclared = !declared.empty() && !m_state->isEncodingGiven && *m_state->markedEncoding == '\0';
+    return isDeclared && !StartsWithFolded(declared, "UTF-");
+}
+
 bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
     XML_Parser const parser = m_state->parser;
     do {
@@ -245,6 +287,9 @@ bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
             return Fail();
         }
         m_state->taken += length;
+        if (IsInOneByteEncoding()) {
+            m_state->watch.See(bytes.substr(0, length));
+        }
         if (!isLastPiece && !AreLeftBytesWithinLimit()) {
             return false;
         }
@@ -316,11 +361,16 @@ void VXmlParser::LimitText(std::uint64_t size) {
 
 VXmlError const& VXmlParser::GetError() const { return m_state->error; }
 
-VXmlPosition VXmlParser::GetPosition() const {
+/// The place in the document of one in what is behind the part left out at its start.
+VXmlPosition VXmlParser::Placed(VXmlPosition const& position) const {
     VXmlPosition const& skipped = m_state->skipped;
+    return {position.line + skipped.line, position.line == 1 ? position.column + skipped.column : position.column};
+}
+
+VXmlPosition VXmlParser::GetPosition() const {
     auto const line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(m_state->parser));
     auto const column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(m_state->parser) + 1);
-    return {line + skipped.line, line == 1 ? column + skipped.column : column};
+    return Placed({line, column});
 }
 
 std::string VXmlParser::GetContradictedEncoding() const {
@@ -328,6 +378,13 @@ std::string VXmlParser::GetContradictedEncoding() const {
     bool const isContradicted = *m_state->markedEncoding != '\0' && !m_state->isEncodingGiven && !declared.empty() &&
                                 !StartsWithFolded(declared, m_state->markedEncoding);
     return isContradicted ? declared : std::string();
+}
+
+std::string const& VXmlParser::GetDeclaredEncoding() const { return m_state->declaredEncoding; }
+
+VXmlPosition VXmlParser::GetDoubtfulPosition() const {
+    VXmlPosition const first = m_state->watch.First();
+    return first.line != 0 ? Placed(first) : first;
 }
 
 char const* VXmlParser::GetMarkedEncoding() const { return m_state->markedEncoding; }

@@ -54,6 +54,11 @@ public:
     /// The encoding that the XML declaration gives where a byte order mark says otherwise; "" elsewhere.
     std::string GetContradictedEncoding() const;
 
+    /// Where the first character beyond ASCII stands in a document that declares a one-byte encoding and has nothing
+    /// but UTF-8 there, which hardly happens by accident; line 0 elsewhere. To be asked at the end.
+    VXmlPosition GetDoubtfulPosition() const;
+    std::string const& GetDeclaredEncoding() const;
+
     /// Takes the next bytes; false when the document cannot be read, `GetError()` then says why.
     bool Feed(std::string_view bytes, bool isLast);
 
@@ -72,6 +77,8 @@ private:
     bool IsStartWithinLimits(std::string_view name, char const* const* attributes);
     bool IsTagWithinLimit(std::uint64_t size);
     bool AreLeftBytesWithinLimit();
+    bool IsInOneByteEncoding() const;
+    VXmlPosition Placed(VXmlPosition const& position) const;
     bool Fail();
 
     struct VState;

@@ -196,6 +196,22 @@ TEST_F(VEncodingTest, DeclaredUtf8OfAUtf16FileIsIgnoredAndReported) {
     }
 }
 
+TEST_F(VEncodingTest, DeclaredOneByteEncodingOfAUtf8FileIsObeyedAndReportedWhereItShows) {
+    std::string const declaration = std::string(kLatin1) + "\n";
+    EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xE2\x82\xAC")), L"T\u00C3\u00BCr \u00E2\x82\u00AC");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
+    EXPECT_EQ(Message(0),
+              "the document declares ISO-8859-1, in which it is read, but all that is beyond ASCII is UTF-8, "
+              "first here");
+    // One character that is none in UTF-8 decides for the declaration.
+    EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xFC")), L"T\u00C3\u00BCr \u00FC");
+    EXPECT_EQ(Diagnostics(), "");
+    EXPECT_EQ(NameIn(With(declaration, "T\xFCr \xC3\xBC")), L"T\u00FCr \u00C3\u00BC");
+    EXPECT_EQ(Diagnostics(), "");
+    EXPECT_EQ(NameIn(With(declaration, "Door")), L"Door");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
 TEST_F(VEncodingTest, UnknownEncodingIsReportedWithTheKnownOnes) {
     std::string const known = "known are UTF-8, UTF-16, US-ASCII, ISO-8859-1, ISO-8859-15 and Windows-1252";
     Read(With(R"(<?xml version="1.0" encoding="x-other"?>)", "Door"));
