@@ -316,9 +316,8 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsToAParameterOfWhatLeadsThere) {
     Check(layer("Code"));
     EXPECT_EQ(Diagnostics(), "");
     Check(layer("Other")); // of a service that does not lead there
-    EXPECT_EQ(Finding(),
-              "4:1 error unresolved-short-name: PARAM-SNREF names 'Other', but no DIAG-SERVICE that leads "
-              "to it has an output parameter of that name in the layer 'B'");
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: PARAM-SNREF names 'Other', but no DIAG-SERVICE that leads "
+                         "to it has an output parameter of that name in the layer 'B'");
 }
 
 TEST_F(VShortNameReferencesTest, OfEnvDataDescsToWhichNothingLeadsAreLeftAlone) {
