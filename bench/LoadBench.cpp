@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <expat.h>
+#include <sys/resource.h>
+
+#include <diagkit/reader/OdxReader.h>
+#include <diagkit/reader/Package.h>
+
+/// Loads files once, or does what loading them takes at least, and prints what it cost as JSON. One run a process, so
+/// that the peak of its memory means this run alone; `load` runs it.
+///
+///     diagkit_load_bench read|parse|load|load:THREADS FILE...
+///
+/// `read` takes the bytes in, `parse` has expat parse them too with handlers that do nothing. Packages are unpacked in
+/// both, and the pieces are as large as the reader's.
+
+namespace {
+
+constexpr std::size_t kPieceSize = 256 * 1024;
+
+struct VCost {
+    std::uint64_t bytes = 0; // of XML
+    std::uint64_t starts = 0;
+    double destroySeconds = 0;
+};
+
+[[noreturn]] void Fail(std::string const& message) {
+    std::fprintf(stderr, "%s\n", message.c_str());
+    std::exit(1);
+}
+
+double Seconds() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+/// Calls `take` with the pieces of every document, and with an empty one at the end of each.
+template <class Take>
+void ForEachPiece(std::string const& file, Take take) {
+    if (std::filesystem::u8path(file).extension() == ".pdx") {
+        NReader::VPackage package;
+        std::string error;
+        if (!package.Open(file, error)) {
+            Fail(file + ": " + error);
+        }
+        for (NReader::VPackage::VMember const& member : package.Documents()) {
+            package.Read(
+                member, UINT64_MAX,
+                [&](std::string_view bytes) {
+                    take(bytes);
+                    return true;
+                },
+                error);
+            take({});
+        }
+        return;
+    }
+    std::ifstream stream(std::filesystem::u8path(file), std::ios::binary);
+    std::vector<char> buffer(kPieceSize);
+    while (stream) {
+        stream.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+        take(std::string_view(buffer.data(), static_cast<std::size_t>(stream.gcount())));
+    }
+    take({});
+}
+
+void Read(std::string const& file, VCost& cost) {
+    ForEachPiece(file, [&cost](std::string_view bytes) { cost.bytes += bytes.size(); });
+}
+
+void Parse(std::string const& file, VCost& cost) {
+    XML_Parser parser = nullptr;
+    ForEachPiece(file, [&](std::string_view bytes) {
+        if (parser == nullptr) {
+            parser = XML_ParserCreate(nullptr);
+            XML_SetUserData(parser, &cost.starts);
+            XML_SetElementHandler(
+                parser, [](void* starts, char const*, char const**) { ++*static_cast<std::uint64_t*>(starts); },
+                [](void*, char const*) {});
+            XML_SetCharacterDataHandler(parser, [](void*, char const*, int) {});
+            XML_SetProcessingInstructionHandler(parser, [](void*, char const*, char const*) {});
+        }
+        cost.bytes += bytes.size();
+        if (XML_Parse(parser, bytes.data(), static_cast<int>(bytes.size()), bytes.empty()) != XML_STATUS_OK) {
+            Fail(file + " cannot be parsed");
+        }
+        if (bytes.empty()) {
+            XML_ParserFree(parser);
+            parser = nullptr;
+        }
+    });
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    if (count < 3) {
+        Fail("diagkit_load_bench read|parse|load|load:THREADS FILE...");
+    }
+    std::string const mode = arguments[1];
+    std::vector<std::string> const files(arguments + 2, arguments + count);
+    VCost cost;
+    double const start = Seconds();
+    std::clock_t const cpuStart = std::clock();
+    double end = 0;
+    std::clock_t cpuEnd = 0;
+    auto const stop = [&] {
+        end = Seconds();
+        cpuEnd = std::clock();
+    };
+    if (mode.rfind("load", 0) == 0) {
+        NReader::VReadOptions options;
+        NReader::VReadResult result = NReader::ReadOdx(files, options);
+        stop();
+        if (result.database == nullptr || !result.diagnostics.empty()) {
+            Fail("the files cannot be loaded without a diagnostic");
+        }
+        double const destroyStart = Seconds();
+        result.database.reset();
+        cost.destroySeconds = Seconds() - destroyStart;
+    } else {
+        for (std::string const& file : files) {
+            mode == "parse" ? Parse(file, cost) : Read(file, cost);
+        }
+        stop();
+    }
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::printf("{\"seconds\": %.6f, \"cpu\": %.6f, \"destroy\": %.6f, \"bytes\": %llu, \"elements\": %llu, \"peak\": "
+                "%llu}\n",
+                end - start, static_cast<double>(cpuEnd - cpuStart) / CLOCKS_PER_SEC, cost.destroySeconds,
+                static_cast<unsigned long long>(cost.bytes), static_cast<unsigned long long>(cost.starts),
+                static_cast<unsigned long long>(usage.ru_maxrss) * 1024);
+    return 0;
+}
