@@ -79,13 +79,13 @@ struct VElementType {
     bool isWrapper = false;   ///< its items may also stand beside it
     void (*addInstruction)(void* object, std::wstring const& name, std::wstring const& content) = nullptr;
 
-    std::vector<std::uint16_t> byName; ///< indices of rows, sorted by name
+    std::vector<std::string_view> names; ///< of the rows
 
-    /// Index of the row, or -1.
-    int FindRow(std::string_view name) const;
+    /// Index of the row, or -1. Looks from the row `from` on first, where the next child mostly is.
+    int FindRow(std::string_view name, int from = 0) const;
 };
 
-/// Sorts the rows' names; every table goes through it.
+/// Notes the rows' names; every table goes through it.
 VElementType Indexed(VElementType type);
 
 // For the rows' functions, which know the loader no further.

@@ -12,21 +12,19 @@
 
 namespace NReader {
 
-int VElementType::FindRow(std::string_view name) const {
-    auto const found = std::lower_bound(byName.begin(), byName.end(), name, [this](std::uint16_t index, auto wanted) {
-        return std::string_view(rows[index].name) < wanted;
-    });
-    return found != byName.end() && rows[*found].name == name ? *found : -1;
+int VElementType::FindRow(std::string_view name, int from) const {
+    auto const start = names.begin() + from;
+    if (auto const found = std::find(start, names.end(), name); found != names.end()) {
+        return static_cast<int>(found - names.begin());
+    }
+    auto const found = std::find(names.begin(), start, name);
+    return found != start ? static_cast<int>(found - names.begin()) : -1;
 }
 
 VElementType Indexed(VElementType type) {
-    type.byName.resize(type.rows.size());
-    for (std::size_t index = 0; index < type.rows.size(); ++index) {
-        type.byName[index] = static_cast<std::uint16_t>(index);
+    for (VRow const& row : type.rows) {
+        type.names.emplace_back(row.name);
     }
-    std::sort(type.byName.begin(), type.byName.end(), [&type](std::uint16_t a, std::uint16_t b) {
-        return std::strcmp(type.rows[a].name, type.rows[b].name) < 0;
-    });
     return type;
 }
 
@@ -66,6 +64,14 @@ namespace {
 
 bool IsNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool IsBlank(char character) { return character == ' ' || character == '\n' || character == '\t' || character == '\r'; }
+
+std::string Quoted(std::string_view text) {
+    std::string quoted = "'";
+    quoted += text;
+    return quoted += '\'';
 }
 
 } // namespace
@@ -176,12 +182,8 @@ NMemory::VReference VLoader::ReadShortNameReference(VAttributes const& attribute
 
 void VLoader::Start(std::string_view name, VAttributes const& attributes) {
     if (m_recordedDepth > 0) {
-        VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
-        for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
-            event.attributes.emplace_back(*attribute);
-        }
         ++m_recordedDepth;
-        Record(std::move(event));
+        RecordStart(name, attributes);
         return;
     }
     if (m_skipped > 0) {
@@ -198,19 +200,25 @@ void VLoader::Start(std::string_view name, VAttributes const& attributes) {
         StartRoot(local, attributes);
         return;
     }
-    VElementType const& type = *m_frames.back().type;
-    int const index = type.FindRow(local);
-    if (index >= 0) {
-        StartRow(local, attributes, type.rows[static_cast<std::size_t>(index)], index);
-    } else if (!StartBesideWrapper(local, attributes)) {
-        Skip(local, attributes);
-        ++m_unknownElements[std::string(local)];
-        bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
-        if (m_isVersion20 && !isCategory) {
-            Report(VSeverity::Warning, "unknown-child",
-                   "'" + m_frames.back().name + "' holds no '" + std::string(local) +
-                       "' in ODX 2.0; it is left out with all inside");
-        }
+    VFrame const& frame = m_frames.back();
+    if (int const index = frame.type->FindRow(local, std::max(frame.lastRow, 0)); index >= 0) {
+        StartRow(attributes, frame.type->rows[static_cast<std::size_t>(index)], index);
+    } else {
+        StartUnknown(local, attributes);
+    }
+}
+
+void VLoader::StartUnknown(std::string_view name, VAttributes const& attributes) {
+    if (StartBesideWrapper(name, attributes)) {
+        return;
+    }
+    Skip(name, attributes);
+    ++m_unknownElements[std::string(name)];
+    bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
+    if (m_isVersion20 && !isCategory) {
+        Report(VSeverity::Warning, "unknown-child",
+               Quoted(m_frames.back().name) + " holds no " + Quoted(name) +
+                   " in ODX 2.0; it is left out with all inside");
     }
 }
 
@@ -227,14 +235,14 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
         Report(VSeverity::Warning, "missing-model-version",
                "ODX has no MODEL-VERSION; the document is read by its content");
     }
-    m_frames.push_back({std::string(name), this, &RootType(), Position()});
+    m_frames.push_back({"ODX", this, &RootType(), m_rootPosition});
 }
 
-void VLoader::StartRow(std::string_view name, VAttributes const& attributes, VRow const& row, int index) {
-    if (NoteRow(name, m_frames.back(), row, index)) {
-        Open(name, attributes, row, m_frames.back().object);
+void VLoader::StartRow(VAttributes const& attributes, VRow const& row, int index) {
+    if (NoteRow(m_frames.back(), row, index)) {
+        Open(attributes, row, m_frames.back().object);
     } else {
-        Skip(name, attributes);
+        Skip(row.name, attributes);
     }
 }
 
@@ -248,37 +256,24 @@ bool VLoader::StartBesideWrapper(std::string_view name, VAttributes const& attri
             continue;
         }
         Report(VSeverity::Warning, "missing-wrapper",
-               "'" + std::string(name) + "' stands outside of '" + wrapper.name + "', where it belongs");
+               Quoted(name) + " stands outside of " + Quoted(wrapper.name) + ", where it belongs");
         frame.implied |= std::uint64_t{1} << at;
         frame.choices |= wrapper.choice != 0 ? std::uint64_t{1} << wrapper.choice : 0;
         VOpened const opened = wrapper.open(*this, frame.object, wrapper, attributes);
-        Open(name, attributes, wrapper.Type().rows[static_cast<std::size_t>(index)], opened.object);
+        Open(attributes, wrapper.Type().rows[static_cast<std::size_t>(index)], opened.object);
         return true;
     }
     return false;
 }
 
 /// Whether the child is to be read: not a second one where only one counts.
-bool VLoader::NoteRow(std::string_view name, VFrame& frame, VRow const& row, int index) {
+bool VLoader::NoteRow(VFrame& frame, VRow const& row, int index) {
     std::uint64_t const bit = std::uint64_t{1} << index;
     std::uint64_t const choiceBit = row.choice != 0 ? std::uint64_t{1} << row.choice : 0;
     bool const isRepeated = row.occurs != Many && (frame.seen & bit) != 0;
     bool const isSecondAlternative = !isRepeated && row.occurs != Many && (frame.choices & choiceBit) != 0;
-    bool const isMisplaced =
-        index < frame.lastRow &&
-        !(row.occurs == Many && frame.type->rows[static_cast<std::size_t>(frame.lastRow)].occurs == Many);
-    if (isRepeated) {
-        Report(VSeverity::Error, "repeated-child",
-               "'" + std::string(name) + "' stands in '" + frame.name + "' more than once" +
-                   (row.isFirstKept ? "; the first one counts" : ""));
-    } else if (isSecondAlternative) {
-        Report(VSeverity::Error, "second-alternative",
-               "'" + std::string(name) + "' stands in '" + frame.name +
-                   "' beside an alternative; the first one counts");
-    } else if (isMisplaced && m_isVersion20) {
-        Report(VSeverity::Warning, "misplaced-child",
-               "'" + std::string(name) + "' belongs before '" +
-                   frame.type->rows[static_cast<std::size_t>(frame.lastRow)].name + "' in '" + frame.name + "'");
+    if (isRepeated || isSecondAlternative || index < frame.lastRow) {
+        ReportRow(frame, row, isRepeated, isSecondAlternative);
     }
     frame.seen |= bit;
     frame.choices |= choiceBit;
@@ -286,23 +281,38 @@ bool VLoader::NoteRow(std::string_view name, VFrame& frame, VRow const& row, int
     return !isSecondAlternative && !(isRepeated && row.isFirstKept);
 }
 
-void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow const& row, void* owner) {
+/// Reports a child that is one too many or stands behind one that it belongs before.
+void VLoader::ReportRow(VFrame const& frame, VRow const& row, bool isRepeated, bool isSecondAlternative) {
+    std::string const stands = Quoted(row.name) + " stands in " + Quoted(frame.name);
+    if (isRepeated) {
+        Report(VSeverity::Error, "repeated-child",
+               stands + " more than once" + (row.isFirstKept ? "; the first one counts" : ""));
+        return;
+    }
+    if (isSecondAlternative) {
+        Report(VSeverity::Error, "second-alternative", stands + " beside an alternative; the first one counts");
+        return;
+    }
+    VRow const& last = frame.type->rows[static_cast<std::size_t>(frame.lastRow)];
+    if (m_isVersion20 && !(row.occurs == Many && last.occurs == Many)) {
+        Report(VSeverity::Warning, "misplaced-child",
+               Quoted(row.name) + " belongs before " + Quoted(last.name) + " in " + Quoted(frame.name));
+    }
+}
+
+void VLoader::Open(VAttributes const& attributes, VRow const& row, void* owner) {
     VOpened const opened = row.open(*this, owner, row, attributes);
     if (opened.isDeferred) {
         m_recordedDepth = 1;
         m_recordedRow = &row;
-        VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
-        for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
-            event.attributes.emplace_back(*attribute);
-        }
-        Record(std::move(event));
+        RecordStart(row.name, attributes);
         return;
     }
     if (opened.type == nullptr) {
-        Skip(name, attributes);
+        Skip(row.name, attributes);
         return;
     }
-    m_frames.push_back({std::string(name), opened.object, opened.type, Position()});
+    m_frames.push_back({row.name, opened.object, opened.type, Position()});
     m_text.clear();
     m_textId.clear();
     if (char const* const textId = attributes.Find("TI")) {
@@ -311,23 +321,23 @@ void VLoader::Open(std::string_view name, VAttributes const& attributes, VRow co
     if (opened.type->isMarkup) {
         m_markupDepth = 1;
     }
-    m_frames.back().xsiType = ReadXsiType(*opened.type, attributes);
+    m_frames.back().kind = ReadKind(*opened.type, attributes);
     ReadAttributes(m_frames.back(), attributes);
 }
 
-/// The xsi:type; "", and reported, when the element has none such, and "" where it is not looked at.
-std::string VLoader::ReadXsiType(VElementType const& type, VAttributes const& attributes) {
+/// What the xsi:type says; null, and reported, when the element has none such, and null where it is not looked at.
+VKind const* VLoader::ReadKind(VElementType const& type, VAttributes const& attributes) {
     if (type.kinds.empty()) {
-        return {};
+        return nullptr;
     }
-    std::string xsiType = XsiType(*this, attributes);
+    std::string const xsiType = XsiType(*this, attributes);
     for (VKind const& kind : type.kinds) {
         if (kind.xsiType == xsiType) {
-            return xsiType;
+            return &kind;
         }
     }
     ReportUnknownType(*this, xsiType);
-    return {};
+    return nullptr;
 }
 
 void VLoader::Skip(std::string_view name, VAttributes const& attributes) {
@@ -346,27 +356,40 @@ void VLoader::ReadAttributes(VFrame const& frame, VAttributes const& attributes)
         char const* const value = attributes.Find(row.name);
         if (value == nullptr) {
             if (row.occurs == Required && m_isVersion20) {
-                Report(VSeverity::Error, "missing-attribute", "'" + frame.name + "' has no " + row.name);
+                Report(VSeverity::Error, "missing-attribute", Quoted(frame.name) + " has no " + row.name);
             }
             continue;
         }
-        std::wstring text = FromUtf8(value);
-        if (row.content != VContent::Text) {
-            Trim(text);
-        }
-        CheckValue(row.content, row.literals, text, std::string(row.name) + " of '" + frame.name + "'", frame.position);
-        row.set(frame.object, text);
+        ReadValue(row.content, value);
+        CheckValue(row.content, row.literals, frame, row.name);
+        row.set(frame.object, m_value);
     }
 }
 
-void VLoader::CheckValue(VContent content, wchar_t const* const* literals, std::wstring const& text,
-                         std::string const& what, NMemory::VPosition const& position) {
-    if (!IsValue(content, text)) {
-        m_reading.findings.Add(position, VSeverity::Error, "not-a-value",
-                               what + " is '" + ToUtf8(text) + "', which is no " + ValueText(content));
-    } else if (literals != nullptr && m_isVersion20 && !IsLiteral(literals, text)) {
-        m_reading.findings.Add(position, VSeverity::Error, "unknown-literal",
-                               what + " is '" + ToUtf8(text) + "', which is none of " + LiteralsText(literals));
+/// The text as the model stores it, valid until the next call.
+std::wstring const& VLoader::ReadValue(VContent content, std::string_view text) {
+    m_value.clear();
+    AppendFromUtf8(m_value, text);
+    if (content != VContent::Text) {
+        Trim(m_value);
+    }
+    return m_value;
+}
+
+/// Holds the value just read, of an attribute of the element or of its text, against what it must be.
+void VLoader::CheckValue(VContent content, wchar_t const* const* literals, VFrame const& frame, char const* attribute) {
+    bool const isValue = IsValue(content, m_value);
+    if (isValue && (literals == nullptr || !m_isVersion20 || IsLiteral(literals, m_value))) {
+        return;
+    }
+    std::string const what = attribute != nullptr ? attribute + (" of " + Quoted(frame.name)) : Quoted(frame.name);
+    std::string const is = what + " is " + Quoted(ToUtf8(m_value));
+    if (!isValue) {
+        m_reading.findings.Add(frame.position, VSeverity::Error, "not-a-value",
+                               is + ", which is no " + ValueText(content));
+    } else {
+        m_reading.findings.Add(frame.position, VSeverity::Error, "unknown-literal",
+                               is + ", which is none of " + LiteralsText(literals));
     }
 }
 
@@ -389,9 +412,9 @@ void VLoader::Text(std::string_view text) {
     } else if (frame.type->setContent != nullptr) {
         m_text += text;
         m_parser->LimitText(m_text.size());
-    } else if (!frame.hasStrayText && text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
+    } else if (!frame.hasStrayText && !std::all_of(text.begin(), text.end(), &IsBlank)) {
         frame.hasStrayText = true;
-        Report(VSeverity::Warning, "stray-text", "'" + frame.name + "' holds text, which is left out");
+        Report(VSeverity::Warning, "stray-text", Quoted(frame.name) + " holds text, which is left out");
     }
 }
 
@@ -412,7 +435,7 @@ void VLoader::End(std::string_view name) {
         return;
     }
     m_markupDepth = 0;
-    VFrame const frame = std::move(m_frames.back());
+    VFrame const frame = m_frames.back();
     m_frames.pop_back();
     if (frame.type->setContent != nullptr) {
         TakeContent(frame);
@@ -423,12 +446,9 @@ void VLoader::End(std::string_view name) {
 }
 
 void VLoader::TakeContent(VFrame const& frame) {
-    std::wstring text = FromUtf8(m_text);
-    if (frame.type->content != VContent::Text) {
-        Trim(text);
-    }
-    CheckValue(frame.type->content, frame.type->literals, text, "'" + frame.name + "'", frame.position);
-    frame.type->setContent(frame.object, text, m_textId);
+    ReadValue(frame.type->content, m_text);
+    CheckValue(frame.type->content, frame.type->literals, frame);
+    frame.type->setContent(frame.object, m_value, m_textId);
     m_text.clear();
 }
 
@@ -449,7 +469,7 @@ void VLoader::CheckComplete(VFrame const& frame) {
         }
         reportedChoices |= choiceBit;
         m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
-                               "'" + frame.name + "' has no '" + row.name + "'" +
+                               Quoted(frame.name) + " has no " + Quoted(row.name) +
                                    (row.choice != 0 ? " nor an alternative to it" : ""));
     }
     CheckKind(frame);
@@ -457,19 +477,20 @@ void VLoader::CheckComplete(VFrame const& frame) {
 
 /// Holds what is inside against the xsi:type.
 void VLoader::CheckKind(VFrame const& frame) {
-    if (frame.xsiType.empty() || frame.isInferred) {
+    if (frame.kind == nullptr || frame.isInferred) {
         return;
     }
+    std::string const& xsiType = frame.kind->xsiType;
     for (VKind const& kind : frame.type->kinds) {
         int const index = frame.type->FindRow(kind.child);
         bool const isSeen = (frame.seen & (std::uint64_t{1} << index)) != 0;
-        if (kind.xsiType == frame.xsiType && !isSeen) {
+        if (kind.xsiType == xsiType && !isSeen) {
             m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
-                                   "'" + frame.name + "' of the type " + kind.xsiType + " has no '" + kind.child + "'");
-        } else if (kind.xsiType != frame.xsiType && isSeen) {
+                                   Quoted(frame.name) + " of the type " + xsiType + " has no " + Quoted(kind.child));
+        } else if (kind.xsiType != xsiType && isSeen) {
             m_reading.findings.Add(frame.position, VSeverity::Error, "contradicting-type",
-                                   "'" + frame.name + "' is of the type " + frame.xsiType + " and holds '" +
-                                       kind.child + "', as one of the type " + kind.xsiType + " does");
+                                   Quoted(frame.name) + " is of the type " + xsiType + " and holds " +
+                                       Quoted(kind.child) + ", as one of the type " + kind.xsiType + " does");
         }
     }
 }
@@ -526,6 +547,14 @@ void VLoader::EndMarkup(std::string_view name) {
 
 // Elements whose kind shows only from their contents
 
+void VLoader::RecordStart(std::string_view name, VAttributes const& attributes) {
+    VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
+    for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
+        event.attributes.emplace_back(*attribute);
+    }
+    Record(std::move(event));
+}
+
 void VLoader::Record(VEvent event) {
     m_recordedSize += sizeof event + event.name.size() + event.text.size();
     for (std::string const& text : event.attributes) {
@@ -579,7 +608,7 @@ void VLoader::Replay() {
             std::vector<char const*> const raw = pointers(event.attributes);
             if (index == 0) {
                 // Noted among its siblings already, when it was met.
-                Open(LocalName(event.name), VAttributes(raw.data()), row, m_frames.back().object);
+                Open(VAttributes(raw.data()), row, m_frames.back().object);
                 m_frames.back().isInferred = true;
             } else {
                 Start(event.name, VAttributes(raw.data()));

@@ -80,7 +80,7 @@ public:
 
 private:
     struct VFrame {
-        std::string name;
+        char const* name; // of the row
         void* object;
         VElementType const* type;
         NMemory::VPosition position;
@@ -88,9 +88,9 @@ private:
         std::uint64_t implied = 0; // wrappers that are not there, of which items are
         std::uint64_t choices = 0; // alternatives taken, by choice number
         int lastRow = -1;
-        std::string xsiType{};     // as written, where the type lists some
-        bool isInferred = false;   // its kind shows from its contents
-        bool hasStrayText = false; // reported already
+        VKind const* kind = nullptr; // as the xsi:type says, where the type lists some
+        bool isInferred = false;     // its kind shows from its contents
+        bool hasStrayText = false;   // reported already
     };
 
     struct VEvent {
@@ -102,23 +102,27 @@ private:
     };
 
     void StartRoot(std::string_view name, VAttributes const& attributes);
-    void StartRow(std::string_view name, VAttributes const& attributes, VRow const& row, int index);
+    void StartRow(VAttributes const& attributes, VRow const& row, int index);
+    void StartUnknown(std::string_view name, VAttributes const& attributes);
     bool StartBesideWrapper(std::string_view name, VAttributes const& attributes);
-    void Open(std::string_view name, VAttributes const& attributes, VRow const& row, void* owner);
-    std::string ReadXsiType(VElementType const& type, VAttributes const& attributes);
+    void Open(VAttributes const& attributes, VRow const& row, void* owner);
+    VKind const* ReadKind(VElementType const& type, VAttributes const& attributes);
     void CheckKind(VFrame const& frame);
     void Skip(std::string_view name, VAttributes const& attributes);
     void NoteLeftOut(std::string_view name, VAttributes const& attributes);
-    bool NoteRow(std::string_view name, VFrame& frame, VRow const& row, int index);
+    bool NoteRow(VFrame& frame, VRow const& row, int index);
+    void ReportRow(VFrame const& frame, VRow const& row, bool isRepeated, bool isSecondAlternative);
     void ReadAttributes(VFrame const& frame, VAttributes const& attributes);
-    void CheckValue(VContent content, wchar_t const* const* literals, std::wstring const& text, std::string const& what,
-                    NMemory::VPosition const& position);
+    std::wstring const& ReadValue(VContent content, std::string_view text);
+    void CheckValue(VContent content, wchar_t const* const* literals, VFrame const& frame,
+                    char const* attribute = nullptr);
     void CheckComplete(VFrame const& frame);
     void TakeContent(VFrame const& frame);
 
     void StartMarkup(std::string_view name, VAttributes const& attributes);
     void EndMarkup(std::string_view name);
 
+    void RecordStart(std::string_view name, VAttributes const& attributes);
     void Record(VEvent event);
     void Replay();
 
@@ -142,6 +146,7 @@ private:
     std::uint32_t m_skipped = 0; // depth inside an element that is left out
     std::string m_text;
     std::wstring m_textId;
+    std::wstring m_value; // of an attribute or an element's text
     std::uint32_t m_markupDepth = 0;
     bool m_isTagOpen = false; // of markup: its start may still turn out to be empty
 

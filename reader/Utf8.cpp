@@ -94,8 +94,15 @@ std::string ToUtf8(std::wstring_view text) {
 }
 
 void AppendFromUtf8(std::wstring& target, std::string_view text) {
-    target.reserve(target.size() + text.size());
-    for (std::size_t index = 0; index < text.size();) {
+    // Nearly all texts are ASCII, every byte of which is a character.
+    std::size_t const before = target.size();
+    target.resize(before + text.size());
+    std::size_t index = 0;
+    for (; index < text.size() && static_cast<unsigned char>(text[index]) < 0x80; ++index) {
+        target[before + index] = static_cast<wchar_t>(text[index]);
+    }
+    target.resize(before + index);
+    while (index < text.size()) {
         VDecoded const decoded = Decode(text, index);
         AppendWide(target, decoded.character);
         index += decoded.length;
