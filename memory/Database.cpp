@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/memory/Database.h>
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 #include <diagkit/memory/Odx.h>
@@ -8,8 +10,10 @@
 
 namespace NMemory {
 
-VDatabase::VDatabase()
-    : m_places(std::make_unique<VPlaceIndex>()), m_odx(std::make_unique<VMemOdx>(VPlace{nullptr, this})) {}
+VDatabase::VDatabase() : m_places(std::make_unique<VPlaceIndex>()) {
+    Adopt(std::make_unique<VPart>(*this));
+    m_odx = std::make_unique<VMemOdx>(VPlace{nullptr, m_parts.front().get()});
+}
 
 VDatabase::~VDatabase() {
     // Elements that are destroyed with the whole database need not leave its index one by one.
@@ -76,22 +80,18 @@ std::size_t VDatabase::Count(NODX201::VOdxTagEnum tag) const {
     return index < m_counts.size() ? m_counts[index] : 0;
 }
 
-void VDatabase::CountIn(NODX201::VOdxTagEnum tag) {
-    auto const index = static_cast<std::size_t>(tag);
-    if (index >= m_counts.size()) {
-        m_counts.resize(index + 1);
+void VDatabase::Adopt(std::unique_ptr<VPart> part) {
+    m_parts.push_back(std::move(part));
+    VPart& adopted = *m_parts.back();
+    adopted.m_isDetached = false;
+    m_counts.resize(std::max(m_counts.size(), adopted.m_counts.size()));
+    std::transform(adopted.m_counts.begin(), adopted.m_counts.end(), m_counts.begin(), m_counts.begin(), std::plus<>());
+    m_ids.MakeRoom(adopted.m_ids.size());
+    for (VPart::VId const& held : adopted.m_ids) {
+        m_ids.Add(held.id, held.hash, *held.element);
     }
-    ++m_counts[index];
-}
-
-void VDatabase::CountOut(NODX201::VOdxTagEnum tag) {
-    --m_counts[static_cast<std::size_t>(tag)];
-    NoteRemoval();
-}
-
-void VDatabase::ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to) {
-    CountIn(to);
-    --m_counts[static_cast<std::size_t>(from)];
+    adopted.m_ids = {};
+    NoteChange();
 }
 
 void VDatabase::NoteRemoval() {

@@ -9,7 +9,7 @@
 
 #include <diagkit/memory/IdIndex.h>
 #include <diagkit/memory/Node.h>
-#include <diagkit/memory/TextPool.h>
+#include <diagkit/memory/Part.h>
 #include <diagkit/model/Odx.h>
 #include <diagkit/model/SnrefResolver.h>
 
@@ -57,6 +57,7 @@ public:
     VDatabase& operator=(VDatabase const&) = delete;
 
     NODX201::VOdx& GetOdx();
+    VMemOdx& GetMemOdx() { return *m_odx; } ///< the same
 
     VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName); ///< DIAG-LAYER-CONTAINER
     VMemComparamSpec& AddComparamSpec(wchar_t const* shortName);             ///< COMPARAM-SPEC
@@ -78,26 +79,27 @@ public:
     std::uint32_t AddDocumentName(std::string name);
     std::string const& GetDocumentName(VPosition const& position) const; ///< UTF-8; "" when not known
 
+    /// Takes in what was made detached: the IDs and the count of its elements. The part lives as long as the database.
+    void Adopt(std::unique_ptr<VPart> part);
+
     /// How many elements of a kind the database holds.
     std::size_t Count(NODX201::VOdxTagEnum tag) const;
 
     // For the elements and links of the database.
 
-    wchar_t const* Store(std::wstring_view text) { return m_texts.Store(text); }
     void Index(wchar_t const* id, NODX201::VReferencable& element);
     void Unindex(wchar_t const* id, NODX201::VReferencable const& element);
     VIdIndex const& GetIdIndex() const { return m_ids; }
     VPlaceIndex& GetPlaceIndex() { return *m_places; }
-    std::wstring MakeId();                ///< an ID that no element has
-    void NoteChange() { ++m_generation; } ///< what links remember may not hold any more
-    void NoteRemoval();                   ///< nor what the resolver remembers
-    void CountIn(NODX201::VOdxTagEnum tag);
-    void CountOut(NODX201::VOdxTagEnum tag);
-    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to);
+    std::wstring MakeId();                                       ///< an ID that no element has
+    void NoteChange() { ++m_generation; }                        ///< what links remember may not hold any more
+    void NoteRemoval();                                          ///< nor what the resolver remembers
     std::uint64_t GetGeneration() const { return m_generation; } ///< grows with every change
 
 private:
-    VTextPool m_texts;
+    friend class VPart;
+
+    std::vector<std::unique_ptr<VPart>> m_parts; // first the database's own
     VIdIndex m_ids;
     std::unique_ptr<VPlaceIndex> m_places;
     std::vector<std::size_t> m_counts; // by tag value

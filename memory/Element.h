@@ -24,7 +24,7 @@ public:
     NODX201::VOdxObject* GetOwner() const override { return Owner(); }
 
     /// What a child of this element is born into.
-    VPlace Inside() { return {this, &GetDatabase()}; }
+    VPlace Inside() { return {this, &Part()}; }
 };
 
 /// An element of a class that bears one of several tags, such as LOWER-LIMIT and UPPER-LIMIT.
@@ -44,7 +44,7 @@ public:
     NODX201::VOdxObject* GetOwner() const override { return Owner(); }
 
     /// What a child of this element is born into.
-    VPlace Inside() { return {this, &GetDatabase()}; }
+    VPlace Inside() { return {this, &Part()}; }
 
 private:
     NODX201::VOdxTagEnum m_tag;

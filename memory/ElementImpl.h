@@ -13,12 +13,12 @@ namespace NMemory {
 template <class Contract, NODX201::VOdxTagEnum Tag>
 void VMemNamed<Contract, Tag>::SetShortName(wchar_t const* shortName) {
     m_shortName = this->Store(shortName);
-    this->GetDatabase().NoteChange();
+    this->Part().NoteChange();
 }
 
 template <class Contract, NODX201::VOdxTagEnum Tag>
 VMemIdent<Contract, Tag>::~VMemIdent() {
-    this->GetDatabase().Unindex(m_id, *this);
+    this->Part().Unindex(m_id, *this);
 }
 
 template <class Contract, NODX201::VOdxTagEnum Tag>
@@ -28,8 +28,8 @@ void VMemIdent<Contract, Tag>::SetId(wchar_t const* id) {
         return;
     }
     // The new one first: when memory runs out, the old one still finds the element.
-    this->GetDatabase().Index(stored, *this);
-    this->GetDatabase().Unindex(m_id, *this);
+    this->Part().Index(stored, *this);
+    this->Part().Unindex(m_id, *this);
     m_id = stored;
 }
 

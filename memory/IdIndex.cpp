@@ -5,8 +5,8 @@
 
 namespace NMemory {
 
-void VIdIndex::Add(std::wstring_view id, NODX201::VReferencable& element) {
-    VEntry& entry = m_entries[id];
+void VIdIndex::Add(std::wstring_view id, std::uint32_t hash, NODX201::VReferencable& element) {
+    VEntry& entry = m_entries.Add(id, hash, [](std::wstring_view added) { return added.data(); });
     if (entry.first == nullptr) {
         entry.first = &element;
     } else {
@@ -15,24 +15,23 @@ void VIdIndex::Add(std::wstring_view id, NODX201::VReferencable& element) {
 }
 
 void VIdIndex::Remove(std::wstring_view id, NODX201::VReferencable const& element) {
-    auto const found = m_entries.find(id);
-    if (found == m_entries.end()) {
+    VEntry* const entry = m_entries.Find(id);
+    if (entry == nullptr) {
         return;
     }
-    VEntry& entry = found->second;
-    if (entry.first != &element) {
-        entry.others.erase(std::remove(entry.others.begin(), entry.others.end(), &element), entry.others.end());
-    } else if (entry.others.empty()) {
-        m_entries.erase(found);
+    if (entry->first != &element) {
+        entry->others.erase(std::remove(entry->others.begin(), entry->others.end(), &element), entry->others.end());
+    } else if (entry->others.empty()) {
+        entry->first = nullptr;
     } else {
-        entry.first = entry.others.front();
-        entry.others.erase(entry.others.begin());
+        entry->first = entry->others.front();
+        entry->others.erase(entry->others.begin());
     }
 }
 
 VIdIndex::VEntry const* VIdIndex::Find(std::wstring_view id) const {
-    auto const found = m_entries.find(id);
-    return found != m_entries.end() ? &found->second : nullptr;
+    VEntry const* const entry = m_entries.Find(id);
+    return entry != nullptr && entry->first != nullptr ? entry : nullptr;
 }
 
 } // namespace NMemory

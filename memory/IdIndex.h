@@ -1,40 +1,45 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include <diagkit/memory/TextTable.h>
 #include <diagkit/model/OdxElement.h>
 
 namespace NMemory {
 
 /// The elements of a database by ID. An ID may occur several times: in several documents, and in faulty data in one.
-/// The keys are texts of the database's pool.
+/// The keys are texts of the database's pools.
 class VIdIndex {
 public:
-    /// The elements of one ID in load order: the first, and the others where there are any.
+    /// The elements of one ID in load order: the first, and the others where there are any. An entry stays where it is
+    /// until an ID is added.
     struct VEntry {
-        NODX201::VReferencable* first = nullptr;
+        NODX201::VReferencable* first = nullptr; // null when all have been removed
         std::vector<NODX201::VReferencable*> others;
     };
 
-    void Add(std::wstring_view id, NODX201::VReferencable& element);
+    void Add(std::wstring_view id, NODX201::VReferencable& element) { Add(id, HashOf(id), element); }
+    void Add(std::wstring_view id, std::uint32_t hash, NODX201::VReferencable& element); ///< with what `HashOf` gives
     void Remove(std::wstring_view id, NODX201::VReferencable const& element);
     VEntry const* Find(std::wstring_view id) const; ///< null when no element has the ID
+    void MakeRoom(std::size_t more) { m_entries.Reserve(m_entries.Count() + more); }
 
     /// Calls `take` with every entry of an ID that occurs more than once, in no order.
     template <class Take>
     void ForEachRepeated(Take take) const {
-        for (auto const& [id, entry] : m_entries) {
+        m_entries.ForEach([&take](VEntry const& entry) {
             if (!entry.others.empty()) {
                 take(entry);
             }
-        }
+        });
     }
 
 private:
-    std::unordered_map<std::wstring_view, VEntry> m_entries;
+    VTextTable<VEntry> m_entries;
 };
 
 } // namespace NMemory

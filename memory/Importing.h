@@ -15,7 +15,7 @@ public:
     /// Imports another layer from now on, for every reference that looks there.
     void SetReference(VReference const& reference) {
         VMemLink::SetReference(reference);
-        GetDatabase().NoteChange();
+        Part().NoteChange();
     }
 
     bool HasDiagLayer() const { return FindById(); }

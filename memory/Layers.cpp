@@ -83,7 +83,7 @@ Layer& VMemDiagLayerCollection::Add(std::unique_ptr<Layer> layer) {
 
 template <class Layer>
 Layer& VMemDiagLayerContainer::Add(wchar_t const* shortName) {
-    auto layer = New<Layer>(VPlace{&m_diagLayer, &GetDatabase()});
+    auto layer = New<Layer>(VPlace{&m_diagLayer, &Part()});
     layer->SetShortName(shortName);
     return m_diagLayer.Add(std::move(layer));
 }

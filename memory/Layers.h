@@ -64,7 +64,7 @@ public:
     VImportRefCollection& ImportRefCollection() override { return m_importRef.Get(); } ///< IMPORT-REFS
     VMemCollection<VImportRefCollection>& MakeImportRefCollection() { return m_importRef.Make(); }
     VMemImportRef& AddImportRef(VReference const& reference) {
-        this->GetDatabase().NoteChange();
+        this->Part().NoteChange();
         return AddLink<VMemImportRef>(m_importRef, this->Inside(), reference);
     }
 

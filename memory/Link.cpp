@@ -95,12 +95,11 @@ VReference ReferenceOf(NODX201::ILink const& link) {
     return VReference::ById(byId.GetIdRef(), byId.GetDocref(), byId.GetDoctype(), byId.GetRevision());
 }
 
-VMemOdxLink::VMemOdxLink(VDatabase& database, VReference const& reference)
-    : m_id(database.Store(reference.m_id)), m_docref(database.Store(reference.m_docref)),
-      m_doctype(database.Store(reference.m_doctype)), m_revision(database.Store(reference.m_revision)) {}
+VMemOdxLink::VMemOdxLink(VPart& part, VReference const& reference)
+    : m_id(part.Store(reference.m_id)), m_docref(part.Store(reference.m_docref)),
+      m_doctype(part.Store(reference.m_doctype)), m_revision(part.Store(reference.m_revision)) {}
 
-VMemSnref::VMemSnref(VDatabase& database, VReference const& reference)
-    : m_shortName(database.Store(reference.m_shortName)) {}
+VMemSnref::VMemSnref(VPart& part, VReference const& reference) : m_shortName(part.Store(reference.m_shortName)) {}
 
 bool IsDiagCommOfLayer(NODX201::VReferencable& element) {
     return dynamic_cast<NODX201::VDiagComm*>(&element) != nullptr &&

@@ -47,7 +47,8 @@ VReference ReferenceOf(NODX201::ILink const& link);
 
 class VMemOdxLink final : public NODX201::VOdxLink {
 public:
-    VMemOdxLink(VDatabase& database, VReference const& reference);
+    VMemOdxLink() = default;
+    VMemOdxLink(VPart& part, VReference const& reference);
 
     wchar_t const* GetIdRef() const override { return m_id; }
     wchar_t const* GetDocref() const override { return m_docref; }
@@ -55,15 +56,15 @@ public:
     wchar_t const* GetRevision() const override { return m_revision; }
 
 private:
-    wchar_t const* m_id;
-    wchar_t const* m_docref;
-    wchar_t const* m_doctype;
-    wchar_t const* m_revision;
+    wchar_t const* m_id = L"";
+    wchar_t const* m_docref = L"";
+    wchar_t const* m_doctype = L"";
+    wchar_t const* m_revision = L"";
 };
 
 class VMemSnref final : public NODX201::VSnref {
 public:
-    VMemSnref(VDatabase& database, VReference const& reference);
+    VMemSnref(VPart& part, VReference const& reference);
 
     wchar_t const* GetShortName() const override { return m_shortName; }
 
@@ -92,8 +93,7 @@ NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& 
 template <class Contract, NODX201::VOdxTagEnum Tag, class Target>
 class VMemLink : public VMemTagged<Contract> {
 public:
-    VMemLink(VPlace const& place, VReference const& reference)
-        : VMemTagged<Contract>(place, Tag), m_form(std::in_place_type<VMemOdxLink>, *place.database, reference) {
+    VMemLink(VPlace const& place, VReference const& reference) : VMemTagged<Contract>(place, Tag) {
         SetReference(reference);
     }
 
@@ -103,11 +103,11 @@ public:
 
     /// Names another target from now on.
     void SetReference(VReference const& reference) {
-        VDatabase& database = this->GetDatabase();
+        VPart& part = this->Part();
         if (reference.IsByShortName()) {
-            m_form.template emplace<VMemSnref>(database, reference);
+            m_form.template emplace<VMemSnref>(part, reference);
         } else {
-            m_form.template emplace<VMemOdxLink>(database, reference);
+            m_form.template emplace<VMemOdxLink>(part, reference);
         }
         m_generation = 0;
         m_isSevered = false;

@@ -5,8 +5,8 @@
 
 namespace NMemory {
 
-VMemNode::VMemNode(VPlace const& place, NODX201::VOdxTagEnum tag) : m_owner(place.owner), m_database(place.database) {
-    m_database->CountIn(tag);
+VMemNode::VMemNode(VPlace const& place, NODX201::VOdxTagEnum tag) : m_owner(place.owner), m_part(place.part) {
+    m_part->CountIn(tag);
 }
 
 VMemNode::~VMemNode() {
@@ -15,12 +15,12 @@ VMemNode::~VMemNode() {
     }
 }
 
-wchar_t const* VMemNode::Store(wchar_t const* text) const { return m_database->Store(text); }
+wchar_t const* VMemNode::Store(wchar_t const* text) const { return m_part->Store(text); }
 
-void VMemNode::ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to) { m_database->ChangeTag(from, to); }
+void VMemNode::ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to) { m_part->ChangeTag(from, to); }
 
-void VMemNode::NoteMove() { m_database->NoteRemoval(); }
+void VMemNode::NoteMove() { GetDatabase().NoteRemoval(); }
 
-void VMemNode::CountOut(NODX201::VOdxTagEnum tag) { m_database->CountOut(tag); }
+void VMemNode::CountOut(NODX201::VOdxTagEnum tag) { m_part->CountOut(tag); }
 
 } // namespace NMemory

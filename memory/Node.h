@@ -3,13 +3,13 @@
 
 #include <cstdint>
 
+#include <diagkit/memory/Part.h>
 #include <diagkit/model/OdxElement.h>
 
 namespace NMemory {
 
 using Tag = NODX201::VOdxTagEnum;
 
-class VDatabase;
 class VMemNode;
 
 /// Where an element stands in a file. Line and column count from 1; 0 means not known, as for elements made by hand.
@@ -22,7 +22,7 @@ struct VPosition {
 /// What a new element is born into.
 struct VPlace {
     NODX201::VOdxObject* owner;
-    VDatabase* database;
+    VPart* part;
 };
 
 /// A collection, from the side of an element that leaves it.
@@ -42,7 +42,7 @@ public:
     VMemNode(VMemNode const&) = delete;
     VMemNode& operator=(VMemNode const&) = delete;
 
-    VDatabase& GetDatabase() const { return *m_database; }
+    VDatabase& GetDatabase() const { return m_part->GetDatabase(); }
     VPosition const& GetPosition() const { return m_position; }
     void SetPosition(VPosition const& position) { m_position = position; }
 
@@ -51,7 +51,8 @@ protected:
     ~VMemNode();
 
     NODX201::VOdxObject* Owner() const { return m_owner; }
-    wchar_t const* Store(wchar_t const* text) const; ///< in the database's text pool
+    VPart& Part() const { return *m_part; }
+    wchar_t const* Store(wchar_t const* text) const; ///< in the part's text pool
 
     void NoteMove();
     void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< in the database's counts
@@ -63,7 +64,7 @@ private:
     friend class VMemDiagLayerCollection;
 
     NODX201::VOdxObject* m_owner;
-    VDatabase* m_database;
+    VPart* m_part;
     VMemHome* m_home = nullptr;
     void const* m_entry = nullptr;
     VPosition m_position;

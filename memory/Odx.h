@@ -35,6 +35,16 @@ public:
     VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName) {
         return AddNamed<VMemMultipleEcuJobSpec>(m_multipleEcuJobSpec, Inside(), shortName);
     }
+    /// A category document, made in a part that is detached, joins the others of its kind as the last.
+    template <class Category>
+    std::unique_ptr<Category> MakeDetached(VPart& part) {
+        return New<Category>(VPlace{this, &part});
+    }
+    void Adopt(std::unique_ptr<VMemDiagLayerContainer> made) { m_diagLayerContainer.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemComparamSpec> made) { m_comparamSpec.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemFlash> made) { m_flash.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { m_multipleEcuJobSpec.Make().Append(std::move(made)); }
+
     void AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
         m_instructions.Add(Store(name), Store(content));
     }

@@ -18,12 +18,7 @@ wchar_t const* VTextPool::Store(std::wstring_view text) {
     if (text.size() > kLongestShared) {
         return Copy(text);
     }
-    if (auto const known = m_shared.find(text); known != m_shared.end()) {
-        return known->data();
-    }
-    wchar_t const* const copy = Copy(text);
-    m_shared.emplace(copy, text.size());
-    return copy;
+    return m_shared.Add(text, HashOf(text), [this](std::wstring_view added) { return Copy(added); }).text;
 }
 
 wchar_t const* VTextPool::Copy(std::wstring_view text) {

@@ -3,23 +3,29 @@
 
 #include <memory>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
+
+#include <diagkit/memory/TextTable.h>
 
 namespace NMemory {
 
-/// Stores the texts of a database: each text once, zero-terminated, at an address that stays valid until the pool is
-/// destroyed. Nothing is freed before.
+/// Stores texts: each once, zero-terminated, at an address that stays valid until the pool is destroyed. Nothing is
+/// freed before.
 class VTextPool {
 public:
     /// The stored copy of `text`. Short texts (names, IDs, literals) that are equal share one copy; the empty text is
     /// always "".
     wchar_t const* Store(std::wstring_view text);
 
+    /// No text stored so far is shared by later ones any more, which saves the memory of knowing them all.
+    void ForgetShared() { m_shared.Clear(); }
+
 private:
+    struct VNothing {};
+
     wchar_t const* Copy(std::wstring_view text);
 
-    std::unordered_set<std::wstring_view> m_shared;
+    VTextTable<VNothing> m_shared;
     std::vector<std::unique_ptr<wchar_t[]>> m_blocks;
     wchar_t* m_next = nullptr;
     std::size_t m_left = 0;

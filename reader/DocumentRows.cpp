@@ -80,30 +80,21 @@ VElementType const& TypeOf(VMemDiagLayerContainer*) {
 }
 
 template <class Category>
-VOpened OpenCategory(VLoader& loader, Category& category, char const* element) {
+VOpened OpenCategory(VLoader& loader, void*, VRow const& row, VAttributes const&) {
+    Category& category = loader.Reading().MakeCategory<Category>(row.name);
     NoteElement(loader, category);
-    loader.AddCategory(category, element);
     return {&category, &TypeOf(&category)};
 }
 
 VElementType const& RootType() {
+    using R = VRows<VLoader>;
     static VElementType const type = Table({}, {
-        VRows<VLoader>::Special("DIAG-LAYER-CONTAINER", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
-            return OpenCategory(loader, loader.Database().AddDiagLayerContainer(L""), "DIAG-LAYER-CONTAINER");
-        }),
-        VRows<VLoader>::Special("COMPARAM-SPEC", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
-            return OpenCategory(loader, loader.Database().AddComparamSpec(L""), "COMPARAM-SPEC");
-        }),
-        VRows<VLoader>::Special("FLASH", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
-            return OpenCategory(loader, loader.Database().AddFlash(L""), "FLASH");
-        }),
-        VRows<VLoader>::Special("MULTIPLE-ECU-JOB-SPEC", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
-            return OpenCategory(loader, loader.Database().AddMultipleEcuJobSpec(L""), "MULTIPLE-ECU-JOB-SPEC");
-        }),
+        R::Special("DIAG-LAYER-CONTAINER", Many, &OpenCategory<VMemDiagLayerContainer>),
+        R::Special("COMPARAM-SPEC", Many, &OpenCategory<VMemComparamSpec>),
+        R::Special("FLASH", Many, &OpenCategory<VMemFlash>),
+        R::Special("MULTIPLE-ECU-JOB-SPEC", Many, &OpenCategory<VMemMultipleEcuJobSpec>),
         // A category of later versions, which holds what a COMPARAM-SPEC held before.
-        VRows<VLoader>::Special("COMPARAM-SUBSET", Many, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
-            return OpenCategory(loader, loader.Database().AddComparamSpec(L""), "COMPARAM-SUBSET");
-        }),
+        R::Special("COMPARAM-SUBSET", Many, &OpenCategory<VMemComparamSpec>),
     });
     return type;
 }

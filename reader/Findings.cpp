@@ -2,6 +2,7 @@
 #include <diagkit/reader/Findings.h>
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -23,8 +24,10 @@ void VFindings::Add(NMemory::VPosition const& position, VSeverity severity, std:
     m_findings.push_back({position, severity, std::move(code), Clipped(std::move(message))});
 }
 
-void VFindings::Forget(std::size_t from) {
-    m_findings.erase(m_findings.begin() + static_cast<std::ptrdiff_t>(from), m_findings.end());
+void VFindings::Append(VFindings&& later) {
+    m_findings.insert(m_findings.end(), std::make_move_iterator(later.m_findings.begin()),
+                      std::make_move_iterator(later.m_findings.end()));
+    later.m_findings.clear();
 }
 
 std::vector<VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {

@@ -16,8 +16,7 @@ std::string Clipped(std::string message);
 class VFindings {
 public:
     void Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message);
-    std::size_t Count() const { return m_findings.size(); }
-    void Forget(std::size_t from); ///< those added since there were `from`
+    void Append(VFindings&& later);
 
     /// All of them, by document and position, with the documents' names.
     std::vector<VDiagnostic> Sorted(NMemory::VDatabase const& database) const;

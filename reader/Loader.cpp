@@ -76,45 +76,6 @@ std::string Quoted(std::string_view text) {
 
 } // namespace
 
-VLoader::VLoader(VReading& reading, std::uint32_t document)
-    : m_reading(reading), m_document(document), m_linksBefore(reading.links.size()),
-      m_parentRefsBefore(reading.parentRefs.size()), m_elementsBefore(reading.elements.size()),
-      m_findingsBefore(reading.findings.Count()) {}
-
-VLoader::~VLoader() {
-    if (m_isCommitted) {
-        return;
-    }
-    m_reading.links.resize(m_linksBefore);
-    m_reading.parentRefs.resize(m_parentRefsBefore);
-    m_reading.elements.resize(m_elementsBefore);
-    m_reading.findings.Forget(m_findingsBefore);
-    for (auto const& category : m_categories) {
-        delete category.first;
-    }
-}
-
-void VLoader::Commit() {
-    if (m_categories.empty()) {
-        m_reading.findings.Add(m_rootPosition, VSeverity::Warning, "no-category",
-                               "the document holds no category that the model has a place for, so nothing was loaded");
-    }
-    for (auto const& [category, element] : m_categories) {
-        m_reading.documents.push_back({Database().GetDocumentName({m_document, 0, 0}), m_modelVersion, element,
-                                       ToUtf8(category->GetShortName())});
-    }
-    for (auto const& [name, content] : m_instructions) {
-        Database().AddProcessingInstruction(name.c_str(), content.c_str());
-    }
-    for (auto const& [name, count] : m_unknownElements) {
-        m_reading.unknownElements[name] += count;
-    }
-    for (auto& [id, name] : m_idsLeftOut) {
-        m_reading.idsLeftOut.emplace(std::move(id), std::move(name));
-    }
-    m_isCommitted = true;
-}
-
 NMemory::VPosition VLoader::Position() const {
     if (m_replayed != nullptr) {
         return *m_replayed;
@@ -137,10 +98,6 @@ void VLoader::SetModelVersion(std::string_view version) {
         return;
     }
     m_isVersion20 = major == "0" || major == "1" || (major == "2" && minor == "0");
-}
-
-void VLoader::AddCategory(NODX201::VReferencable& category, char const* element) {
-    m_categories.emplace_back(&category, element);
 }
 
 void VLoader::Report(VSeverity severity, char const* code, std::string message) {
@@ -213,7 +170,7 @@ void VLoader::StartUnknown(std::string_view name, VAttributes const& attributes)
         return;
     }
     Skip(name, attributes);
-    ++m_unknownElements[std::string(name)];
+    ++m_reading.unknownElements[std::string(name)];
     bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
     if (m_isVersion20 && !isCategory) {
         Report(VSeverity::Warning, "unknown-child",
@@ -347,7 +304,7 @@ void VLoader::Skip(std::string_view name, VAttributes const& attributes) {
 
 void VLoader::NoteLeftOut(std::string_view name, VAttributes const& attributes) {
     if (char const* const id = attributes.Find("ID")) {
-        m_idsLeftOut.emplace_back(id, name);
+        m_reading.idsLeftOut.emplace(id, name);
     }
 }
 
@@ -504,7 +461,7 @@ void VLoader::Instruction(std::string_view name, std::string_view content) {
         return;
     }
     if (m_frames.size() <= 1) {
-        m_instructions.emplace_back(FromUtf8(name), FromUtf8(content));
+        m_reading.AddInstruction(FromUtf8(name), FromUtf8(content));
         return;
     }
     VFrame const& frame = m_frames.back();

@@ -30,9 +30,8 @@ struct VPendingParentRef {
     NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef, NMemory::VParentRefKind kind);
 };
 
-/// What reading several documents into one database collects.
-struct VReading {
-    std::unique_ptr<NMemory::VDatabase> database;
+/// What reading collects, of one document or of several.
+struct VCollected {
     VFindings findings;
     std::vector<VDocumentInfo> documents;
     std::map<std::string, std::size_t> unknownElements;
@@ -42,17 +41,64 @@ struct VReading {
     std::vector<NODX201::VOdxElement*> elements; ///< when they are kept: all, in document order
     /// The IDs of elements that found no place in the model, with their tags: a reference to one is not to nothing.
     std::unordered_map<std::string, std::string> idsLeftOut;
+
+    void Append(VCollected&& later);
+};
+
+/// What reading several documents into one database comes to.
+struct VReading : VCollected {
+    std::unique_ptr<NMemory::VDatabase> database;
+};
+
+/// What one document brings. It stands by itself: the database has nothing of it until it is adopted, so documents are
+/// read in any order, and beside one another. One that is not adopted leaves nothing behind.
+class VDocumentReading : public VCollected {
+public:
+    VDocumentReading(NMemory::VDatabase& database, bool isKeepingElements);
+    ~VDocumentReading();
+    VDocumentReading(VDocumentReading const&) = delete;
+    VDocumentReading& operator=(VDocumentReading const&) = delete;
+
+    NMemory::VDatabase& Database() { return m_database; }
+
+    /// A new category document. Its name in the table is kept.
+    template <class Category>
+    Category& MakeCategory(char const* name) {
+        auto made = m_database.GetMemOdx().MakeDetached<Category>(*m_part);
+        Category& category = *made;
+        m_categories.push_back({std::move(made), name, [](NMemory::VMemOdx& odx, VMade adopted) {
+                                    odx.Adopt(std::unique_ptr<Category>(static_cast<Category*>(adopted.release())));
+                                }});
+        return category;
+    }
+    void AddInstruction(std::wstring name, std::wstring content);
+
+    /// The document has been read to its end.
+    void Complete(std::uint32_t document, NMemory::VPosition const& root, std::string const& modelVersion);
+
+    /// Puts all into the database and what is collected of it.
+    void AdoptInto(VReading& reading);
+
+private:
+    using VMade = std::unique_ptr<NODX201::VReferencable>;
+
+    struct VCategory {
+        VMade made;
+        char const* name;
+        void (*adopt)(NMemory::VMemOdx& odx, VMade adopted);
+    };
+
+    NMemory::VDatabase& m_database;
+    std::unique_ptr<NMemory::VPart> m_part;
+    std::vector<VCategory> m_categories;
+    std::vector<std::pair<std::wstring, std::wstring>> m_instructions; // of the database
 };
 
 /// Turns the events of one document into elements, along the element tables. Nothing of the document is held but the
 /// elements that are open.
-///
-/// All that a document brings can be taken back as long as its loader lives, so that a document that breaks off leaves
-/// nothing behind.
 class VLoader final : public IXmlHandler {
 public:
-    VLoader(VReading& reading, std::uint32_t document);
-    ~VLoader();
+    VLoader(VDocumentReading& reading, std::uint32_t document) : m_reading(reading), m_document(document) {}
 
     void Start(std::string_view name, VAttributes const& attributes) override;
     void End(std::string_view name) override;
@@ -62,17 +108,15 @@ public:
     /// Whose events these are; asked for positions.
     void SetParser(VXmlParser& parser) { m_parser = &parser; }
 
-    /// The document is complete: what it brought stays.
-    void Commit();
+    /// The document has been read to its end.
+    void Complete() { m_reading.Complete(m_document, m_rootPosition, m_modelVersion); }
 
     // For the rows of the element tables.
 
-    NMemory::VDatabase& Database() { return *m_reading.database; }
-    VReading& Reading() { return m_reading; }
+    VDocumentReading& Reading() { return m_reading; }
     NMemory::VPosition Position() const; ///< of the tag being read
     bool IsVersion20() const { return m_isVersion20; }
     void SetModelVersion(std::string_view version);
-    void AddCategory(NODX201::VReferencable& category, char const* element);
     void Report(VSeverity severity, char const* code, std::string message);
     /// An ID reference or short-name reference as its attributes say, valid until the next call.
     NMemory::VReference ReadIdReference(VAttributes const& attributes);
@@ -126,21 +170,12 @@ private:
     void Record(VEvent event);
     void Replay();
 
-    VReading& m_reading;
+    VDocumentReading& m_reading;
     VXmlParser* m_parser = nullptr;
     std::uint32_t m_document;
     NMemory::VPosition m_rootPosition;
-    bool m_isCommitted = false;
     bool m_isVersion20 = false; // as far as the document says
     std::string m_modelVersion;
-    std::vector<std::pair<NODX201::VReferencable*, std::string>> m_categories;
-    std::vector<std::pair<std::wstring, std::wstring>> m_instructions;
-    std::map<std::string, std::size_t> m_unknownElements;
-    std::vector<std::pair<std::string, std::string>> m_idsLeftOut;
-    std::size_t m_linksBefore;
-    std::size_t m_parentRefsBefore;
-    std::size_t m_elementsBefore;
-    std::size_t m_findingsBefore;
 
     std::vector<VFrame> m_frames;
     std::uint32_t m_skipped = 0; // depth inside an element that is left out

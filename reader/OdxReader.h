@@ -16,11 +16,15 @@ namespace NReader {
 
 /// The limits, and what else a caller may ask for.
 struct VReadOptions : VReadLimits {
+    /// How many documents are read at the same time: 1 for one after the other, 0 for as many as the machine has cores
+    /// and as are worth a thread. What comes of it is the same.
+    std::uint32_t threads = 0;
+
     /// Whether `VReadResult::elements` is wanted, for programs that look at every element or reference.
     bool keepsElements = false;
 
     /// Called now and then during long work with the bytes read so far and those to read in all (compressed sizes for
-    /// packages); may be empty.
+    /// packages), by the thread that reads; may be empty.
     std::function<void(std::uint64_t done, std::uint64_t all)> progress;
 };
 

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include <diagkit/memory/TextPool.h>
+#include <diagkit/model/OdxElement.h>
+
+namespace NMemory {
+
+class VDatabase;
+
+/// What the elements of one document share: the pool of their texts, and the way to their database. The elements made
+/// by hand at the root of a database share its own part; elements made inside of others belong to the part of those.
+///
+/// A part is born detached: its elements are not counted and their IDs not known in the database, which nothing that
+/// they do changes, until `VDatabase::Adopt` takes it in. So documents can be read beside one another, each by one
+/// thread, and what becomes of them depends on the order of adoption alone.
+class VPart {
+public:
+    explicit VPart(VDatabase& database) : m_database(database) {}
+    VPart(VPart const&) = delete;
+    VPart& operator=(VPart const&) = delete;
+
+    VDatabase& GetDatabase() const { return m_database; }
+
+    /// All elements of a detached part are about to be destroyed: none needs to leave it one by one.
+    void Close() { m_isClosing = true; }
+    /// No more texts come, or few.
+    void Complete() { m_texts.ForgetShared(); }
+
+    // For the elements of the part.
+
+    wchar_t const* Store(std::wstring_view text) { return m_texts.Store(text); }
+    void Index(wchar_t const* id, NODX201::VReferencable& element);
+    void Unindex(wchar_t const* id, NODX201::VReferencable const& element);
+    void NoteChange();
+    void CountIn(NODX201::VOdxTagEnum tag);
+    void CountOut(NODX201::VOdxTagEnum tag);
+    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to);
+
+private:
+    friend class VDatabase;
+
+    struct VId {
+        std::wstring_view id;
+        NODX201::VReferencable* element;
+        std::uint32_t hash;
+    };
+
+    VDatabase& m_database;
+    VTextPool m_texts;
+    bool m_isDetached = true;
+    bool m_isClosing = false;
+    std::vector<std::size_t> m_counts; // by tag value; while it is detached
+    std::vector<VId> m_ids;            // in load order; while it is detached
+};
+
+} // namespace NMemory

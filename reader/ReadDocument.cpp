@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/ReadDocument.h>
+
+#include <utility>
+
+namespace NReader {
+namespace {
+
+/// What one try at a document came to.
+struct VTry {
+    std::unique_ptr<VDocumentReading> reading{}; // null when it failed
+    std::string doubt{};                         // when another encoding may help: why
+    VFailure failure{};
+};
+
+VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& options, std::uint32_t document,
+                 VBytes const& bytes, char const* encoding, bool isRepaired) {
+    VLoader loader(*reading, document);
+    VXmlParser parser(loader, options, encoding);
+    loader.SetParser(parser);
+
+    VTry result;
+    bool isEmpty = true;
+    bool isParsed = true;
+    bool const isDelivered = bytes(
+        [&](std::string_view piece) {
+            isEmpty = false;
+            return isParsed = parser.Feed(piece, false);
+        },
+        result.failure);
+    if (!isDelivered) {
+        return result;
+    }
+    if (isEmpty) {
+        result.failure = {{}, "empty", "is empty"};
+        return result;
+    }
+    if (!isParsed || !parser.Feed({}, true)) {
+        VXmlError const& problem = parser.GetError();
+        result.failure = {problem.position, problem.code, problem.message};
+        result.doubt = isRepaired ? "" : problem.doubt;
+        return result;
+    }
+    if (std::string const declared = parser.GetContradictedEncoding(); !declared.empty()) {
+        reading->findings.Add({document, 1, 1}, VSeverity::Warning, "encoding",
+                              "the document declares " + declared + " but has the byte order mark of " +
+                                  parser.GetMarkedEncoding() + ", in which it is read");
+    }
+    if (VXmlPosition const place = parser.GetDoubtfulPosition(); place.line != 0) {
+        reading->findings.Add({document, place.line, place.column}, VSeverity::Warning, "encoding",
+                              "the document declares " + parser.GetDeclaredEncoding() +
+                                  ", in which it is read, but all that is beyond ASCII is UTF-8, first here");
+    }
+    loader.Complete();
+    result.reading = std::move(reading);
+    return result;
+}
+
+} // namespace
+
+std::unique_ptr<VDocumentReading> ReadDocument(NMemory::VDatabase& database, VReadOptions const& options,
+                                               std::uint32_t document, VBytes const& bytes, VFindings& findings) {
+    auto const tryDocument = [&](char const* encoding, bool isRepaired) {
+        auto reading = std::make_unique<VDocumentReading>(database, options.keepsElements);
+        return TryDocument(std::move(reading), options, document, bytes, encoding, isRepaired);
+    };
+    auto const at = [document](VXmlPosition const& position) {
+        return NMemory::VPosition{document, position.line, position.column};
+    };
+    VTry first = tryDocument(nullptr, false);
+    if (first.reading != nullptr) {
+        return std::move(first.reading);
+    }
+    VFailure failure = first.failure;
+    if (!first.doubt.empty()) {
+        // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
+        for (char const* const encoding : {"UTF-16", "UTF-8", "windows-1252"}) {
+            VTry next = tryDocument(encoding, true);
+            if (next.reading != nullptr) {
+                next.reading->findings.Add(at(first.failure.position), VSeverity::Warning, "encoding",
+                                           first.doubt + "; read as " + encoding);
+                return std::move(next.reading);
+            }
+            if (next.failure.code != "not-xml") { // it is the encoding, and something else is wrong
+                failure = next.failure;
+                break;
+            }
+        }
+    }
+    if (!failure.code.empty()) {
+        findings.Add(at(failure.position), VSeverity::Error, failure.code, failure.message);
+    }
+    return nullptr;
+}
+
+} // namespace NReader
