@@ -66,7 +66,16 @@ bool IsNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-bool IsBlank(char character) { return character == ' ' || character == '\n' || character == '\t' || character == '\r'; }
+bool IsBlank(std::string_view text) {
+    // Between elements stand many blanks in a row.
+    constexpr std::string_view kEight = "        ";
+    while (text.size() >= kEight.size() && std::memcmp(text.data(), kEight.data(), kEight.size()) == 0) {
+        text.remove_prefix(kEight.size());
+    }
+    return std::all_of(text.begin(), text.end(), [](char character) {
+        return character == ' ' || character == '\n' || character == '\t' || character == '\r';
+    });
+}
 
 std::string Quoted(std::string_view text) {
     std::string quoted = "'";
@@ -369,7 +378,7 @@ void VLoader::Text(std::string_view text) {
     } else if (frame.type->setContent != nullptr) {
         m_text += text;
         m_parser->LimitText(m_text.size());
-    } else if (!frame.hasStrayText && !std::all_of(text.begin(), text.end(), &IsBlank)) {
+    } else if (!frame.hasStrayText && !IsBlank(text)) {
         frame.hasStrayText = true;
         Report(VSeverity::Warning, "stray-text", Quoted(frame.name) + " holds text, which is left out");
     }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/Utf8.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 namespace NReader {
@@ -74,6 +77,22 @@ VDecoded Decode(std::string_view text, std::size_t at) {
     return {character, length, true};
 }
 
+/// How many bytes at the start are ASCII.
+std::size_t AsciiLength(std::string_view text) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    std::size_t index = 0;
+    for (std::uint64_t eight = 0; index + sizeof eight <= text.size(); index += sizeof eight) {
+        std::memcpy(&eight, text.data() + index, sizeof eight);
+        if ((eight & kHighBits) != 0) {
+            break;
+        }
+    }
+    while (index < text.size() && static_cast<unsigned char>(text[index]) < 0x80) {
+        ++index;
+    }
+    return index;
+}
+
 } // namespace
 
 std::string ToUtf8(std::wstring_view text) {
@@ -96,12 +115,11 @@ std::string ToUtf8(std::wstring_view text) {
 void AppendFromUtf8(std::wstring& target, std::string_view text) {
     // Nearly all texts are ASCII, every byte of which is a character.
     std::size_t const before = target.size();
-    target.resize(before + text.size());
-    std::size_t index = 0;
-    for (; index < text.size() && static_cast<unsigned char>(text[index]) < 0x80; ++index) {
-        target[before + index] = static_cast<wchar_t>(text[index]);
-    }
+    std::size_t index = AsciiLength(text);
     target.resize(before + index);
+    std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(index),
+                   target.begin() + static_cast<std::ptrdiff_t>(before),
+                   [](char character) { return static_cast<wchar_t>(static_cast<unsigned char>(character)); });
     while (index < text.size()) {
         VDecoded const decoded = Decode(text, index);
         AppendWide(target, decoded.character);

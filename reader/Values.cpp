@@ -77,6 +77,12 @@ bool IsDate(std::wstring_view text) {
 } // namespace
 
 void Trim(std::wstring& text) {
+    auto const isBlank = [](wchar_t character) {
+        return character == L' ' || character == L'\t' || character == L'\r' || character == L'\n';
+    };
+    if (text.empty() || (!isBlank(text.front()) && !isBlank(text.back()))) {
+        return; // as nearly all are
+    }
     auto const first = text.find_first_not_of(L" \t\r\n");
     if (first == std::wstring::npos) {
         text.clear();

@@ -60,6 +60,7 @@ struct VXmlParser::VState {
     std::uint64_t depth = 0;
     std::uint64_t elements = 0;
     std::uint64_t taken = 0; // bytes that expat has been given
+    VXmlPosition position;   // of what is being reported, once it has been asked for; line 0 before
     bool isRefused = false;
     std::exception_ptr thrown; // expat is C: exceptions of the handler travel around it
     VXmlError error;
@@ -171,6 +172,7 @@ VXmlParser::VXmlParser(IXmlHandler& handler, VReadLimits const& limits, char con
         if (state.isRefused) {
             return;
         }
+        state.position = {};
         try {
             run(xml, state);
         } catch (...) {
@@ -280,6 +282,7 @@ bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
         bool const isLastPiece = isLast && length == bytes.size();
         XML_Status const status =
             XML_Parse(parser, bytes.data(), static_cast<int>(length), isLastPiece ? XML_TRUE : XML_FALSE);
+        m_state->position = {}; // what is reported now is no event
         if (m_state->thrown != nullptr) {
             std::rethrow_exception(m_state->thrown);
         }
@@ -368,9 +371,13 @@ VXmlPosition VXmlParser::Placed(VXmlPosition const& position) const {
 }
 
 VXmlPosition VXmlParser::GetPosition() const {
-    auto const line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(m_state->parser));
-    auto const column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(m_state->parser) + 1);
-    return Placed({line, column});
+    VXmlPosition& position = m_state->position;
+    if (position.line == 0) {
+        auto const line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(m_state->parser));
+        auto const column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(m_state->parser) + 1);
+        position = Placed({line, column});
+    }
+    return position;
 }
 
 std::string VXmlParser::GetContradictedEncoding() const {

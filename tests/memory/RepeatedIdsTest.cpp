@@ -51,7 +51,8 @@ public:
 
     NODX201::VReferencable* Found(VLayer const& from, NMemory::VExpect expect, std::wstring const& docref,
                                   std::wstring const& doctype) {
-        NMemory::VMemOdxLink const link(m_database, VReference::ById(L"X", docref.c_str(), doctype.c_str()));
+        NMemory::VPart texts(m_database);
+        NMemory::VMemOdxLink const link(texts, VReference::ById(L"X", docref.c_str(), doctype.c_str()));
         return NMemory::ResolveId(m_database, link, *from.layer, expect);
     }
 
@@ -171,7 +172,8 @@ int AskedFrom(NMemory::VDatabase& database, NMemory::VExpect expect,
               std::vector<NMemory::VMemBaseVariant*> const& layers, bool isThere) {
     s_asked = 0;
     for (NMemory::VMemBaseVariant* const layer : layers) {
-        NMemory::VMemOdxLink const link(database, VReference::ById(L"X"));
+        NMemory::VPart texts(database);
+        NMemory::VMemOdxLink const link(texts, VReference::ById(L"X"));
         EXPECT_EQ(NMemory::ResolveId(database, link, *layer, expect) != nullptr, isThere);
     }
     return s_asked;
@@ -213,7 +215,8 @@ TEST(RepeatedIdsTest, AnswersFollowWhatIsAddedRenamedAndRemovedAmongMany) {
         services.back()->SetId(L"X");
     }
     auto const resolved = [&](wchar_t const* docref) {
-        NMemory::VMemOdxLink const link(database, VReference::ById(L"X", docref));
+        NMemory::VPart texts(database);
+        NMemory::VMemOdxLink const link(texts, VReference::ById(L"X", docref));
         return NMemory::ResolveId(database, link, from, &NMemory::IsOfClass<NODX201::VDiagService>);
     };
     EXPECT_EQ(resolved(L""), services[0]);
