@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <diagkit/Version.h>
 #include <diagkit/cli/Sizes.h>
 
 namespace NCli {

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include <diagkit/Version.h>
 #include <diagkit/check/Codes.h>
 
 namespace NCli {

@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <diagkit/Version.h>
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/Platform.h>

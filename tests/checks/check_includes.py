@@ -33,6 +33,9 @@ ROOMS = {
 PLATFORM_ROOMS = {"util", "cli"}
 PLATFORM_SOURCE = re.compile(r"_(win32|posix)$")
 
+# Made by the build; for all rooms.
+GENERATED = ("<diagkit/Export.h>", "<diagkit/Version.h>")
+
 INCLUDE = re.compile(r"^\s*#\s*include\s*(\S+)")
 OURS = re.compile(r"<diagkit/(.+)/[^/]+>$")
 STANDARD = re.compile(r"<[a-z_0-9]+>$")
@@ -48,7 +51,7 @@ def room_of(folder):
 
 def is_allowed(room, included, is_platform_source):
     rooms, others = ROOMS[room]
-    if included == "<diagkit/Export.h>" or STANDARD.match(included):
+    if included in GENERATED or STANDARD.match(included):
         return True
     if ours := OURS.match(included):
         target = room_of(ours[1])

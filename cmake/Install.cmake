@@ -1,0 +1,86 @@
+# What `cmake --install` puts where, in three components: Library (what programs need to run), Development (what it takes
+# to build them) and Program.
+
+# Debian has a folder of libraries for each architecture, below /usr/local as below /usr, and looks for them in both.
+# One build then serves packages and prefixes alike; -DCMAKE_INSTALL_LIBDIR=lib says otherwise.
+if(PROJECT_IS_TOP_LEVEL AND EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
+    set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of libraries below the prefix")
+endif()
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+include(PublicHeaders)
+
+foreach(header ${public_headers})
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/diagkit/${folder} COMPONENT Development)
+endforeach()
+install(FILES ${DIAGKIT_INCLUDE_DIR}/diagkit/Export.h ${DIAGKIT_INCLUDE_DIR}/diagkit/Version.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/diagkit COMPONENT Development)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/diagkit)
+
+# Targets are called diagkit::NAME here as there. The export sets are those of the headers' dependencies: a program that
+# reads no files needs neither expat nor libzip.
+function(diagkit_install_targets export)
+    foreach(target ${ARGN})
+        string(REPLACE "diagkit_" "" name ${target})
+        set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
+    endforeach()
+    install(TARGETS ${ARGN} EXPORT ${export}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Library
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Library NAMELINK_COMPONENT Development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(EXPORT ${export} NAMESPACE diagkit:: DESTINATION ${package_dir} COMPONENT Development)
+endfunction()
+
+# A library has a file for pkg-config, too. REQUIRES of an archive are all that it needs: it is always linked statically.
+function(diagkit_install_pkgconfig name library description requires)
+    set(from_file ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+        set(prefix ${CMAKE_INSTALL_PREFIX})
+        set(libdir ${CMAKE_INSTALL_LIBDIR})
+    else()
+        file(RELATIVE_PATH up /${from_file} /)
+        string(REGEX REPLACE "/$" "" up ${up})
+        set(prefix "\${pcfiledir}/${up}")
+        set(libdir "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+    endif()
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/diagkit.pc.in ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc DESTINATION ${from_file} COMPONENT Development)
+endfunction()
+
+diagkit_install_targets(diagkitTargets diagkit diagkit_model diagkit_memory)
+diagkit_install_pkgconfig(diagkit diagkit "toolkit for ODX 2.0.1 diagnostic data" "")
+diagkit_install_pkgconfig(diagkit-memory diagkit_memory "model of ODX data in memory"
+                          "diagkit = ${PROJECT_VERSION}")
+if(TARGET diagkit_reader)
+    diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check)
+    diagkit_install_pkgconfig(diagkit-reader diagkit_reader "reader of ODX documents and PDX packages"
+                              "diagkit-memory = ${PROJECT_VERSION}, expat, libzip")
+    diagkit_install_pkgconfig(diagkit-check diagkit_check "what is wrong with an ODX database"
+                              "diagkit-reader = ${PROJECT_VERSION}")
+endif()
+
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/diagkitConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/cmake/diagkitConfig.cmake INSTALL_DESTINATION ${package_dir} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/cmake/diagkitConfigVersion.cmake
+    COMPATIBILITY ${DIAGKIT_COMPATIBILITY})
+install(FILES ${PROJECT_BINARY_DIR}/cmake/diagkitConfig.cmake ${PROJECT_BINARY_DIR}/cmake/diagkitConfigVersion.cmake
+        DESTINATION ${package_dir} COMPONENT Development)
+
+if(TARGET diagkit_cli)
+    if(UNIX AND NOT APPLE)
+        # Found wherever the prefix is moved to.
+        file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+        set_target_properties(diagkit_cli PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
+    endif()
+    install(TARGETS diagkit_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Program)
+    install(FILES packaging/diagkit.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Program)
+    install(FILES packaging/completions/diagkit.bash RENAME diagkit
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT Program)
+    install(FILES packaging/completions/_diagkit
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT Program)
+    install(FILES packaging/completions/diagkit.fish
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT Program)
+endif()

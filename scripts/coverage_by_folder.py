@@ -1,0 +1,40 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Print the line coverage of each folder from the JSON of gcovr, and the uncovered lines of the toolkit.
+
+    coverage_by_folder.py JSON
+
+Ends with status 1 where a folder does not reach its goal.
+"""
+
+import json
+import pathlib
+import sys
+
+GOALS = {"tools": 100, "util": 100, "memory": 90, "reader": 90, "cli": 90}
+
+
+def main():
+    lines = {}
+    for file in json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))["files"]:
+        folder = file["file"].split("/")[0]
+        for line in file["lines"]:
+            if not line.get("gcovr/noncode", False):
+                lines.setdefault(folder, {})[file["file"], line["line_number"]] = line["count"] > 0
+
+    is_reached = True
+    for folder, runs in sorted(lines.items()):
+        percent = 100 * sum(runs.values()) / len(runs)
+        goal = GOALS.get(folder)
+        is_reached = is_reached and (goal is None or percent >= goal)
+        told = "" if goal is None else f", goal {goal} %"
+        print(f"{folder:8} {sum(runs.values()):6} of {len(runs):6} lines, {percent:6.2f} %{told}")
+    for folder in ("tools", "util"):
+        for (name, number), is_run in sorted(lines.get(folder, {}).items()):
+            if not is_run:
+                print(f"{name}:{number}: never runs")
+    return 0 if is_reached else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

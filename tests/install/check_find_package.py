@@ -1,0 +1,46 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Build and run programs as a project does that finds the installed diagkit with CMake.
+
+    check_find_package.py PREFIX FOLDER CMAKE_ARGUMENT...
+"""
+
+import pathlib
+import sys
+
+from project import (
+    HERE,
+    empty,
+    examples,
+    readme_block,
+    run,
+    run_examples,
+    run_readme_program,
+    run_stranger_programs,
+    version,
+    write_readme_program,
+)
+
+
+def main():
+    prefix, folder = sys.argv[1], empty(pathlib.Path(sys.argv[2]))
+    readme_cmake = folder / "readme.cmake"
+    readme_cmake.write_text(readme_block("cmake"), encoding="utf-8")
+    run(
+        "cmake",
+        *sys.argv[3:],
+        f"-DCMAKE_PREFIX_PATH={prefix}",
+        f"-DWANTED_VERSION={version()}",
+        f"-DEXAMPLES={';'.join(map(str, examples().values()))}",
+        f"-DREADME_PROGRAM={write_readme_program(folder)}",
+        f"-DREADME_CMAKE={readme_cmake}",
+        *("-S", HERE / "stranger", "-B", folder),
+    )
+    run("cmake", "--build", folder)
+    run_stranger_programs(folder)
+    run_readme_program(folder / "app")
+    run_examples(folder)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Build and run programs with the compiler alone, with what pkg-config says about the installed diagkit.
+
+    check_pkg_config.py PREFIX FOLDER COMPILER
+"""
+
+import os
+import pathlib
+import sys
+
+from project import (
+    HERE,
+    WARNINGS,
+    empty,
+    examples,
+    expect,
+    run,
+    run_examples,
+    run_readme_program,
+    run_stranger_programs,
+    version,
+    write_readme_program,
+)
+
+
+def main():
+    prefix, folder, compiler = pathlib.Path(sys.argv[1]), empty(pathlib.Path(sys.argv[2])), sys.argv[3]
+    libraries = next(prefix.rglob("libdiagkit.so")).parent
+    os.environ["PKG_CONFIG_PATH"] = str(libraries / "pkgconfig")
+    os.environ["LD_LIBRARY_PATH"] = str(libraries)
+
+    def build(program, source, package):
+        flags = run("pkg-config", "--cflags", "--libs", package).split()
+        run(compiler, "-std=c++17", *WARNINGS, source, "-o", folder / program, *flags)
+
+    packages = ["diagkit", "diagkit-memory", "diagkit-reader", "diagkit-check"]
+    for package in packages:
+        expect(run("pkg-config", "--modversion", package) == f"{version()}\n", f"{package} has another version")
+        run("pkg-config", "--validate", package)
+    # The toolkit needs nothing but itself.
+    expect(run("pkg-config", "--libs-only-l", "--static", "diagkit").split() == ["-ldiagkit"], "diagkit needs more")
+
+    build("toolkit", HERE / "stranger" / "toolkit.cpp", "diagkit")
+    build("by_hand", HERE / "stranger" / "by_hand.cpp", "diagkit-memory")
+    build("checked", HERE / "stranger" / "checked.cpp", "diagkit-check")
+    build("app", write_readme_program(folder), "diagkit-reader")
+    for name, source in examples().items():
+        build(name, source, "diagkit-reader")
+    run_stranger_programs(folder)
+    run_readme_program(folder / "app")
+    run_examples(folder)
+
+
+if __name__ == "__main__":
+    main()

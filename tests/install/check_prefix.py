@@ -1,0 +1,116 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Install the build into an empty prefix, move that somewhere else, and look at what is there.
+
+    check_prefix.py BUILD_FOLDER PREFIX
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import sys
+
+from project import ROOT, SAMPLE, empty, expect, run, version
+
+INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
+
+# In folders that are not listed below all headers are public but those that the README there calls internal.
+FOLDERS = {"", "model", "logging", "util", "tools", "tools/oem", "memory", "reader", "check"}
+PUBLIC = {
+    "": {"Export.h", "Version.h"},
+    "logging": {"SharedLogger.h"},
+    "util": {"Assertion.h"},
+    "tools/oem": {"Manufacturer.h", "OemChecker.h", "OemReport.h"},
+    "reader": {"Diagnostic.h", "OdxReader.h", "Utf8.h"},
+    "check": {"Check.h", "Codes.h", "Cycles.h"},
+}
+FILES = """
+    bin/diagkit
+    LIB/libdiagkit.so LIB/libdiagkit.so.SO LIB/libdiagkit.so.VERSION
+    LIB/libdiagkit_check.a LIB/libdiagkit_memory.a LIB/libdiagkit_reader.a
+    LIB/cmake/diagkit/diagkitConfig.cmake LIB/cmake/diagkit/diagkitConfigVersion.cmake
+    LIB/cmake/diagkit/diagkitReaderTargets-release.cmake LIB/cmake/diagkit/diagkitReaderTargets.cmake
+    LIB/cmake/diagkit/diagkitTargets-release.cmake LIB/cmake/diagkit/diagkitTargets.cmake
+    LIB/pkgconfig/diagkit-check.pc LIB/pkgconfig/diagkit-memory.pc LIB/pkgconfig/diagkit-reader.pc
+    LIB/pkgconfig/diagkit.pc
+    share/bash-completion/completions/diagkit share/fish/vendor_completions.d/diagkit.fish
+    share/man/man1/diagkit.1 share/zsh/site-functions/_diagkit
+"""
+
+
+def check_files(prefix, build_type):
+    """Everything but headers, by name."""
+    libraries = {str(path.parent.relative_to(prefix)) for path in prefix.rglob("libdiagkit.so")}
+    expect(len(libraries) == 1, f"libdiagkit.so is in {libraries}")
+    soversion = version().rpartition(".")[0] if version().startswith("0.") else version().partition(".")[0]
+    expected = FILES.replace("LIB", libraries.pop()).replace("VERSION", version()).replace("SO", soversion)
+    expected = expected.replace("-release", f"-{build_type.lower()}")
+    there = {str(path.relative_to(prefix)) for path in prefix.rglob("*") if not path.is_dir()}
+    there = {name for name in there if not name.startswith("include/")}
+    unlike = there ^ set(expected.split())
+    expect(not unlike, f"files that are there and not meant, or the other way: {unlike}")
+    soname = re.search(r"SONAME\s+(\S+)", run("objdump", "-p", next(prefix.rglob("libdiagkit.so"))))[1]
+    expect(soname == f"libdiagkit.so.{soversion}", f"the soname is {soname}")
+
+
+def internals_told(folder):
+    """The headers that the README of a folder calls internal."""
+    readme = ROOT / folder / "README.md"
+    if not readme.exists():
+        return set()
+    text = readme.read_text(encoding="utf-8").replace("\n", " ")
+    told = [part for part in re.split(r";|\.\s", text) if part.rstrip().endswith("internal")]
+    return {name for part in told for name in re.findall(r"`(\w+\.h)`", part)}
+
+
+def check_headers(include):
+    headers = {str(path.relative_to(include)): path for path in include.rglob("*") if path.is_file()}
+    by_folder = {}
+    for name in headers:
+        expect(name.startswith("diagkit/"), f"{name} is not below diagkit/")
+        folder, _, header = name[len("diagkit/") :].rpartition("/")
+        by_folder.setdefault(folder, set()).add(header)
+    expect(set(by_folder) == FOLDERS, f"folders of headers: {set(by_folder)}")
+    for folder in FOLDERS:
+        expected = PUBLIC.get(folder)
+        if expected is None:
+            expected = {path.name for path in (ROOT / folder).iterdir() if path.suffix in (".h", ".def")}
+            expected -= internals_told(folder)
+        expect(by_folder[folder] == expected, f"headers of {folder}: {by_folder[folder] ^ expected}")
+    for name, path in headers.items():
+        for included in INCLUDE.findall(path.read_text(encoding="utf-8")):
+            expect(included in headers, f"{name} includes {included}, which is not installed")
+
+
+def check_relocatable(prefix, *folders):
+    """Nothing that others read names a folder of this machine."""
+    for path in prefix.rglob("*"):
+        if path.suffix in (".cmake", ".pc", ".h", ".def"):
+            text = path.read_text(encoding="utf-8")
+            for folder in folders:
+                expect(str(folder) not in text, f"{path.name} names {folder}")
+
+
+def main():
+    build, prefix = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    made = empty(prefix.with_name("prefix.made"))
+    run("cmake", "--install", build, "--prefix", made)
+    shutil.rmtree(prefix, ignore_errors=True)
+    made.rename(prefix)
+
+    build_type = re.search(r"^CMAKE_BUILD_TYPE:\w+=(.*)$", (build / "CMakeCache.txt").read_text(), re.M)[1]
+    check_files(prefix, build_type)
+    check_headers(prefix / "include")
+    check_relocatable(prefix, made, prefix, build, ROOT)
+
+    # Without help from the environment the program finds its library.
+    environment = {name: value for name, value in os.environ.items() if name != "LD_LIBRARY_PATH"}
+    answer = run(prefix / "bin" / "diagkit", "--version", env=environment)
+    expect(answer == f"diagkit {version()}\n", f"the program is {answer!r}")
+    answer = run(prefix / "bin" / "diagkit", "layers", SAMPLE, env=environment)
+    expect("FrontWiperRainLight" in answer, f"the sample has the layers\n{answer}")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,107 @@
+# SPDX-License-Identifier: Apache-2.0
+"""What the tests of this folder share."""
+
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+HERE = pathlib.Path(__file__).resolve().parent
+ROOT = HERE.parents[1]
+SAMPLE = ROOT / "samples" / "WiperDatabase.pdx"
+WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Werror"]
+
+
+def fail(message):
+    sys.exit(f"FAILED: {message}")
+
+
+def expect(is_so, message):
+    if not is_so:
+        fail(message)
+
+
+def run(*command, **options):
+    """What a command prints, both streams together; ends the test when the command fails."""
+    command = [str(word) for word in command]
+    done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8", **options)
+    if done.returncode != 0:
+        fail(f"{' '.join(command)} ended with {done.returncode}:\n{done.stdout}")
+    return done.stdout
+
+
+def empty(folder):
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    return folder
+
+
+def examples():
+    """The sources of examples/, by the name of the program."""
+    found = (ROOT / "examples").glob("*.cpp")
+    sources = {re.sub(r"(?<=[a-z])(?=[A-Z])", "_", path.stem).lower(): path for path in found}
+    expect(sources, "examples/ is empty")
+    return sources
+
+
+def run_examples(folder):
+    """Hold the examples that were built into a folder against their cases."""
+    for name in examples():
+        cases = sorted((ROOT / "tests" / "examples").glob(f"{name}*.case"))
+        expect(cases, f"no case for {name}")
+        for case in cases:
+            run(sys.executable, "-B", ROOT / "tests" / "cli" / "run_cli_tests.py", case, folder / name)
+
+
+def readme_block(language):
+    """The one code block of README.md in a language."""
+    blocks = re.findall(rf"^```{language}\n(.*?)^```", (ROOT / "README.md").read_text(encoding="utf-8"), re.M | re.S)
+    expect(len(blocks) == 1, f"{len(blocks)} blocks of {language} in README.md")
+    return blocks[0]
+
+
+# Turns the function of the README into a program: the services and jobs of every layer of a database.
+README_MAIN = """
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/Odx.h>
+
+int main(int, char** words) {
+    NReader::VReadResult const result = NReader::ReadOdx({words[1]});
+    for (NODX201::VDiagLayerContainer& container : result.database->GetOdx().DiagLayerContainerCollection()) {
+        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
+            std::wprintf(L"[%ls]\\n", layer.GetShortName());
+            PrintServices(layer);
+        }
+    }
+}
+"""
+
+
+def write_readme_program(folder):
+    path = folder / "readme.cpp"
+    path.write_text(readme_block("cpp") + README_MAIN, encoding="utf-8")
+    return path
+
+
+def run_readme_program(program):
+    """Its answer for one layer, as samples/README.md gives it."""
+    answer = run(program, SAMPLE)
+    layers = dict(re.findall(r"^\[(\w+)\]\n((?:\w+\n)*)", answer, re.M))
+    expected = "ReadTroubleCodes ClearTroubleCodes HardReset TesterPresent StartSession RequestSeed SendKey"
+    expect(layers.get("UdsOnCan", "").split() == expected.split(), f"the README's program prints\n{answer}")
+
+
+def version():
+    return re.search(r"^project\(diagkit VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text(encoding="utf-8"), re.M)[1]
+
+
+def run_stranger_programs(folder):
+    """Those of stranger/, one for each target of diagkit."""
+    for program, arguments, expected in (
+        ("toolkit", [], f"{version()} PHYSICAL\n"),
+        ("by_hand", [], "Open\nReset\n"),
+        ("checked", [SAMPLE], "0 findings\n"),
+    ):
+        answer = run(folder / program, *arguments)
+        expect(answer == expected, f"{program} prints {answer!r}, not {expected!r}")
