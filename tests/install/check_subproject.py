@@ -14,9 +14,10 @@ from project import HERE, ROOT, empty, expect, run, version
 
 def main():
     folder = empty(pathlib.Path(sys.argv[1]))
+    with_reader = empty(folder.with_name("subproject_with_reader"))
     launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
     # Only whether it can be built is the question, so nothing is spent on fast code.
-    run(
+    configure = [
         "cmake",
         *sys.argv[2:],
         *launcher,
@@ -25,8 +26,10 @@ def main():
         f"-DFETCHCONTENT_SOURCE_DIR_DIAGKIT={ROOT}",
         "-DFETCHCONTENT_FULLY_DISCONNECTED=ON",
         f"-DSTRANGER={HERE / 'stranger' / 'toolkit.cpp'}",
-        *("-S", HERE / "subproject", "-B", folder),
-    )
+        *("-S", HERE / "subproject"),
+    ]
+    run(*configure, "-B", with_reader, "-DDIAGKIT_BUILD_READER=ON")
+    run(*configure, "-B", folder)
     run("cmake", "--build", folder, "--target", "stranger")
     answer = run(folder / "stranger")
     expect(answer == f"{version()} PHYSICAL\n", f"the program prints {answer!r}")
