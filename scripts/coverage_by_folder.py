@@ -11,18 +11,35 @@ import json
 import pathlib
 import sys
 
+ROOT = pathlib.Path(__file__).resolve().parents[1]
 GOALS = {"tools": 100, "util": 100, "memory": 90, "reader": 90, "cli": 90}
+
+# Functions that run in death tests, which end before the counters are written.
+DEADLY = {"util/Assertion.cpp": ["WriteAndAbort"]}
+
+
+def deadly_lines():
+    for file, functions in DEADLY.items():
+        name = None
+        for number, line in enumerate((ROOT / file).read_text(encoding="utf-8").splitlines(), 1):
+            name = next((function for function in functions if line.endswith("{") and f"{function}(" in line), name)
+            if name is not None:
+                yield file, number
+            if line == "}":
+                name = None
 
 
 def main():
-    lines = {}
+    lines, left_out = {}, set(deadly_lines())
     for file in json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))["files"]:
         folder = file["file"].split("/")[0]
         for line in file["lines"]:
-            if not line.get("gcovr/noncode", False):
-                lines.setdefault(folder, {})[file["file"], line["line_number"]] = line["count"] > 0
+            place = (file["file"], line["line_number"])
+            if not line.get("gcovr/noncode", False) and place not in left_out:
+                runs = lines.setdefault(folder, {})
+                runs[place] = runs.get(place, False) or line["count"] > 0
 
-    is_reached = True
+    is_reached = set(GOALS) <= set(lines)
     for folder, runs in sorted(lines.items()):
         percent = 100 * sum(runs.values()) / len(runs)
         goal = GOALS.get(folder)
