@@ -196,6 +196,32 @@ TEST_F(SampleCoverageTest, NoElementOfTheLayersIsMissed) {
     EXPECT_TRUE(std::includes(all.m_texts.begin(), all.m_texts.end(), texts.begin(), texts.end()));
 }
 
+/// Overrides no hook but the one that all elements share.
+class VCounting : public NDIAGKIT::VDiagLayerTraverser {
+public:
+    using VDiagLayerTraverser::VDiagLayerTraverser;
+
+    std::size_t m_count = 0;
+
+protected:
+    void DefaultVisit(NODX201::VOdxElement&) override { ++m_count; }
+};
+
+TEST_F(SampleCoverageTest, HooksThatAreNotOverriddenLeaveTheWalkAsItIs) {
+    for (NODX201::VDiagLayer* const layer : m_layers) {
+        VRecorder recorder(*layer);
+        recorder.WalkedLayer();
+        std::size_t expected = 0;
+        for (auto const& [kind, count] : recorder.m_transcript.m_before) {
+            expected += kTextKinds.count(kind) == 0 ? count : 0;
+        }
+        VCounting counting(*layer);
+        counting.TraverseDiagLayer();
+        EXPECT_EQ(counting.m_count, expected) << NReader::ToUtf8(layer->GetShortName());
+        EXPECT_GT(expected, 1u);
+    }
+}
+
 // The guarded traverser
 
 TEST_F(SampleCoverageTest, WithoutCyclesTheGuardedTraverserWalksAsTheOtherDoes) {
