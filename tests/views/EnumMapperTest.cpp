@@ -192,6 +192,8 @@ TEST(EnumMapperInstanceTest, ACopyAnswersFromItsOwnTables) {
     VEnumStringMapper assigned(VEnumStringMapper::Instance());
     assigned = VEnumStringMapper::Instance();
     EXPECT_EQ(static_cast<int>(assigned.GetPinType(L"TX")), 4);
+    copy = VEnumMapper::Instance();
+    EXPECT_EQ(static_cast<int>(copy.GetPinType(L"TX")), 4);
 }
 
 } // namespace

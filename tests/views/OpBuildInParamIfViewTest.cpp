@@ -57,6 +57,16 @@ TEST_F(OpBuildInParamIfViewTest, ACopyRemembersTheSameView) {
     EXPECT_EQ(PrintParams(*last), L"OfSingleJob");
 }
 
+TEST_F(OpBuildInParamIfViewTest, AnAssignedBuilderRemembersTheSameView) {
+    VBuilder original;
+    VInParamIfView* const shared = original.CreateInParamIfView(m_service);
+    VBuilder assigned;
+    assigned = original;
+    EXPECT_EQ(PrintParams(*shared), L"OfService");
+    std::unique_ptr<VInParamIfView> const last(assigned.CreateInParamIfView(m_singleJob)); // destroys the shared view
+    EXPECT_EQ(PrintParams(*last), L"OfSingleJob");
+}
+
 TEST_F(OpBuildInParamIfViewTest, AMultipleEcuJobAsADiagCommIsLoggedAndAsserted) {
     VRecordedLog log;
     VBuilder builder;

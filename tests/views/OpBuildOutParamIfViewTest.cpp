@@ -62,6 +62,17 @@ TEST_F(OpBuildOutParamIfViewTest, ACopyRemembersTheSameView) {
     EXPECT_EQ(PrintParams(*last), L"OfMultipleJob");
 }
 
+TEST_F(OpBuildOutParamIfViewTest, AnAssignedBuilderRemembersTheSameView) {
+    VBuilder original;
+    VOutParamIfView* const shared = original.CreateOutParamIfView(m_service, VSearchRange::Request);
+    VBuilder assigned;
+    assigned = original;
+    EXPECT_EQ(PrintParams(*shared), L"OfRequest");
+    // It destroys the view that both remember.
+    std::unique_ptr<VOutParamIfView> const last(assigned.CreateOutParamIfView(m_multipleJob));
+    EXPECT_EQ(PrintParams(*last), L"OfMultipleJob");
+}
+
 TEST_F(OpBuildOutParamIfViewTest, AMultipleEcuJobAsADiagCommIsLoggedAndAsserted) {
     VRecordedLog log;
     VBuilder builder;
