@@ -22,9 +22,9 @@ struct DIAGKIT_EXPORT VDiagCommViewTraits {
     static wchar_t const* ShortNameOf(Element& diagComm);
 };
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>;
-extern template class DIAGKIT_EXPORT VListView<VDiagCommViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VDiagCommViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VDiagCommViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
 
 /// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then those that it
 /// inherits through its PARENT-REFs, minus the NOT-INHERITED-DIAG-COMMS of each reference and minus those whose short

@@ -22,10 +22,9 @@ struct DIAGKIT_EXPORT VDiagVariableViewTraits {
     static wchar_t const* ShortNameOf(Element& diagVariable);
 };
 
-extern template class DIAGKIT_EXPORT
-    VExternalIterator<std::list<NODX201::VDiagVariable*>::iterator, NODX201::VDiagVariable&>;
-extern template class DIAGKIT_EXPORT VListView<VDiagVariableViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VDiagVariableViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VDiagVariable*>::iterator, NODX201::VDiagVariable&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VDiagVariableViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagVariableViewTraits>);
 
 /// The DIAG-VARIABLEs visible in one layer: its own, in document order, then those that it inherits, minus those whose
 /// short name is already in the view.

@@ -9,7 +9,7 @@
 
 namespace NDIAGKIT {
 
-template class VMapExternalIterator<VDopView::Map::iterator, NODX201::VDopBase&>;
+DIAGKIT_TEMPLATE_DEFINITION(VMapExternalIterator<VDopView::Map::iterator, NODX201::VDopBase&>);
 
 namespace {
 

@@ -11,8 +11,8 @@
 
 namespace NDIAGKIT {
 
-extern template class DIAGKIT_EXPORT
-    VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*>::iterator, NODX201::VDopBase&>;
+DIAGKIT_TEMPLATE_DECLARATION(
+    VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*>::iterator, NODX201::VDopBase&>);
 
 /// The DOPs visible in one layer, keyed by short name: its own, then those that it inherits through its PARENT-REFs. A
 /// short name is there once: the one inserted first wins, and the passes insert in the order of priority.

@@ -13,36 +13,48 @@ namespace NDIAGKIT {
 template <class T>
 class EnumMapImpl {
 public:
-    explicit EnumMapImpl(wchar_t const* name) : m_name(name) {}
+    explicit EnumMapImpl(wchar_t const* name);
 
     /// Adds a pair; a literal that is there already keeps its value. Texts are copied.
-    void Add(wchar_t const* literal, T value) {
-        m_map.emplace(literal, value);
-        if (!m_isDefaultSet) {
-            m_isDefaultSet = true;
-            m_default = value;
-        }
-    }
+    void Add(wchar_t const* literal, T value);
 
-    T Get(wchar_t const* literal) const {
-        auto const found = m_map.find(literal);
-        return found != m_map.end() ? found->second : m_default;
-    }
+    T Get(wchar_t const* literal) const;
 
     /// The first literal, in the order of the literals, that has the value; it stays valid as long as the table.
-    wchar_t const* GetStr(T value) const {
-        for (auto const& [literal, held] : m_map) {
-            if (static_cast<int>(held) == static_cast<int>(value)) {
-                return literal.c_str();
-            }
-        }
-        return L"?";
-    }
+    wchar_t const* GetStr(T value) const;
 
     std::map<std::wstring, T> m_map;
     std::wstring m_name;
     T m_default = T();
     bool m_isDefaultSet = false;
 };
+
+template <class T>
+EnumMapImpl<T>::EnumMapImpl(wchar_t const* name) : m_name(name) {}
+
+template <class T>
+void EnumMapImpl<T>::Add(wchar_t const* literal, T value) {
+    m_map.emplace(literal, value);
+    if (!m_isDefaultSet) {
+        m_isDefaultSet = true;
+        m_default = value;
+    }
+}
+
+template <class T>
+T EnumMapImpl<T>::Get(wchar_t const* literal) const {
+    auto const found = m_map.find(literal);
+    return found != m_map.end() ? found->second : m_default;
+}
+
+template <class T>
+wchar_t const* EnumMapImpl<T>::GetStr(T value) const {
+    for (auto const& [literal, held] : m_map) {
+        if (static_cast<int>(held) == static_cast<int>(value)) {
+            return literal.c_str();
+        }
+    }
+    return L"?";
+}
 
 } // namespace NDIAGKIT

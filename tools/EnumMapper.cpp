@@ -4,29 +4,29 @@
 namespace NDIAGKIT {
 
 // clang-format off
-template class EnumMapImpl<NODX201::VCommRelation::VCommRelationValueType>;
-template class EnumMapImpl<NODX201::VDiagService::VAddressing>;
-template class EnumMapImpl<NODX201::VPhysicalType::VPhysicalDataType>;
-template class EnumMapImpl<NODX201::VSessionDesc::VDirection>;
-template class EnumMapImpl<NODX201::VIdentValue::VIdentValueType>;
-template class EnumMapImpl<NODX201::VScaleConstr::VValidType>;
-template class EnumMapImpl<NODX201::VMinMaxLengthType::VTermination>;
-template class EnumMapImpl<NODX201::VTableEntry::VRowFragment>;
-template class EnumMapImpl<NODX201::VDataformat::VDataformatSelection>;
-template class EnumMapImpl<NODX201::VDiagCodedType::VDataType>;
-template class EnumMapImpl<NODX201::VPhysicalVehicleLink::VPhysicalLinkType>;
-template class EnumMapImpl<NODX201::VUnitGroup::VUnitGroupCategory>;
-template class EnumMapImpl<NODX201::VLimit::VIntervalType>;
-template class EnumMapImpl<NODX201::VProjectIdent::VProjIdentType>;
-template class EnumMapImpl<NODX201::VDiagComm::VDiagClassType>;
-template class EnumMapImpl<NODX201::VComparam::VStandardisationLevel>;
-template class EnumMapImpl<NODX201::VPhysicalType::VRadix>;
-template class EnumMapImpl<NODX201::VVehicleConnectorPin::VPinType>;
-template class EnumMapImpl<NODX201::VEncryptCompressMethod::VEncryptCompressMethodType>;
-template class EnumMapImpl<NODX201::VDiagCodedType::VEncoding>;
-template class EnumMapImpl<NODX201::VCompuMethod::VCompuCategory>;
-template class EnumMapImpl<NODX201::VDoctype>;
-template class EnumMapImpl<NODX201::VChecksumResult::VSessionSubElemType>;
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VCommRelation::VCommRelationValueType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VDiagService::VAddressing>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VPhysicalType::VPhysicalDataType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VSessionDesc::VDirection>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VIdentValue::VIdentValueType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VScaleConstr::VValidType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VMinMaxLengthType::VTermination>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VTableEntry::VRowFragment>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VDataformat::VDataformatSelection>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VDiagCodedType::VDataType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VPhysicalVehicleLink::VPhysicalLinkType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VUnitGroup::VUnitGroupCategory>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VLimit::VIntervalType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VProjectIdent::VProjIdentType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VDiagComm::VDiagClassType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VComparam::VStandardisationLevel>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VPhysicalType::VRadix>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VVehicleConnectorPin::VPinType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VEncryptCompressMethod::VEncryptCompressMethodType>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VDiagCodedType::VEncoding>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VCompuMethod::VCompuCategory>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VDoctype>);
+DIAGKIT_TEMPLATE_DEFINITION(EnumMapImpl<NODX201::VChecksumResult::VSessionSubElemType>);
 
 namespace {
 

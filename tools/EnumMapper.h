@@ -18,29 +18,29 @@
 namespace NDIAGKIT {
 
 // clang-format off
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VCommRelation::VCommRelationValueType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VDiagService::VAddressing>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VPhysicalType::VPhysicalDataType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VSessionDesc::VDirection>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VIdentValue::VIdentValueType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VScaleConstr::VValidType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VMinMaxLengthType::VTermination>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VTableEntry::VRowFragment>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VDataformat::VDataformatSelection>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VDiagCodedType::VDataType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VPhysicalVehicleLink::VPhysicalLinkType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VUnitGroup::VUnitGroupCategory>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VLimit::VIntervalType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VProjectIdent::VProjIdentType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VDiagComm::VDiagClassType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VComparam::VStandardisationLevel>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VPhysicalType::VRadix>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VVehicleConnectorPin::VPinType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VEncryptCompressMethod::VEncryptCompressMethodType>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VDiagCodedType::VEncoding>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VCompuMethod::VCompuCategory>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VDoctype>;
-extern template class DIAGKIT_EXPORT EnumMapImpl<NODX201::VChecksumResult::VSessionSubElemType>;
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VCommRelation::VCommRelationValueType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VDiagService::VAddressing>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VPhysicalType::VPhysicalDataType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VSessionDesc::VDirection>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VIdentValue::VIdentValueType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VScaleConstr::VValidType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VMinMaxLengthType::VTermination>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VTableEntry::VRowFragment>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VDataformat::VDataformatSelection>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VDiagCodedType::VDataType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VPhysicalVehicleLink::VPhysicalLinkType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VUnitGroup::VUnitGroupCategory>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VLimit::VIntervalType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VProjectIdent::VProjIdentType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VDiagComm::VDiagClassType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VComparam::VStandardisationLevel>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VPhysicalType::VRadix>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VVehicleConnectorPin::VPinType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VEncryptCompressMethod::VEncryptCompressMethodType>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VDiagCodedType::VEncoding>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VCompuMethod::VCompuCategory>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VDoctype>);
+DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::VChecksumResult::VSessionSubElemType>);
 // clang-format on
 
 /// The tables of the 23 ODX enumerations, and a pair of look-ups for each: `GetX` from a literal to its value,

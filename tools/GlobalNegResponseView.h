@@ -21,10 +21,10 @@ struct DIAGKIT_EXPORT VGlobalNegResponseViewTraits {
     static wchar_t const* ShortNameOf(Element& response);
 };
 
-extern template class DIAGKIT_EXPORT
-    VExternalIterator<std::list<NODX201::VGlobalNegResponse*>::iterator, NODX201::VGlobalNegResponse&>;
-extern template class DIAGKIT_EXPORT VListView<VGlobalNegResponseViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VGlobalNegResponseViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(
+    VExternalIterator<std::list<NODX201::VGlobalNegResponse*>::iterator, NODX201::VGlobalNegResponse&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VGlobalNegResponseViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VGlobalNegResponseViewTraits>);
 
 /// The GLOBAL-NEG-RESPONSEs visible in one layer: its own, picked out of its responses by ODX tag, then those that it
 /// inherits, minus those whose short name is already in the view. The passes are those of `VDiagCommView`; no

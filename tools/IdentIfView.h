@@ -20,9 +20,9 @@ struct DIAGKIT_EXPORT VIdentIfViewTraits {
     static wchar_t const* ShortNameOf(Element& element);
 };
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::IIdentIf*>::iterator, NODX201::IIdentIf&>;
-extern template class DIAGKIT_EXPORT VListView<VIdentIfViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VIdentIfViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::IIdentIf*>::iterator, NODX201::IIdentIf&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VIdentIfViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VIdentIfViewTraits>);
 
 /// The EXPECTED-IDENTs of a FLASH, ECU-MEM by ECU-MEM and session by session, each in document order. OWN-IDENTs are
 /// not collected; one that is appended by hand is found by its name like the others. Container operations as in

@@ -20,9 +20,9 @@ struct DIAGKIT_EXPORT VInParamIfViewTraits {
     static wchar_t const* ShortNameOf(Element& param);
 };
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::IInParamIf*>::iterator, NODX201::IInParamIf&>;
-extern template class DIAGKIT_EXPORT VListView<VInParamIfViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VInParamIfViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::IInParamIf*>::iterator, NODX201::IInParamIf&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VInParamIfViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VInParamIfViewTraits>);
 
 /// The parameters that an IN-PARAM-IF-SNREF may name in one DIAG-COMM, in the order in which they were met: the
 /// INPUT-PARAMs of a job, or the VALUE parameters of a service's RESPONSES, positive ones first. (The request's

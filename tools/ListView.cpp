@@ -19,35 +19,36 @@
 
 namespace NDIAGKIT {
 
-template class VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>;
-template class VListView<VDiagCommViewTraits>;
-template class VNamedListView<VDiagCommViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VDiagCommViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VDiagCommViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::VDiagVariable*>::iterator, NODX201::VDiagVariable&>;
-template class VListView<VDiagVariableViewTraits>;
-template class VNamedListView<VDiagVariableViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::VDiagVariable*>::iterator, NODX201::VDiagVariable&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VDiagVariableViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VDiagVariableViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::VGlobalNegResponse*>::iterator, NODX201::VGlobalNegResponse&>;
-template class VListView<VGlobalNegResponseViewTraits>;
-template class VNamedListView<VGlobalNegResponseViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(
+    VExternalIterator<std::list<NODX201::VGlobalNegResponse*>::iterator, NODX201::VGlobalNegResponse&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VGlobalNegResponseViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VGlobalNegResponseViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::IIdentIf*>::iterator, NODX201::IIdentIf&>;
-template class VListView<VIdentIfViewTraits>;
-template class VNamedListView<VIdentIfViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::IIdentIf*>::iterator, NODX201::IIdentIf&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VIdentIfViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VIdentIfViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::IInParamIf*>::iterator, NODX201::IInParamIf&>;
-template class VListView<VInParamIfViewTraits>;
-template class VNamedListView<VInParamIfViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::IInParamIf*>::iterator, NODX201::IInParamIf&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VInParamIfViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VInParamIfViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::IOutParamIf*>::iterator, NODX201::IOutParamIf&>;
-template class VListView<VOutParamIfViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::IOutParamIf*>::iterator, NODX201::IOutParamIf&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VOutParamIfViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::VProtocol*>::iterator, NODX201::VProtocol&>;
-template class VListView<VProtocolViewTraits>;
-template class VNamedListView<VProtocolViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::VProtocol*>::iterator, NODX201::VProtocol&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VProtocolViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VProtocolViewTraits>);
 
-template class VExternalIterator<std::list<NODX201::VSession*>::iterator, NODX201::VSession&>;
-template class VListView<VSessionViewTraits>;
-template class VNamedListView<VSessionViewTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::VSession*>::iterator, NODX201::VSession&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VSessionViewTraits>);
+DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VSessionViewTraits>);
 
 } // namespace NDIAGKIT

@@ -8,8 +8,8 @@
 
 namespace NDIAGKIT {
 
-template class VExternalIterator<std::list<VOdxCategoryInfo*>::iterator, VOdxCategoryInfo&>;
-template class VListView<VOdxCategoryInfoCollectionTraits>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<VOdxCategoryInfo*>::iterator, VOdxCategoryInfo&>);
+DIAGKIT_TEMPLATE_DEFINITION(VListView<VOdxCategoryInfoCollectionTraits>);
 
 VOdxCategoryInfoCollection::VOdxCategoryInfoCollection() = default;
 

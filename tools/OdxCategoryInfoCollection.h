@@ -19,8 +19,8 @@ struct DIAGKIT_EXPORT VOdxCategoryInfoCollectionTraits {
     static constexpr int kRemoveStepLine = 228;
 };
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::list<VOdxCategoryInfo*>::iterator, VOdxCategoryInfo&>;
-extern template class DIAGKIT_EXPORT VListView<VOdxCategoryInfoCollectionTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<VOdxCategoryInfo*>::iterator, VOdxCategoryInfo&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VOdxCategoryInfoCollectionTraits>);
 
 /// A list of category descriptors, in the order of insertion. Unlike the views it OWNS its elements: they are deleted
 /// by `Clear`, by `Remove(iterator)` and with the collection. `Remove(info)` hands the element back to the caller.

@@ -21,9 +21,8 @@ struct DIAGKIT_EXPORT VOutParamIfViewTraits {
     static wchar_t const* ShortNameOf(Element& param);
 };
 
-extern template class DIAGKIT_EXPORT
-    VExternalIterator<std::list<NODX201::IOutParamIf*>::iterator, NODX201::IOutParamIf&>;
-extern template class DIAGKIT_EXPORT VListView<VOutParamIfViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::IOutParamIf*>::iterator, NODX201::IOutParamIf&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VOutParamIfViewTraits>);
 
 /// The parameters that an OUT-PARAM-IF-SNREF may name in one DIAG-COMM, and a search below them.
 ///

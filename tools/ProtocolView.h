@@ -21,9 +21,9 @@ struct DIAGKIT_EXPORT VProtocolViewTraits {
     static wchar_t const* ShortNameOf(Element& protocol);
 };
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::VProtocol*>::iterator, NODX201::VProtocol&>;
-extern template class DIAGKIT_EXPORT VListView<VProtocolViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VProtocolViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VProtocol*>::iterator, NODX201::VProtocol&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VProtocolViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VProtocolViewTraits>);
 
 /// PROTOCOL layers: those of one container in document order, or those that a BASE-VARIANT is attached to, directly or
 /// through its FUNCTIONAL-GROUPs, in the order in which the references are met.

@@ -20,9 +20,9 @@ struct DIAGKIT_EXPORT VSessionViewTraits {
     static wchar_t const* ShortNameOf(Element& element);
 };
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::list<NODX201::VSession*>::iterator, NODX201::VSession&>;
-extern template class DIAGKIT_EXPORT VListView<VSessionViewTraits>;
-extern template class DIAGKIT_EXPORT VNamedListView<VSessionViewTraits>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VSession*>::iterator, NODX201::VSession&>);
+DIAGKIT_TEMPLATE_DECLARATION(VListView<VSessionViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VSessionViewTraits>);
 
 /// The SESSIONs of a FLASH, ECU-MEM by ECU-MEM, each in document order. Container operations as in `VListView`.
 class DIAGKIT_EXPORT VSessionView : public VNamedListView<VSessionViewTraits> {

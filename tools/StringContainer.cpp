@@ -9,7 +9,7 @@
 
 namespace NDIAGKIT {
 
-template class VExternalIterator<VStringContainer::Set::const_iterator, std::wstring const&>;
+DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<VStringContainer::Set::const_iterator, std::wstring const&>);
 
 namespace {
 

@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-extern template class DIAGKIT_EXPORT VExternalIterator<std::set<std::wstring*>::const_iterator, std::wstring const&>;
+DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::set<std::wstring*>::const_iterator, std::wstring const&>);
 
 /// A bag of texts that can cross the library's boundary: the container owns a copy of every text it is given.
 ///
