@@ -176,7 +176,7 @@ std::vector<std::string> FilesOf(std::vector<std::string> const& named) {
         std::size_t const first = files.size();
         for (fs::directory_entry const& entry : folder) {
             if (IsNamedLikeOdx(entry.path())) {
-                files.push_back(entry.path().u8string());
+                files.push_back(entry.path().generic_u8string());
             }
         }
         std::sort(files.begin() + static_cast<std::ptrdiff_t>(first), files.end());

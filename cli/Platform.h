@@ -14,6 +14,6 @@ void PreparePlatform(); ///< once, before anything is written
 /// The words after the program's name.
 std::vector<std::string> ArgumentsInUtf8(int count, char** words);
 
-bool IsTerminal(std::FILE* stream);
+bool IsTerminal(std::FILE* stream); ///< one that understands escape sequences
 
 } // namespace NCli

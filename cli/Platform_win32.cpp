@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/cli/Platform.h>
 
+#include <cstdlib>
+
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
@@ -9,12 +11,30 @@
 
 #include <diagkit/reader/Utf8.h>
 
+#ifndef ENABLE_VIRTUAL_TERMINAL_PROCESSING
+#define ENABLE_VIRTUAL_TERMINAL_PROCESSING 0x0004 // some headers are older than it
+#endif
+
 namespace NCli {
+namespace {
+
+UINT s_codePageBefore = 0;
+
+/// The code page belongs to the console, which lives on.
+void WriteUtf8ToConsole() {
+    s_codePageBefore = GetConsoleOutputCP();
+    if (s_codePageBefore != 0 && SetConsoleOutputCP(CP_UTF8) != 0) {
+        std::atexit([] { SetConsoleOutputCP(s_codePageBefore); });
+    }
+}
+
+} // namespace
 
 void PreparePlatform() {
     // Answers are the same bytes on every platform, line ends included.
     _setmode(_fileno(stdout), _O_BINARY);
-    SetConsoleOutputCP(CP_UTF8);
+    _setmode(_fileno(stderr), _O_BINARY);
+    WriteUtf8ToConsole();
 }
 
 std::vector<std::string> ArgumentsInUtf8(int count, char** words) {
@@ -31,6 +51,12 @@ std::vector<std::string> ArgumentsInUtf8(int count, char** words) {
     return arguments;
 }
 
-bool IsTerminal(std::FILE* stream) { return _isatty(_fileno(stream)) != 0; }
+bool IsTerminal(std::FILE* stream) {
+    // _isatty takes the device NUL for a terminal, and a console of an old Windows shows escape sequences as they are.
+    HANDLE const console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+    DWORD mode = 0;
+    return GetConsoleMode(console, &mode) != 0 &&
+           SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
 
 } // namespace NCli

@@ -41,6 +41,7 @@ constexpr std::array kCommands{
 void Declare(CLI::App& program, VArguments& arguments) {
     program.set_version_flag("--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
     program.require_subcommand(1);
+    program.allow_windows_style_options(false); // a path may begin with '/' everywhere
     program.get_formatter()->label("SUBCOMMAND", "COMMAND");
     for (VCommand const& row : kCommands) {
         CLI::App& command = *program.add_subcommand(row.name, row.help)->group("Commands");
