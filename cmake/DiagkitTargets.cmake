@@ -4,14 +4,28 @@
 set(DIAGKIT_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
 file(MAKE_DIRECTORY ${DIAGKIT_INCLUDE_DIR}/diagkit)
 foreach(folder model logging util tools memory reader check cli fuzz)
-    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} SYMBOLIC)
+    if(NOT CMAKE_HOST_WIN32)
+        file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} SYMBOLIC)
+    elseif(NOT EXISTS ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder})
+        # A junction, because not everybody may make symbolic links there.
+        file(TO_NATIVE_PATH ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} link)
+        file(TO_NATIVE_PATH ${PROJECT_SOURCE_DIR}/${folder} target)
+        execute_process(COMMAND cmd /c mklink /J ${link} ${target} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    endif()
 endforeach()
+
+# Windows looks for a library in the folder of the program.
+if(WIN32 AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endif()
 
 function(diagkit_settings target)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${DIAGKIT_INCLUDE_DIR}>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8)
+        # Not warned about: standard classes inside exported ones, what virtual bases dominate, functions of the C library.
+        target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8 /bigobj /wd4251 /wd4275 /wd4250)
+        target_compile_definitions(${target} PRIVATE NOMINMAX _CRT_SECURE_NO_WARNINGS)
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                                                  -Woverloaded-virtual -Wcast-qual -Wold-style-cast)

@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: Apache-2.0
 """Compare what the toolkit's shared library exports with what it is meant to export.
 
-    check_exports.py LIBRARY
+    check_exports.py LIBRARY [OBJDUMP]
 
-Meant are the names of exported.txt, and every class and function that a header of model/ marks DIAGKIT_EXPORT. Symbols
+With OBJDUMP, the program of that name for the library's platform, the library is a Windows DLL. Meant are the names of exported.txt, and every class and function that a header of model/ marks DIAGKIT_EXPORT. Symbols
 of std:: that the compiler emitted along with others do not count.
 """
 
@@ -57,9 +57,38 @@ def owner_of(symbol):
     return symbol
 
 
+def output_of(*command, given=None):
+    return subprocess.run(command, check=True, capture_output=True, text=True, input=given).stdout
+
+
 def exported_symbols(library):
-    output = subprocess.run(["nm", "-DC", "--defined-only", library], check=True, capture_output=True, text=True).stdout
+    output = output_of("nm", "-DC", "--defined-only", library)
     return [line.split(" ", 2)[2] for line in output.splitlines()]
+
+
+def names_in_export_table(dump):
+    """The names that `objdump -p` prints of a DLL's export table, as the compiler made them."""
+    lines = iter(dump.splitlines())
+    for line in lines:
+        if line.startswith("[Ordinal/Name Pointer] Table"):
+            break
+    names = []
+    for line in lines:
+        row = re.fullmatch(r"\s*\[ *\d+\] (?:.* )?(\S+)", line)
+        if row is None:
+            break
+        names.append(row[1])
+    return names
+
+
+def exported_by_dll(library, objdump):
+    names = names_in_export_table(output_of(objdump, "-p", library))
+    return output_of("c++filt", given="\n".join(names)).splitlines()
+
+
+def without_type_information(symbols):
+    """GCC for Windows exports the type information of some classes that it meets on its way, and nothing else of these."""
+    return [symbol for symbol in symbols if not symbol.startswith("typeinfo for ")]
 
 
 def listed_names(lines):
@@ -87,7 +116,11 @@ def faults(symbols, meant):
 def main():
     listed = listed_names((HERE / "exported.txt").read_text(encoding="utf-8").splitlines())
     meant = listed | contract_names(sorted((ROOT / "model").glob("*.h")))
-    found = faults(exported_symbols(sys.argv[1]), meant)
+    if len(sys.argv) > 2:
+        symbols = without_type_information(exported_by_dll(sys.argv[1], sys.argv[2]))
+    else:
+        symbols = exported_symbols(sys.argv[1])
+    found = faults(symbols, meant)
     for fault in found:
         print(fault)
     print(f"{len(meant)} names meant to be exported, {len(found)} faults")

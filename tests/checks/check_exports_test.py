@@ -4,7 +4,7 @@
 
 import unittest
 
-from check_exports import faults, listed_names, owner_of
+from check_exports import faults, listed_names, names_in_export_table, owner_of, without_type_information
 
 LIST_ITERATOR = "std::_List_iterator<NODX201::VDiagComm*>, NODX201::VDiagComm&"
 
@@ -52,6 +52,17 @@ class FaultsTest(unittest.TestCase):
 
     def test_something_missing(self):
         self.assertEqual(faults(self.SYMBOLS[1:], self.MEANT), ["meant to be exported and is not: NDIAGKIT::VView"])
+
+    def test_type_information_alone_is_no_export(self):
+        symbols = ["typeinfo for NDIAGKIT::VRule"] + self.SYMBOLS
+        self.assertEqual(faults(without_type_information(symbols), self.MEANT), [])
+        symbols = ["typeinfo for NDIAGKIT::VView"] + self.SYMBOLS[1:]
+        self.assertEqual(len(faults(without_type_information(symbols), self.MEANT)), 1)
+
+    def test_export_tables_of_both_forms(self):
+        for row in ("\t[   0] ", "\t[   0] +base[   1]  0000 "):
+            dump = f"\t[   0] +base[   1] 4dc0 Export RVA\n[Ordinal/Name Pointer] Table\n{row}_ZN1A1BE\n{row}_ZN1CD1Ev\n\nx\n"
+            self.assertEqual(names_in_export_table(dump), ["_ZN1A1BE", "_ZN1CD1Ev"])
 
     def test_list(self):
         self.assertEqual(listed_names(["# title", "", "A::B", "C::D  # why"]), {"A::B", "C::D"})
