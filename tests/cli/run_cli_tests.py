@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """Runs one case: a call of diagkit and the answer that it must give.
 
-    run_cli_tests.py CASE PROGRAM...
+    run_cli_tests.py [--any-line-ends] CASE PROGRAM...
 
 A case is a text file:
 
@@ -14,7 +14,8 @@ A case is a text file:
     --- stderr
     (the same for standard error; or, after "--- stderr matches", one regular expression a line)
 
-The call runs in the folder data/. A section that is missing says that the stream must stay empty.
+The call runs in the folder data/. A section that is missing says that the stream must stay empty. With --any-line-ends
+the program may end its lines as the platform does.
 """
 
 import difflib
@@ -68,9 +69,11 @@ def mismatches(patterns, actual):
     return [] if fits else ["standard error does not match:", *patterns, "it is:", *lines]
 
 
-def complaints(case, program):
+def complaints(case, program, is_any_line_end):
     done = subprocess.run([*program, *case.arguments], cwd=DATA, stdin=subprocess.DEVNULL, capture_output=True)
     stdout, stderr = done.stdout.decode("utf-8"), done.stderr.decode("utf-8")
+    if is_any_line_end:
+        stdout, stderr = stdout.replace("\r\n", "\n"), stderr.replace("\r\n", "\n")
     found = [] if done.returncode == case.status else [f"exit status {done.returncode} instead of {case.status}"]
     found += differences("standard output", "".join(case.sections.get("stdout", [])), stdout)
     if "stderr matches" in case.sections:
@@ -79,10 +82,11 @@ def complaints(case, program):
 
 
 def main():
-    if len(sys.argv) < 3:
+    words = [word for word in sys.argv[1:] if word != "--any-line-ends"]
+    if len(words) < 2:
         raise SystemExit(__doc__)
-    program = [str(pathlib.Path(word).resolve()) if pathlib.Path(word).exists() else word for word in sys.argv[2:]]
-    found = complaints(Case(pathlib.Path(sys.argv[1])), program)
+    program = [str(pathlib.Path(word).resolve()) if pathlib.Path(word).exists() else word for word in words[1:]]
+    found = complaints(Case(pathlib.Path(words[0])), program, len(words) < len(sys.argv) - 1)
     print("\n".join(found))
     return 1 if found else 0
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Break a valid database in every way that the grammar knows, one fault at a time, and see that each is reported.
 
-    fault_injection.py PROGRAM DOCUMENT...
+    fault_injection.py PROGRAM... -- DOCUMENT...
 
 For every element that the grammar defines and the documents hold: each required attribute and child left out, each
 single child twice, each pair of children in the wrong order, an alternative beside another, a child that belongs
@@ -285,7 +285,7 @@ def position(data, offset):
 
 
 def run(program, paths):
-    done = subprocess.run([program, "info", "--json", *paths], capture_output=True, encoding="utf-8", check=False)
+    done = subprocess.run([*program, "info", "--json", *paths], capture_output=True, encoding="utf-8", check=False)
     counts = json.loads(done.stdout)["counts"] if done.returncode == 0 else None
     return done.returncode, counts, done.stderr.splitlines()
 
@@ -310,10 +310,11 @@ def failure_of(fault, program, documents, counts, folder, number):
 
 
 def main(arguments):
-    if len(arguments) < 2:
-        print("usage: fault_injection.py PROGRAM DOCUMENT...", file=sys.stderr)
+    if "--" not in arguments[1:-1]:
+        print("usage: fault_injection.py PROGRAM... -- DOCUMENT...", file=sys.stderr)
         return 2
-    program, paths = arguments[0], arguments[1:]
+    end = arguments.index("--")
+    program, paths = arguments[:end], arguments[end + 1:]
     documents = {path: pathlib.Path(path).read_bytes() for path in paths}
     status, counts, diagnostics = run(program, paths)
     if status != 0 or diagnostics:
