@@ -1,5 +1,6 @@
 # Toolchain file: Windows x64 by MinGW-w64, on a machine that runs something else.
 
+get_filename_component(root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -10,13 +11,13 @@ set(CMAKE_CXX_COMPILER ${prefix}-g++-posix)
 set(CMAKE_RC_COMPILER ${prefix}-windres)
 
 # Programs come from this machine, everything else is for Windows; libraries without code of their own are in both.
-set(CMAKE_FIND_ROOT_PATH ${CMAKE_CURRENT_LIST_DIR}/../build/windows-libraries/prefix /usr/${prefix})
+set(CMAKE_FIND_ROOT_PATH ${root}/build/windows-libraries/prefix /usr/${prefix})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-set(ENV{PKG_CONFIG_LIBDIR} ${CMAKE_CURRENT_LIST_DIR}/../build/windows-libraries/prefix/lib/pkgconfig)
+set(ENV{PKG_CONFIG_LIBDIR} ${root}/build/windows-libraries/prefix/lib/pkgconfig)
 set(PKG_CONFIG_ARGN --static CACHE STRING "Arguments of pkg-config")
 
 # expat wants to be told that it is no DLL.
@@ -26,4 +27,4 @@ set(CMAKE_CXX_FLAGS_INIT -DXML_STATIC)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
 
-set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${root}/scripts/wine)
