@@ -285,7 +285,11 @@ def position(data, offset):
 
 
 def run(program, paths):
-    done = subprocess.run([*program, "info", "--json", *paths], capture_output=True, encoding="utf-8", check=False)
+    call = [*program, "info", "--json", *paths]
+    done = subprocess.run(call, capture_output=True, encoding="utf-8", check=False)
+    if len(program) > 1 and done.returncode == 1 and not done.stderr:
+        # No answer of the program's: once in thousands of calls Wine does not come to start it.
+        done = subprocess.run(call, capture_output=True, encoding="utf-8", check=False)
     counts = json.loads(done.stdout)["counts"] if done.returncode == 0 else None
     return done.returncode, counts, done.stderr.splitlines()
 
