@@ -109,6 +109,15 @@ VFailure FileTooLarge(VReadLimits const& limits) {
     return {{}, "too-large", OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
 }
 
+/// On Windows a name that is not UTF-8 is no name of a file.
+fs::path PathOf(std::string const& file) {
+    try {
+        return fs::u8path(file);
+    } catch (std::system_error const&) {
+        return {};
+    }
+}
+
 /// The file, opened, or a stream that failed; running out of memory says nothing about a file.
 std::ifstream Opened(fs::path const& path) {
     errno = 0;
@@ -283,7 +292,7 @@ std::uint64_t SizeOf(std::vector<std::string> const& files) {
     std::uint64_t all = 0;
     for (std::string const& file : files) {
         std::error_code error;
-        std::uintmax_t const size = fs::file_size(fs::u8path(file), error);
+        std::uintmax_t const size = fs::file_size(PathOf(file), error);
         all += error ? 0 : size;
     }
     return all;
@@ -306,7 +315,7 @@ bool VSession::Read(std::vector<std::string> const& files) {
 
 std::optional<VFailure> VSession::AddFile(std::string const& name) {
     std::error_code error;
-    fs::path const path = fs::u8path(name);
+    fs::path const path = PathOf(name);
     fs::file_status const status = fs::status(path, error);
     if (!fs::exists(status)) {
         return VFailure{{},

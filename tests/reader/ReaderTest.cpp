@@ -66,7 +66,9 @@ VReaderTest::~VReaderTest() {
     fs::remove_all(m_folder, ignored);
 }
 
-std::string VReaderTest::Path(std::string const& name) const { return (m_folder / fs::u8path(name)).u8string(); }
+std::string VReaderTest::Path(std::string const& name) const {
+    return (m_folder / fs::u8path(name)).generic_u8string();
+}
 
 std::string VReaderTest::Write(std::string const& name, std::string_view bytes) const {
     std::string const path = Path(name);
@@ -112,7 +114,7 @@ void VReaderTest::Read(std::vector<std::string> const& documents) {
 }
 
 std::string VReaderTest::Diagnostics() const {
-    std::string const folder = m_folder.u8string() + '/';
+    std::string const folder = m_folder.generic_u8string() + '/';
     std::string text;
     for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
         std::string file = diagnostic.file;

@@ -105,9 +105,12 @@ TEST(VerifyModelTest, NoticesAnOwnerThatIsNotTheElementAround) {
 
 TEST(VerifyModelTest, NoticesACountThatDisagrees) {
     VGraph graph(L"esd Lib : Ident");
-    graph.Database().CountIn(NODX201::VOdxTagEnum::DiagService);
+    auto made = std::make_unique<NMemory::VPart>(graph.Database());
+    NMemory::VPart& part = *made;
+    part.CountIn(NODX201::VOdxTagEnum::DiagService);
+    graph.Database().Adopt(std::move(made));
     EXPECT_EQ(FaultsOf(graph.Database()), std::vector<std::wstring>{L"the database counts 2 DIAG-SERVICE and holds 1"});
-    graph.Database().CountOut(NODX201::VOdxTagEnum::DiagService);
+    part.CountOut(NODX201::VOdxTagEnum::DiagService);
 }
 
 TEST(NaiveInheritanceTest, AnswersAnExampleWorkedOutByHand) {
