@@ -287,8 +287,8 @@ def position(data, offset):
 def run(program, paths):
     call = [*program, "info", "--json", *paths]
     done = subprocess.run(call, capture_output=True, encoding="utf-8", check=False)
-    if len(program) > 1 and done.returncode == 1 and not done.stderr:
-        # No answer of the program's: once in thousands of calls Wine does not come to start it.
+    if len(program) > 1 and done.returncode != 0:
+        # No fault is refused; but once in thousands of calls Wine fails itself, as a program starts or ends.
         done = subprocess.run(call, capture_output=True, encoding="utf-8", check=False)
     counts = json.loads(done.stdout)["counts"] if done.returncode == 0 else None
     return done.returncode, counts, done.stderr.splitlines()
