@@ -22,7 +22,7 @@ PUBLIC = {
     "logging": {"SharedLogger.h"},
     "util": {"Assertion.h"},
     "tools/oem": {"Manufacturer.h", "OemChecker.h", "OemReport.h"},
-    "reader": {"Diagnostic.h", "OdxReader.h", "Utf8.h"},
+    "reader": {"Diagnostic.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
 }
 FILES = """
