@@ -218,7 +218,7 @@ bool VWorker::TakeFile(VFile const& file, std::function<bool(std::string_view by
         }
     }
     if (stream.bad() || !stream.is_open()) {
-        failure = Unreadable(errno != 0 ? std::strerror(errno) : "reading failed");
+        failure = Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
         return false;
     }
     return true;
