@@ -16,6 +16,7 @@ set(public_headers
     check/Codes.h
     check/Cycles.h
     reader/Diagnostic.h
+    reader/Limits.h
     reader/OdxReader.h
     reader/Utf8.h
     tools/oem/Manufacturer.h
