@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/cli/Arguments.h>
 
+#include <charconv>
+#include <system_error>
+
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
@@ -20,6 +23,22 @@ CLI::Option& DeclareSize(CLI::App& command, char const* name, std::uint64_t& siz
     };
     return *command.add_option_function<std::string>(name, take, help)->type_name("SIZE");
 }
+
+} // namespace
+
+CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& count, char const* help) {
+    auto const take = [name, &count](std::string const& text) {
+        char const* const end = text.data() + text.size();
+        auto const [rest, error] = std::from_chars(text.data(), end, count);
+        if (error != std::errc() || rest != end) {
+            throw CLI::ValidationError(name, fmt::format("'{}' is no number such as 5000", text));
+        }
+    };
+    auto& option = *command.add_option_function<std::string>(name, take, help)->type_name("N");
+    return *option.default_str(fmt::format("{}", count));
+}
+
+namespace {
 
 struct VLimitRow {
     char const* name;
@@ -75,8 +94,10 @@ void DeclareFiles(CLI::App& command, VArguments& arguments) {
     for (VLimitRow const& row : kLimits) {
         std::uint64_t& limit = arguments.readOptions.*row.limit;
         CLI::Option& option = row.isSize ? DeclareSize(command, row.name, limit, row.help)
-                                         : *command.add_option(row.name, limit, row.help)->type_name("N");
-        option.default_str(row.isSize ? SizeText(limit) : fmt::format("{}", limit));
+                                         : DeclareCount(command, row.name, limit, row.help);
+        if (row.isSize) {
+            option.default_str(SizeText(limit));
+        }
         option.group("Limits, for files known to be large (SIZE is such as 512M)");
     }
 }

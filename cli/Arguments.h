@@ -48,6 +48,9 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
 /// --layer alone, for commands that look at nothing else.
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
 
+/// An option that takes a number: digits alone.
+CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& count, char const* help);
+
 /// The options that name what a command looks at: each takes a short name or an ID.
 void DeclareSelections(CLI::App& command, VArguments& arguments);
 

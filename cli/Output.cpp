@@ -37,7 +37,9 @@ std::string VOutput::Heading(std::string_view text) const {
 }
 
 void VOutput::Complain(std::string_view message) const {
-    std::fflush(stdout);
+    if (std::fflush(stdout) != 0 && m_error == 0) {
+        m_error = errno;
+    }
     std::string const line = fmt::format("diagkit: {}\n", message);
     std::fwrite(line.data(), 1, line.size(), stderr);
 }

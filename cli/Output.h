@@ -30,7 +30,7 @@ public:
 
 private:
     bool m_isColoured;
-    int m_error = 0; // errno of the first write that failed
+    mutable int m_error = 0; // errno of the first write that failed, which complaining may notice
 };
 
 } // namespace NCli

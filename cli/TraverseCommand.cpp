@@ -160,9 +160,7 @@ VStatus Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& argument
 void DeclareTraverse(CLI::App& command, VArguments& arguments) {
     DeclareLayer(command, arguments).required();
     command.add_flag("--dictionary", arguments.isDictionary, "Only what the layer's DIAG-DATA-DICTIONARY-SPEC holds");
-    command.add_option("--max-visits", arguments.maxVisits, "End after so many visits, with status 3")
-        ->type_name("N")
-        ->capture_default_str();
+    DeclareCount(command, "--max-visits", arguments.maxVisits, "End after so many visits, with status 3");
     DeclareFiles(command, arguments);
 }
 

@@ -80,18 +80,34 @@ std::size_t VDatabase::Count(NODX201::VOdxTagEnum tag) const {
     return index < m_counts.size() ? m_counts[index] : 0;
 }
 
-void VDatabase::Adopt(std::unique_ptr<VPart> part) {
+void VDatabase::Adopt(std::unique_ptr<VPart>&& part) {
+    m_parts.reserve(m_parts.size() + 1);
+    m_counts.resize(std::max(m_counts.size(), part->m_counts.size()));
     m_parts.push_back(std::move(part));
     VPart& adopted = *m_parts.back();
-    adopted.m_isDetached = false;
-    m_counts.resize(std::max(m_counts.size(), adopted.m_counts.size()));
+    AddIds(adopted); // when it fails the part stays detached, and is kept for the texts that the index has seen
     std::transform(adopted.m_counts.begin(), adopted.m_counts.end(), m_counts.begin(), m_counts.begin(), std::plus<>());
-    m_ids.MakeRoom(adopted.m_ids.size());
-    for (VPart::VId const& held : adopted.m_ids) {
-        m_ids.Add(held.id, held.hash, *held.element);
-    }
     adopted.m_ids = {};
+    adopted.m_isDetached = false;
     NoteChange();
+}
+
+/// All IDs of a part, or none.
+void VDatabase::AddIds(VPart const& part) {
+    m_ids.MakeRoom(part.m_ids.size());
+    std::size_t added = 0;
+    try {
+        for (; added < part.m_ids.size(); ++added) {
+            VPart::VId const& held = part.m_ids[added];
+            m_ids.Add(held.id, held.hash, *held.element);
+        }
+    } catch (...) {
+        while (added > 0) {
+            VPart::VId const& held = part.m_ids[--added];
+            m_ids.Remove(held.id, *held.element);
+        }
+        throw;
+    }
 }
 
 void VDatabase::NoteRemoval() {

@@ -79,8 +79,9 @@ public:
     std::uint32_t AddDocumentName(std::string name);
     std::string const& GetDocumentName(VPosition const& position) const; ///< UTF-8; "" when not known
 
-    /// Takes in what was made detached: the IDs and the count of its elements. The part lives as long as the database.
-    void Adopt(std::unique_ptr<VPart> part);
+    /// Takes in what was made detached: the IDs and the count of its elements, or nothing when memory runs out. The
+    /// part lives as long as the database, unless the pointer still holds it afterwards.
+    void Adopt(std::unique_ptr<VPart>&& part);
 
     /// How many elements of a kind the database holds.
     std::size_t Count(NODX201::VOdxTagEnum tag) const;
@@ -97,6 +98,8 @@ public:
     std::uint64_t GetGeneration() const { return m_generation; } ///< grows with every change
 
 private:
+    void AddIds(VPart const& part);
+
     friend class VPart;
 
     std::vector<std::unique_ptr<VPart>> m_parts; // first the database's own

@@ -104,6 +104,9 @@ bool VPackage::Open(std::string const& path, std::string& error) {
         std::replace(member.name.begin(), member.name.end(), '\\', '/');
         member.index = static_cast<std::uint64_t>(index);
         member.compressedSize = (stat.valid & ZIP_STAT_COMP_SIZE) != 0 ? stat.comp_size : 0;
+        if ((stat.valid & ZIP_STAT_SIZE) != 0) {
+            member.size = stat.size;
+        }
         member.fault = LeadsOut(member.name) ? VFault::LeadsOut : VFault::None;
         if (IsOdxName(member.name)) {
             m_documents.push_back(std::move(member));
@@ -118,6 +121,11 @@ bool VPackage::Open(std::string const& path, std::string& error) {
         }
     }
     return true;
+}
+
+/// libzip notices a wrong size of stored members only.
+std::string SizeFault(std::uint64_t unpacked, std::uint64_t said) {
+    return "the member unpacks to " + std::to_string(unpacked) + " bytes, the package says " + std::to_string(said);
 }
 
 VPackage::VOutcome VPackage::Read(VMember const& member, std::uint64_t limit,
@@ -139,7 +147,9 @@ VPackage::VOutcome VPackage::Read(VMember const& member, std::uint64_t limit,
             return VOutcome::Broken;
         }
         if (length == 0) {
-            return VOutcome::Done;
+            bool const isAsSaid = total == member.size.value_or(total);
+            error = isAsSaid ? "" : SizeFault(total, *member.size);
+            return isAsSaid ? VOutcome::Done : VOutcome::Broken;
         }
         total += static_cast<std::uint64_t>(length);
         if (total > limit) {

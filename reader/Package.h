@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,7 @@ public:
         std::string name;
         std::uint64_t index = 0;
         std::uint64_t compressedSize = 0;
+        std::optional<std::uint64_t> size{}; ///< unpacked, as the archive says
         VFault fault = VFault::None;
     };
 

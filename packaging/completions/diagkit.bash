@@ -3,18 +3,16 @@ _diagkit() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local options= choices= answers=
     case ${COMP_WORDS[1]} in
-    info) options="--help --max-member-size --max-package-size --json --strict --quiet --version" choices="" ;;
-    layers) options="--help --max-member-size --max-package-size --json --strict --quiet --version" choices="" ;;
-    view) options="--help --layer --container --diag-comm --job --flash --range --max-member-size --max-package-size --json --strict --quiet --version" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
-    resolve) options="--help --layer --container --diag-comm --job --flash --range --max-member-size --max-package-size --json --strict --quiet --version" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
-    traverse) options="--help --layer --dictionary --max-visits --max-member-size --max-package-size --json --strict --quiet --version" choices="" ;;
-    oem) options="--help --max-member-size --max-package-size --each --json --strict --quiet --version" choices="" ;;
+    info) options="--help --json --strict --quiet --version" choices="" ;;
+    layers) options="--help --json --strict --quiet --version" choices="" ;;
+    view) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
+    resolve) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
+    traverse) options="--help --layer --dictionary --max-visits --json --strict --quiet --version" choices="" ;;
+    oem) options="--help --each --json --strict --quiet --version" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
-    check) options="--help --max-member-size --max-package-size --format --json --strict --quiet --version" choices="" ;;
+    check) options="--help --format --json --strict --quiet --version" choices="" ;;
     esac
     case $previous in
-    --max-member-size) answers="" ;;
-    --max-package-size) answers="" ;;
     --layer) answers="" ;;
     --container) answers="" ;;
     --diag-comm) answers="" ;;

@@ -128,6 +128,17 @@ class Hostile(unittest.TestCase):
         self.expect(call, 0, ["!bomb.odx: error: the member unpacks to more than 67108864 bytes; --max-member-size "
                               "allows more [too-large]"])
 
+    def test_a_packed_member_of_another_size_than_its_header_says_is_left_out(self):
+        for said in (10, len(GOOD) - 1, len(GOOD) + 1, 1_000_000_000):
+            path = self.pack(bad=(GOOD, b"", 0, b""), good=(GOOD, b"", 0, b""))
+            data = bytearray(path.read_bytes())
+            for start, place in ((b"PK\3\4", 22), (b"PK\1\2", 24)):
+                entry = data.index(start) + place
+                data[entry:entry + 4] = struct.pack("<I", said)
+            path.write_bytes(data)
+            self.expect(Call(path), 0, [f"!bad.odx: error: cannot be read: the member unpacks to {len(GOOD)} bytes, the "
+                                        f"package says {said} [unreadable]"])
+
     def test_members_that_share_their_bytes_count_each_against_the_package(self):
         path = self.pack(a=(HEAD, b"\n" * MEBIBYTE, 8, TAIL))
         data = path.read_bytes()

@@ -77,6 +77,14 @@ class HelpAndVersion(unittest.TestCase):
                 self.assertRegex(text, rf"(?m)^  --max-{name} {kind}(={default}| \[{default}\]) ")
         self.assertNotIn("--max-file-size", run("enums", "--help").stdout)
 
+    def test_counts_are_whole_numbers_without_a_sign(self):
+        calls = (["info", "gates.odx-d", "--max-depth"], ["traverse", "gates.odx-d", "--layer", "Door", "--max-visits"])
+        for call in calls:
+            for number in ("-1", "99999999999999999999999", "1e3", "+5", "5x"):
+                done = run(*call, number)
+                self.assertEqual((done.returncode, done.stdout), (2, ""), (call, number))
+                self.assertIn(call[-1], done.stderr)
+
     def test_help_says_which_selection_belongs_to_which_kind(self):
         kinds = {
             "view": {
@@ -222,6 +230,13 @@ class Writing(unittest.TestCase):
                 done = run(*arguments, stdout=full)
                 self.assertEqual(done.returncode, 3)
                 self.assertRegex(done.stderr, r"\Adiagkit: standard output: .+\n\Z")
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_an_answer_that_nothing_is_there_needs_room_too(self):
+        with open("/dev/full", "w", encoding="utf-8") as full:
+            done = run("resolve", "dop", "Gone", "signals.odx-d", "--layer", "LampLeft", "--json", stdout=full)
+        self.assertEqual(done.returncode, 3)
+        self.assertRegex(done.stderr, r"(?m)^diagkit: standard output: .+$")
 
     @unittest.skipUnless(IS_POSIX, "needs a stream that can be closed")
     def test_closed_standard_output_is_status_3_with_a_message(self):

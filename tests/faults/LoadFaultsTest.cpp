@@ -15,6 +15,7 @@ namespace {
 NReader::VReadOptions OneThread() {
     NReader::VReadOptions options;
     options.keepsElements = true;
+    options.threads = 1; // blocks are counted for one thread
     return options;
 }
 

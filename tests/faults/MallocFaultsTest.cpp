@@ -26,6 +26,7 @@ std::string Told(NReader::VReadResult const& result) {
 NReader::VReadResult Load(std::string const& file) {
     NReader::VReadOptions options;
     options.keepsElements = true;
+    options.threads = 1; // allocations fail in this one
     return NReader::ReadOdx({file}, options);
 }
 
