@@ -6,8 +6,11 @@
 //     layer-walk-bare/N    what it costs at least: recursive functions that ask the same questions of the same elements
 //                          through the contract's interface, and do nothing with them
 //     layer-walk-guarded/N a VGuardedDiagLayerTraverser whose hooks are empty
+//     dictionary-walk/N, dictionary-walk-bare/N
+//                          a VDiagDataDictionarySpecTraverser in a layer that has nothing but a dictionary
 
 #include <stdexcept>
+#include <string>
 
 #include <benchmark/benchmark.h>
 
@@ -34,6 +37,12 @@ public:
     std::size_t Walk() {
         m_visits = 0;
         m_layer.Accept(*this);
+        return m_visits;
+    }
+
+    std::size_t WalkDictionary() {
+        m_visits = 0;
+        Dictionary(m_layer.GetDiagDataDictionarySpec());
         return m_visits;
     }
 
@@ -235,6 +244,22 @@ private:
     std::size_t m_visits = 0;
 };
 
+class VCountingDictionary : public NDIAGKIT::VDiagDataDictionarySpecTraverser {
+public:
+    using VDiagDataDictionarySpecTraverser::VDiagDataDictionarySpecTraverser;
+
+    std::size_t Walk(NODX201::VDiagLayer& layer) {
+        TraverseDiagDataDictionarySpec(layer.GetDiagDataDictionarySpec());
+        return m_visits;
+    }
+
+protected:
+    void DefaultVisit(NODX201::VOdxElement&) override { ++m_visits; }
+
+private:
+    std::size_t m_visits = 0;
+};
+
 /// The walk to measure, once what its links remember is the same for all, and all visit the same.
 class VMeasuredWalk {
 public:
@@ -269,6 +294,40 @@ void LayerWalk(benchmark::State& state) {
     }
 }
 
+/// The same with a dictionary.
+class VMeasuredDictionaryWalk {
+public:
+    explicit VMeasuredDictionaryWalk(benchmark::State& state) : m_walk(static_cast<std::size_t>(state.range(0))) {
+        std::size_t const visits = VCountingDictionary(Layer()).Walk(Layer());
+        std::size_t const bare = VBareWalk(Layer()).WalkDictionary();
+        if (visits != bare || visits < static_cast<std::size_t>(state.range(0))) {
+            throw std::logic_error("the walks of the dictionary differ: " + std::to_string(visits) + " and " +
+                                   std::to_string(bare));
+        }
+    }
+
+    NODX201::VDiagLayer& Layer() { return *m_walk.layer; }
+
+private:
+    VDictionaryWalk m_walk;
+};
+
+void DictionaryWalkBare(benchmark::State& state) {
+    VMeasuredDictionaryWalk walk(state);
+    VBareWalk bare(walk.Layer());
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(bare.WalkDictionary());
+    }
+}
+
+void DictionaryWalk(benchmark::State& state) {
+    VMeasuredDictionaryWalk walk(state);
+    NDIAGKIT::VDiagDataDictionarySpecTraverser traverser(walk.Layer());
+    for (auto _ : state) {
+        traverser.TraverseDiagDataDictionarySpec(walk.Layer().GetDiagDataDictionarySpec());
+    }
+}
+
 BENCHMARK_TEMPLATE(LayerWalk, NDIAGKIT::VDiagLayerTraverser)
     ->Name("layer-walk")
     ->Arg(10000)
@@ -280,6 +339,8 @@ BENCHMARK_TEMPLATE(LayerWalk, NDIAGKIT::VGuardedDiagLayerTraverser)
     ->Arg(10000)
     ->Arg(1000000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(DictionaryWalk)->Name("dictionary-walk")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(DictionaryWalkBare)->Name("dictionary-walk-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace NBench

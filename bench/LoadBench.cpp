@@ -15,16 +15,17 @@
 #include <expat.h>
 #include <sys/resource.h>
 
+#include <diagkit/check/Check.h>
 #include <diagkit/reader/OdxReader.h>
 #include <diagkit/reader/Package.h>
 
 /// Loads files once, or does what loading them takes at least, and prints what it cost as JSON. One run a process, so
 /// that the peak of its memory means this run alone; `load` runs it.
 ///
-///     diagkit_load_bench read|parse|load:THREADS FILE...
+///     diagkit_load_bench read|parse|load:THREADS|check FILE...
 ///
 /// `read` takes the bytes in, `parse` has expat parse them too with handlers that do nothing. Packages are unpacked in
-/// both, and the pieces are as large as the reader's.
+/// both, and the pieces are as large as the reader's. `check` loads with one thread and tells what checking takes then.
 
 namespace {
 
@@ -105,13 +106,13 @@ void Parse(std::string const& file, VCost& cost) {
 
 int main(int count, char** arguments) {
     if (count < 3) {
-        Fail("diagkit_load_bench read|parse|load:THREADS FILE...");
+        Fail("diagkit_load_bench read|parse|load:THREADS|check FILE...");
     }
     std::string const mode = arguments[1];
     std::vector<std::string> const files(arguments + 2, arguments + count);
     VCost cost;
-    double const start = Seconds();
-    std::clock_t const cpuStart = std::clock();
+    double start = Seconds();
+    std::clock_t cpuStart = std::clock();
     double end = 0;
     std::clock_t cpuEnd = 0;
     auto const stop = [&] {
@@ -132,6 +133,18 @@ int main(int count, char** arguments) {
         double const destroyStart = Seconds();
         result.database.reset();
         cost.destroySeconds = Seconds() - destroyStart;
+    } else if (mode == "check") {
+        NReader::VReadOptions options;
+        options.threads = 1;
+        options.keepsElements = true;
+        NReader::VReadResult result = NReader::ReadOdx(files, options);
+        start = Seconds();
+        cpuStart = std::clock();
+        std::size_t const diagnostics = NCheck::CheckDatabase(result).size();
+        stop();
+        if (result.database == nullptr || diagnostics != 0) {
+            Fail("the files cannot be checked without a finding");
+        }
     } else {
         for (std::string const& file : files) {
             mode == "parse" ? Parse(file, cost) : Read(file, cost);

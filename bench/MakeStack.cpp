@@ -8,12 +8,12 @@
 namespace NBench {
 
 VStack::VStack() {
-    NMemory::VMemDiagLayerContainer& container = database.AddDiagLayerContainer(L"Stack");
-    ecuSharedData = &container.AddEcuSharedData(L"Shared");
-    protocol = &container.AddProtocol(L"Protocol");
-    functionalGroup = &container.AddFunctionalGroup(L"Group");
-    baseVariant = &container.AddBaseVariant(L"Base");
-    ecuVariant = &container.AddEcuVariant(L"Ecu");
+    container = &database.AddDiagLayerContainer(L"Stack");
+    ecuSharedData = &container->AddEcuSharedData(L"Shared");
+    protocol = &container->AddProtocol(L"Protocol");
+    functionalGroup = &container->AddFunctionalGroup(L"Group");
+    baseVariant = &container->AddBaseVariant(L"Base");
+    ecuVariant = &container->AddEcuVariant(L"Ecu");
     protocol->AddParentRef(*ecuSharedData);
     functionalGroup->AddParentRef(*protocol);
     baseVariant->AddParentRef(*functionalGroup);
@@ -45,6 +45,22 @@ VDiagVariableStack::VDiagVariableStack(std::size_t visible) {
             layer.AddDiagVariable(shortName);
         }
     });
+}
+
+VVariants::VVariants(std::size_t shared, std::size_t variants, std::size_t inEachVariant) {
+    Fill(shared / 4, [](auto& layer, wchar_t const* shortName) {
+        if constexpr (!std::is_same_v<decltype(layer), NMemory::VMemEcuVariant&>) {
+            layer.AddDiagService(shortName);
+        }
+    });
+    for (std::size_t number = 0; number < variants; ++number) {
+        NMemory::VMemEcuVariant& variant = container->AddEcuVariant((L"Variant_" + std::to_wstring(number)).c_str());
+        variant.AddParentRef(*baseVariant);
+        for (std::size_t own = 0; own < inEachVariant; ++own) {
+            variant.AddDiagService((L"Own_" + std::to_wstring(own)).c_str());
+        }
+        ecuVariants.push_back(&variant);
+    }
 }
 
 } // namespace NBench

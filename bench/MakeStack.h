@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Layers.h>
@@ -25,6 +26,7 @@ struct VStack {
     }
 
     NMemory::VDatabase database;
+    NMemory::VMemDiagLayerContainer* container;
     NMemory::VMemEcuSharedData* ecuSharedData;
     NMemory::VMemProtocol* protocol;
     NMemory::VMemFunctionalGroup* functionalGroup;
@@ -59,6 +61,14 @@ struct VGlobalNegResponseStack : VStack {
 /// The ECU-SHARED-DATA is reached through the FUNCTIONAL-GROUP and through the BASE-VARIANT.
 struct VDiagVariableStack : VStack {
     explicit VDiagVariableStack(std::size_t visible);
+};
+
+/// So many DIAG-COMMs in the layers below, a quarter of them in each, and so many ECU-VARIANTs over them with their
+/// own.
+struct VVariants : VStack {
+    VVariants(std::size_t shared, std::size_t variants, std::size_t inEachVariant);
+
+    std::vector<NMemory::VMemEcuVariant*> ecuVariants;
 };
 
 } // namespace NBench

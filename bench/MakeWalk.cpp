@@ -10,6 +10,7 @@ namespace {
 constexpr std::size_t kDops = 200;
 constexpr std::size_t kStructures = 50;
 constexpr std::size_t kVisitsOfAService = 133; // with what it leads to, and its request and response once more
+constexpr std::size_t kVisitsOfADop = 16;      // with what belongs to it
 
 std::wstring Named(wchar_t const* prefix, std::size_t number) { return prefix + std::to_wstring(number); }
 
@@ -32,17 +33,17 @@ void FillDop(NMemory::VMemDataObjectProp& dop, NMemory::VMemUnit& unit) {
     }
 }
 
-VDictionary MakeDictionary(NMemory::VMemDiagDataDictionarySpec& spec) {
+VDictionary MakeDictionary(NMemory::VMemDiagDataDictionarySpec& spec, std::size_t dops, std::size_t structures) {
     VDictionary dictionary;
     NMemory::VMemUnitSpec& unitSpec = spec.MakeUnitSpec();
     NMemory::VMemUnit& unit = unitSpec.AddUnit(L"Unit");
     unit.SetPhysicalDimensionRef(unitSpec.AddPhysicalDimension(L"Dimension"));
-    for (std::size_t number = 0; number < kDops; ++number) {
+    for (std::size_t number = 0; number < dops; ++number) {
         NMemory::VMemDataObjectProp& dop = spec.AddDataObjectProp(Named(L"Dop", number).c_str());
         FillDop(dop, unit);
         dictionary.dops.push_back(&dop);
     }
-    for (std::size_t number = 0; number < kStructures; ++number) {
+    for (std::size_t number = 0; number < structures; ++number) {
         NMemory::VMemStructure& structure = spec.AddStructure(Named(L"Structure", number).c_str());
         structure.AddValue(L"First").SetDopBaseLink(*dictionary.dops[number]);
         structure.AddReserved(L"Gap").MakeStandardLengthType();
@@ -72,11 +73,17 @@ void AddService(NMemory::VMemEcuVariant& layer, VDictionary const& dictionary, N
 
 VWalk::VWalk(std::size_t visits) {
     layer = &database.AddDiagLayerContainer(L"Walk").AddEcuVariant(L"Ecu");
-    VDictionary const dictionary = MakeDictionary(layer->MakeDiagDataDictionarySpec());
+    VDictionary const dictionary = MakeDictionary(layer->MakeDiagDataDictionarySpec(), kDops, kStructures);
     NMemory::VMemFunctClass& functClass = layer->AddFunctClass(L"Functions");
     for (std::size_t number = 0; number * kVisitsOfAService < visits; ++number) {
         AddService(*layer, dictionary, functClass, number);
     }
+}
+
+VDictionaryWalk::VDictionaryWalk(std::size_t visits) {
+    layer = &database.AddDiagLayerContainer(L"Walk").AddEcuVariant(L"Ecu");
+    std::size_t const dops = visits / kVisitsOfADop + 1;
+    MakeDictionary(layer->MakeDiagDataDictionarySpec(), dops, dops / 4);
 }
 
 } // namespace NBench

@@ -17,4 +17,12 @@ struct VWalk {
     NMemory::VMemEcuVariant* layer;
 };
 
+/// An ECU-VARIANT with nothing but a dictionary, whose walk makes at least so many visits.
+struct VDictionaryWalk {
+    explicit VDictionaryWalk(std::size_t visits);
+
+    NMemory::VDatabase database;
+    NMemory::VMemEcuVariant* layer;
+};
+
 } // namespace NBench

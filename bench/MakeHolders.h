@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/Flash.h>
+#include <diagkit/model/Layers.h>
+
+namespace NBench {
+
+/// What the small views are views of, each holder with so many entries, which are named alike in every holder. Only the
+/// contract shows here, as in MakeNestedParams.h.
+class VHolders {
+public:
+    explicit VHolders(std::size_t count);
+    ~VHolders();
+
+    NODX201::VDiagLayerContainer& Container(); ///< of the PROTOCOLs and of the layer
+    NODX201::VDiagLayer& Layer();
+    NODX201::VDiagService&
+    Service();                     ///< half of its VALUE parameters are of a positive response, half of a negative one
+    NODX201::VSingleEcuJob& Job(); ///< so many INPUT-PARAMs, and so many OUTPUT-PARAMs
+    NODX201::VFlash& Flash();      ///< in ten ECU-MEMs, with an EXPECTED-IDENT in every session
+    wchar_t const* MiddleName() const;
+
+private:
+    struct VMade;
+    std::unique_ptr<VMade> m_made;
+};
+
+} // namespace NBench
