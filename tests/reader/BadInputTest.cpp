@@ -35,20 +35,7 @@ protected:
         change(bytes);
         Write(name, bytes);
     }
-
-    std::wstring Names() const {
-        std::wstring names;
-        for (NODX201::VDiagLayerContainer& container : Database().GetOdx().DiagLayerContainerCollection()) {
-            names += (names.empty() ? L"" : L" ") + std::wstring(container.GetShortName());
-        }
-        return names;
-    }
 };
-
-std::string Named(std::string const& name) {
-    return "<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"" + name + "\"><SHORT-NAME>" + name +
-           "</SHORT-NAME></DIAG-LAYER-CONTAINER></ODX>";
-}
 
 // Files
 
@@ -114,7 +101,7 @@ TEST_F(VBadInputTest, OneFileThatCannotBeReadLeavesNothingButEveryOneIsReported)
     EXPECT_EQ(m_result.database, nullptr);
     EXPECT_EQ(Diagnostics(), "absent.odx:0:0 error no-file\nbad.odx:1:6 error not-xml");
     ReadFiles({good});
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
 }
 
 // XML that attacks
@@ -145,7 +132,7 @@ TEST_F(VBadInputTest, NestingIsLimited) {
     std::string const deepest = Repeated("<a>", 998) + Repeated("</a>", 998);
     Read("<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"C\"><SHORT-NAME>C</SHORT-NAME>" + deepest +
          "</DIAG-LAYER-CONTAINER></ODX>");
-    EXPECT_EQ(Names(), L"C");
+    EXPECT_EQ(ContainerNames(), L"C");
     Read("<ODX MODEL-VERSION=\"2.0.1\">\n" + Repeated("<a>", 1000) + Repeated("</a>", 1000) + "</ODX>");
     ExpectRefused("test.odx:2:2998 error too-deep", "deeper than 1000");
     Read("<ODX MODEL-VERSION=\"2.0.1\">" + Repeated("<a>", 200000));
@@ -179,7 +166,7 @@ TEST_F(VBadInputTest, PackageWithoutDocumentsIsRefused) {
 
 TEST_F(VBadInputTest, PackageIsToldByItsBytesAndNotByItsName) {
     ReadFiles({WritePackage("database.odx", {{"a.odx-d", Named("A")}})});
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     ASSERT_EQ(m_result.documents.size(), 1U);
     EXPECT_EQ(m_result.documents[0].file, Path("database.odx") + "!a.odx-d");
     EXPECT_EQ(m_result.documents[0].category, "DIAG-LAYER-CONTAINER");
@@ -195,7 +182,7 @@ TEST_F(VBadInputTest, MembersAreReadInTheOrderOfTheirNames) {
                                       {"inner.pdx", "PK\x03\x04"},
                                       {"T\xC3\xBCr.odx-d", Named("T")},
                                       {"notes.odx.txt", "none of it"}})});
-    EXPECT_EQ(Names(), L"T A C2 B Z"); // upper case sorts before lower
+    EXPECT_EQ(ContainerNames(), L"T A C2 B Z"); // upper case sorts before lower
     EXPECT_EQ(Diagnostics(), "");
     EXPECT_EQ(m_result.documents[2].file, Path("a.pdx") + "!deep/er/c.Odx-D");
     EXPECT_EQ(m_result.documents[0].file, Path("a.pdx") + "!T\xC3\xBCr.odx-d");
@@ -209,7 +196,7 @@ TEST_F(VBadInputTest, BrokenMemberIsLeftOutWhole) {
         "</DIAG-COMMS><PARENT-REFS><PARENT-REF ID-REF=\"gone\"/></PARENT-REFS></BASE-VARIANT></BASE-VARIANTS>\n"
         "</DIAG-LAYER-CONTAINER><oops></ODX>";
     ReadFiles({WritePackage("a.pdx", {{"a.odx-d", Named("A")}, {"b.odx-d", broken}, {"c.odx-d", Named("C")}})});
-    EXPECT_EQ(Names(), L"A C");
+    EXPECT_EQ(ContainerNames(), L"A C");
     EXPECT_EQ(Diagnostics(), "a.pdx!b.odx-d:2:32 error not-xml");
     EXPECT_EQ(Database().GetOdx().ProcessingInstructionCollection().Count(), 0U);
     EXPECT_EQ(m_result.documents.size(), 2U);
@@ -240,7 +227,7 @@ TEST_F(VBadInputTest, CorruptMembersAreLeftOut) {
         bytes[local + 14] = bytes[entry + 16];
     });
     ReadFiles({Path("a.pdx")});
-    EXPECT_EQ(Names(), L"A C");
+    EXPECT_EQ(ContainerNames(), L"A C");
     EXPECT_EQ(Diagnostics(), "a.pdx!b.odx-d:0:0 error unreadable");
     EXPECT_EQ(Message(0), "cannot be read: CRC error");
 
@@ -250,14 +237,14 @@ TEST_F(VBadInputTest, CorruptMembersAreLeftOut) {
         std::fill_n(bytes.begin() + static_cast<std::ptrdiff_t>(data), 8, '\xFF');
     });
     ReadFiles({Path("d.pdx")});
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "d.pdx!b.odx-d:0:0 error unreadable");
     EXPECT_NE(Message(0).find("cannot be read: "), std::string::npos);
 }
 
 TEST_F(VBadInputTest, EncryptedMemberIsLeftOut) {
     ReadFiles({WritePackage("a.pdx", {{"a.odx-d", Named("A"), "key"}, {"b.odx-d", Named("B")}})});
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:0:0 error unreadable");
     EXPECT_NE(Message(0).find("password"), std::string::npos) << Message(0);
 }
@@ -268,10 +255,10 @@ TEST_F(VBadInputTest, SizeOfAMemberIsLimited) {
         WritePackage("a.pdx", {{"a.odx-d", Named("A")}, {"b.odx-d", large}, {"c.odx-d", Named("C")}});
     m_options.maxMemberSize = large.size();
     ReadFiles({path});
-    EXPECT_EQ(Names(), L"A B C");
+    EXPECT_EQ(ContainerNames(), L"A B C");
     m_options.maxMemberSize = large.size() - 1;
     ReadFiles({path});
-    EXPECT_EQ(Names(), L"A C");
+    EXPECT_EQ(ContainerNames(), L"A C");
     EXPECT_EQ(Diagnostics(), "a.pdx!b.odx-d:0:0 error too-large");
     EXPECT_EQ(Message(0), "the member unpacks to more than " + std::to_string(large.size() - 1) +
                               " bytes; --max-member-size allows more");
@@ -283,7 +270,7 @@ TEST_F(VBadInputTest, SizeOfAPackageIsLimited) {
         WritePackage("a.pdx", {{"a.odx-d", Named("A")}, {"b.odx-d", Named("B")}, {"c.odx-d", Named("C")}});
     m_options.maxPackageSize = 3 * size;
     ReadFiles({path});
-    EXPECT_EQ(Names(), L"A B C");
+    EXPECT_EQ(ContainerNames(), L"A B C");
     m_options.maxPackageSize = 3 * size - 1;
     ReadFiles({path});
     EXPECT_EQ(m_result.database, nullptr);
@@ -297,7 +284,7 @@ TEST_F(VBadInputTest, MemberThatIsReadAgainInAnotherEncodingCountsOnceAgainstThe
                             "<LONG-NAME>\xFC</LONG-NAME></DIAG-LAYER-CONTAINER></ODX>";
     m_options.maxPackageSize = odd.size() + Named("B").size();
     ReadFiles({WritePackage("a.pdx", {{"a.odx-d", odd}, {"b.odx-d", Named("B")}})});
-    EXPECT_EQ(Names(), L"A B");
+    EXPECT_EQ(ContainerNames(), L"A B");
 }
 
 TEST_F(VBadInputTest, SizeInTheHeaderIsNotBelieved) {
@@ -311,7 +298,7 @@ TEST_F(VBadInputTest, SizeInTheHeaderIsNotBelieved) {
     });
     m_options.maxMemberSize = 5000;
     ReadFiles({Path("a.pdx")});
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx-d:0:0 error too-large");
     EXPECT_EQ(Message(0), "the member unpacks to more than 5000 bytes; --max-member-size allows more");
 }
@@ -327,7 +314,7 @@ TEST_F(VBadInputTest, ProgressGrowsAndNeverPassesTheWhole) {
     };
     std::string const odd = Named("A") + "<!--\xFC-->";
     ReadFiles({Write("a.odx", odd), WritePackage("b.pdx", {{"b.odx", Named("B")}})});
-    EXPECT_EQ(Names(), L"A B");
+    EXPECT_EQ(ContainerNames(), L"A B");
     EXPECT_TRUE(isSound);
     EXPECT_GT(calls, 1U);
 }

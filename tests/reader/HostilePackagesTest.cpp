@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "reader/ReaderTest.h"
 
-#include <diagkit/model/Layers.h>
-
 #include "reader/ZipBytes.h"
 
 namespace NTest {
@@ -12,24 +10,11 @@ class VHostilePackagesTest : public VReaderTest {
 protected:
     /// A package of these bytes.
     void ReadBytes(std::string const& bytes) { ReadFiles({Write("a.pdx", bytes)}); }
-
-    std::wstring Names() const {
-        std::wstring names;
-        for (NODX201::VDiagLayerContainer& container : Database().GetOdx().DiagLayerContainerCollection()) {
-            names += (names.empty() ? L"" : L" ") + std::wstring(container.GetShortName());
-        }
-        return names;
-    }
 };
-
-std::string Named(std::string const& name) {
-    return "<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"" + name + "\"><SHORT-NAME>" + name +
-           "</SHORT-NAME></DIAG-LAYER-CONTAINER></ODX>";
-}
 
 TEST_F(VHostilePackagesTest, WholeMembersAreRead) {
     ReadBytes(ZipOf({{"a.odx", Named("A")}, {"b.odx", Named("B")}}));
-    EXPECT_EQ(Names(), L"A B");
+    EXPECT_EQ(ContainerNames(), L"A B");
     EXPECT_EQ(Diagnostics(), "");
 }
 
@@ -44,7 +29,7 @@ TEST_F(VHostilePackagesTest, NamesThatLeadOutOfThePackageAreLeftOut) {
                      {"..", "x"},
                      {"good.odx", Named("Good")},
                      {"./x..y/..also.odx", Named("Also")}}));
-    EXPECT_EQ(Names(), L"Also Good");
+    EXPECT_EQ(ContainerNames(), L"Also Good");
     EXPECT_EQ(Diagnostics(), "a.pdx!../b.odx:0:0 error unsafe-name\n"
                              "a.pdx!../f.odx:0:0 error unsafe-name\n"
                              "a.pdx!//host/g.odx:0:0 error unsafe-name\n"
@@ -63,7 +48,7 @@ TEST_F(VHostilePackagesTest, PackageOfNothingElseIsRefused) {
 
 TEST_F(VHostilePackagesTest, BackslashesAreFolders) {
     ReadBytes(ZipOf({{"sub\\deeper\\a.odx", Named("A")}}));
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "");
     EXPECT_EQ(m_result.documents.at(0).file, Path("a.pdx") + "!sub/deeper/a.odx");
 }
@@ -74,7 +59,7 @@ TEST_F(VHostilePackagesTest, OfMembersOfOneNameTheLastCounts) {
                      {"b.odx", Named("B")},
                      {"s/a.odx", Named("Third")},
                      {"s/A.odx", Named("Other")}}));
-    EXPECT_EQ(Names(), L"B Other Third");
+    EXPECT_EQ(ContainerNames(), L"B Other Third");
     EXPECT_EQ(Diagnostics(), "a.pdx!s/a.odx:0:0 error duplicate-member\na.pdx!s/a.odx:0:0 error duplicate-member");
     EXPECT_EQ(Message(0), "another member of this name follows in the package and counts; this one is left out");
 }
@@ -83,7 +68,7 @@ TEST_F(VHostilePackagesTest, MemberThatIsLargerThanItsHeaderSaysIsLeftOut) {
     VZipMember member{"a.odx", Named("A") + std::string(100000, '\n')};
     member.saidSize = 10;
     ReadBytes(ZipOf({member, {"b.odx", Named("B")}}));
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx:0:0 error unreadable");
 }
 
@@ -91,7 +76,7 @@ TEST_F(VHostilePackagesTest, MemberThatIsSmallerThanItsHeaderSaysIsLeftOut) {
     VZipMember member{"a.odx", Named("A")};
     member.saidSize = 1000000000;
     ReadBytes(ZipOf({member, {"b.odx", Named("B")}}));
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx:0:0 error unreadable");
 }
 
@@ -100,7 +85,7 @@ TEST_F(VHostilePackagesTest, MemberThatSaysMorePackedBytesThanThereAreIsLeftOutO
     member.saidPackedSize = 1000000;
     ReadBytes(ZipOf({{"b.odx", Named("B")}, member}));
     if (m_result.database != nullptr) {
-        EXPECT_EQ(Names(), L"B");
+        EXPECT_EQ(ContainerNames(), L"B");
         EXPECT_EQ(Diagnostics(), "a.pdx!z.odx:1:114 error not-xml"); // the directory follows the document
     } else {
         EXPECT_EQ(Diagnostics(), "a.pdx:0:0 error no-package");
@@ -111,7 +96,7 @@ TEST_F(VHostilePackagesTest, MemberOfAnotherChecksumIsLeftOut) {
     VZipMember member{"a.odx", Named("A")};
     member.checksumError = 1;
     ReadBytes(ZipOf({member, {"b.odx", Named("B")}}));
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx:0:0 error unreadable");
     EXPECT_EQ(Message(0), "cannot be read: CRC error");
 }
@@ -120,7 +105,7 @@ TEST_F(VHostilePackagesTest, EncryptedMemberIsLeftOut) {
     VZipMember member{"a.odx", Named("A")};
     member.flags = 1;
     ReadBytes(ZipOf({member, {"b.odx", Named("B")}}));
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx:0:0 error unreadable");
     EXPECT_NE(Message(0).find("password"), std::string::npos) << Message(0);
 }
@@ -129,13 +114,13 @@ TEST_F(VHostilePackagesTest, MemberPackedInAnUnknownWayIsLeftOut) {
     VZipMember member{"a.odx", Named("A")};
     member.method = 77;
     ReadBytes(ZipOf({member, {"b.odx", Named("B")}}));
-    EXPECT_EQ(Names(), L"B");
+    EXPECT_EQ(ContainerNames(), L"B");
     EXPECT_EQ(Diagnostics(), "a.pdx!a.odx:0:0 error unreadable");
 }
 
 TEST_F(VHostilePackagesTest, FoldersAreNoDocuments) {
     ReadBytes(ZipOf({{"folder.odx/", ""}, {"folder.odx/a.odx", Named("A")}}));
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "");
 }
 
@@ -145,16 +130,16 @@ TEST_F(VHostilePackagesTest, PackagesInsidePackagesAreNotOpened) {
         inner = ZipOf({{"inner.pdx", inner}});
     }
     ReadBytes(ZipOf({{"inner.pdx", inner}, {"a.odx", Named("A")}}));
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "");
     ReadBytes(ZipOf({{"inner.odx", inner}, {"a.odx", Named("A")}})); // named like a document, it is no XML
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "a.pdx!inner.odx:1:3 error not-xml");
 }
 
 TEST_F(VHostilePackagesTest, NameThatIsNotUtf8IsReadInTheCodePageOfZip) {
     ReadBytes(ZipOf({{"T\x81r.odx", Named("A")}}));
-    EXPECT_EQ(Names(), L"A");
+    EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "");
     EXPECT_EQ(m_result.documents.at(0).file, Path("a.pdx") + "!T\xC3\xBCr.odx");
 }
@@ -200,12 +185,12 @@ TEST_F(VHostilePackagesTest, RatioOfAMemberIsLimitedFrom16MebibytesOn) {
     std::string const path =
         WritePackage("a.pdx", {{"a.odx", small}, {"b.odx", large}, {"c.odx", Named("C")}}); // about 1:1000
     ReadFiles({path});
-    EXPECT_EQ(Names(), L"A C");
+    EXPECT_EQ(ContainerNames(), L"A C");
     EXPECT_EQ(Diagnostics(), "a.pdx!b.odx:0:0 error too-compressed");
     EXPECT_EQ(Message(0), "the member unpacks to more than 500 times its size in the package; --max-ratio allows more");
     m_options.maxRatio = 2000;
     ReadFiles({path});
-    EXPECT_EQ(Names(), L"A B C");
+    EXPECT_EQ(ContainerNames(), L"A B C");
     EXPECT_EQ(Diagnostics(), "");
 }
 

@@ -5,6 +5,8 @@
 
 #include <zip.h>
 
+#include <diagkit/model/Layers.h>
+
 namespace NTest {
 
 namespace fs = std::filesystem;
@@ -43,6 +45,11 @@ std::string Dictionary(std::string_view content, std::string_view version) {
 std::string Params(std::string_view params, std::string_view version) {
     return InLayer("<REQUESTS><REQUEST ID=\"RQ\"><SHORT-NAME>RQ</SHORT-NAME><PARAMS>", params,
                    "</PARAMS></REQUEST></REQUESTS>", version);
+}
+
+std::string Named(std::string const& name) {
+    return "<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"" + name + "\"><SHORT-NAME>" + name +
+           "</SHORT-NAME></DIAG-LAYER-CONTAINER></ODX>";
 }
 
 std::string Repeated(std::string_view text, std::size_t times) {
@@ -135,6 +142,14 @@ NMemory::VDatabase& VReaderTest::Database() const {
         throw std::runtime_error("nothing was read: " + Diagnostics());
     }
     return *m_result.database;
+}
+
+std::wstring VReaderTest::ContainerNames() const {
+    std::wstring names;
+    for (NODX201::VDiagLayerContainer& container : Database().GetOdx().DiagLayerContainerCollection()) {
+        names += (names.empty() ? L"" : L" ") + std::wstring(container.GetShortName());
+    }
+    return names;
 }
 
 std::size_t VReaderTest::Count(wchar_t const* element, wchar_t const* type) const {

@@ -25,6 +25,9 @@ std::string Dictionary(std::string_view content, std::string_view version = "2.0
 /// The PARAMs of a REQUEST with the ID "RQ" in such a layer.
 std::string Params(std::string_view params, std::string_view version = "2.0.1");
 
+/// A container of that ID and short name, on one line.
+std::string Named(std::string const& name);
+
 std::string Repeated(std::string_view text, std::size_t times);
 
 /// A member of a package.
@@ -53,6 +56,7 @@ protected:
     std::string Message(std::size_t index) const; ///< of a diagnostic
 
     NMemory::VDatabase& Database() const;
+    std::wstring ContainerNames() const; ///< short names in load order
     std::size_t Count(wchar_t const* element, wchar_t const* type = L"") const;
 
     NODX201::VReferencable& Element(wchar_t const* id) const; ///< the first of this ID
