@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
@@ -114,10 +116,17 @@ protected:
         bool const isCycle = event == "cycle";
         ++(isCycle ? m_cycles : m_lines);
         m_output.Write(
-            fmt::format("{:{}}{}{}{}\n", "", 2 * call.depth, TitleOf(call), NameOf(call), isCycle ? " (cycle)" : ""));
+            fmt::format("{}{}{}{}\n", IndentOf(call.depth), TitleOf(call), NameOf(call), isCycle ? " (cycle)" : ""));
     }
 
 private:
+    /// Beyond what anybody reads as an indent, the depth as a number: lines stay short on data however deep.
+    static std::string IndentOf(std::size_t depth) {
+        constexpr std::size_t kDeepest = 100;
+        std::string indent(2 * std::min(depth, kDeepest), ' ');
+        return depth <= kDeepest ? indent : indent + fmt::format("[{}] ", depth);
+    }
+
     static std::string TitleOf(VCall const& call) {
         if (call.element != nullptr) {
             return KindOf(*call.element);

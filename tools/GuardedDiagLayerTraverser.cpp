@@ -1,19 +1,22 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
 
+#include <cstdint>
+
 #include <diagkit/tools/TraverserKinds.h>
 
 namespace NDIAGKIT {
 
-/// An element that is being walked. Steps stand on the stack of the walk itself, so that an exception unwinds them too.
+/// An element that is being walked. Steps stand on the stack of the walk itself, so that an exception unwinds them too;
+/// those whose elements fall into one bucket hang together, the innermost first.
 struct VGuardedDiagLayerTraverser::VStep {
     VStep(VGuardedDiagLayerTraverser& traverser, NODX201::VOdxElement const& element)
-        : m_traverser(traverser), m_element(element), m_outer(traverser.m_innermost) {
-        traverser.m_innermost = this;
+        : m_traverser(traverser), m_element(element), m_bucket(traverser.BucketOf(element)), m_outer(m_bucket) {
+        m_bucket = this;
         ++traverser.m_depth;
     }
     ~VStep() {
-        m_traverser.m_innermost = m_outer;
+        m_bucket = m_outer;
         --m_traverser.m_depth;
     }
     VStep(VStep const&) = delete;
@@ -21,6 +24,7 @@ struct VGuardedDiagLayerTraverser::VStep {
 
     VGuardedDiagLayerTraverser& m_traverser;
     NODX201::VOdxElement const& m_element;
+    VStep const*& m_bucket;
     VStep const* m_outer;
 };
 
@@ -32,8 +36,15 @@ VGuardedDiagLayerTraverser::~VGuardedDiagLayerTraverser() = default;
 void VGuardedDiagLayerTraverser::OnCycle(wchar_t const*, NODX201::VOdxElement&) {}
 void VGuardedDiagLayerTraverser::OnTooDeep(wchar_t const*, NODX201::VOdxElement&) {}
 
-bool VGuardedDiagLayerTraverser::IsWalking(NODX201::VOdxElement const& x) const {
-    for (VStep const* step = m_innermost; step != nullptr; step = step->m_outer) {
+VGuardedDiagLayerTraverser::VStep const*& VGuardedDiagLayerTraverser::BucketOf(NODX201::VOdxElement const& x) {
+    constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15; // addresses differ in their middle bits
+    constexpr int kUnused = 54;                                // all bits but those of a bucket
+    static_assert(kBuckets == std::size_t{1} << (64 - kUnused));
+    return m_walking[(reinterpret_cast<std::uintptr_t>(&x) * kGoldenRatio) >> kUnused];
+}
+
+bool VGuardedDiagLayerTraverser::IsWalking(NODX201::VOdxElement const& x) {
+    for (VStep const* step = BucketOf(x); step != nullptr; step = step->m_outer) {
         if (&step->m_element == &x) {
             return true;
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <array>
 #include <cstddef>
 
 #include <diagkit/tools/DiagLayerTraverser.h>
@@ -18,7 +19,8 @@ namespace NDIAGKIT {
 /// Derive from it, override the hooks you care about, and call `TraverseDiagLayer` or, for the dictionary alone,
 /// `TraverseDiagDataDictionarySpec`. An element counts as being walked from before its PreProcess until after its
 /// PostProcess; a Visit that is overridden is guarded as far as it calls the one of this class. Exceptions may leave
-/// the walk at any point. The guard allocates nothing, and costs a look at each element above for every visit.
+/// the walk at any point. The guard allocates nothing; what it costs a visit does not grow with the depth, as long as
+/// that is not far above the usual limit.
 class DIAGKIT_EXPORT VGuardedDiagLayerTraverser : public VDiagLayerTraverser {
 public:
     static constexpr std::size_t kMaxDepth = 2000; ///< elements inside one another; honest data stay below 200
@@ -44,12 +46,15 @@ protected:
 private:
     struct VStep;
 
-    bool IsWalking(NODX201::VOdxElement const& x) const;
+    static constexpr std::size_t kBuckets = 1024;
+
+    VStep const*& BucketOf(NODX201::VOdxElement const& x);
+    bool IsWalking(NODX201::VOdxElement const& x);
     bool MayEnter(wchar_t const* kind, NODX201::VOdxElement& x);
 
     std::size_t m_maxDepth;
-    std::size_t m_depth = 0;            // of what is being walked
-    VStep const* m_innermost = nullptr; // what is being walked, from the inside out
+    std::size_t m_depth = 0;                        // of what is being walked
+    std::array<VStep const*, kBuckets> m_walking{}; // what is being walked, in each bucket from the inside out
 };
 
 } // namespace NDIAGKIT

@@ -337,6 +337,17 @@ class Traversing(unittest.TestCase):
         self.assertIn("ends after 1000 visits", done.stderr)
         self.assertEqual(done.stdout.count('"event":"pre"'), 1000)
 
+    def test_lines_stay_short_however_deep_their_elements_are(self):
+        count = 150
+        with tempfile.TemporaryDirectory() as folder:
+            path = self.write_related(folder, [[number + 1] for number in range(count - 1)] + [[]])
+            lines = run("traverse", "--quiet", path, "--layer", "P").stdout.splitlines()
+        # The layer, the first service at depth 1, the one that it names at depth 2, and so on.
+        self.assertEqual(lines[1:3], ["  DIAG-SERVICE S0", "    DIAG-SERVICE S1"])
+        self.assertEqual(lines[100], 200 * " " + "DIAG-SERVICE S99")
+        self.assertEqual(lines[101], 200 * " " + "[101] DIAG-SERVICE S100")
+        self.assertEqual(lines[150], 200 * " " + "[150] DIAG-SERVICE S149")
+
     def test_a_ring_that_is_too_long_for_the_stack_is_cut_with_a_message(self):
         count = 30000
         with tempfile.TemporaryDirectory() as folder:

@@ -3,6 +3,8 @@
 // The guarded traverser over every kind of cycle that references can make, and where it must not differ from the other.
 
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "traversers/TraverserTest.h"
 
@@ -308,6 +310,34 @@ TEST_F(GuardedTest, WhatIsDeeperThanTheLimitIsLeftOutAndTold) {
     VShallowWalk deep(m_layer, 4);
     deep.TraverseDiagLayer();
     EXPECT_EQ(deep.m_text, L"First Second Third Last ");
+}
+
+TEST_F(GuardedTest, ARingOfThousandsIsToldWhereItCloses) {
+    constexpr int kServices = 1500; // more than the guard keeps apart
+    std::vector<NMemory::VMemDiagService*> services;
+    for (int number = 0; number < kServices; ++number) {
+        services.push_back(&m_library.AddDiagService((L"Service" + std::to_wstring(number)).c_str()));
+    }
+    for (int number = 0; number < kServices; ++number) {
+        services[number]->AddRelatedDiagCommRef(*services[(number + 1) % kServices]);
+    }
+    m_layer.AddDiagService(L"Entry").AddRelatedDiagCommRef(*services.front());
+
+    class VRing : public VShallowWalk {
+    public:
+        using VShallowWalk::VShallowWalk;
+        std::size_t m_entered = 0;
+
+    protected:
+        void PreProcessDiagComm(NODX201::VDiagComm&) override { ++m_entered; }
+        void OnCycle(wchar_t const* kind, NODX201::VOdxElement& x) override {
+            m_text += std::wstring(kind) + L' ' + x.GetShortName() + L" again, ";
+        }
+    };
+    VRing ring(m_layer);
+    ring.TraverseDiagLayer();
+    EXPECT_EQ(ring.m_text, L"Entry DiagComm Service0 again, ");
+    EXPECT_EQ(ring.m_entered, std::size_t{kServices});
 }
 
 TEST_F(GuardedTest, AnExceptionLeavesTheGuardAsItWas) {
