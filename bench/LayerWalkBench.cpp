@@ -5,7 +5,7 @@
 //     layer-walk/N         a VDiagLayerTraverser whose hooks are empty
 //     layer-walk-bare/N    what it costs at least: recursive functions that ask the same questions of the same elements
 //                          through the contract's interface, and do nothing with them
-//     layer-walk-guarded/N a VGuardedDiagLayerTraverser whose hooks are empty
+//     layer-walk-guarded/N a VGuardedDiagLayerTraverser whose hooks are empty, beside the same
 //     dictionary-walk/N, dictionary-walk-bare/N
 //                          a VDiagDataDictionarySpecTraverser in a layer that has nothing but a dictionary
 
@@ -339,6 +339,7 @@ BENCHMARK_TEMPLATE(LayerWalk, NDIAGKIT::VGuardedDiagLayerTraverser)
     ->Arg(10000)
     ->Arg(1000000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(LayerWalkBare)->Name("layer-walk-guarded-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(DictionaryWalk)->Name("dictionary-walk")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(DictionaryWalkBare)->Name("dictionary-walk-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
