@@ -10,7 +10,6 @@
 //                          a VDiagDataDictionarySpecTraverser in a layer that has nothing but a dictionary
 
 #include <stdexcept>
-#include <string>
 
 #include <benchmark/benchmark.h>
 
@@ -237,18 +236,7 @@ public:
         return m_visits;
     }
 
-protected:
-    void DefaultVisit(NODX201::VOdxElement&) override { ++m_visits; }
-
-private:
-    std::size_t m_visits = 0;
-};
-
-class VCountingDictionary : public NDIAGKIT::VDiagDataDictionarySpecTraverser {
-public:
-    using VDiagDataDictionarySpecTraverser::VDiagDataDictionarySpecTraverser;
-
-    std::size_t Walk(NODX201::VDiagLayer& layer) {
+    std::size_t WalkDictionary(NODX201::VDiagLayer& layer) {
         TraverseDiagDataDictionarySpec(layer.GetDiagDataDictionarySpec());
         return m_visits;
     }
@@ -260,88 +248,62 @@ private:
     std::size_t m_visits = 0;
 };
 
+/// The two ways through a layer: all of it, or its dictionary alone.
+struct VWholeLayer : VWalk {
+    using VWalk::VWalk;
+    std::size_t Count() { return VCounting(*layer).Walk(); }
+    static std::size_t WalkBare(VBareWalk& bare) { return bare.Walk(); }
+    void Traverse(NDIAGKIT::VDiagLayerTraverser& traverser) const { traverser.TraverseDiagLayer(); }
+};
+
+struct VDictionaryAlone : VDictionaryWalk {
+    using VDictionaryWalk::VDictionaryWalk;
+    std::size_t Count() { return VCounting(*layer).WalkDictionary(*layer); }
+    static std::size_t WalkBare(VBareWalk& bare) { return bare.WalkDictionary(); }
+    void Traverse(NDIAGKIT::VDiagDataDictionarySpecTraverser& traverser) const {
+        traverser.TraverseDiagDataDictionarySpec(layer->GetDiagDataDictionarySpec());
+    }
+};
+
 /// The walk to measure, once what its links remember is the same for all, and all visit the same.
-class VMeasuredWalk {
-public:
-    explicit VMeasuredWalk(benchmark::State& state) : m_walk(static_cast<std::size_t>(state.range(0))) {
-        std::size_t const visits = VCounting(Layer()).Walk();
-        if (visits != VBareWalk(Layer()).Walk() || visits < static_cast<std::size_t>(state.range(0))) {
-            throw std::logic_error("the walks differ");
+template <class Way>
+struct VMeasuredWalk : Way {
+    explicit VMeasuredWalk(benchmark::State& state) : Way(static_cast<std::size_t>(state.range(0))) {
+        VBareWalk bare(*this->layer);
+        std::size_t const visits = this->Count();
+        if (visits != Way::WalkBare(bare) || visits < static_cast<std::size_t>(state.range(0))) {
+            throw std::logic_error("the walks differ, or are too short");
         }
         state.counters["visits"] = static_cast<double>(visits);
     }
-
-    NODX201::VDiagLayer& Layer() { return *m_walk.layer; }
-
-private:
-    VWalk m_walk;
 };
 
-void LayerWalkBare(benchmark::State& state) {
-    VMeasuredWalk walk(state);
-    VBareWalk bare(walk.Layer());
+template <class Way>
+void BareWalk(benchmark::State& state) {
+    VMeasuredWalk<Way> walk(state);
+    VBareWalk bare(*walk.layer);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(bare.Walk());
+        benchmark::DoNotOptimize(Way::WalkBare(bare));
     }
 }
 
-template <class Traverser>
-void LayerWalk(benchmark::State& state) {
-    VMeasuredWalk walk(state);
-    Traverser traverser(walk.Layer());
+template <class Way, class Traverser>
+void Walk(benchmark::State& state) {
+    VMeasuredWalk<Way> walk(state);
+    Traverser traverser(*walk.layer);
     for (auto _ : state) {
-        traverser.TraverseDiagLayer();
+        walk.Traverse(traverser);
     }
 }
 
-/// The same with a dictionary.
-class VMeasuredDictionaryWalk {
-public:
-    explicit VMeasuredDictionaryWalk(benchmark::State& state) : m_walk(static_cast<std::size_t>(state.range(0))) {
-        std::size_t const visits = VCountingDictionary(Layer()).Walk(Layer());
-        std::size_t const bare = VBareWalk(Layer()).WalkDictionary();
-        if (visits != bare || visits < static_cast<std::size_t>(state.range(0))) {
-            throw std::logic_error("the walks of the dictionary differ: " + std::to_string(visits) + " and " +
-                                   std::to_string(bare));
-        }
-    }
-
-    NODX201::VDiagLayer& Layer() { return *m_walk.layer; }
-
-private:
-    VDictionaryWalk m_walk;
-};
-
-void DictionaryWalkBare(benchmark::State& state) {
-    VMeasuredDictionaryWalk walk(state);
-    VBareWalk bare(walk.Layer());
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(bare.WalkDictionary());
-    }
-}
-
-void DictionaryWalk(benchmark::State& state) {
-    VMeasuredDictionaryWalk walk(state);
-    NDIAGKIT::VDiagDataDictionarySpecTraverser traverser(walk.Layer());
-    for (auto _ : state) {
-        traverser.TraverseDiagDataDictionarySpec(walk.Layer().GetDiagDataDictionarySpec());
-    }
-}
-
-BENCHMARK_TEMPLATE(LayerWalk, NDIAGKIT::VDiagLayerTraverser)
-    ->Name("layer-walk")
-    ->Arg(10000)
-    ->Arg(1000000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(LayerWalkBare)->Name("layer-walk-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
-BENCHMARK_TEMPLATE(LayerWalk, NDIAGKIT::VGuardedDiagLayerTraverser)
-    ->Name("layer-walk-guarded")
-    ->Arg(10000)
-    ->Arg(1000000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(LayerWalkBare)->Name("layer-walk-guarded-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
-BENCHMARK(DictionaryWalk)->Name("dictionary-walk")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
-BENCHMARK(DictionaryWalkBare)->Name("dictionary-walk-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+// clang-format off
+BENCHMARK(Walk<VWholeLayer, NDIAGKIT::VDiagLayerTraverser>)->Name("layer-walk")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareWalk<VWholeLayer>)->Name("layer-walk-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Walk<VWholeLayer, NDIAGKIT::VGuardedDiagLayerTraverser>)->Name("layer-walk-guarded")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareWalk<VWholeLayer>)->Name("layer-walk-guarded-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Walk<VDictionaryAlone, NDIAGKIT::VDiagDataDictionarySpecTraverser>)->Name("dictionary-walk")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareWalk<VDictionaryAlone>)->Name("dictionary-walk-bare")->Arg(10000)->Arg(1000000)->Unit(benchmark::kMillisecond);
+// clang-format on
 
 } // namespace
 } // namespace NBench

@@ -25,29 +25,29 @@ VDiagCommView::VDiagCommView() = default;
 
 VDiagCommView::~VDiagCommView() = default;
 
-VDiagCommView::VDiagCommView(NODX201::VEcuSharedData& layer) { InheritFromOwn(layer); }
+VDiagCommView::VDiagCommView(NODX201::VEcuSharedData& layer) : VDiagCommView() { InheritFromOwn(layer); }
 
-VDiagCommView::VDiagCommView(NODX201::VProtocol& layer) {
+VDiagCommView::VDiagCommView(NODX201::VProtocol& layer) : VDiagCommView() {
     Construction construction;
     InheritFromOwn(layer);
     Pass<EcuSharedDataRef>(layer, construction);
 }
 
-VDiagCommView::VDiagCommView(NODX201::VFunctionalGroup& layer) {
+VDiagCommView::VDiagCommView(NODX201::VFunctionalGroup& layer) : VDiagCommView() {
     Construction construction;
     InheritFromOwn(layer);
     Pass<ProtocolRef>(layer, construction);
     Pass<EcuSharedDataRef>(layer, construction);
 }
 
-VDiagCommView::VDiagCommView(NODX201::VBaseVariant& layer) {
+VDiagCommView::VDiagCommView(NODX201::VBaseVariant& layer) : VDiagCommView() {
     Construction construction;
     InheritFromOwn(layer);
     Pass<ProtocolRef, FunctionalGroupRef>(layer, construction);
     Pass<EcuSharedDataRef>(layer, construction);
 }
 
-VDiagCommView::VDiagCommView(NODX201::VEcuVariant& layer) {
+VDiagCommView::VDiagCommView(NODX201::VEcuVariant& layer) : VDiagCommView() {
     Construction construction;
     InheritFromOwn(layer);
     Pass<BaseVariantRef>(layer, construction);

@@ -18,24 +18,24 @@ VDiagVariableView::VDiagVariableView() = default;
 
 VDiagVariableView::~VDiagVariableView() = default;
 
-VDiagVariableView::VDiagVariableView(NODX201::VEcuSharedData& layer) { InheritFromOwn(layer); }
+VDiagVariableView::VDiagVariableView(NODX201::VEcuSharedData& layer) : VDiagVariableView() { InheritFromOwn(layer); }
 
-VDiagVariableView::VDiagVariableView(NODX201::VProtocol&) {}
+VDiagVariableView::VDiagVariableView(NODX201::VProtocol&) : VDiagVariableView() {}
 
-VDiagVariableView::VDiagVariableView(NODX201::VFunctionalGroup& layer) {
+VDiagVariableView::VDiagVariableView(NODX201::VFunctionalGroup& layer) : VDiagVariableView() {
     VNameMerge merge;
     InheritFromOwn(layer);
     Pass<EcuSharedDataRef>(layer, merge);
 }
 
-VDiagVariableView::VDiagVariableView(NODX201::VBaseVariant& layer) {
+VDiagVariableView::VDiagVariableView(NODX201::VBaseVariant& layer) : VDiagVariableView() {
     VNameMerge merge;
     InheritFromOwn(layer);
     Pass<FunctionalGroupRef>(layer, merge);
     Pass<EcuSharedDataRef>(layer, merge);
 }
 
-VDiagVariableView::VDiagVariableView(NODX201::VEcuVariant& layer) {
+VDiagVariableView::VDiagVariableView(NODX201::VEcuVariant& layer) : VDiagVariableView() {
     VNameMerge merge;
     InheritFromOwn(layer);
     Pass<BaseVariantRef>(layer, merge);

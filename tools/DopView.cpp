@@ -28,26 +28,26 @@ VDopView::VDopView() = default;
 
 VDopView::~VDopView() = default;
 
-VDopView::VDopView(NODX201::VEcuSharedData& layer) { InheritFromOwn(layer); }
+VDopView::VDopView(NODX201::VEcuSharedData& layer) : VDopView() { InheritFromOwn(layer); }
 
-VDopView::VDopView(NODX201::VProtocol& layer) {
+VDopView::VDopView(NODX201::VProtocol& layer) : VDopView() {
     InheritFromOwn(layer);
     Pass<EcuSharedDataRef>(layer);
 }
 
-VDopView::VDopView(NODX201::VFunctionalGroup& layer) {
+VDopView::VDopView(NODX201::VFunctionalGroup& layer) : VDopView() {
     InheritFromOwn(layer);
     Pass<ProtocolRef>(layer);
     Pass<EcuSharedDataRef>(layer);
 }
 
-VDopView::VDopView(NODX201::VBaseVariant& layer) {
+VDopView::VDopView(NODX201::VBaseVariant& layer) : VDopView() {
     InheritFromOwn(layer);
     Pass<ProtocolRef, FunctionalGroupRef>(layer);
     Pass<EcuSharedDataRef>(layer);
 }
 
-VDopView::VDopView(NODX201::VEcuVariant& layer) {
+VDopView::VDopView(NODX201::VEcuVariant& layer) : VDopView() {
     InheritFromOwn(layer);
     Pass<BaseVariantRef>(layer);
     Pass<EcuSharedDataRef>(layer);

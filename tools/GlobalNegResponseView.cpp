@@ -17,7 +17,9 @@ wchar_t const* VGlobalNegResponseViewTraits::ShortNameOf(Element& response) { re
 
 VGlobalNegResponseView::VGlobalNegResponseView() = default;
 
-VGlobalNegResponseView::VGlobalNegResponseView(NODX201::VDiagLayer& layer) { DispatchDiagLayer(layer); }
+VGlobalNegResponseView::VGlobalNegResponseView(NODX201::VDiagLayer& layer) : VGlobalNegResponseView() {
+    DispatchDiagLayer(layer);
+}
 
 VGlobalNegResponseView::~VGlobalNegResponseView() = default;
 

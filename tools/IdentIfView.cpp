@@ -19,7 +19,7 @@ VIdentIfView::VIdentIfView() = default;
 
 VIdentIfView::~VIdentIfView() = default;
 
-VIdentIfView::VIdentIfView(NODX201::VFlash& flash) {
+VIdentIfView::VIdentIfView(NODX201::VFlash& flash) : VIdentIfView() {
     if (!flash.HasEcuMemCollection()) {
         return;
     }

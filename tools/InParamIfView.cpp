@@ -21,7 +21,7 @@ VInParamIfView::VInParamIfView() = default;
 
 VInParamIfView::~VInParamIfView() = default;
 
-VInParamIfView::VInParamIfView(NODX201::VDiagService& service) {
+VInParamIfView::VInParamIfView(NODX201::VDiagService& service) : VInParamIfView() {
     auto const take = [this](NODX201::VParam& param) {
         if (auto* const value = dynamic_cast<NODX201::VValue*>(&param)) {
             Append(*value);
@@ -31,7 +31,7 @@ VInParamIfView::VInParamIfView(NODX201::VDiagService& service) {
     ForEachNegResponseParam(service, take);
 }
 
-VInParamIfView::VInParamIfView(NODX201::VSingleEcuJob& job) {
+VInParamIfView::VInParamIfView(NODX201::VSingleEcuJob& job) : VInParamIfView() {
     if (job.HasInputParamCollection()) {
         for (NODX201::VInputParam& param : job.InputParamCollection()) {
             Append(param);
@@ -39,7 +39,7 @@ VInParamIfView::VInParamIfView(NODX201::VSingleEcuJob& job) {
     }
 }
 
-VInParamIfView::VInParamIfView(NODX201::VMultipleEcuJob& job) {
+VInParamIfView::VInParamIfView(NODX201::VMultipleEcuJob& job) : VInParamIfView() {
     if (job.HasInputParamCollection()) {
         for (NODX201::VInputParam& param : job.InputParamCollection()) {
             Append(param);

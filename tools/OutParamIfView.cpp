@@ -25,7 +25,7 @@ VOutParamIfView::VOutParamIfView() = default;
 
 VOutParamIfView::~VOutParamIfView() = default;
 
-VOutParamIfView::VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearchRange range) {
+VOutParamIfView::VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearchRange range) : VOutParamIfView() {
     auto const take = [this](NODX201::VParam& param) {
         if (auto* const value = dynamic_cast<NODX201::VValue*>(&param)) {
             Append(*value);
@@ -35,7 +35,7 @@ VOutParamIfView::VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearc
     ForEachSelectedParam(service, range, take);
 }
 
-VOutParamIfView::VOutParamIfView(NODX201::VSingleEcuJob& job) {
+VOutParamIfView::VOutParamIfView(NODX201::VSingleEcuJob& job) : VOutParamIfView() {
     if (job.HasOutputParamCollection()) {
         for (NODX201::VOutputParam& param : job.OutputParamCollection()) {
             Append(param);
@@ -43,7 +43,7 @@ VOutParamIfView::VOutParamIfView(NODX201::VSingleEcuJob& job) {
     }
 }
 
-VOutParamIfView::VOutParamIfView(NODX201::VMultipleEcuJob& job) {
+VOutParamIfView::VOutParamIfView(NODX201::VMultipleEcuJob& job) : VOutParamIfView() {
     if (job.HasOutputParamCollection()) {
         for (NODX201::VOutputParam& param : job.OutputParamCollection()) {
             Append(param);

@@ -29,14 +29,10 @@ void Visitor::VisitTableKey(NODX201::VTableKey&) {}
 void Visitor::VisitTableEntry(NODX201::VTableEntry&) {}
 
 void Visitor::VisitValue(NODX201::VValue& param) {
-    if (IsDone()) {
-        return;
-    }
-    if (std::wcscmp(param.GetShortName(), m_shortName.c_str()) == 0) {
+    if (!IsDone() && std::wcscmp(param.GetShortName(), m_shortName.c_str()) == 0) {
         m_result = &param;
-        return;
     }
-    if (param.HasDopBaseLink() && param.GetDopBaseLink().HasDopBase(*m_layer)) {
+    if (!IsDone() && param.HasDopBaseLink() && param.GetDopBaseLink().HasDopBase(*m_layer)) {
         param.GetDopBaseLink().GetDopBase().Accept(*this);
     }
 }
@@ -135,10 +131,10 @@ void Visitor::SearchField(NODX201::VField& field) {
 }
 
 void Visitor::VisitEnvDataDesc(NODX201::VEnvDataDesc& dop) {
-    if (IsDone()) {
-        return;
-    }
     for (NODX201::IEnvDataProxy& proxy : dop.EnvDataProxyCollection()) {
+        if (IsDone()) {
+            return;
+        }
         if (proxy.IsEnvDataLink()) {
             auto* const link = dynamic_cast<NODX201::VEnvDataLink*>(&proxy);
             if (link != nullptr && link->HasEnvData()) {
@@ -147,17 +143,11 @@ void Visitor::VisitEnvDataDesc(NODX201::VEnvDataDesc& dop) {
         } else if (auto* const envData = dynamic_cast<NODX201::VEnvData*>(&proxy)) {
             envData->Accept(*this);
         }
-        if (IsDone()) {
-            return;
-        }
     }
 }
 
 void Visitor::VisitMux(NODX201::VMux& dop) {
-    if (IsDone()) {
-        return;
-    }
-    if (dop.HasDefaultCase() && dop.GetDefaultCase().HasStructureRef()) {
+    if (!IsDone() && dop.HasDefaultCase() && dop.GetDefaultCase().HasStructureRef()) {
         SearchStructureOf(dop.GetDefaultCase().GetStructureRef());
     }
     for (NODX201::VCase& muxCase : dop.CaseCollection()) {

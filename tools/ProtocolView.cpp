@@ -12,13 +12,13 @@ VProtocolView::VProtocolView() = default;
 
 VProtocolView::~VProtocolView() = default;
 
-VProtocolView::VProtocolView(NODX201::VDiagLayerContainer& container) {
+VProtocolView::VProtocolView(NODX201::VDiagLayerContainer& container) : VProtocolView() {
     for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
         layer.Accept(*this);
     }
 }
 
-VProtocolView::VProtocolView(NODX201::VBaseVariant& baseVariant) {
+VProtocolView::VProtocolView(NODX201::VBaseVariant& baseVariant) : VProtocolView() {
     if (!baseVariant.HasParentRefCollection()) {
         return;
     }

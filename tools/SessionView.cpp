@@ -12,7 +12,7 @@ VSessionView::VSessionView() = default;
 
 VSessionView::~VSessionView() = default;
 
-VSessionView::VSessionView(NODX201::VFlash& flash) {
+VSessionView::VSessionView(NODX201::VFlash& flash) : VSessionView() {
     if (!flash.HasEcuMemCollection()) {
         return;
     }

@@ -11,6 +11,7 @@
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/MultipleEcuJobs.h>
 #include <diagkit/tools/IdentIfView.h>
+#include <diagkit/tools/OdxCategoryInfoCollection.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 #include <diagkit/tools/OpBuildDiagVariableView.h>
 #include <diagkit/tools/OpBuildDopView.h>
@@ -174,6 +175,21 @@ TEST_F(ViewFaultsTest, IdentAndSessionViews) {
         Check([&] { return new NDIAGKIT::VSessionView(flash); });
     }
     EXPECT_GT(m_failures, 2u);
+}
+
+TEST(CategoryListFaultsTest, ACopyIsWholeOrNotThereAndTheOriginalStays) {
+    NDIAGKIT::VOdxCategoryInfoCollection list;
+    for (wchar_t const* const name : {L"a file of quite a long name.odx-d", L"another file of a long name.odx-d"}) {
+        auto info = std::make_unique<NDIAGKIT::VOdxCategoryInfo>();
+        info->SetFileName(name);
+        list.Append(*info);
+        info.release();
+    }
+    std::size_t const allocations =
+        FailEverywhere([&] { std::unique_ptr<NDIAGKIT::VOdxCategoryInfoCollection>(&list.Clone()); });
+    EXPECT_GE(allocations, 7u); // the list; of each entry the record, its text and its node
+    EXPECT_EQ(list.Count(), 2u);
+    EXPECT_NE(list.Find(L"another file of a long name.odx-d"), list.End());
 }
 
 } // namespace

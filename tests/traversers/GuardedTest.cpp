@@ -312,6 +312,26 @@ TEST_F(GuardedTest, WhatIsDeeperThanTheLimitIsLeftOutAndTold) {
     EXPECT_EQ(deep.m_text, L"First Second Third Last ");
 }
 
+TEST_F(GuardedTest, NothingHappensAtACycleOrTheLimitUnlessItIsOverridden) {
+    NMemory::VMemDiagService& service = m_layer.AddDiagService(L"Service");
+    service.AddRelatedDiagCommRef(service);
+    NMemory::VMemDiagService& second = m_library.AddDiagService(L"Second");
+    service.AddRelatedDiagCommRef(second);
+    second.AddRelatedDiagCommRef(m_library.AddDiagService(L"Third"));
+
+    class VEntering : public NDIAGKIT::VGuardedDiagLayerTraverser {
+    public:
+        using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;
+        std::wstring m_text;
+
+    protected:
+        void DefaultVisit(NODX201::VOdxElement& x) override { m_text += std::wstring(x.GetShortName()) + L' '; }
+    };
+    VEntering walk(m_layer, 3); // the layer, Service, Second
+    walk.TraverseDiagLayer();
+    EXPECT_EQ(walk.m_text, L"Layer Service Second ");
+}
+
 TEST_F(GuardedTest, ARingOfThousandsIsToldWhereItCloses) {
     constexpr int kServices = 1500; // more than the guard keeps apart
     std::vector<NMemory::VMemDiagService*> services;
