@@ -1,10 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <string_view>
+
 namespace NReader {
 
+/// The name under which we read the encoding that a document declares; "" for one that we do not know. Case, hyphens
+/// and underscores do not matter. ISO-8859-1 is read as Windows-1252, as browsers do: they differ in 0x80 to 0x9F
+/// alone, which ISO-8859-1 has no characters for.
+std::string_view EncodingOf(std::string_view declared);
+
+/// Whether every byte is a character in an encoding of that name, which is one of `EncodingOf`.
+bool IsOneByteEncoding(std::string_view encoding);
+
+/// Whether the name is one of ISO-8859-1.
+bool IsLatin1(std::string_view declared);
+
 /// Fills the map from bytes to code points of a one-byte encoding that the XML parser does not know itself. False for
-/// a name that we do not know either. Case does not matter.
+/// a name that we do not know either.
 bool FillEncoding(char const* name, int (&map)[256]);
 
 /// The names of all encodings that documents can have, for messages.

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include <diagkit/reader/Encodings.h>
+
 namespace NReader {
 namespace {
 
@@ -12,6 +14,37 @@ struct VTry {
     std::string doubt{};                         // when another encoding may help: why
     VFailure failure{};
 };
+
+std::string Hexadecimal(unsigned char byte) {
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    return {'0', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
+}
+
+/// A document that declares a one-byte encoding: what its bytes look like.
+void ReportOneByteEncoding(VXmlParser const& parser, std::uint32_t document, VFindings& findings) {
+    std::string const& declared = parser.GetDeclaredEncoding();
+    VXmlControl const control = parser.GetFirstControl();
+    bool const isReadOtherwise = IsLatin1(declared) && control.position.line != 0;
+    if (VXmlPosition const place = parser.GetDoubtfulPosition(); place.line != 0) {
+        findings.Add({document, place.line, place.column}, VSeverity::Warning, "encoding",
+                     "the document declares " + declared +
+                         (isReadOtherwise ? " and is read as Windows-1252" : ", in which it is read") +
+                         ", but all that is beyond ASCII is UTF-8, first here");
+    } else if (isReadOtherwise) {
+        findings.Add({document, control.position.line, control.position.column}, VSeverity::Warning, "encoding",
+                     "the document declares " + declared + ", which has no character for the byte " +
+                         Hexadecimal(control.byte) + ", first here; read as Windows-1252");
+    }
+}
+
+void ReportEncoding(VXmlParser const& parser, std::uint32_t document, VFindings& findings) {
+    if (std::string const declared = parser.GetContradictedEncoding(); !declared.empty()) {
+        findings.Add({document, 1, 1}, VSeverity::Warning, "encoding",
+                     "the document declares " + declared + " but has the byte order mark of " +
+                         parser.GetMarkedEncoding() + ", in which it is read");
+    }
+    ReportOneByteEncoding(parser, document, findings);
+}
 
 VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& options, std::uint32_t document,
                  VBytes const& bytes, char const* encoding, bool isRepaired) {
@@ -41,16 +74,7 @@ VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& 
         result.doubt = isRepaired ? "" : problem.doubt;
         return result;
     }
-    if (std::string const declared = parser.GetContradictedEncoding(); !declared.empty()) {
-        reading->findings.Add({document, 1, 1}, VSeverity::Warning, "encoding",
-                              "the document declares " + declared + " but has the byte order mark of " +
-                                  parser.GetMarkedEncoding() + ", in which it is read");
-    }
-    if (VXmlPosition const place = parser.GetDoubtfulPosition(); place.line != 0) {
-        reading->findings.Add({document, place.line, place.column}, VSeverity::Warning, "encoding",
-                              "the document declares " + parser.GetDeclaredEncoding() +
-                                  ", in which it is read, but all that is beyond ASCII is UTF-8, first here");
-    }
+    ReportEncoding(parser, document, reading->findings);
     loader.Complete();
     result.reading = std::move(reading);
     return result;

@@ -14,8 +14,9 @@ namespace NReader {
 
 namespace {
 
-/// Whether bytes that are read one by one are UTF-8, and where the first character beyond ASCII stands.
-class VUtf8Watch {
+/// What the bytes of a document in a one-byte encoding look like: whether they are UTF-8, and where the first ones
+/// stand that tell.
+class VByteWatch {
 public:
     void See(std::string_view bytes) {
         for (char const character : bytes) {
@@ -23,17 +24,30 @@ public:
         }
     }
 
-    VXmlPosition First() const { return m_isUtf8 && m_left == 0 ? m_first : VXmlPosition(); }
+    /// Where the first character beyond ASCII stands, when all of them are UTF-8.
+    VXmlPosition FirstOfUtf8() const { return m_isUtf8 && m_left == 0 ? m_first : VXmlPosition(); }
+
+    /// The first byte from 0x80 to 0x9F.
+    VXmlControl FirstControl() const { return m_control; }
 
 private:
     void See(unsigned char byte) {
-        bool const isContinued = (byte & 0xC0) == 0x80;
-        if (byte >= 0x80 && m_first.line == 0) {
-            m_first = m_at;
+        if (byte >= 0x80) {
+            Note(byte);
         }
+        bool const isContinued = (byte & 0xC0) == 0x80;
         m_isUtf8 = m_isUtf8 && isContinued == (m_left > 0) && (byte < 0x80 || isContinued || IsLead(byte));
         m_left = isContinued ? m_left - 1 : byte < 0xC0 ? 0 : byte < 0xE0 ? 1 : byte < 0xF0 ? 2 : 3;
         m_at = byte == '\n' ? VXmlPosition{m_at.line + 1, 1} : VXmlPosition{m_at.line, m_at.column + 1};
+    }
+
+    void Note(unsigned char byte) {
+        if (m_first.line == 0) {
+            m_first = m_at;
+        }
+        if (byte < 0xA0 && m_control.position.line == 0) {
+            m_control = {m_at, byte};
+        }
     }
 
     static bool IsLead(unsigned char byte) { return byte >= 0xC2 && byte <= 0xF4; }
@@ -42,6 +56,7 @@ private:
     int m_left = 0; // bytes of the character that has begun
     VXmlPosition m_at{1, 1};
     VXmlPosition m_first;
+    VXmlControl m_control;
 };
 
 } // namespace
@@ -53,7 +68,7 @@ struct VXmlParser::VState {
     std::string head;                // the first bytes, until they tell how the document begins
     char const* markedEncoding = ""; // what a byte order mark says
     std::string declaredEncoding;
-    VUtf8Watch watch;     // of what a document in a one-byte encoding holds
+    VByteWatch watch;     // of what a document in a one-byte encoding holds
     VXmlPosition skipped; // lines, and columns of the last one, that were left out before the XML declaration
     IXmlHandler* handler = nullptr;
     VReadLimits limits;
@@ -100,12 +115,37 @@ std::size_t StartOfMarkup(std::string_view head) {
     }
 }
 
-/// Whether the bytes suffice to tell how a document begins: byte order mark, blanks and comments, XML declaration.
-bool IsHeadComplete(std::string_view head) { return head.size() > StartOfMarkup(head) + kDeclaration.size(); }
-
 bool IsDeclaration(std::string_view text) {
     return StartsWith(text, kDeclaration) && text.size() > kDeclaration.size() &&
            kBlanks.find(text[kDeclaration.size()]) != std::string_view::npos;
+}
+
+/// Whether the bytes suffice to tell how a document begins: byte order mark, blanks and comments, XML declaration.
+bool IsHeadComplete(std::string_view head) {
+    std::string_view const markup = head.substr(StartOfMarkup(head));
+    return markup.size() > kDeclaration.size() &&
+           (!IsDeclaration(markup) || markup.find("?>") != std::string_view::npos);
+}
+
+/// The encoding in a text that begins with an XML declaration; "" where it says none. What is odd about it is the
+/// parser's to judge.
+std::string DeclaredEncoding(std::string_view text) {
+    constexpr std::string_view kName = "encoding";
+    std::string_view const declaration = text.substr(0, text.find("?>"));
+    std::size_t const name = declaration.find(kName);
+    std::size_t const start = name != std::string_view::npos ? declaration.find_first_of("\"'", name) : name;
+    std::size_t const end = start != std::string_view::npos ? declaration.find(declaration[start], start + 1) : start;
+    return end != std::string_view::npos ? std::string(declaration.substr(start + 1, end - start - 1)) : std::string();
+}
+
+/// The same of bytes that may be UTF-16.
+std::string DeclaredEncodingOf(std::string_view head, bool isUtf16) {
+    constexpr std::size_t kLongest = 1024;
+    std::string text(isUtf16 ? head.substr(0, kLongest) : head);
+    if (isUtf16) {
+        text.erase(std::remove(text.begin(), text.end(), '\0'), text.end());
+    }
+    return IsDeclaration(text) ? DeclaredEncoding(text) : std::string();
 }
 
 /// How far a text reaches: the line ends in it, and the characters behind the last one.
@@ -132,23 +172,19 @@ std::string MessageOf(XML_Error code, std::string const& declaredEncoding) {
     return code == XML_ERROR_MISPLACED_XML_PI ? message + "; remove what stands before the declaration" : message;
 }
 
-std::string DoubtOf(XML_Error code, std::string const& message) {
+std::string DoubtOf(XML_Error code, std::string const& message, bool isKnown) {
+    constexpr char const* kOtherBytes =
+        "the bytes are not in the encoding that the document declares (UTF-8 where it declares none)";
     switch (code) {
     case XML_ERROR_UNKNOWN_ENCODING:
-        return message;
+        return isKnown ? kOtherBytes : message;
     case XML_ERROR_INVALID_TOKEN:
     case XML_ERROR_INCORRECT_ENCODING:
     case XML_ERROR_PARTIAL_CHAR:
-        return "the bytes are not in the encoding that the document declares (UTF-8 where it declares none)";
+        return kOtherBytes;
     default:
         return {};
     }
-}
-
-bool StartsWithFolded(std::string_view text, std::string_view start) {
-    return text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), [](char a, char b) {
-               return (b >= 'a' && b <= 'z' ? b - 'a' + 'A' : b) == a;
-           });
 }
 
 } // namespace
@@ -265,14 +301,27 @@ std::string_view VXmlParser::Begin(std::string_view head) {
         state.skipped = ExtentOf(head.substr(0, start));
         head.remove_prefix(start);
     }
+    if (!state.isEncodingGiven && *state.markedEncoding == '\0') {
+        ObeyDeclaration(head);
+    }
     return head;
+}
+
+/// Tells expat what it does not know: other names of encodings. One that the first bytes belie is left for it to
+/// refuse.
+void VXmlParser::ObeyDeclaration(std::string_view head) {
+    bool const isUtf16 = head.substr(0, 2).find('\0') != std::string_view::npos;
+    std::string_view const encoding = EncodingOf(DeclaredEncodingOf(head, isUtf16));
+    if (!encoding.empty() && StartsWith(encoding, "UTF-16") == isUtf16) {
+        XML_SetEncoding(m_state->parser, std::string(encoding).c_str());
+    }
 }
 
 /// Whether the document itself says that its bytes are characters.
 bool VXmlParser::IsInOneByteEncoding() const {
     std::string const& declared = m_state->declaredEncoding;
     bool const isDeclared = !declared.empty() && !m_state->isEncodingGiven && *m_state->markedEncoding == '\0';
-    return isDeclared && !StartsWithFolded(declared, "UTF-");
+    return isDeclared && IsOneByteEncoding(EncodingOf(declared));
 }
 
 bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
@@ -310,8 +359,10 @@ bool VXmlParser::Fail() {
     if (code == XML_ERROR_NO_MEMORY) {
         throw std::bad_alloc();
     }
-    std::string const message = MessageOf(code, m_state->declaredEncoding);
-    m_state->error = {GetPosition(), "not-xml", std::string("not well-formed XML: ") + message, DoubtOf(code, message)};
+    std::string const& declared = m_state->declaredEncoding;
+    std::string const message = MessageOf(code, declared);
+    m_state->error = {GetPosition(), "not-xml", std::string("not well-formed XML: ") + message,
+                      DoubtOf(code, message, !EncodingOf(declared).empty())};
     return false;
 }
 
@@ -383,15 +434,20 @@ VXmlPosition VXmlParser::GetPosition() const {
 std::string VXmlParser::GetContradictedEncoding() const {
     std::string const& declared = m_state->declaredEncoding;
     bool const isContradicted = *m_state->markedEncoding != '\0' && !m_state->isEncodingGiven && !declared.empty() &&
-                                !StartsWithFolded(declared, m_state->markedEncoding);
+                                !StartsWith(EncodingOf(declared), m_state->markedEncoding);
     return isContradicted ? declared : std::string();
 }
 
 std::string const& VXmlParser::GetDeclaredEncoding() const { return m_state->declaredEncoding; }
 
 VXmlPosition VXmlParser::GetDoubtfulPosition() const {
-    VXmlPosition const first = m_state->watch.First();
+    VXmlPosition const first = m_state->watch.FirstOfUtf8();
     return first.line != 0 ? Placed(first) : first;
+}
+
+VXmlControl VXmlParser::GetFirstControl() const {
+    VXmlControl const first = m_state->watch.FirstControl();
+    return first.position.line != 0 ? VXmlControl{Placed(first.position), first.byte} : first;
 }
 
 char const* VXmlParser::GetMarkedEncoding() const { return m_state->markedEncoding; }

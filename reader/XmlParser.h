@@ -18,6 +18,12 @@ struct VXmlPosition {
     std::uint32_t column = 0;
 };
 
+/// A byte that is no character in the encoding that a document declares; line 0 where there is none.
+struct VXmlControl {
+    VXmlPosition position{};
+    unsigned char byte = 0;
+};
+
 /// What a parser reports; texts are UTF-8 and valid during the call.
 class IXmlHandler {
 public:
@@ -57,6 +63,9 @@ public:
     /// Where the first character beyond ASCII stands in a document that declares a one-byte encoding and has nothing
     /// but UTF-8 there, which hardly happens by accident; line 0 elsewhere. To be asked at the end.
     VXmlPosition GetDoubtfulPosition() const;
+    /// The first byte from 0x80 to 0x9F in a document that declares a one-byte encoding: control characters in the
+    /// encodings of ISO 8859, and mostly a sign that the bytes are Windows-1252. To be asked at the end.
+    VXmlControl GetFirstControl() const;
     std::string const& GetDeclaredEncoding() const;
 
     /// Takes the next bytes; false when the document cannot be read, `GetError()` then says why.
@@ -73,6 +82,7 @@ public:
 
 private:
     std::string_view Begin(std::string_view head);
+    void ObeyDeclaration(std::string_view head);
     bool Parse(std::string_view bytes, bool isLast);
     bool IsStartWithinLimits(std::string_view name, char const* const* attributes);
     bool IsTagWithinLimit(std::uint64_t size);

@@ -198,10 +198,15 @@ TEST_F(VEncodingTest, DeclaredUtf8OfAUtf16FileIsIgnoredAndReported) {
 
 TEST_F(VEncodingTest, DeclaredOneByteEncodingOfAUtf8FileIsObeyedAndReportedWhereItShows) {
     std::string const declaration = std::string(kLatin1) + "\n";
-    EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xE2\x82\xAC")), L"T\u00C3\u00BCr \u00E2\x82\u00AC");
+    EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xC2\xB5")), L"T\u00C3\u00BCr \u00C2\u00B5");
     EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
     EXPECT_EQ(Message(0),
               "the document declares ISO-8859-1, in which it is read, but all that is beyond ASCII is UTF-8, "
+              "first here");
+    EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xE2\x82\xAC")), L"T\u00C3\u00BCr \u00E2\u201A\u00AC");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
+    EXPECT_EQ(Message(0),
+              "the document declares ISO-8859-1 and is read as Windows-1252, but all that is beyond ASCII is UTF-8, "
               "first here");
     // One character that is none in UTF-8 decides for the declaration.
     EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xFC")), L"T\u00C3\u00BCr \u00FC");
@@ -210,6 +215,79 @@ TEST_F(VEncodingTest, DeclaredOneByteEncodingOfAUtf8FileIsObeyedAndReportedWhere
     EXPECT_EQ(Diagnostics(), "");
     EXPECT_EQ(NameIn(With(declaration, "Door")), L"Door");
     EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VEncodingTest, Latin1WithBytesThatItHasNoCharactersForIsReadAsWindows1252AndReportedAtTheFirst) {
+    std::string const declaration = std::string(kLatin1) + "\n";
+    EXPECT_EQ(NameIn(With(declaration, "T\xFCr \x80 \x93")), L"T\u00FCr \u20AC \u201C");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:73 warning encoding");
+    EXPECT_EQ(Message(0),
+              "the document declares ISO-8859-1, which has no character for the byte 0x80, first here; read "
+              "as Windows-1252");
+    // The five codes that Windows-1252 leaves open stay control characters.
+    EXPECT_EQ(NameIn(With(declaration, "a\x9D")), L"a\x9D");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
+    EXPECT_NE(Message(0).find("the byte 0x9D"), std::string::npos) << Message(0);
+    EXPECT_EQ(NameIn(With(declaration, "\xA0\xFF")), L"\u00A0\u00FF");
+    EXPECT_EQ(Diagnostics(), "");
+    EXPECT_EQ(NameIn(With(kWindows1252, "\x80")), L"\u20AC"); // which says what it is
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VEncodingTest, Latin1OfManyPiecesIsLookedAtToItsEnd) {
+    std::string const declaration = std::string(kLatin1) + "<!--" + std::string(600000, '\n') + "-->";
+    EXPECT_EQ(NameIn(With(declaration, "\x80")), L"\u20AC");
+    EXPECT_EQ(Diagnostics(), "test.odx:600001:72 warning encoding");
+}
+
+TEST_F(VEncodingTest, OtherNamesOfEncodingsAreKnown) {
+    constexpr struct {
+        char const* declared;
+        char const* bytes;
+        wchar_t const* name;
+    } kRows[] = {
+        {"utf8", "\xC3\xBC", L"\u00FC"},     {"UTF8", "\xC3\xBC", L"\u00FC"},
+        {"utf_8", "\xC3\xBC", L"\u00FC"},    {"ascii", "u", L"u"},
+        {"latin1", "\xFC", L"\u00FC"},       {"Latin-1", "\xFC", L"\u00FC"},
+        {"ISO8859-1", "\xFC", L"\u00FC"},    {"iso_8859-1", "\xFC", L"\u00FC"},
+        {"cp1252", "\x80", L"\u20AC"},       {"windows1252", "\x80", L"\u20AC"},
+        {"WINDOWS_1252", "\x80", L"\u20AC"}, {"latin9", "\xA4", L"\u20AC"},
+        {"ISO8859-15", "\xA4", L"\u20AC"},
+    };
+    for (auto const& row : kRows) {
+        for (std::string const quote : {"\"", "'"}) {
+            std::string const declaration = "<?xml version='1.0' encoding = " + quote + row.declared + quote + "?>";
+            EXPECT_EQ(NameIn(With(declaration, row.bytes)), row.name) << row.declared;
+            EXPECT_EQ(Diagnostics(), "") << row.declared;
+        }
+    }
+    for (std::string const declared : {"utf16", "UTF16", "utf_16"}) {
+        std::string const declaration = "<?xml version=\"1.0\" encoding=\"" + declared + "\"?>";
+        for (bool const isBigEndian : {false, true}) {
+            std::string const mark = isBigEndian ? "\xFE\xFF" : "\xFF\xFE";
+            EXPECT_EQ(NameIn(mark + Utf16(With(declaration, "Door"), isBigEndian)), L"Door");
+            EXPECT_EQ(Diagnostics(), "") << declared;
+            EXPECT_EQ(NameIn(Utf16(With(declaration, "Door"), isBigEndian)), L"Door");
+            EXPECT_EQ(Diagnostics(), "") << declared;
+        }
+    }
+    EXPECT_EQ(NameIn(kMark + With("<?xml version=\"1.0\" encoding=\"utf8\"?>", "\xC3\xBC")), L"\u00FC");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VEncodingTest, OtherNamesOfEncodingsThatLieAreReported) {
+    EXPECT_EQ(NameIn(With("<?xml version=\"1.0\" encoding=\"utf8\"?>\n", "T\xFCr")), L"T\u00FCr");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
+    EXPECT_EQ(Message(0),
+              "the bytes are not in the encoding that the document declares (UTF-8 where it declares none); "
+              "read as windows-1252");
+    EXPECT_EQ(NameIn(With("<?xml version=\"1.0\" encoding=\"utf16\"?>", "T\xC3\xBCr")), L"T\u00FCr");
+    ASSERT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(Message(0),
+              "the bytes are not in the encoding that the document declares (UTF-8 where it declares none); "
+              "read as UTF-8");
+    EXPECT_EQ(NameIn(With("<?xml version=\"1.0\" encoding=\"latin1\"?>\n", "a \x96")), L"a \u2013");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:71 warning encoding");
 }
 
 TEST_F(VEncodingTest, UnknownEncodingIsReportedWithTheKnownOnes) {
