@@ -327,6 +327,9 @@ void VLoader::ReadAttributes(VFrame const& frame, VAttributes const& attributes)
             continue;
         }
         ReadValue(row.content, value);
+        if (m_value.empty() && std::strcmp(row.name, "ID") == 0) {
+            Report(VSeverity::Error, "missing-attribute", Quoted(frame.name) + " has an empty ID");
+        }
         CheckValue(row.content, row.literals, frame, row.name);
         row.set(frame.object, m_value);
     }
@@ -413,6 +416,10 @@ void VLoader::End(std::string_view name) {
 
 void VLoader::TakeContent(VFrame const& frame) {
     ReadValue(frame.type->content, m_text);
+    if (m_value.empty() && std::strcmp(frame.name, "SHORT-NAME") == 0) {
+        m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
+                               Quoted(m_frames.back().name) + " has an empty 'SHORT-NAME'");
+    }
     CheckValue(frame.type->content, frame.type->literals, frame);
     frame.type->setContent(frame.object, m_value, m_textId);
     m_text.clear();

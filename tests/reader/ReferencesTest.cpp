@@ -240,8 +240,9 @@ TEST_F(VReferencesTest, IdInTwoDocumentsIsNone) {
 
 TEST_F(VReferencesTest, ElementsWithoutIdAreNotFoundAndNotDuplicates) {
     Read(Layer("<REQUESTS><REQUEST ID=\"\"><SHORT-NAME>A</SHORT-NAME><PARAMS/></REQUEST>"
-               "<REQUEST ID=\"\"><SHORT-NAME>B</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>"));
-    EXPECT_EQ(Diagnostics(), "");
+               "<REQUEST><SHORT-NAME>B</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>",
+               "2.2.0"));
+    EXPECT_EQ(Diagnostics(), "test.odx:2:11 error missing-attribute"); // of the one that is there
     EXPECT_EQ(Count(L"REQUEST"), 2U);
 }
 

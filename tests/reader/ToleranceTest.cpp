@@ -340,6 +340,21 @@ TEST_F(VToleranceTest, MissingPartsAreReportedFor20AndNeverKeepFromReading) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
+TEST_F(VToleranceTest, EmptyIdsAndShortNamesAreReportedForEveryVersion) {
+    for (char const* const version : {"2.0.1", "2.2.0"}) {
+        Read(Container("<BASE-VARIANTS>\n<BASE-VARIANT ID=\" \">\n<SHORT-NAME> </SHORT-NAME></BASE-VARIANT>"
+                       "</BASE-VARIANTS>",
+                       version));
+        EXPECT_EQ(Diagnostics(), "test.odx:3:1 error missing-attribute\ntest.odx:4:1 error missing-child") << version;
+        EXPECT_EQ(Message(0), "'BASE-VARIANT' has an empty ID");
+        EXPECT_EQ(Message(1), "'BASE-VARIANT' has an empty 'SHORT-NAME'");
+        Read(Container("<BASE-VARIANTS>\n<BASE-VARIANT ID=\"\">\n<SHORT-NAME/></BASE-VARIANT></BASE-VARIANTS>",
+                       version));
+        EXPECT_EQ(Diagnostics(), "test.odx:3:1 error missing-attribute\ntest.odx:4:1 error missing-child") << version;
+        EXPECT_EQ(Count(L"BASE-VARIANT"), 1U);
+    }
+}
+
 TEST_F(VToleranceTest, DataWithoutTheirRequiredPartsAnswerNo) {
     Read(Dictionary("<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"/></DATA-OBJECT-PROPS><MUXS><MUX "
                     "ID=\"M\"><CASES><CASE/></CASES></MUX></MUXS>"
@@ -375,7 +390,7 @@ TEST_F(VToleranceTest, DoubledAndOddShortNamesAreAllKept) {
                    "b{}</SHORT-NAME></ECU-VARIANT>"
                    "<ECU-VARIANT ID=\"5\"><SHORT-NAME>" +
                    name + "</SHORT-NAME></ECU-VARIANT></ECU-VARIANTS>"));
-    EXPECT_EQ(Diagnostics(), "");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:155 error missing-child"); // the empty one
     EXPECT_EQ(ShortNames(), L"V V  a b{} " + std::wstring(300, L'x'));
 }
 
