@@ -6,6 +6,7 @@
 
 #include <diagkit/reader/Cycles.h>
 #include <diagkit/reader/ParentTargets.h>
+#include <diagkit/reader/ReferenceKinds.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NReader {
@@ -66,8 +67,8 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
         return;
     }
     reading.findings.Add(node.GetPosition(), VSeverity::Error, "reference-kind",
-                         what + ", which is the " + TagOf(*others->first) + ' ' + Quoted(*others->first) +
-                             " and not what the reference wants");
+                         what + ", which is the " + TagOf(*others->first) + ' ' + Quoted(*others->first) + " and no " +
+                             KindWantedBy(reference));
 }
 
 using VReplaced = std::unordered_map<NODX201::VOdxElement*, NODX201::VOdxElement*>;

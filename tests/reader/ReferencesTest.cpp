@@ -205,8 +205,39 @@ TEST_F(VReferencesTest, ReferenceOfTheWrongKindIsOneError) {
     Read(Layer("<DIAG-COMMS>\n" + Service("S", "ID-REF=\"L\"") + "</DIAG-COMMS>"));
     EXPECT_EQ(RequestOf(L"S"), L"(none)");
     EXPECT_EQ(Diagnostics(), "test.odx:3:59 error reference-kind");
-    EXPECT_EQ(Message(0),
-              "REQUEST-REF names the ID 'L', which is the BASE-VARIANT 'L' and not what the reference wants");
+    EXPECT_EQ(Message(0), "REQUEST-REF names the ID 'L', which is the BASE-VARIANT 'L' and no REQUEST");
+}
+
+TEST_F(VReferencesTest, ReferenceOfTheWrongKindTellsWhichKindIsWanted) {
+    auto const inDictionary = [](std::string const& content) {
+        return "<DIAG-DATA-DICTIONARY-SPEC>" + content + "</DIAG-DATA-DICTIONARY-SPEC>";
+    };
+    auto const param = [](std::string const& type, std::string const& reference) {
+        return "<REQUESTS><REQUEST ID=\"RQ\"><SHORT-NAME>RQ</SHORT-NAME><PARAMS><PARAM ID=\"P\" xsi:type=\"" + type +
+               "\"><SHORT-NAME>P</SHORT-NAME>" + reference + "</PARAM></PARAMS></REQUEST></REQUESTS>";
+    };
+    struct {
+        std::string layer;
+        std::string wanted;
+    } const rows[] = {
+        {param("VALUE", "<DOP-REF ID-REF=\"L\"/>"), "DOP"},
+        {param("LENGTH-KEY", "<DOP-REF ID-REF=\"L\"/>"), "DATA-OBJECT-PROP"},
+        {param("TABLE-KEY", "<TABLE-REF ID-REF=\"L\"/>"), "TABLE"},
+        {"<DIAG-COMMS><DIAG-COMM-REF ID-REF=\"L\"/></DIAG-COMMS>", "DIAG-COMM"},
+        {"<IMPORT-REFS><IMPORT-REF ID-REF=\"U\"/></IMPORT-REFS>" +
+             inDictionary("<UNIT-SPEC><UNITS><UNIT ID=\"U\"><SHORT-NAME>U</SHORT-NAME></UNIT></UNITS></UNIT-SPEC>"),
+         "layer"},
+        {"<PARENT-REFS><PARENT-REF xsi:type=\"PROTOCOL-REF\" ID-REF=\"L\"/></PARENT-REFS>", "PROTOCOL"},
+        {inDictionary("<TABLES><TABLE ID=\"T\"><SHORT-NAME>T</SHORT-NAME><KEY-DOP-REF ID-REF=\"L\"/></TABLE></TABLES>"),
+         "DATA-OBJECT-PROP"},
+    };
+    for (auto const& row : rows) {
+        Read(Layer(row.layer, "2.2.0"));
+        ASSERT_EQ(m_result.diagnostics.size(), 1U) << Diagnostics();
+        EXPECT_EQ(m_result.diagnostics[0].code, "reference-kind");
+        std::string const end = " and no " + row.wanted;
+        EXPECT_EQ(Message(0).substr(Message(0).size() - std::min(end.size(), Message(0).size())), end) << Message(0);
+    }
 }
 
 TEST_F(VReferencesTest, ReferenceToWhatTheModelHasNoPlaceForIsAWarning) {
