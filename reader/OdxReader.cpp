@@ -128,13 +128,19 @@ std::ifstream Opened(fs::path const& path) {
     return stream;
 }
 
-bool StartsLikeZip(fs::path const& path) {
+/// Reads the first bytes of a file, fewer where it has fewer; what is wrong when they cannot be read.
+std::optional<VFailure> ReadHead(fs::path const& path, std::string& head) {
     std::ifstream stream = Opened(path);
-    char head[4] = {};
-    stream.read(head, sizeof head);
-    return stream.gcount() == 4 && head[0] == 'P' && head[1] == 'K' &&
-           ((head[2] == 3 && head[3] == 4) || (head[2] == 5 && head[3] == 6));
+    char bytes[4] = {};
+    stream.read(bytes, sizeof bytes);
+    if (!stream.is_open() || stream.bad()) {
+        return Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
+    }
+    head.assign(bytes, static_cast<std::size_t>(stream.gcount()));
+    return {};
 }
+
+bool IsLikeZip(std::string_view head) { return head == "PK\3\4" || head == "PK\5\6"; }
 
 bool IsPackageName(std::string const& file) {
     std::string suffix = fs::u8path(file).extension().u8string();
@@ -329,19 +335,20 @@ std::optional<VFailure> VSession::AddFile(std::string const& name) {
     if (fs::is_fifo(status)) {
         return VFailure{{}, "no-file", "is a pipe, which cannot be read twice; save it to a file first"};
     }
-    if (Opened(path).fail()) {
-        return VFailure{{}, "unreadable", std::string("cannot be read: ") + std::strerror(errno)};
+    std::string head;
+    if (std::optional<VFailure> const failure = ReadHead(path, head)) {
+        return failure;
+    }
+    // Reading tells, not the size: files of the system say to be empty and are not.
+    if (IsPackageName(name) && head.empty()) {
+        return VFailure{{}, "empty", "is empty"};
     }
     std::uintmax_t const told = fs::is_regular_file(status) ? fs::file_size(path, error) : 0;
     std::uintmax_t const size = error ? 0 : told;
-    // Of other files reading tells: those of the system say to be empty and are not.
-    if (IsPackageName(name) && fs::is_regular_file(status) && !error && size == 0) {
-        return VFailure{{}, "empty", "is empty"};
-    }
     if (size > m_options.maxFileSize) {
         return FileTooLarge(m_options);
     }
-    if (StartsLikeZip(path)) {
+    if (IsLikeZip(head)) {
         return AddPackage(name);
     }
     if (IsPackageName(name)) {
@@ -356,7 +363,8 @@ std::optional<VFailure> VSession::AddPackage(std::string const& name) {
     VPackage package;
     std::string error;
     if (!package.Open(name, error)) {
-        return VFailure{{}, "no-package", "the package cannot be read: " + error};
+        return package.IsUnreadable() ? Unreadable(error)
+                                      : VFailure{{}, "no-package", "the package cannot be read: " + error};
     }
     if (package.Count() > m_options.maxMembers) {
         return VFailure{

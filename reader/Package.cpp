@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <new>
+#include <tuple>
+#include <utility>
 
 #include <zip.h>
 
@@ -27,11 +29,12 @@ std::string Text(zip_error_t& error) {
     return zip_error_strerror(&error);
 }
 
-std::string Text(int code) {
+/// Why an archive could not be opened, and whether it is the system's word.
+std::pair<std::string, bool> Reason(int code) {
     zip_error_t error;
     zip_error_init_with_code(&error, code);
     std::unique_ptr<zip_error_t, void (*)(zip_error_t*)> const released(&error, &zip_error_fini);
-    return Text(error);
+    return {Text(error), zip_error_system_type(&error) == ZIP_ET_SYS};
 }
 
 } // namespace
@@ -85,7 +88,7 @@ bool VPackage::Open(std::string const& path, std::string& error) {
     errno = 0;
     m_archive->zip = zip_open(path.c_str(), ZIP_RDONLY, &code);
     if (m_archive->zip == nullptr) {
-        error = Text(code);
+        std::tie(error, m_isUnreadable) = Reason(code);
         if (code == ZIP_ER_NOZIP) {
             error = "the archive has no directory at its end; it is cut off or damaged";
         }

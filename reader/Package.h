@@ -36,6 +36,9 @@ public:
     /// False when the file is no archive that can be read; `error` then says why.
     bool Open(std::string const& path, std::string& error);
 
+    /// Whether it was the system that could not open the file or read its bytes, whatever they are.
+    bool IsUnreadable() const { return m_isUnreadable; }
+
     /// How many members there are, documents or not.
     std::uint64_t Count() const;
 
@@ -52,6 +55,7 @@ private:
     struct VArchive;
     std::unique_ptr<VArchive> m_archive;
     std::vector<VMember> m_documents;
+    bool m_isUnreadable = false;
 };
 
 /// Whether a member's name has the suffix of an ODX document.

@@ -57,6 +57,28 @@ TEST_F(VFaultsTest, MemberThatCannotBeReadToItsEndIsNeverLostInSilence) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
+TEST_F(VFaultsTest, PackageWhoseBytesCannotBeHadIsCalledThat) {
+    std::string const path = Write("a.pdx", ZipOf({{"a.odx", Large("A", 1000)}}));
+    // At its first bytes, which tell what it is, and in its directory.
+    for (std::uint64_t const bytes : {0, 4}) {
+        ASSERT_TRUE(ReadUntilFault(path, bytes)) << bytes;
+        EXPECT_EQ(m_result.database, nullptr) << bytes;
+        EXPECT_EQ(Diagnostics(), "a.pdx:0:0 error unreadable") << bytes;
+        EXPECT_EQ(Message(0).find("cannot be read: "), 0U) << Message(0);
+        EXPECT_NE(Message(0).find(std::strerror(EIO)), std::string::npos) << Message(0);
+    }
+}
+
+TEST_F(VFaultsTest, FileWithoutBytesBehindItIsRefusedWhateverItsName) {
+    std::string const path = Path("a.pdx");
+    std::filesystem::create_symlink("/proc/self/mem", path);
+    ReadFiles({path});
+    EXPECT_EQ(m_result.database, nullptr);
+    ASSERT_EQ(m_result.diagnostics.size(), 1U);
+    EXPECT_EQ(NReader::FormatDiagnostic(m_result.diagnostics[0]),
+              path + ": error: cannot be read: " + std::strerror(EIO) + " [unreadable]");
+}
+
 TEST_F(VFaultsTest, FileWithoutBytesBehindItIsRefused) {
     ReadFiles({"/proc/self/mem"}); // there is no memory at address 0
     EXPECT_EQ(m_result.database, nullptr);
