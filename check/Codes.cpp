@@ -36,6 +36,7 @@ std::vector<VCode> const& Codes() {
         {"reference-kind",             Error,   "A reference names an element of the wrong kind"},
         {"related-diag-comm-cycle",    Warning, "Related DIAG-COMMs lead back to where they started"},
         {"repeated-child",             Error,   "An element stands twice where ODX allows one"},
+        {"repeated-file",              Warning, "A file is named twice in one call"},
         {"second-alternative",         Error,   "Two alternatives stand where ODX allows one"},
         {"short-name-characters",      Warning, "A short name is longer or of other characters than ODX tools take"},
         {"short-name-not-allowed",     Error,   "A reference by short name where ODX allows only one by ID"},

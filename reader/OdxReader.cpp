@@ -8,6 +8,7 @@
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <mutex>
 #include <new>
 #include <numeric>
@@ -33,6 +34,7 @@ struct VFile {
     std::string name;
     std::uint32_t number = 0;          // of the name, for what is said of the whole file
     std::optional<VFailure> failure{}; // when there is nothing to read in it
+    std::string repeated{};            // an earlier name of the same file, which is not read twice
     bool isPackage = false;
     std::uint64_t unpacked = 0; // bytes of the members read so far
     bool isTooLarge = false;    // all of them are more than a package may hold
@@ -61,6 +63,7 @@ public:
 private:
     friend class VWorker;
 
+    std::string EarlierNameOf(std::string const& name);
     std::optional<VFailure> AddFile(std::string const& name);
     std::optional<VFailure> AddPackage(std::string const& name);
     void AddDocument(std::string const& name, std::uint64_t size, std::optional<VPackage::VMember> member);
@@ -76,8 +79,9 @@ private:
     VReading& m_reading;
     VReadOptions const& m_options;
     std::vector<VFile> m_files;
-    std::vector<VDocument> m_documents; // in the order of the files
-    std::size_t m_adopted = 0;          // how many of them AdoptFile is through with
+    std::map<fs::path, std::string> m_names; // of the files by their places
+    std::vector<VDocument> m_documents;      // in the order of the files
+    std::size_t m_adopted = 0;               // how many of them AdoptFile is through with
     std::uint64_t m_all = 0;
 
     std::mutex m_mutex; // of the files and what is done, while documents are being read
@@ -294,11 +298,11 @@ VPackage* VWorker::Package(std::size_t file, std::string& error) {
     return m_package.get();
 }
 
-std::uint64_t SizeOf(std::vector<std::string> const& files) {
+std::uint64_t SizeOf(std::vector<VFile> const& files) {
     std::uint64_t all = 0;
-    for (std::string const& file : files) {
+    for (VFile const& file : files) {
         std::error_code error;
-        std::uintmax_t const size = fs::file_size(PathOf(file), error);
+        std::uintmax_t const size = file.repeated.empty() ? fs::file_size(PathOf(file.name), error) : 0;
         all += error ? 0 : size;
     }
     return all;
@@ -307,16 +311,30 @@ std::uint64_t SizeOf(std::vector<std::string> const& files) {
 bool VSession::Read(std::vector<std::string> const& files) {
     for (std::string const& name : files) {
         m_files.push_back({name});
-        m_files.back().failure = AddFile(name);
+        m_files.back().repeated = EarlierNameOf(name);
+        if (m_files.back().repeated.empty()) {
+            m_files.back().failure = AddFile(name);
+        }
         m_files.back().number = m_reading.database->AddDocumentName(name); // what it says comes after its documents
     }
-    m_all = SizeOf(files);
+    m_all = SizeOf(m_files);
     ReadDocuments();
     bool areRead = true;
     for (std::size_t file = 0; file < m_files.size(); ++file) {
         areRead = AdoptFile(file) && areRead;
     }
     return areRead;
+}
+
+/// The name under which the call has named the same file before; "" for a new one, and for what is no plain file.
+std::string VSession::EarlierNameOf(std::string const& name) {
+    std::error_code error;
+    fs::path const place = fs::canonical(PathOf(name), error);
+    if (error || !fs::is_regular_file(place, error)) {
+        return {};
+    }
+    auto const [known, isNew] = m_names.emplace(place, name);
+    return isNew ? std::string() : known->second;
 }
 
 std::optional<VFailure> VSession::AddFile(std::string const& name) {
@@ -469,6 +487,11 @@ bool VSession::AdoptFile(std::size_t index) {
     VFile const& file = m_files[index];
     if (file.failure) {
         return Fail(file, *file.failure);
+    }
+    if (!file.repeated.empty()) {
+        m_reading.findings.Add({file.number, 0, 0}, VSeverity::Warning, "repeated-file",
+                               "is the file '" + file.repeated + "' again, which is read once");
+        return true;
     }
     bool isAnyRead = false;
     for (; m_adopted < m_documents.size() && m_documents[m_adopted].file == index; ++m_adopted) {

@@ -55,7 +55,8 @@ struct VReadResult {
 /// A file is a package when it starts like a zip archive, whatever its name; anything else is read as XML. What can be
 /// loaded is loaded, and the rest reported: only a file that is not readable as ODX at all is refused, and then nothing
 /// is loaded. A member of a package that cannot be read is left out whole, and so is one whose name leads out of the
-/// package, or that another member of the same name follows. Packages inside packages are not opened.
+/// package, or that another member of the same name follows. Packages inside packages are not opened. A file that is
+/// named twice, however the names are spelt, is read once, with a warning.
 VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options = {});
 
 } // namespace NReader

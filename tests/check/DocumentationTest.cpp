@@ -87,6 +87,9 @@ protected:
             ReadFiles({WritePackage("large.pdx", {{"a.odx", good}, {"b.txt", ""}})});
         } else if (code == "unsafe-name") {
             ReadFiles({WritePackage("attack.pdx", {{"good.odx", good}, {"../bad.odx", good}})});
+        } else if (code == "repeated-file") {
+            std::string const path = Write("seat.odx-d", good);
+            ReadFiles({path, path});
         } else if (code == "duplicate-member") {
             ReadFiles({Write("twice.pdx", ZipOf({{"a.odx", good}, {"a.odx", good}}))});
         } else if (code == "too-large") {

@@ -104,6 +104,31 @@ TEST_F(VBadInputTest, OneFileThatCannotBeReadLeavesNothingButEveryOneIsReported)
     EXPECT_EQ(ContainerNames(), L"A");
 }
 
+TEST_F(VBadInputTest, FileNamedTwiceIsReadOnceAndReported) {
+    std::string const path = Write("a.odx", Named("A"));
+    std::string const package = WritePackage("p.pdx", {{"b.odx", Named("B")}});
+    std::filesystem::create_directory(Path("folder"));
+    ReadFiles({path, package, Path("folder/../a.odx"), path, package});
+    EXPECT_EQ(ContainerNames(), L"A B");
+    EXPECT_EQ(m_result.documents.size(), 2U);
+    EXPECT_EQ(Diagnostics(), "folder/../a.odx:0:0 warning repeated-file\na.odx:0:0 warning repeated-file\n"
+                             "p.pdx:0:0 warning repeated-file");
+    EXPECT_EQ(Message(0), "is the file '" + path + "' again, which is read once");
+}
+
+TEST_F(VBadInputTest, CopyOfAFileIsReadToo) {
+    ReadFiles({Write("a.odx", Named("A")), Write("b.odx", Named("A"))});
+    EXPECT_EQ(ContainerNames(), L"A A");
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VBadInputTest, FileNamedTwiceThatCannotBeReadIsRefused) {
+    std::string const path = Write("a.odx", "<ODX>");
+    ReadFiles({path, path});
+    EXPECT_EQ(m_result.database, nullptr);
+    EXPECT_EQ(Diagnostics(), "a.odx:1:6 error not-xml\na.odx:0:0 warning repeated-file");
+}
+
 // XML that attacks
 
 TEST_F(VBadInputTest, DocumentTypesAreRefused) {
