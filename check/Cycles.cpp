@@ -58,10 +58,10 @@ public:
     explicit VCycleFinder(NMemory::VDatabase& database) : m_database(database) {}
 
     std::vector<VCycle> Find() {
-        VReferencables const containers = ContainersOf(m_database);
-        SearchById(containers, Containing(&NReader::NoTargets));
+        VReferencables const suspects = Suspects(ContainersOf(m_database));
+        SearchById(suspects, Containing(&NReader::NoTargets));
         SearchById(DiagCommsOf(m_database), &RelatedEdges);
-        FindInLayers(containers);
+        FindInLayers(suspects);
         return std::move(m_cycles);
     }
 
@@ -89,13 +89,16 @@ private:
         }
     }
 
-    /// Short names are first followed to whatever bears them: where that leads into no cycle but those that are known,
-    /// no layer needs to be asked.
+    /// Those that lead into a cycle other than those that are known, short names being followed to whatever bears them:
+    /// nearly always none, and then nothing else is looked at.
+    VReferencables Suspects(VReferencables const& containers) const {
+        return NReader::LeadingIntoCycles(containers, Containing(NReader::VDopsByName(containers)));
+    }
+
     void FindInLayers(VReferencables const& containers) {
-        VReferencables const suspects =
-            NReader::LeadingIntoCycles(containers, Containing(NReader::VDopsByName(containers)));
+        VReferencables const suspects = containers.empty() ? containers : Suspects(containers);
         if (suspects.empty()) {
-            return;
+            return; // no layer needs to be asked
         }
         for (NODX201::VDiagLayer* const layer : LayersOf(m_database)) {
             SearchInLayer(suspects, *layer);

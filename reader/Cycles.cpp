@@ -46,14 +46,18 @@ void SearchInLayer(VReading& reading, VReferencables const& suspects, NODX201::V
     }
 }
 
+/// Those that lead into a cycle, short names being followed to whatever bears them: nearly always none.
 VReferencables Suspects(VReferencables const& dops) { return LeadingIntoCycles(dops, Following(VDopsByName(dops))); }
 
 } // namespace
 
 void SeverContainmentCycles(VReading& reading) {
-    VReferencables const dops = DopsOf(*reading.database);
-    SearchByIds(reading, dops);
-    VReferencables const suspects = Suspects(dops);
+    VReferencables const leading = Suspects(DopsOf(*reading.database));
+    if (leading.empty()) {
+        return;
+    }
+    SearchByIds(reading, leading);
+    VReferencables const suspects = Suspects(leading);
     if (suspects.empty()) {
         return;
     }
