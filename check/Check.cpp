@@ -2,18 +2,18 @@
 #include <diagkit/check/Check.h>
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <unordered_map>
 
-#include <diagkit/check/Codes.h>
 #include <diagkit/check/Topics.h>
-#include <diagkit/reader/Findings.h>
 
 namespace NCheck {
 namespace {
 
 constexpr void (*kTopics[])(VChecked const& checked, VFindings& findings) = {
-    &CheckShortNames, &CheckDocrefs, &CheckExclusions, &CheckAmbiguousNames, &CheckShortNameReferences, &CheckCycles,
+    &CheckShortNames,          &CheckDocrefs, &CheckExclusions, &CheckAmbiguousNames,
+    &CheckShortNameReferences, &CheckCycles,
 };
 
 /// How far a check is: a step for each layer of each topic.
@@ -59,7 +59,7 @@ CheckDatabase(NReader::VReadResult& result,
         return diagnostics;
     }
     NMemory::VDatabase& database = *result.database;
-    VFindings findings;
+    VFindings findings(result.maxDiagnostics);
     VSteps steps(LayersOf(database).size(), progress);
     std::function<void()> const layerDone = [&steps] { steps.LayerDone(); };
     for (auto const topic : kTopics) {
@@ -67,11 +67,8 @@ CheckDatabase(NReader::VReadResult& result,
         database.StartNewResolver(); // the views of all layers are more than most programs want to hold
         steps.TopicDone();
     }
-    for (VFinding& finding : findings) {
-        diagnostics.push_back({database.GetDocumentName(finding.position), finding.position.line,
-                               finding.position.column, FindCode(finding.code)->severity, finding.code,
-                               NReader::Clipped(std::move(finding.message))});
-    }
+    std::vector<NReader::VDiagnostic> found = findings.Sorted(database);
+    diagnostics.insert(diagnostics.end(), std::make_move_iterator(found.begin()), std::make_move_iterator(found.end()));
     auto order = FileOrder(database);
     std::stable_sort(
         diagnostics.begin(), diagnostics.end(), [&order](NReader::VDiagnostic const& a, NReader::VDiagnostic const& b) {

@@ -11,7 +11,8 @@ namespace NCheck {
 
 /// Everything that a database tells about itself: the reader's diagnostics, and besides these references by short name
 /// that do not resolve, DOCREFs that name another place than the target's, short names that are doubled or of odd
-/// characters, exclusions that exclude nothing, names that two parents of equal rank offer, and cycles.
+/// characters, parents and imports that are named twice, exclusions that exclude nothing, names that two parents of
+/// equal rank offer, and cycles.
 ///
 ///     NReader::VReadOptions options;
 ///     options.keepsElements = true;
@@ -20,9 +21,10 @@ namespace NCheck {
 ///
 /// Wants a result whose elements were kept, and nothing removed since; without a database it gives the reader's
 /// diagnostics alone. They come in the order of the files, by position within each, and are the same on every run;
-/// `Codes()` tells their codes. Layers are looked at one by one and their views dropped again; the database's resolver
-/// is started afresh. `progress` is called now and then with the steps done so far and those to do in all, which say
-/// little but their ratio; it may be empty.
+/// `Codes()` tells their codes. Of its own findings it keeps as many as the reader does of its (`maxDiagnostics`).
+/// Layers are looked at one by one and their views dropped again; the database's resolver is started afresh. `progress`
+/// is called now and then with the steps done so far and those to do in all, which say little but their ratio; it may
+/// be empty.
 std::vector<NReader::VDiagnostic>
 CheckDatabase(NReader::VReadResult& result,
               std::function<void(std::uint64_t done, std::uint64_t all)> const& progress = {});

@@ -48,6 +48,7 @@ std::vector<VCode> const& Codes() {
         {"too-deep",                   Error,   "Elements are nested deeper than the limit"},
         {"too-large",                  Error,   "A file, member, package, tag or text is larger than the limit"},
         {"too-many",                   Error,   "There are more members, elements or attributes than the limit"},
+        {"too-many-diagnostics",       Warning, "There are more diagnostics than the limit"},
         {"unknown-child",              Warning, "An element that ODX does not have here"},
         {"unknown-literal",            Error,   "A text is none of the literals of its enumeration"},
         {"unknown-model-version",      Warning, "The MODEL-VERSION is no version"},

@@ -156,7 +156,7 @@ void Report(VCycle const& cycle, std::vector<NODX201::VDiagLayer*> const& layers
     auto const* const text = std::find_if(std::begin(kCycleTexts), std::end(kCycleTexts),
                                           [&cycle](VCycleText const& row) { return row.kind == cycle.kind; });
     std::string const where = layers.empty() ? "" : ' ' + InLayers(layers, layers.size());
-    findings.push_back(
+    findings.Add(
         {text->code, PositionOf(*cycle.reference),
          Titled(*cycle.elements.front()) + ' ' + text->leads + " by this reference" + where + ChainText(cycle)});
 }

@@ -90,10 +90,10 @@ void CheckDocrefs(VChecked const& checked, VFindings& findings) {
             continue; // one that names nothing is reported as unresolved
         }
         std::string const doctype = *link->GetDoctype() != L'\0' ? " and DOCTYPE " + Quoted(link->GetDoctype()) : "";
-        findings.push_back({"wrong-docref", PositionOf(*reference),
-                            TagOf(*reference) + " names the ID " + Quoted(link->GetIdRef()) + " with DOCREF " +
-                                Quoted(link->GetDocref()) + doctype + ", but it stands in the " +
-                                Shown(PlacesOf(*entry->first)) + "; other programs may not find it"});
+        findings.Add({"wrong-docref", PositionOf(*reference),
+                      TagOf(*reference) + " names the ID " + Quoted(link->GetIdRef()) + " with DOCREF " +
+                          Quoted(link->GetDocref()) + doctype + ", but it stands in the " +
+                          Shown(PlacesOf(*entry->first)) + "; other programs may not find it"});
     }
 }
 

@@ -12,13 +12,13 @@ void CheckExclusion(Exclusion const& exclusion, NODX201::ILink const& link, NODX
                     Elements const& byName, VFindings& findings) {
     auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&link);
     if (snref == nullptr) {
-        findings.push_back({"excludes-nothing", PositionOf(exclusion),
-                            TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short "
-                                               "name"});
+        findings.Add({"excludes-nothing", PositionOf(exclusion),
+                      TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short "
+                                         "name"});
     } else if (byName.count(snref->GetShortName()) == 0 && *snref->GetShortName() != L'\0') {
-        findings.push_back({"excludes-nothing", PositionOf(exclusion),
-                            TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " +
-                                Titled(parent) + " does not have"});
+        findings.Add({"excludes-nothing", PositionOf(exclusion),
+                      TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " + Titled(parent) +
+                          " does not have"});
     }
 }
 

@@ -2,11 +2,21 @@
 #include <diagkit/check/Findings.h>
 
 #include <algorithm>
+#include <utility>
 
+#include <diagkit/check/Codes.h>
 #include <diagkit/reader/Containment.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NCheck {
+
+void VFindings::Add(VFinding finding) {
+    m_findings.Add(finding.position, FindCode(finding.code)->severity, finding.code, std::move(finding.message));
+}
+
+std::vector<NReader::VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {
+    return m_findings.Sorted(database);
+}
 
 NMemory::VPosition PositionOf(NODX201::VOdxElement const& element) {
     auto const* const node = dynamic_cast<NMemory::VMemNode const*>(&element);

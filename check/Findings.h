@@ -7,6 +7,7 @@
 
 #include <diagkit/memory/Node.h>
 #include <diagkit/model/Layers.h>
+#include <diagkit/reader/Findings.h>
 #include <diagkit/reader/OdxReader.h>
 
 /// What the topics report, and how they name elements in messages.
@@ -18,7 +19,18 @@ struct VFinding {
     NMemory::VPosition position;
     std::string message;
 };
-using VFindings = std::vector<VFinding>;
+
+/// Findings of the topics, up to the limit of diagnostics of each severity.
+class VFindings {
+public:
+    explicit VFindings(std::uint64_t limit) : m_findings(limit) {}
+
+    void Add(VFinding finding);
+    std::vector<NReader::VDiagnostic> Sorted(NMemory::VDatabase const& database) const;
+
+private:
+    NReader::VFindings m_findings;
+};
 
 /// What the topics look at, and whom they tell how far they are.
 struct VChecked {

@@ -253,7 +253,7 @@ private:
             return; // it says for which PROTOCOL something holds, and not every layer has that one
         }
         char const* const rest = isNowhere ? "" : "; it is in the other layers that see the reference";
-        findings.push_back(
+        findings.Add(
             {isNowhere ? "unresolved-short-name" : "short-name-not-everywhere", PositionOf(*pending.reference),
              Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + PlacesOf(pending) + rest});
     }
@@ -272,8 +272,8 @@ private:
 };
 
 void ReportInFlash(NODX201::VLink& reference, NMemory::VMemFlash const& flash, char const* kind, VFindings& findings) {
-    findings.push_back({"unresolved-short-name", PositionOf(reference),
-                        Named(reference) + ", but the " + Titled(flash) + " has no " + kind + " of that name"});
+    findings.Add({"unresolved-short-name", PositionOf(reference),
+                  Named(reference) + ", but the " + Titled(flash) + " has no " + kind + " of that name"});
 }
 
 /// References that stand in flash data and name flash data.

@@ -23,11 +23,13 @@ void CheckCharacters(NODX201::VOdxElement const& element, VFindings& findings) {
         return;
     }
     std::string const what = isPlain ? "is longer than 128 characters"
-                                     : "has other characters than the letters A to Z and a to z, digits and underscore";
-    findings.push_back({"short-name-characters", PositionOf(element), Titled(element) + ' ' + what});
+                                     : "has other characters than the letters A "
+                                       "to Z and a to z, digits and underscore";
+    findings.Add({"short-name-characters", PositionOf(element), Titled(element) + ' ' + what});
 }
 
-/// What shares its names with others in one list: ODX has several element kinds in some.
+/// What shares its names with others in one list: ODX has several element kinds
+/// in some.
 std::wstring_view ListOf(NODX201::VOdxElement const& element) {
     if (dynamic_cast<NODX201::VDiagLayer const*>(&element) != nullptr) {
         return L"layer";
@@ -52,7 +54,8 @@ struct VNamed {
     auto Key() const { return std::tie(owner, list, shortName); }
 };
 
-/// Elements that can stand several times in what owns them. The categories are the files' own.
+/// Elements that can stand several times in what owns them. The categories are
+/// the files' own.
 std::vector<VNamed> NamedElements(VChecked const& checked) {
     std::vector<VNamed> named;
     for (NODX201::VOdxElement const* const element : checked.elements) {
@@ -76,10 +79,11 @@ void CheckDuplicates(VChecked const& checked, VFindings& findings) {
             first = &entry;
             continue;
         }
-        findings.push_back({"duplicate-short-name", PositionOf(*entry.element),
-                            Titled(*entry.element) + " has the short name of the " + TagOf(*first->element) +
-                                " at line " + std::to_string(PositionOf(*first->element).line) +
-                                " in the same list; where the name is looked up, that one is found"});
+        findings.Add({"duplicate-short-name", PositionOf(*entry.element),
+                      Titled(*entry.element) + " has the short name of the " + TagOf(*first->element) + " at line " +
+                          std::to_string(PositionOf(*first->element).line) +
+                          " in the same list; where the name is looked up, that "
+                          "one is found"});
     }
 }
 

@@ -59,6 +59,7 @@ constexpr VLimitRow kLimits[] = {
     {"--max-attributes",   &NReader::VReadLimits::maxAttributes,  false, "Attributes of an element"},
     {"--max-tag-size",     &NReader::VReadLimits::maxTagSize,     true,  "Of a tag or comment"},
     {"--max-text-size",    &NReader::VReadLimits::maxTextSize,    true,  "Of the text of an element"},
+    {"--max-diagnostics",  &NReader::VReadLimits::maxDiagnostics, false, "Errors, and as many warnings, that are told"},
 };
 // clang-format on
 

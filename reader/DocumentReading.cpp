@@ -28,9 +28,10 @@ void VCollected::Append(VCollected&& later) {
     idsLeftOut.merge(later.idsLeftOut);
 }
 
-VDocumentReading::VDocumentReading(NMemory::VDatabase& database, bool isKeepingElements)
+VDocumentReading::VDocumentReading(NMemory::VDatabase& database, VReadOptions const& options)
     : m_database(database), m_part(std::make_unique<NMemory::VPart>(database)) {
-    keepsElements = isKeepingElements;
+    findings = VFindings(options.maxDiagnostics);
+    keepsElements = options.keepsElements;
 }
 
 VDocumentReading::~VDocumentReading() {

@@ -6,7 +6,16 @@
 #include <tuple>
 #include <utility>
 
+#include <diagkit/reader/Limits.h>
+
 namespace NReader {
+namespace {
+
+bool IsBefore(NMemory::VPosition const& a, NMemory::VPosition const& b) {
+    return std::tie(a.document, a.line, a.column) < std::tie(b.document, b.line, b.column);
+}
+
+} // namespace
 
 std::string Clipped(std::string message) {
     constexpr std::size_t kLongest = 2000;
@@ -21,21 +30,56 @@ std::string Clipped(std::string message) {
 }
 
 void VFindings::Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message) {
-    m_findings.push_back({position, severity, std::move(code), Clipped(std::move(message))});
+    Keep({position, severity, std::move(code), Clipped(std::move(message))});
 }
 
 void VFindings::Append(VFindings&& later) {
-    m_findings.insert(m_findings.end(), std::make_move_iterator(later.m_findings.begin()),
-                      std::make_move_iterator(later.m_findings.end()));
-    later.m_findings.clear();
+    for (VFinding& finding : later.m_findings) {
+        Keep(std::move(finding));
+    }
+    if (later.m_firstLeftOut) {
+        LeaveOut(*later.m_firstLeftOut, later.m_leftOut);
+    }
+    later = VFindings(later.m_limit);
+}
+
+void VFindings::Keep(VFinding finding) {
+    std::size_t const index = IndexOf(finding.severity);
+    if (m_kept[index] < m_limit) {
+        ++m_kept[index];
+        m_findings.push_back(std::move(finding));
+        return;
+    }
+    VCounts counts{};
+    counts[index] = 1;
+    LeaveOut(finding.position, counts);
+}
+
+void VFindings::LeaveOut(NMemory::VPosition const& first, VCounts const& counts) {
+    for (std::size_t index = 0; index < counts.size(); ++index) {
+        m_leftOut[index] += counts[index];
+    }
+    if (!m_firstLeftOut || IsBefore(first, *m_firstLeftOut)) {
+        m_firstLeftOut = first;
+    }
+}
+
+VFindings::VFinding VFindings::Closing() const {
+    std::uint64_t const errors = m_leftOut[IndexOf(VSeverity::Error)];
+    std::uint64_t const all = errors + m_leftOut[IndexOf(VSeverity::Warning)];
+    std::string const what = "left out are " + std::to_string(all) + " diagnostics, " + std::to_string(errors) +
+                             " of them errors, the first here: there are more errors or more warnings than";
+    return {*m_firstLeftOut, errors > 0 ? VSeverity::Error : VSeverity::Warning, "too-many-diagnostics",
+            OverLimit(what, m_limit, "", "--max-diagnostics")};
 }
 
 std::vector<VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {
     std::vector<VFinding> findings = m_findings;
-    std::stable_sort(findings.begin(), findings.end(), [](VFinding const& a, VFinding const& b) {
-        return std::tie(a.position.document, a.position.line, a.position.column) <
-               std::tie(b.position.document, b.position.line, b.position.column);
-    });
+    if (m_firstLeftOut) {
+        findings.push_back(Closing());
+    }
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](VFinding const& a, VFinding const& b) { return IsBefore(a.position, b.position); });
     std::vector<VDiagnostic> diagnostics;
     diagnostics.reserve(findings.size());
     for (VFinding& finding : findings) {

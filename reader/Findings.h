@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,13 +16,17 @@ namespace NReader {
 /// The message, cut off where it is longer than anybody reads: it may quote a text of many megabytes.
 std::string Clipped(std::string message);
 
-/// The diagnostics of one reading, while they are collected.
+/// The diagnostics of one reading, while they are collected: so many errors and so many warnings as the limit says. The
+/// others are counted, so that nothing that is wrong with data takes more memory than that.
 class VFindings {
 public:
+    explicit VFindings(std::uint64_t limit = std::numeric_limits<std::uint64_t>::max()) : m_limit(limit) {}
+
     void Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message);
     void Append(VFindings&& later);
 
-    /// All of them, by document and position, with the documents' names.
+    /// All of them, by document and position, with the documents' names. Where some were left out, one more says how
+    /// many.
     std::vector<VDiagnostic> Sorted(NMemory::VDatabase const& database) const;
 
 private:
@@ -28,7 +36,19 @@ private:
         std::string code;
         std::string message;
     };
+
+    using VCounts = std::array<std::uint64_t, 2>; // by severity
+
+    static std::size_t IndexOf(VSeverity severity) { return static_cast<std::size_t>(severity); }
+    void Keep(VFinding finding);
+    void LeaveOut(NMemory::VPosition const& first, VCounts const& counts);
+    VFinding Closing() const;
+
+    std::uint64_t m_limit;
     std::vector<VFinding> m_findings;
+    VCounts m_kept{};
+    VCounts m_leftOut{};
+    std::optional<NMemory::VPosition> m_firstLeftOut; // by position
 };
 
 } // namespace NReader

@@ -54,7 +54,7 @@ struct VReading : VCollected {
 /// read in any order, and beside one another. One that is not adopted leaves nothing behind.
 class VDocumentReading : public VCollected {
 public:
-    VDocumentReading(NMemory::VDatabase& database, bool isKeepingElements);
+    VDocumentReading(NMemory::VDatabase& database, VReadOptions const& options);
     ~VDocumentReading();
     VDocumentReading(VDocumentReading const&) = delete;
     VDocumentReading& operator=(VDocumentReading const&) = delete;

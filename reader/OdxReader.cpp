@@ -425,7 +425,7 @@ void VSession::ReadDocuments() {
         }
         for (VDocument& document : m_documents) {
             document.reading.reset();
-            document.findings = {};
+            document.findings = VFindings();
         }
         ReadDocuments(1);
     }
@@ -527,9 +527,11 @@ bool VSession::Fail(VFile const& file, VFailure const& failure) {
 VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options) {
     VReading reading;
     reading.database = std::make_unique<NMemory::VDatabase>();
+    reading.findings = VFindings(options.maxDiagnostics);
     reading.database->SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
     bool const areRead = VSession(reading, options).Read(files);
     VReadResult result;
+    result.maxDiagnostics = options.maxDiagnostics;
     if (!areRead) {
         result.diagnostics = reading.findings.Sorted(*reading.database);
         return result;

@@ -42,6 +42,8 @@ struct VReadResult {
     std::unique_ptr<NMemory::VDatabase> database;
     std::vector<VDocumentInfo> documents; ///< in load order, one for each category element
     std::vector<VDiagnostic> diagnostics; ///< in the order of the files, by position within each
+    /// As the options said: for what looks for more diagnostics in the database.
+    std::uint64_t maxDiagnostics = VReadLimits().maxDiagnostics;
     /// Elements that found no place in the model, by tag; their contents are left out with them and not counted.
     std::map<std::string, std::size_t> unknownElements;
     /// When `keepsElements` asked for them: every element of the database in document order, references among them

@@ -85,7 +85,7 @@ VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& 
 std::unique_ptr<VDocumentReading> ReadDocument(NMemory::VDatabase& database, VReadOptions const& options,
                                                std::uint32_t document, VBytes const& bytes, VFindings& findings) {
     auto const tryDocument = [&](char const* encoding, bool isRepaired) {
-        auto reading = std::make_unique<VDocumentReading>(database, options.keepsElements);
+        auto reading = std::make_unique<VDocumentReading>(database, options);
         return TryDocument(std::move(reading), options, document, bytes, encoding, isRepaired);
     };
     auto const at = [document](VXmlPosition const& position) {

@@ -87,6 +87,9 @@ protected:
             ReadFiles({WritePackage("large.pdx", {{"a.odx", good}, {"b.txt", ""}})});
         } else if (code == "unsafe-name") {
             ReadFiles({WritePackage("attack.pdx", {{"good.odx", good}, {"../bad.odx", good}})});
+        } else if (code == "too-many-diagnostics") {
+            m_options.maxDiagnostics = 0;
+            Read(Layer("<NEW/>"));
         } else if (code == "repeated-file") {
             std::string const path = Write("seat.odx-d", good);
             ReadFiles({path, path});

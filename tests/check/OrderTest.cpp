@@ -65,6 +65,17 @@ TEST_F(VOrderTest, CheckingTwiceFindsTheSame) {
     }
 }
 
+TEST_F(VOrderTest, FindingsBeyondTheLimitAreCounted) {
+    std::string const variant = "<ECU-VARIANT ID=\"1\"><SHORT-NAME>a-1</SHORT-NAME></ECU-VARIANT>\n";
+    m_options.maxDiagnostics = 2;
+    Check("<ECU-VARIANTS>\n" + Repeated(variant, 4) + "</ECU-VARIANTS>");
+    // Of reading there are three errors; of the names as many, and four warnings.
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning short-name-characters\ntest.odx:4:1 error duplicate-id\n"
+                             "test.odx:4:1 warning short-name-characters\ntest.odx:4:1 error duplicate-short-name\n"
+                             "test.odx:5:1 error duplicate-id\ntest.odx:5:1 error duplicate-short-name\n"
+                             "test.odx:5:1 error too-many-diagnostics\ntest.odx:6:1 error too-many-diagnostics");
+}
+
 TEST_F(VOrderTest, WithoutADatabaseTheReadersDiagnosticsAreAll) {
     ReadFiles({Path("absent.odx")});
     auto const diagnostics = NCheck::CheckDatabase(m_result);

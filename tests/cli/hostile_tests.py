@@ -207,6 +207,18 @@ class Hostile(unittest.TestCase):
         self.expect(Call(path, "--max-elements", "1000000"), 3,
                     [": error: the document has more elements than 1000000; --max-elements allows more [too-many]"])
 
+    def test_very_many_faults_are_counted(self):
+        head = HEAD.replace(b"2.2.0", b"2.0.1")
+        path = self.write("a.odx", head, *[b"<a/>" * 100000] * 20, TAIL)
+        call = Call(path, "--max-diagnostics", "1000")
+        self.assertEqual((call.status, len(call.lines)), (0, 1001), call.lines[-1])
+        self.assertTrue(call.lines[-1].endswith(
+            ": warning: left out are 1999000 diagnostics, 0 of them errors, the first here: there are more errors or "
+            "more warnings than 1000; --max-diagnostics allows more [too-many-diagnostics]"), call.lines[-1])
+        self.assertLess(call.seconds, LONGEST)
+        if IS_MEASURED:
+            self.assertLess(call.memory - self.least, 48 * MEBIBYTE)
+
     def test_a_file_that_is_too_large_is_not_begun(self):
         path = self.folder / "a.odx"
         with path.open("wb") as stream:

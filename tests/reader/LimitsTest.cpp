@@ -135,5 +135,40 @@ TEST_F(VLimitsTest, LongTextsAreCutOffInMessages) {
     EXPECT_EQ(Message(0).substr(Message(0).size() - 5), "\xC3\xBC...");
 }
 
+TEST_F(VLimitsTest, NumberOfDiagnosticsOfEachSeverity) {
+    std::string const document = Container("<A/><A/>\n<A/><A/><A/>\n<SHORT-NAME>D</SHORT-NAME>");
+    Read(document);
+    std::string const all = "test.odx:2:1 warning unknown-child\ntest.odx:2:5 warning unknown-child\n"
+                            "test.odx:3:1 warning unknown-child\ntest.odx:3:5 warning unknown-child\n"
+                            "test.odx:3:9 warning unknown-child\ntest.odx:4:1 error repeated-child";
+    EXPECT_EQ(Diagnostics(), all);
+    m_options.maxDiagnostics = 5;
+    Read(document);
+    EXPECT_EQ(Diagnostics(), all);
+    m_options.maxDiagnostics = 2;
+    Read(document);
+    EXPECT_NE(m_result.database, nullptr);
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 warning unknown-child\ntest.odx:2:5 warning unknown-child\n"
+                             "test.odx:3:1 warning too-many-diagnostics\ntest.odx:4:1 error repeated-child");
+    EXPECT_EQ(Message(2), "left out are 3 diagnostics, 0 of them errors, the first here: there are more errors or more "
+                          "warnings than 2; --max-diagnostics allows more");
+    m_options.maxDiagnostics = 0;
+    Read(document);
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 error too-many-diagnostics"); // an error is among them
+    EXPECT_EQ(Message(0).find("left out are 6 diagnostics, 1 of them errors"), 0U) << Message(0);
+}
+
+TEST_F(VLimitsTest, NumberOfDiagnosticsHoldsForAllDocumentsTogether) {
+    m_options.maxDiagnostics = 3;
+    std::string const document = Container("<A/>\n<A/>");
+    for (std::uint32_t const threads : {1U, 3U}) {
+        m_options.threads = threads;
+        Read({document, document, document});
+        EXPECT_EQ(Diagnostics(), "1.odx:2:1 warning unknown-child\n1.odx:3:1 warning unknown-child\n"
+                                 "2.odx:2:1 warning unknown-child\n2.odx:3:1 warning too-many-diagnostics");
+        EXPECT_EQ(Message(3).find("left out are 3 diagnostics"), 0U) << Message(3);
+    }
+}
+
 } // namespace
 } // namespace NTest
