@@ -5,6 +5,7 @@
 
 #include <diagkit/check/Topics.h>
 #include <diagkit/model/DiagComms.h>
+#include <diagkit/model/DiagVariables.h>
 #include <diagkit/model/Dops.h>
 
 namespace NCheck {
@@ -23,13 +24,11 @@ void CheckCharacters(NODX201::VOdxElement const& element, VFindings& findings) {
         return;
     }
     std::string const what = isPlain ? "is longer than 128 characters"
-                                     : "has other characters than the letters A "
-                                       "to Z and a to z, digits and underscore";
+                                     : "has other characters than the letters A to Z and a to z, digits and underscore";
     findings.Add({"short-name-characters", PositionOf(element), Titled(element) + ' ' + what});
 }
 
-/// What shares its names with others in one list: ODX has several element kinds
-/// in some.
+/// What shares its names with others in one list: ODX has several element kinds in some.
 std::wstring_view ListOf(NODX201::VOdxElement const& element) {
     if (dynamic_cast<NODX201::VDiagLayer const*>(&element) != nullptr) {
         return L"layer";
@@ -50,22 +49,47 @@ struct VNamed {
     std::wstring_view shortName;
     std::size_t index; ///< in document order
     NODX201::VOdxElement const* element;
+    NODX201::VOdxElement const* named; ///< the same, or what a reference in the list brings into it
 
     auto Key() const { return std::tie(owner, list, shortName); }
 };
 
-/// Elements that can stand several times in what owns them. The categories are
-/// the files' own.
+/// What a DIAG-COMM-REF or DIAG-VARIABLE-REF brings into the list of its layer; null for other elements.
+NODX201::VOdxElement const* BroughtBy(NODX201::VOdxElement& element) {
+    auto* const layer = dynamic_cast<NODX201::VDiagLayer*>(element.GetOwner());
+    if (layer == nullptr) {
+        return nullptr;
+    }
+    if (auto* const link = dynamic_cast<NODX201::VDiagCommLink*>(&element)) {
+        return link->HasDiagComm(*layer) ? &link->GetDiagComm() : nullptr;
+    }
+    auto* const link = dynamic_cast<NODX201::VDiagVariableLink*>(&element);
+    return link != nullptr && link->HasDiagVariable(*layer) ? &link->GetDiagVariable() : nullptr;
+}
+
+/// Elements that can stand several times in what owns them. The categories are the files' own.
 std::vector<VNamed> NamedElements(VChecked const& checked) {
     std::vector<VNamed> named;
-    for (NODX201::VOdxElement const* const element : checked.elements) {
+    for (NODX201::VOdxElement* const element : checked.elements) {
         NODX201::VOdxObject const* const owner = element->GetOwner();
+        NODX201::VOdxElement const* const brought = BroughtBy(*element);
+        NODX201::VOdxElement const& name = brought != nullptr ? *brought : *element;
         bool const isCategory = owner == &checked.database.GetOdx();
-        if (*element->GetShortName() != L'\0' && !isCategory) {
-            named.push_back({owner, ListOf(*element), element->GetShortName(), named.size(), element});
+        if (*name.GetShortName() != L'\0' && !isCategory) {
+            named.push_back({owner, ListOf(name), name.GetShortName(), named.size(), element, &name});
         }
     }
     return named;
+}
+
+std::string Shown(VNamed const& entry) {
+    bool const isReference = entry.named != entry.element;
+    return (isReference ? "what the " + TagOf(*entry.element) + " names, the " : "") + Titled(*entry.named) +
+           (isReference ? "," : "");
+}
+
+std::string ShownFirst(VNamed const& entry) {
+    return (entry.named != entry.element ? "what is named by the " : "the ") + TagOf(*entry.element);
 }
 
 void CheckDuplicates(VChecked const& checked, VFindings& findings) {
@@ -80,10 +104,9 @@ void CheckDuplicates(VChecked const& checked, VFindings& findings) {
             continue;
         }
         findings.Add({"duplicate-short-name", PositionOf(*entry.element),
-                      Titled(*entry.element) + " has the short name of the " + TagOf(*first->element) + " at line " +
+                      Shown(entry) + " has the short name of " + ShownFirst(*first) + " at line " +
                           std::to_string(PositionOf(*first->element).line) +
-                          " in the same list; where the name is looked up, that "
-                          "one is found"});
+                          " in the same list; where the name is looked up, that one is found"});
     }
 }
 

@@ -40,6 +40,47 @@ TEST_F(VShortNamesTest, OfTwoDiagCommsOfALayer) {
                          "line 3 in the same list; where the name is looked up, that one is found");
 }
 
+TEST_F(VShortNamesTest, OfADiagCommAndOneByReference) {
+    std::string const other = LayerXml("ECU-SHARED-DATA", "E",
+                                       DiagComms("<DIAG-SERVICE ID=\"A\"><SHORT-NAME>X"
+                                                 "</SHORT-NAME></DIAG-SERVICE>"));
+    Check(LayerXml("BASE-VARIANT", "L",
+                   DiagComms("<DIAG-SERVICE ID=\"B\"><SHORT-NAME>X</SHORT-NAME></DIAG-SERVICE>\n"
+                             "<DIAG-COMM-REF ID-REF=\"A\"/>")) +
+          other);
+    EXPECT_EQ(Finding(), "4:1 error duplicate-short-name: what the DIAG-COMM-REF names, the DIAG-SERVICE 'X', has the "
+                         "short name of the DIAG-SERVICE at line 3 in the same list; where the name is looked up, that "
+                         "one is found");
+}
+
+TEST_F(VShortNamesTest, OfTwoByReference) {
+    std::string const variable = "<SHORT-NAME>V</SHORT-NAME></DIAG-VARIABLE>";
+    Check(LayerXml("ECU-SHARED-DATA", "E",
+                   DiagComms("<DIAG-SERVICE ID=\"A\"><SHORT-NAME>X</SHORT-NAME></DIAG-SERVICE>") +
+                       "<DIAG-VARIABLES><DIAG-VARIABLE ID=\"V1\">" + variable + "</DIAG-VARIABLES>") +
+          LayerXml("ECU-SHARED-DATA", "F",
+                   DiagComms("<DIAG-SERVICE ID=\"B\"><SHORT-NAME>X</SHORT-NAME></DIAG-SERVICE>")) +
+          LayerXml("BASE-VARIANT", "L",
+                   DiagComms("<DIAG-COMM-REF ID-REF=\"A\"/>\n<DIAG-COMM-REF ID-REF=\"B\"/>\n"
+                             "<DIAG-COMM-REF ID-REF=\"A\"/>") +
+                       "<DIAG-VARIABLES><DIAG-VARIABLE ID=\"V2\">" + variable +
+                       "\n<DIAG-VARIABLE-REF ID-REF=\"V1\"/></DIAG-VARIABLES>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:8:1 error duplicate-short-name\ntest.odx:9:1 error duplicate-short-name\n"
+                             "test.odx:10:1 error duplicate-short-name");
+    EXPECT_EQ(Message(0).find("what the DIAG-COMM-REF names, the DIAG-SERVICE 'X', has the short name of what is named "
+                              "by the DIAG-COMM-REF at line 7 "),
+              0U)
+        << Message(0);
+}
+
+TEST_F(VShortNamesTest, OfOthersByReferenceAreNoDuplicates) {
+    Check(LayerXml("BASE-VARIANT", "A", DiagComms(Service("X"))) +
+          LayerXml("ECU-VARIANT", "B",
+                   DiagComms("<DIAG-COMM-REF ID-REF=\"X\"/><DIAG-COMM-REF ID-REF=\"gone\"/>"
+                             "<DIAG-COMM-REF ID-REF=\"gone\"/>")));
+    EXPECT_EQ(Diagnostics(), "test.odx:5:40 error unresolved-reference\ntest.odx:5:70 error unresolved-reference");
+}
+
 TEST_F(VShortNamesTest, OfEveryFurtherOne) {
     std::string const service = "<SHORT-NAME>X</SHORT-NAME></DIAG-SERVICE>\n";
     Check(LayerXml("BASE-VARIANT", "L",
