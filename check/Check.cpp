@@ -12,7 +12,7 @@ namespace NCheck {
 namespace {
 
 constexpr void (*kTopics[])(VChecked const& checked, VFindings& findings) = {
-    &CheckShortNames,          &CheckDocrefs, &CheckExclusions, &CheckAmbiguousNames,
+    &CheckShortNames,          &CheckDocrefs, &CheckLayerReferences, &CheckExclusions, &CheckAmbiguousNames,
     &CheckShortNameReferences, &CheckCycles,
 };
 

@@ -9,6 +9,7 @@ namespace NCheck {
 
 void CheckShortNames(VChecked const& checked, VFindings& findings);
 void CheckDocrefs(VChecked const& checked, VFindings& findings);
+void CheckLayerReferences(VChecked const& checked, VFindings& findings);
 void CheckExclusions(VChecked const& checked, VFindings& findings);
 void CheckAmbiguousNames(VChecked const& checked, VFindings& findings);
 void CheckShortNameReferences(VChecked const& checked, VFindings& findings);

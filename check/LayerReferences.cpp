@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <map>
+#include <tuple>
+
+#include <diagkit/check/Topics.h>
+#include <diagkit/memory/Importing.h>
+#include <diagkit/reader/CycleSearch.h>
+#include <diagkit/reader/ParentTargets.h>
+
+namespace NCheck {
+namespace {
+
+/// A kind of reference from layer to layer, which makes no sense twice.
+struct VLayerReference {
+    char const* code;
+    NODX201::VDiagLayer* (*targetOf)(NODX201::VOdxElement& element); ///< null for other elements too
+    char const* effect;
+};
+
+NODX201::VDiagLayer* ParentOf(NODX201::VOdxElement& element) {
+    auto* const parentRef = dynamic_cast<NODX201::VParentRef*>(&element);
+    return parentRef != nullptr ? NReader::TargetOf(*parentRef) : nullptr;
+}
+
+NODX201::VDiagLayer* ImportOf(NODX201::VOdxElement& element) {
+    auto* const importRef = dynamic_cast<NMemory::VMemImportRef*>(&element);
+    return importRef != nullptr && importRef->HasDiagLayer() ? &importRef->GetDiagLayer() : nullptr;
+}
+
+// clang-format off
+constexpr VLayerReference kReferences[] = {
+    {"repeated-parent", &ParentOf, "; what one of them excludes, the other still brings"},
+    {"repeated-import", &ImportOf, ""},
+};
+// clang-format on
+
+void CheckRepeated(VChecked const& checked, VLayerReference const& kind, VFindings& findings) {
+    std::map<std::tuple<NODX201::VOdxObject*, NODX201::VDiagLayer*>, NODX201::VOdxElement*> firsts;
+    for (NODX201::VOdxElement* const element : checked.elements) {
+        NODX201::VDiagLayer* const target = kind.targetOf(*element);
+        if (target == nullptr || target == element->GetOwner()) {
+            continue; // reported as unresolved, and as a layer that names itself
+        }
+        NODX201::VOdxElement* const first = firsts.try_emplace({element->GetOwner(), target}, element).first->second;
+        if (first != element) {
+            findings.Add({kind.code, PositionOf(*element),
+                          TagOf(*element) + " names the " + Titled(*target) + ", as the one at line " +
+                              std::to_string(PositionOf(*first).line) + " does" + kind.effect});
+        }
+    }
+}
+
+NReader::VEdges ImportsOf(NODX201::VReferencable& layer) {
+    NReader::VEdges edges;
+    for (NMemory::VMemImportRef& import : dynamic_cast<NMemory::IImporting&>(layer).ImportRefCollection()) {
+        if (import.HasDiagLayer()) {
+            edges.push_back({&import.GetDiagLayer(), &import});
+        }
+    }
+    return edges;
+}
+
+void ReportCycle(NReader::VEdge const& closing, NReader::VReferencables const& chain, VFindings& findings) {
+    std::vector<std::string> names;
+    for (NODX201::VReferencable const* const layer : chain) {
+        names.push_back(Titled(*layer));
+    }
+    std::string const ring = names.size() > 1 ? ", in the ring of " + Listed(names) : "";
+    findings.Add({"import-cycle", PositionOf(*closing.link),
+                  Titled(*chain.front()) + " imports itself by this reference" + ring +
+                      "; programs that follow imports do not end there"});
+}
+
+void CheckImportCycles(VChecked const& checked, VFindings& findings) {
+    NReader::VCycleSearch search(&ImportsOf, &NReader::IsReference,
+                                 [&findings](NReader::VEdge const& closing, NReader::VReferencables const& chain) {
+                                     ReportCycle(closing, chain, findings);
+                                 });
+    for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
+        search.From(*layer);
+    }
+}
+
+} // namespace
+
+void CheckLayerReferences(VChecked const& checked, VFindings& findings) {
+    for (VLayerReference const& kind : kReferences) {
+        CheckRepeated(checked, kind, findings);
+    }
+    CheckImportCycles(checked, findings);
+}
+
+} // namespace NCheck
