@@ -3,7 +3,7 @@
 # Headers are included as <diagkit/FOLDER/Header.h>, in the build tree as in an installed one.
 set(DIAGKIT_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
 file(MAKE_DIRECTORY ${DIAGKIT_INCLUDE_DIR}/diagkit)
-foreach(folder model logging util tools memory reader check cli fuzz)
+foreach(folder model logging util tools memory reader check conformance cli fuzz)
     if(NOT CMAKE_HOST_WIN32)
         file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} SYMBOLIC)
     elseif(NOT EXISTS ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder})

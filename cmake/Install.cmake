@@ -50,10 +50,14 @@ function(diagkit_install_pkgconfig name library description requires)
     install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${name}.pc DESTINATION ${from_file} COMPONENT Development)
 endfunction()
 
-diagkit_install_targets(diagkitTargets diagkit diagkit_model diagkit_memory)
+diagkit_install_targets(diagkitTargets diagkit diagkit_model diagkit_memory diagkit_conformance)
 diagkit_install_pkgconfig(diagkit diagkit "toolkit for ODX 2.0.1 diagnostic data" "")
 diagkit_install_pkgconfig(diagkit-memory diagkit_memory "model of ODX data in memory"
                           "diagkit = ${PROJECT_VERSION}")
+diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "whether a model keeps the promises of the contract"
+                          "diagkit = ${PROJECT_VERSION}")
+install(FILES conformance/reference.odx-d conformance/reference.txt
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/diagkit/conformance COMPONENT Development)
 if(TARGET diagkit_reader)
     diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check)
     diagkit_install_pkgconfig(diagkit-reader diagkit_reader "reader of ODX documents and PDX packages"

@@ -15,6 +15,8 @@ set(public_headers
     check/Check.h
     check/Codes.h
     check/Cycles.h
+    conformance/Conformance.h
+    conformance/Reference.h
     reader/Diagnostic.h
     reader/Limits.h
     reader/OdxReader.h

@@ -22,6 +22,7 @@ ROOMS = {
     "memory": (["model"], []),
     "reader": (["memory", "tools", "model"], [r"expat\.h", r"zip\.h"]),
     "check": (["reader", "memory", "tools", "model"], []),
+    "conformance": (["tools", "model"], []),
     "cli": (
         ["check", "reader", "memory", "tools/oem", "tools", "util", "logging", "model"],
         [r"CLI/\S+", r"nlohmann/\S+", r"fmt/\S+"],

@@ -15,6 +15,7 @@ from project import (
     empty,
     examples,
     expect,
+    own_model,
     run,
     run_examples,
     run_readme_program,
@@ -30,23 +31,24 @@ def main():
     os.environ["PKG_CONFIG_PATH"] = str(libraries / "pkgconfig")
     os.environ["LD_LIBRARY_PATH"] = str(libraries)
 
-    def build(program, source, package):
+    def build(program, package, *sources):
         flags = run("pkg-config", "--cflags", "--libs", package).split()
-        run(compiler, "-std=c++17", *WARNINGS, source, "-o", folder / program, *flags)
+        run(compiler, "-std=c++17", *WARNINGS, *sources, "-o", folder / program, *flags)
 
-    packages = ["diagkit", "diagkit-memory", "diagkit-reader", "diagkit-check"]
+    packages = ["diagkit", "diagkit-memory", "diagkit-conformance", "diagkit-reader", "diagkit-check"]
     for package in packages:
         expect(run("pkg-config", "--modversion", package) == f"{version()}\n", f"{package} has another version")
         run("pkg-config", "--validate", package)
     # The toolkit needs nothing but itself.
     expect(run("pkg-config", "--libs-only-l", "--static", "diagkit").split() == ["-ldiagkit"], "diagkit needs more")
 
-    build("toolkit", HERE / "stranger" / "toolkit.cpp", "diagkit")
-    build("by_hand", HERE / "stranger" / "by_hand.cpp", "diagkit-memory")
-    build("checked", HERE / "stranger" / "checked.cpp", "diagkit-check")
-    build("app", write_readme_program(folder), "diagkit-reader")
+    build("toolkit", "diagkit", HERE / "stranger" / "toolkit.cpp")
+    build("by_hand", "diagkit-memory", HERE / "stranger" / "by_hand.cpp")
+    build("checked", "diagkit-check", HERE / "stranger" / "checked.cpp")
+    build("app", "diagkit-reader", write_readme_program(folder))
     for name, source in examples().items():
-        build(name, source, "diagkit-reader")
+        build(name, "diagkit-reader", source)
+    build("own_model", "diagkit-conformance", *own_model())
     run_stranger_programs(folder)
     run_readme_program(folder / "app")
     run_examples(folder)

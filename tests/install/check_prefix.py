@@ -16,24 +16,26 @@ from project import ROOT, SAMPLE, empty, expect, run, version
 INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
 
 # In folders that are not listed below all headers are public but those that the README there calls internal.
-FOLDERS = {"", "model", "logging", "util", "tools", "tools/oem", "memory", "reader", "check"}
+FOLDERS = {"", "model", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check"}
 PUBLIC = {
     "": {"Export.h", "Version.h"},
     "logging": {"SharedLogger.h"},
     "util": {"Assertion.h"},
     "tools/oem": {"Manufacturer.h", "OemChecker.h", "OemReport.h"},
+    "conformance": {"Conformance.h", "Reference.h"},
     "reader": {"Diagnostic.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
 }
 FILES = """
     bin/diagkit
     LIB/libdiagkit.so LIB/libdiagkit.so.SO LIB/libdiagkit.so.VERSION
-    LIB/libdiagkit_check.a LIB/libdiagkit_memory.a LIB/libdiagkit_reader.a
+    LIB/libdiagkit_check.a LIB/libdiagkit_conformance.a LIB/libdiagkit_memory.a LIB/libdiagkit_reader.a
     LIB/cmake/diagkit/diagkitConfig.cmake LIB/cmake/diagkit/diagkitConfigVersion.cmake
     LIB/cmake/diagkit/diagkitReaderTargets-release.cmake LIB/cmake/diagkit/diagkitReaderTargets.cmake
     LIB/cmake/diagkit/diagkitTargets-release.cmake LIB/cmake/diagkit/diagkitTargets.cmake
     LIB/pkgconfig/diagkit-check.pc LIB/pkgconfig/diagkit-memory.pc LIB/pkgconfig/diagkit-reader.pc
-    LIB/pkgconfig/diagkit.pc
+    LIB/pkgconfig/diagkit-conformance.pc LIB/pkgconfig/diagkit.pc
+    share/diagkit/conformance/reference.odx-d share/diagkit/conformance/reference.txt
     share/bash-completion/completions/diagkit share/fish/vendor_completions.d/diagkit.fish
     share/man/man1/diagkit.1 share/zsh/site-functions/_diagkit
 """

@@ -45,9 +45,16 @@ def examples():
     return sources
 
 
+def own_model():
+    """The sources of the one example that has several."""
+    sources = sorted((ROOT / "examples" / "own_model").glob("*.cpp"))
+    expect(sources, "examples/own_model/ is empty")
+    return sources
+
+
 def run_examples(folder):
     """Hold the examples that were built into a folder against their cases."""
-    for name in examples():
+    for name in [*examples(), "own_model"]:
         cases = sorted((ROOT / "tests" / "examples").glob(f"{name}*.case"))
         expect(cases, f"no case for {name}")
         for case in cases:

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/conformance/Findings.h>
+
+#define DIAGKIT_WIDE_(text) L##text
+#define DIAGKIT_WIDE(text) DIAGKIT_WIDE_(text)
+
+namespace NConformance {
+namespace {
+
+constexpr int kToldOfEachCheck = 10;
+
+wchar_t const* NameOf(VCheckId check) { return Checks()[static_cast<std::size_t>(check)].name; }
+
+/// The answers by what is asked: all up to the first ": ".
+std::map<std::wstring, std::wstring> ByQuestion(std::vector<std::wstring> const& answers) {
+    std::map<std::wstring, std::wstring> byQuestion;
+    for (std::wstring const& answer : answers) {
+        std::size_t const colon = answer.find(L": ");
+        byQuestion[answer.substr(0, colon)] = colon == std::wstring::npos ? L"" : answer.substr(colon + 2);
+    }
+    return byQuestion;
+}
+
+/// What is in `left` and not, or otherwise, in `right`, in the order of `left`.
+template <class Report>
+void EachUnlike(std::vector<std::wstring> const& left, std::vector<std::wstring> const& right, Report report) {
+    std::map<std::wstring, std::wstring> const others = ByQuestion(right);
+    for (std::wstring const& answer : left) {
+        auto const [question, text] = *ByQuestion({answer}).begin();
+        auto const other = others.find(question);
+        if (other == others.end() || other->second != text) {
+            report(question, text, other == others.end() ? nullptr : &other->second);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<VCheck> const& Checks() {
+    static std::vector<VCheck> const checks = {
+#define CHECK(identifier, name, promise) {DIAGKIT_WIDE(name), DIAGKIT_WIDE(promise)},
+#include <diagkit/conformance/Checks.def>
+    };
+    return checks;
+}
+
+std::wstring ToText(VFinding const& finding) {
+    return finding.check + L": " + finding.where + L": expected " + finding.expected + L", found " + finding.found;
+}
+
+void VFindings::Add(VCheckId check, std::wstring where, std::wstring expected, std::wstring found) {
+    if (++m_told[check] <= kToldOfEachCheck) {
+        m_findings.push_back({NameOf(check), std::move(where), std::move(expected), std::move(found)});
+    }
+}
+
+std::vector<VFinding> CompareAnswers(std::vector<std::wstring> const& expected,
+                                     std::vector<std::wstring> const& found) {
+    std::vector<VFinding> findings;
+    EachUnlike(expected, found, [&](auto const& question, auto const& text, std::wstring const* other) {
+        findings.push_back({NameOf(VCheckId::ReferenceAnswer), question, L"'" + text + L"'",
+                            other == nullptr ? L"no answer" : L"'" + *other + L"'"});
+    });
+    EachUnlike(found, expected, [&](auto const& question, auto const& text, std::wstring const* other) {
+        if (other == nullptr) {
+            findings.push_back({NameOf(VCheckId::ReferenceSilence), question, L"no answer", L"'" + text + L"'"});
+        }
+    });
+    return findings;
+}
+
+} // namespace NConformance

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <map>
+
+#include <diagkit/conformance/Conformance.h>
+
+namespace NConformance {
+
+/// The checks, for the sources that report; the values are positions in `Checks()`.
+enum class VCheckId : int {
+#define CHECK(identifier, name, promise) identifier,
+#include <diagkit/conformance/Checks.def>
+};
+
+/// Collects what is found.
+class VFindings {
+public:
+    /// Without effect when the check has been told of often enough.
+    void Add(VCheckId check, std::wstring where, std::wstring expected, std::wstring found);
+    std::vector<VFinding> Take() { return std::move(m_findings); }
+
+private:
+    std::vector<VFinding> m_findings;
+    std::map<VCheckId, int> m_told;
+};
+
+/// For every answer that is missing, another or not meant, in the order of what is expected.
+std::vector<VFinding> CompareAnswers(std::vector<std::wstring> const& expected, std::vector<std::wstring> const& found);
+
+} // namespace NConformance

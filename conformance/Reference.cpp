@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/conformance/Reference.h>
+
+#include <diagkit/conformance/ReferenceText.h>
+#include <diagkit/conformance/Walk.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/Odx.h>
+#include <diagkit/model/Responses.h>
+#include <diagkit/tools/DiagCommView.h>
+#include <diagkit/tools/DiagVariableView.h>
+#include <diagkit/tools/GlobalNegResponseView.h>
+#include <diagkit/tools/InParamIfView.h>
+#include <diagkit/tools/OpBuildDiagCommView.h>
+#include <diagkit/tools/OpBuildDiagVariableView.h>
+#include <diagkit/tools/OpBuildDopView.h>
+#include <diagkit/tools/OpBuildGlobalNegResponseView.h>
+#include <diagkit/tools/OpBuildProtocolView.h>
+#include <diagkit/tools/OutParamIfView.h>
+#include <diagkit/tools/ProtocolView.h>
+
+namespace NConformance {
+namespace {
+
+using namespace NODX201;
+
+/// Writes down what the toolkit's views make of a model that was walked.
+class VViewAnswers {
+public:
+    VViewAnswers(VWalk const& walk, std::vector<std::wstring>& answers) : m_walk(walk), m_answers(answers) {}
+
+    void AnswerContainer(VDiagLayerContainer& container) {
+        NDIAGKIT::VOpBuildProtocolView builder;
+        NDIAGKIT::VProtocolView& view = *builder.CreateProtocolView(container);
+        Answer(container, L"protocols", view);
+        builder.DestroyProtocolView(view);
+    }
+
+    void AnswerLayer(VDiagLayer& layer) {
+        NDIAGKIT::VOpBuildDiagCommView diagComms;
+        NDIAGKIT::VDiagCommView& diagCommView = *diagComms.CreateDiagCommView(layer);
+        Answer(layer, L"visible DIAG-COMMs", diagCommView);
+        diagComms.DestroyDiagCommView(diagCommView);
+
+        NDIAGKIT::VOpBuildDiagVariableView variables;
+        NDIAGKIT::VDiagVariableView& variableView = *variables.CreateDiagVariableView(layer);
+        Answer(layer, L"visible DIAG-VARIABLEs", variableView);
+        variables.DestroyDiagVariableView(variableView);
+
+        NDIAGKIT::VOpBuildDopView dops;
+        NDIAGKIT::VDopView& dopView = *dops.CreateDopView(layer);
+        Answer(layer, L"visible DOPs", dopView);
+        dops.DestroyDopView(dopView);
+
+        NDIAGKIT::VOpBuildGlobalNegResponseView responses;
+        NDIAGKIT::VGlobalNegResponseView& responseView = *responses.CreateGlobalNegResponseView(layer);
+        Answer(layer, L"visible GLOBAL-NEG-RESPONSEs", responseView);
+        responses.DestroyGlobalNegResponseView(responseView);
+
+        for (IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
+            if (auto* const service = dynamic_cast<VDiagService*>(&proxy); service != nullptr) {
+                NDIAGKIT::VInParamIfView inParams(*service);
+                Answer(*service, L"input parameters", inParams);
+                NDIAGKIT::VOutParamIfView outParams(*service, VSearchRange::RequestAndResponses);
+                Answer(*service, L"output parameters", outParams);
+            }
+        }
+    }
+
+private:
+    template <class View>
+    void Answer(VOdxElement& element, wchar_t const* what, View& view) {
+        std::wstring entries;
+        for (auto& entry : view) {
+            entries += (entries.empty() ? L"" : L", ") + m_walk.PathOf(*ChildOf(entry).element);
+        }
+        m_answers.push_back(m_walk.PathOf(element) + L" " + what + L": " + (entries.empty() ? L"none" : entries));
+    }
+
+    VWalk const& m_walk;
+    std::vector<std::wstring>& m_answers;
+};
+
+std::vector<std::wstring> Walk(VModel const& model, VFindings& findings) {
+    std::vector<std::wstring> answers;
+    VWalk walk(findings, &answers);
+    walk.WalkModel(model);
+    VViewAnswers views(walk, answers);
+    for (VDiagLayerContainer& container : model.odx.DiagLayerContainerCollection()) {
+        views.AnswerContainer(container);
+    }
+    for (VDiagLayer* const layer : walk.Layers()) {
+        views.AnswerLayer(*layer);
+    }
+    return answers;
+}
+
+std::vector<std::wstring> LinesOf(std::wstring const& text) {
+    std::vector<std::wstring> lines;
+    for (std::size_t begin = 0, end = 0; (end = text.find(L'\n', begin)) != std::wstring::npos; begin = end + 1) {
+        if (end != begin && text[begin] != L'#') {
+            lines.push_back(text.substr(begin, end - begin));
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+std::vector<std::wstring> AnswersOf(VModel const& model) {
+    VFindings findings;
+    return Walk(model, findings);
+}
+
+std::vector<std::wstring> const& ReferenceAnswers() {
+    static std::vector<std::wstring> const answers = LinesOf(kReferenceText);
+    return answers;
+}
+
+std::vector<VFinding> CheckModel(VModel const& model) {
+    VFindings findings;
+    VWalk(findings, nullptr).WalkModel(model);
+    return findings.Take();
+}
+
+std::vector<VFinding> CheckReference(VModel const& model) {
+    VFindings findings;
+    std::vector<std::wstring> const answers = Walk(model, findings);
+    std::vector<VFinding> all = findings.Take();
+    for (VFinding& finding : CompareAnswers(ReferenceAnswers(), answers)) {
+        all.push_back(std::move(finding));
+    }
+    return all;
+}
+
+} // namespace NConformance

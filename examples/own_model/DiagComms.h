@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/model/AdminData.h>
+#include <diagkit/model/Comparams.h>
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Responses.h>
+#include <diagkit/model/Sdgs.h>
+
+#include "Dictionary.h"
+
+/// Services, jobs, what they send and receive, and diagnostic variables.
+
+namespace NOwnModel {
+
+/// A REQUEST or one of the responses: both are a list of parameters.
+template <class Contract>
+class VMessage : public VIdentified<Contract> {
+public:
+    explicit VMessage(VPlace const& place) : VIdentified<Contract>(place) {
+        for (VRow const& row : place.row.rows) {
+            if (row.tag == Tag::CodedConst) {
+                m_params.Add(std::make_unique<VConstant>(this->Inside(row)));
+            } else if (row.tag == Tag::Value) {
+                m_params.Add(std::make_unique<VValueParam>(this->Inside(row)));
+            }
+        }
+    }
+
+    bool HasAdminData() const override { return false; }
+    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
+    NODX201::VParamCollection& ParamCollection() override { return m_params; }
+
+private:
+    VOwning<NODX201::VParamCollection> m_params;
+};
+
+class VRequestRef : public VLinkTo<NODX201::VRequestLink, NODX201::VRequest> {
+public:
+    using VLinkTo::VLinkTo;
+
+    bool HasRequest() const override { return FindById(); }
+    NODX201::VRequest& GetRequest() override { return Found(); }
+};
+
+class VPosResponseRef : public VLinkTo<NODX201::VPosResponseLink, NODX201::VPosResponse> {
+public:
+    using VLinkTo::VLinkTo;
+
+    bool HasPosResponse() const override { return FindById(); }
+    NODX201::VPosResponse& GetPosResponse() override { return Found(); }
+};
+
+/// DIAG-COMM-REF and DIAG-COMM-SNREF.
+class VDiagCommRef : public VLinkTo<NODX201::VDiagCommLink, NODX201::VDiagComm> {
+public:
+    using VLinkTo::VLinkTo;
+
+    bool HasDiagComm(NODX201::VDiagLayer& layer) override {
+        return IsByName() ? Remember(Index().resolver->ResolveDiagCommSnref(Name(), layer)) : FindById();
+    }
+    NODX201::VDiagComm& GetDiagComm() override { return Found(); }
+};
+
+using VAudienceRow = VElement<NODX201::VAudience>;
+using VProgram = VElement<NODX201::VProgCode>;
+
+/// What services and jobs share.
+template <class Contract>
+class VDiagCommOf : public VIdentified<Contract> {
+public:
+    explicit VDiagCommOf(VPlace const& place)
+        : VIdentified<Contract>(place), m_audience(this->template MakeChild<VAudienceRow>(Tag::Audience)) {}
+
+    bool HasLongName() const override { return false; }
+    NODX201::VText& GetLongName() override { return Absent<NODX201::VText>(); }
+    bool HasAdminData() const override { return false; }
+    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
+    NODX201::VSdgCollection& SdgCollection() override { return Empty<NODX201::VSdgCollection>(); }
+    NODX201::VComparamRefCollection& ComparamRefCollection() override {
+        return Empty<NODX201::VComparamRefCollection>();
+    }
+    NODX201::VFunctClassLinkCollection& FunctClassLinkCollection() override {
+        return Empty<NODX201::VFunctClassLinkCollection>();
+    }
+    bool HasAudience() const override { return m_audience != nullptr; }
+    NODX201::VAudience& GetAudience() override { return *m_audience; }
+    NODX201::VRelatedDiagCommRefCollection& RelatedDiagCommRefCollection() override {
+        return Empty<NODX201::VRelatedDiagCommRefCollection>();
+    }
+
+private:
+    std::unique_ptr<VAudienceRow> m_audience;
+};
+
+class VService : public VDiagCommOf<NODX201::VDiagService> {
+public:
+    explicit VService(VPlace const& place) : VDiagCommOf(place), m_requestRef(MakeChild<VRequestRef>(Tag::RequestRef)) {
+        AddAll<VPosResponseRef>(m_posResponseRefs, Tag::PosResponseRef);
+    }
+
+    void Accept(NODX201::VDiagCommVisitor& visitor) override { visitor.VisitDiagService(*this); }
+    bool HasRequestRef() const override { return m_requestRef != nullptr; }
+    NODX201::VRequestLink& GetRequestRef() override { return *m_requestRef; }
+    bool HasPosResponseLinkCollection() const override { return m_posResponseRefs.Count() != 0; }
+    NODX201::VPosResponseLinkCollection& PosResponseLinkCollection() override { return m_posResponseRefs; }
+    bool HasNegResponseLinkCollection() const override { return false; }
+    NODX201::VNegResponseLinkCollection& NegResponseLinkCollection() override {
+        return Empty<NODX201::VNegResponseLinkCollection>();
+    }
+
+private:
+    std::unique_ptr<VRequestRef> m_requestRef;
+    VOwning<NODX201::VPosResponseLinkCollection> m_posResponseRefs;
+};
+
+class VJob : public VDiagCommOf<NODX201::VSingleEcuJob> {
+public:
+    explicit VJob(VPlace const& place) : VDiagCommOf(place) { AddAll<VProgram>(m_programs, Tag::ProgCode); }
+
+    void Accept(NODX201::VDiagCommVisitor& visitor) override { visitor.VisitSingleEcuJob(*this); }
+    NODX201::VProgCodeCollection& ProgCodeCollection() override { return m_programs; }
+    bool HasInputParamCollection() const override { return false; }
+    NODX201::VInputParamCollection& InputParamCollection() override { return Empty<NODX201::VInputParamCollection>(); }
+    bool HasOutputParamCollection() const override { return false; }
+    NODX201::VOutputParamCollection& OutputParamCollection() override {
+        return Empty<NODX201::VOutputParamCollection>();
+    }
+    NODX201::VNegOutputParamCollection& NegOutputParamCollection() override {
+        return Empty<NODX201::VNegOutputParamCollection>();
+    }
+
+private:
+    VOwning<NODX201::VProgCodeCollection> m_programs;
+};
+
+class VVariable : public VIdentified<NODX201::VDiagVariable> {
+public:
+    using VIdentified::VIdentified;
+
+    bool HasAdminData() const override { return false; }
+    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
+    bool HasVariableGroupRef() const override { return false; }
+    NODX201::VVariableGroupLink& GetVariableGroupRef() override { return Absent<NODX201::VVariableGroupLink>(); }
+    NODX201::VSwVariableCollection& SwVariableCollection() override { return Empty<NODX201::VSwVariableCollection>(); }
+    NODX201::VCommRelationCollection& CommRelationCollection() override {
+        return Empty<NODX201::VCommRelationCollection>();
+    }
+};
+
+} // namespace NOwnModel

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include <diagkit/model/OdxElement.h>
+#include <diagkit/model/Reference.h>
+#include <diagkit/model/SnrefResolver.h>
+
+#include "Table.h"
+
+/// What the elements of the example have in common: where they stand, what they own, how they find others.
+
+namespace NOwnModel {
+
+using Tag = NODX201::VOdxTagEnum;
+
+/// What links search: the elements by ID, and what short names mean.
+struct VIndex {
+    std::map<std::wstring, NODX201::VReferencable*> elements;
+    std::unique_ptr<NODX201::VAbstractSnrefResolver> resolver;
+};
+
+/// Where an element comes from: its row, what it stands in, the database it is part of.
+struct VPlace {
+    VRow const& row;
+    NODX201::VOdxObject* owner;
+    VIndex& index;
+};
+
+/// The getter of an optional child that this model never has: its test said so.
+template <class T>
+T& Absent() {
+    throw std::logic_error("asked for what is absent");
+}
+
+/// A collection of the contract that owns its entries.
+template <class Collection>
+class VOwning : public Collection {
+public:
+    template <class Entry>
+    Entry& Add(std::unique_ptr<Entry> entry) {
+        this->m_elements.push_back(entry.get());
+        m_owned.push_back(std::move(entry));
+        return static_cast<Entry&>(*m_owned.back());
+    }
+
+private:
+    std::vector<std::unique_ptr<NODX201::VOdxObject>> m_owned;
+};
+
+/// A collection that this model never has entries for.
+template <class Collection>
+Collection& Empty() {
+    static VOwning<Collection> empty;
+    return empty;
+}
+
+/// An element of a class of the contract, as far as all agree.
+template <class Contract>
+class VElement : public Contract {
+public:
+    explicit VElement(VPlace const& place) : m_place(place) {}
+
+    Tag GetOdxTag() const override { return m_place.row.tag; }
+    wchar_t const* GetShortName() const override { return m_place.row.name.c_str(); }
+    NODX201::VOdxObject* GetOwner() const override { return m_place.owner; }
+
+protected:
+    VRow const& Row() const { return m_place.row; }
+    VIndex& Index() const { return m_place.index; }
+    VPlace Inside(VRow const& row) { return {row, this, m_place.index}; }
+
+    /// The optional child of a tag, or null.
+    template <class Child>
+    std::unique_ptr<Child> MakeChild(Tag tag) {
+        for (VRow const& row : Row().rows) {
+            if (row.tag == tag) {
+                return std::make_unique<Child>(Inside(row));
+            }
+        }
+        return nullptr;
+    }
+
+    /// Adds the children of a tag.
+    template <class Child, class Collection>
+    void AddAll(VOwning<Collection>& collection, Tag tag) {
+        for (VRow const& row : Row().rows) {
+            if (row.tag == tag) {
+                collection.Add(std::make_unique<Child>(Inside(row)));
+            }
+        }
+    }
+
+private:
+    VPlace m_place;
+};
+
+/// The same for a class with an ID.
+template <class Contract>
+class VIdentified : public VElement<Contract> {
+public:
+    explicit VIdentified(VPlace const& place) : VElement<Contract>(place) {
+        if (!place.row.id.empty()) {
+            place.index.elements[place.row.id] = this;
+        }
+    }
+
+    wchar_t const* GetId() const override { return this->Row().id.c_str(); }
+};
+
+class VById : public NODX201::VOdxLink {
+public:
+    explicit VById(VRow const& row) : m_row(row) {}
+
+    wchar_t const* GetIdRef() const override { return m_row.idRef.c_str(); }
+    wchar_t const* GetDocref() const override { return L""; }
+    wchar_t const* GetDoctype() const override { return L""; }
+    wchar_t const* GetRevision() const override { return L""; }
+
+private:
+    VRow const& m_row;
+};
+
+class VByName : public NODX201::VSnref {
+public:
+    explicit VByName(VRow const& row) : m_row(row) {}
+
+    wchar_t const* GetShortName() const override { return m_row.snref.c_str(); }
+
+private:
+    VRow const& m_row;
+};
+
+/// A link: its form, and the target that was found last.
+template <class Contract, class Target>
+class VLinkTo : public VElement<Contract> {
+public:
+    explicit VLinkTo(VPlace const& place) : VElement<Contract>(place) {
+        if (place.row.snref.empty()) {
+            m_form = std::make_unique<VById>(place.row);
+        } else {
+            m_form = std::make_unique<VByName>(place.row);
+        }
+    }
+
+    NODX201::ILink& GetLink() override { return *m_form; }
+
+protected:
+    bool IsByName() const { return !this->Row().snref.empty(); }
+    wchar_t const* Name() const { return this->Row().snref.c_str(); }
+
+    bool Remember(Target* target) const {
+        m_target = target;
+        return target != nullptr;
+    }
+
+    /// A hit of another class is none.
+    bool FindById() const {
+        auto const found = this->Index().elements.find(this->Row().idRef);
+        return Remember(found != this->Index().elements.end() ? dynamic_cast<Target*>(found->second) : nullptr);
+    }
+
+    Target& Found() const { return *m_target; }
+
+private:
+    std::unique_ptr<NODX201::ILink> m_form;
+    mutable Target* m_target = nullptr;
+};
+
+} // namespace NOwnModel

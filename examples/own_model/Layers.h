@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <diagkit/model/ParentRefs.h>
+#include <diagkit/model/Text.h>
+
+#include "DiagComms.h"
+
+/// The five kinds of layer and their PARENT-REFs.
+
+namespace NOwnModel {
+
+class VExclusion : public VElement<NODX201::VNotInheritedDiagComm> {
+public:
+    explicit VExclusion(VPlace const& place) : VElement(place), m_snref(MakeChild<VDiagCommRef>(Tag::DiagCommSnref)) {}
+
+    NODX201::VDiagCommLink& GetDiagCommSnref() override { return *m_snref; }
+
+private:
+    std::unique_ptr<VDiagCommRef> m_snref;
+};
+
+template <class Contract, class Target>
+class VParent : public VLinkTo<Contract, Target> {
+public:
+    explicit VParent(VPlace const& place) : VLinkTo<Contract, Target>(place) {
+        this->template AddAll<VExclusion>(m_exclusions, Tag::NotInheritedDiagComm);
+    }
+
+    bool HasNotInheritedDiagCommCollection() const override { return m_exclusions.Count() != 0; }
+    NODX201::VNotInheritedDiagCommCollection& NotInheritedDiagCommCollection() override { return m_exclusions; }
+    bool HasNotInheritedVariableCollection() const override { return false; }
+    NODX201::VNotInheritedVariableCollection& NotInheritedVariableCollection() override {
+        return Empty<NODX201::VNotInheritedVariableCollection>();
+    }
+
+private:
+    VOwning<NODX201::VNotInheritedDiagCommCollection> m_exclusions;
+};
+
+class VProtocolParent : public VParent<NODX201::VProtocolRef, NODX201::VProtocol> {
+public:
+    using VParent::VParent;
+    bool HasProtocol() const override { return FindById(); }
+    NODX201::VProtocol& GetProtocol() override { return Found(); }
+};
+
+class VFunctionalGroupParent : public VParent<NODX201::VFunctionalGroupRef, NODX201::VFunctionalGroup> {
+public:
+    using VParent::VParent;
+    bool HasFunctionalGroup() const override { return FindById(); }
+    NODX201::VFunctionalGroup& GetFunctionalGroup() override { return Found(); }
+};
+
+class VBaseVariantParent : public VParent<NODX201::VBaseVariantRef, NODX201::VBaseVariant> {
+public:
+    using VParent::VParent;
+    bool HasBaseVariant() const override { return FindById(); }
+    NODX201::VBaseVariant& GetBaseVariant() override { return Found(); }
+};
+
+class VEcuSharedDataParent : public VParent<NODX201::VEcuSharedDataRef, NODX201::VEcuSharedData> {
+public:
+    using VParent::VParent;
+    bool HasEcuSharedData() const override { return FindById(); }
+    NODX201::VEcuSharedData& GetEcuSharedData() override { return Found(); }
+};
+
+class VComparamSpecRef : public VLinkTo<NODX201::VComparamSpecLink, NODX201::VComparamSpec> {
+public:
+    using VLinkTo::VLinkTo;
+    bool HasComparamSpec() const override { return FindById(); }
+    NODX201::VComparamSpec& GetComparamSpec() override { return Found(); }
+};
+
+class VTextRow : public VElement<NODX201::VText> {
+public:
+    using VElement::VElement;
+    wchar_t const* GetBaseMember() const override { return Row().text.c_str(); }
+};
+
+/// What the five kinds share.
+template <class Contract>
+class VLayer : public VIdentified<Contract> {
+public:
+    explicit VLayer(VPlace const& place)
+        : VIdentified<Contract>(place), m_longName(this->template MakeChild<VTextRow>(Tag::LongName)),
+          m_dictionary(this->template MakeChild<VDictionary>(Tag::DiagDataDictionarySpec)) {
+        for (VRow const& row : place.row.rows) {
+            AddRow(row);
+        }
+    }
+
+    bool HasLongName() const override { return m_longName != nullptr; }
+    NODX201::VText& GetLongName() override { return *m_longName; }
+    bool HasOid() const override { return !this->Row().oid.empty(); }
+    wchar_t const* GetOid() const override { return this->Row().oid.c_str(); }
+    bool HasAdminData() const override { return false; }
+    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
+    NODX201::VCompanyDataCollection& CompanyDataCollection() override {
+        return Empty<NODX201::VCompanyDataCollection>();
+    }
+    NODX201::VFunctClassCollection& FunctClassCollection() override { return Empty<NODX201::VFunctClassCollection>(); }
+    bool HasDiagDataDictionarySpec() const override { return m_dictionary != nullptr; }
+    NODX201::VDiagDataDictionarySpec& GetDiagDataDictionarySpec() override { return *m_dictionary; }
+    bool HasDiagCommProxyCollection() const override { return m_diagComms.Count() != 0; }
+    VOwning<NODX201::VDiagCommProxyCollection>& DiagCommProxyCollection() override { return m_diagComms; }
+    VOwning<NODX201::VRequestCollection>& RequestCollection() override { return m_requests; }
+    NODX201::VResponseCollection& ResponseCollection() override { return m_responses; }
+
+private:
+    void AddRow(VRow const& row) {
+        if (row.tag == Tag::DiagService) {
+            m_diagComms.Add(std::make_unique<VService>(this->Inside(row)));
+        } else if (row.tag == Tag::SingleEcuJob) {
+            m_diagComms.Add(std::make_unique<VJob>(this->Inside(row)));
+        } else if (row.tag == Tag::DiagCommRef) {
+            m_diagComms.Add(std::make_unique<VDiagCommRef>(this->Inside(row)));
+        } else if (row.tag == Tag::Request) {
+            m_requests.Add(std::make_unique<VMessage<NODX201::VRequest>>(this->Inside(row)));
+        } else if (row.tag == Tag::PosResponse) {
+            m_responses.Add(std::make_unique<VMessage<NODX201::VPosResponse>>(this->Inside(row)));
+        } else if (row.tag == Tag::GlobalNegResponse) {
+            m_responses.Add(std::make_unique<VMessage<NODX201::VGlobalNegResponse>>(this->Inside(row)));
+        }
+    }
+
+    std::unique_ptr<VTextRow> m_longName;
+    std::unique_ptr<VDictionary> m_dictionary;
+    VOwning<NODX201::VDiagCommProxyCollection> m_diagComms;
+    VOwning<NODX201::VRequestCollection> m_requests;
+    VOwning<NODX201::VResponseCollection> m_responses;
+};
+
+/// A layer with parents.
+template <class Contract>
+class VChildLayer : public VLayer<Contract> {
+public:
+    explicit VChildLayer(VPlace const& place) : VLayer<Contract>(place) {
+        for (VRow const& row : place.row.rows) {
+            AddParent(row);
+        }
+    }
+
+    bool HasParentRefCollection() const override { return m_parentRefs.Count() != 0; }
+    NODX201::VParentRefCollection& ParentRefCollection() override { return m_parentRefs; }
+    NODX201::VAccessLevelCollection& AccessLevelCollection() override {
+        return Empty<NODX201::VAccessLevelCollection>();
+    }
+    NODX201::VStringCollection& AutMethodCollection() override { return m_autMethods; }
+
+private:
+    void AddParent(VRow const& row) {
+        if (row.tag == Tag::ProtocolRef) {
+            m_parentRefs.Add(std::make_unique<VProtocolParent>(this->Inside(row)));
+        } else if (row.tag == Tag::FunctionalGroupRef) {
+            m_parentRefs.Add(std::make_unique<VFunctionalGroupParent>(this->Inside(row)));
+        } else if (row.tag == Tag::BaseVariantRef) {
+            m_parentRefs.Add(std::make_unique<VBaseVariantParent>(this->Inside(row)));
+        } else if (row.tag == Tag::EcuSharedDataRef) {
+            m_parentRefs.Add(std::make_unique<VEcuSharedDataParent>(this->Inside(row)));
+        }
+    }
+
+    VOwning<NODX201::VParentRefCollection> m_parentRefs;
+    NODX201::VStringCollection m_autMethods;
+};
+
+/// A layer with DIAG-VARIABLES.
+template <class Base>
+class VWithVariables : public Base {
+public:
+    explicit VWithVariables(VPlace const& place) : Base(place) {
+        this->template AddAll<VVariable>(m_variables, Tag::DiagVariable);
+    }
+
+    NODX201::VDiagVariableProxyCollection& DiagVariableProxyCollection() override { return m_variables; }
+    NODX201::VVariableGroupCollection& VariableGroupCollection() override {
+        return Empty<NODX201::VVariableGroupCollection>();
+    }
+
+private:
+    VOwning<NODX201::VDiagVariableProxyCollection> m_variables;
+};
+
+class VProtocolLayer : public VChildLayer<NODX201::VProtocol> {
+public:
+    explicit VProtocolLayer(VPlace const& place)
+        : VChildLayer(place), m_comparamSpecRef(MakeChild<VComparamSpecRef>(Tag::ComparamSpecRef)) {}
+
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitProtocol(*this); }
+    bool HasComparamSpecRef() const override { return m_comparamSpecRef != nullptr; }
+    NODX201::VComparamSpecLink& GetComparamSpecRef() override { return *m_comparamSpecRef; }
+
+private:
+    std::unique_ptr<VComparamSpecRef> m_comparamSpecRef;
+};
+
+class VFunctionalGroupLayer : public VWithVariables<VChildLayer<NODX201::VFunctionalGroup>> {
+public:
+    using VWithVariables::VWithVariables;
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitFunctionalGroup(*this); }
+};
+
+class VBaseVariantLayer : public VWithVariables<VChildLayer<NODX201::VBaseVariant>> {
+public:
+    using VWithVariables::VWithVariables;
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitBaseVariant(*this); }
+    bool HasDynDefinedSpec() const override { return false; }
+    NODX201::VDynDefinedSpec& GetDynDefinedSpec() override { return Absent<NODX201::VDynDefinedSpec>(); }
+};
+
+class VEcuVariantLayer : public VWithVariables<VChildLayer<NODX201::VEcuVariant>> {
+public:
+    using VWithVariables::VWithVariables;
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitEcuVariant(*this); }
+    bool HasDynDefinedSpec() const override { return false; }
+    NODX201::VDynDefinedSpec& GetDynDefinedSpec() override { return Absent<NODX201::VDynDefinedSpec>(); }
+    NODX201::VEcuVariantPatternCollection& EcuVariantPatternCollection() override {
+        return Empty<NODX201::VEcuVariantPatternCollection>();
+    }
+};
+
+class VEcuSharedDataLayer : public VWithVariables<VLayer<NODX201::VEcuSharedData>> {
+public:
+    using VWithVariables::VWithVariables;
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitEcuSharedData(*this); }
+};
+
+} // namespace NOwnModel

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <diagkit/conformance/Conformance.h>
+#include <diagkit/reader/OdxReader.h>
+
+namespace NTest {
+
+/// All that the reader made of some files, with the documents that the contract does not reach from the root.
+NConformance::VModel ModelOf(NReader::VReadResult const& read);
+
+/// One finding a line.
+std::string Lines(std::vector<NConformance::VFinding> const& findings);
+std::string Lines(std::vector<std::wstring> const& lines);
+
+} // namespace NTest
