@@ -9,6 +9,7 @@
 
 namespace NCheck {
 
+/// What a cycle runs through.
 enum class VCycleKind {
     Containment,      ///< DOPs that contain themselves; the reader severs them, so only databases made by hand have any
     TableRows,        ///< DOPs that reach themselves through tables
@@ -17,7 +18,7 @@ enum class VCycleKind {
 
 /// A chain of elements that leads back to its start. Walks and searches that follow references do not end on it.
 struct VCycle {
-    VCycleKind kind;
+    VCycleKind kind; ///< what the chain runs through
     /// The chain, each element followed by one that it refers to or holds: DOPs, TABLEs and TABLE-ROWs, or DIAG-COMMs.
     std::vector<NODX201::VReferencable*> elements;
     NODX201::VLink* reference;  ///< the one that leads from the end of the chain back to its start

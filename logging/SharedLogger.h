@@ -30,9 +30,9 @@ class DIAGKIT_EXPORT VSharedLogger {
 public:
     static VSharedLogger* Instance(); ///< never null
 
-    bool IsEnabled() const;
-    void Enable();
-    void Disable();
+    bool IsEnabled() const; ///< whether it passes messages on
+    void Enable();          ///< messages go to the listener again
+    void Disable();         ///< messages go nowhere until `Enable`
 
     ILogListener* GetLogger() const;        ///< null when no listener is set
     void SetLogger(ILogListener* listener); ///< not owned; null removes it

@@ -15,6 +15,7 @@ template <class Collection>
 class VMemCollection final : public Collection, public VMemHome {
 public:
     using List = typename Collection::List;
+    /// What the list has pointers to.
     using Entry = std::remove_pointer_t<typename List::value_type>;
 
     VMemCollection() = default;
@@ -38,8 +39,9 @@ public:
         return *element.release();
     }
 
-    typename List::iterator EndPosition() { return this->m_elements.end(); }
+    typename List::iterator EndPosition() { return this->m_elements.end(); } ///< where `Insert` adds at the end
 
+    /// Takes the element in at the end.
     template <class Element>
     Element& Append(std::unique_ptr<Element> element) {
         return Insert(this->m_elements.end(), std::move(element));
@@ -98,8 +100,9 @@ private:
 template <class Collection>
 class VMemMany {
 public:
-    bool IsPresent() const { return m_collection != nullptr; }
+    bool IsPresent() const { return m_collection != nullptr; } ///< whether it was ever added to, or made
 
+    /// For reading: empty when it is absent.
     Collection& Get() const {
         static VMemCollection<Collection> empty;
         return m_collection != nullptr ? *m_collection : empty;

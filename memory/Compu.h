@@ -435,10 +435,11 @@ private:
 /// A DIAG-CODED-TYPE of whichever kind as the child of an element: making one takes the place of the one before.
 class VCodedTypeSlot {
 public:
-    bool IsPresent() const { return m_type != nullptr; }
-    NODX201::VDiagCodedType& Get() const { return *m_type; }
-    void Remove() { m_type.reset(); }
+    bool IsPresent() const { return m_type != nullptr; }     ///< whether one was made
+    NODX201::VDiagCodedType& Get() const { return *m_type; } ///< REQUIRES: `IsPresent`
+    void Remove() { m_type.reset(); }                        ///< destroys it; no effect when there is none
 
+    /// A new one of the type; the one before is destroyed.
     template <class Type>
     Type& Make(VPlace const& place) {
         auto type = New<Type>(place);

@@ -22,7 +22,9 @@ class VMemMultipleEcuJobSpec;
 class VMemOdx;
 class VPlaceIndex;
 
+/// The FLASH documents of a database.
 class VFlashCollection : public NODX201::VElementCollection<VMemFlash> {};
+/// The MULTIPLE-ECU-JOB-SPEC documents of a database.
 class VMultipleEcuJobSpecCollection : public NODX201::VElementCollection<VMemMultipleEcuJobSpec> {};
 
 /// An ODX database in memory: owns the root and, through it, every element. This is how programs build a database by
@@ -49,6 +51,7 @@ class VMultipleEcuJobSpecCollection : public NODX201::VElementCollection<VMemMul
 /// Not thread-safe, reading included, because links remember their answers.
 class VDatabase {
 public:
+    /// Makes a resolver that knows nothing yet.
     using VResolverFactory = std::function<std::unique_ptr<NODX201::VAbstractSnrefResolver>()>;
 
     VDatabase();
@@ -59,11 +62,11 @@ public:
     NODX201::VOdx& GetOdx();
     VMemOdx& GetMemOdx() { return *m_odx; } ///< the same
 
-    VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName); ///< DIAG-LAYER-CONTAINER
-    VMemComparamSpec& AddComparamSpec(wchar_t const* shortName);             ///< COMPARAM-SPEC
-    VMemFlash& AddFlash(wchar_t const* shortName);                           ///< FLASH
-    VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName); ///< MULTIPLE-ECU-JOB-SPEC
-    void AddProcessingInstruction(wchar_t const* name, wchar_t const* content);
+    VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName);    ///< DIAG-LAYER-CONTAINER
+    VMemComparamSpec& AddComparamSpec(wchar_t const* shortName);                ///< COMPARAM-SPEC
+    VMemFlash& AddFlash(wchar_t const* shortName);                              ///< FLASH
+    VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName);    ///< MULTIPLE-ECU-JOB-SPEC
+    void AddProcessingInstruction(wchar_t const* name, wchar_t const* content); ///< of the root, at the end
 
     VFlashCollection& FlashCollection();                           ///< in load order
     VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection(); ///< in load order
@@ -88,11 +91,11 @@ public:
 
     // For the elements and links of the database.
 
-    void Index(wchar_t const* id, NODX201::VReferencable& element);
-    void Unindex(wchar_t const* id, NODX201::VReferencable const& element);
-    VIdIndex const& GetIdIndex() const { return m_ids; }
-    VPlaceIndex& GetPlaceIndex() { return *m_places; }
-    std::wstring MakeId();                                       ///< an ID that no element has
+    void Index(wchar_t const* id, NODX201::VReferencable& element);         ///< from now on references find it
+    void Unindex(wchar_t const* id, NODX201::VReferencable const& element); ///< no effect when not indexed
+    VIdIndex const& GetIdIndex() const { return m_ids; }                    ///< of all adopted elements
+    VPlaceIndex& GetPlaceIndex() { return *m_places; }                      ///< of elements that share an ID
+    std::wstring MakeId();                                                  ///< an ID that no element has
     void NoteChange() { ++m_generation; }                        ///< what links remember may not hold any more
     void NoteRemoval();                                          ///< nor what the resolver remembers
     std::uint64_t GetGeneration() const { return m_generation; } ///< grows with every change

@@ -13,7 +13,7 @@ namespace NMemory {
 class VMemDiagCommLink final : public VMemLink<NODX201::VDiagCommLink, Tag::DiagCommRef, NODX201::VDiagComm> {
 public:
     using VMemLink::VMemLink;
-    bool ResolvesById() const { return FindById(&IsDiagCommOfLayer); }
+    bool ResolvesById() const { return FindById(&IsDiagCommOfLayer); } ///< false for a short name
     bool HasDiagComm(NODX201::VDiagLayer& layer) override;
     NODX201::VDiagComm& GetDiagComm() override { return Found(); }
 };
@@ -23,7 +23,7 @@ class VMemRelatedDiagCommRef final
     : public VMemLink<NODX201::VRelatedDiagCommRef, Tag::RelatedDiagCommRef, NODX201::VDiagComm> {
 public:
     using VMemLink::VMemLink;
-    bool ResolvesById() const { return FindById(&IsDiagCommOfLayer); }
+    bool ResolvesById() const { return FindById(&IsDiagCommOfLayer); } ///< false for a short name
     bool HasDiagComm() const override { return FindById(&IsDiagCommOfLayer); }
     NODX201::VDiagComm& GetDiagComm() override { return Found(); }
 

@@ -16,7 +16,7 @@ namespace NMemory {
 template <class Contract, NODX201::VOdxTagEnum Tag>
 class VMemElement : public Contract, public VMemNode {
 public:
-    explicit VMemElement(VPlace const& place) : VMemNode(place, Tag) {}
+    explicit VMemElement(VPlace const& place) : VMemNode(place, Tag) {} ///< empty
     ~VMemElement() override { CountOut(Tag); }
 
     NODX201::VOdxTagEnum GetOdxTag() const override { return Tag; }
@@ -31,10 +31,11 @@ public:
 template <class Contract>
 class VMemTagged : public Contract, public VMemNode {
 public:
-    VMemTagged(VPlace const& place, NODX201::VOdxTagEnum tag) : VMemNode(place, tag), m_tag(tag) {}
+    VMemTagged(VPlace const& place, NODX201::VOdxTagEnum tag) : VMemNode(place, tag), m_tag(tag) {} ///< empty
     ~VMemTagged() override { this->CountOut(m_tag); }
 
     NODX201::VOdxTagEnum GetOdxTag() const override { return m_tag; }
+    /// The element is of another kind from now on, for the counts as well.
     void SetOdxTag(NODX201::VOdxTagEnum tag) {
         this->ChangeTag(m_tag, tag);
         m_tag = tag;
@@ -53,6 +54,7 @@ private:
 /// LONG-NAME
 class VMemText final : public NODX201::VText {
 public:
+    /// Keeps the pointers, not copies.
     VMemText(NODX201::VOdxObject& owner, wchar_t const* text, wchar_t const* textId)
         : m_owner(&owner), m_text(text), m_textId(textId) {}
 
@@ -86,6 +88,7 @@ public:
 
     bool HasLongName() const { return m_longName != nullptr; }
     NODX201::VText& GetLongName() { return *m_longName; }
+    /// LONG-NAME and its @TI become copies of the texts.
     void SetLongName(wchar_t const* text, wchar_t const* textId = L"") {
         m_longName = std::make_unique<VMemText>(*this, this->Store(text), this->Store(textId));
     }

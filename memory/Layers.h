@@ -76,10 +76,13 @@ private:
     VMemMany<VImportRefCollection> m_importRef;
 };
 
+/// PARENT-REFS
 using VMemParentRefCollection = VMemCollection<NODX201::VParentRefCollection>;
 
+/// A new PARENT-REF of the kind before the position.
 IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRefCollection::List::iterator before,
                                VPlace const& place, VParentRefKind kind, VReference const& reference);
+/// See `VWithParents::ChangeParentRefKind`.
 IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace const& place, IMemParentRef& parentRef,
                                    VParentRefKind kind);
 
@@ -97,6 +100,7 @@ public:
     IMemParentRef& AddParentRef(Parent& parent) {
         return AddParentRef(ParentRefKindOf(parent), parent);
     }
+    /// Of this kind, to a layer that need not be there yet.
     IMemParentRef& AddParentRef(VParentRefKind kind, VReference const& reference) {
         auto& parentRefs = m_parentRef.Make();
         return InsertParentRef(parentRefs, parentRefs.EndPosition(), this->Inside(), kind, reference);
@@ -249,7 +253,7 @@ public:
 /// The layers of a container; it is their owner.
 class VMemDiagLayerCollection final : public NODX201::VDiagLayerCollection, public VMemHome {
 public:
-    explicit VMemDiagLayerCollection(NODX201::VOdxObject& container) : m_container(&container) {}
+    explicit VMemDiagLayerCollection(NODX201::VOdxObject& container) : m_container(&container) {} ///< empty
     ~VMemDiagLayerCollection() override;
 
     NODX201::VOdxObject* GetOwner() const override { return m_container; }

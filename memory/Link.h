@@ -18,22 +18,24 @@ namespace NMemory {
 ///     value.SetDopBaseLink(VReference::ByShortName(L"Voltage"));          // a short name
 class VReference {
 public:
+    /// The element of this ID, whether it is there yet or not; in the document or layer that the other texts name.
     static VReference ById(wchar_t const* id, wchar_t const* docref = L"", wchar_t const* doctype = L"",
                            wchar_t const* revision = L"") {
         return VReference(id, docref, doctype, revision, nullptr);
     }
+    /// Whatever bears this short name where the link is asked.
     static VReference ByShortName(wchar_t const* shortName) { return VReference(L"", L"", L"", L"", shortName); }
 
     /// An element of the memory model with an ID; one without is given an ID.
     template <class Target, class = decltype(std::declval<Target&>().EnsureId())>
     VReference(Target& target) : VReference(target.EnsureId(), L"", L"", L"", nullptr) {}
 
-    bool IsByShortName() const { return m_shortName != nullptr; }
+    bool IsByShortName() const { return m_shortName != nullptr; } ///< otherwise it is one by ID
 
-    wchar_t const* m_id;
-    wchar_t const* m_docref;
-    wchar_t const* m_doctype;
-    wchar_t const* m_revision;
+    wchar_t const* m_id;        ///< @ID-REF
+    wchar_t const* m_docref;    ///< @DOCREF, "" when absent
+    wchar_t const* m_doctype;   ///< @DOCTYPE, "" when absent
+    wchar_t const* m_revision;  ///< @REVISION, "" when absent
     wchar_t const* m_shortName; ///< null for a reference by ID
 
 private:
@@ -45,10 +47,11 @@ private:
 /// What a link names, to make another like it.
 VReference ReferenceOf(NODX201::ILink const& link);
 
+/// A reference by ID in the memory model.
 class VMemOdxLink final : public NODX201::VOdxLink {
 public:
     VMemOdxLink() = default;
-    VMemOdxLink(VPart& part, VReference const& reference);
+    VMemOdxLink(VPart& part, VReference const& reference); ///< copies the texts into the part's pool
 
     wchar_t const* GetIdRef() const override { return m_id; }
     wchar_t const* GetDocref() const override { return m_docref; }
@@ -62,9 +65,10 @@ private:
     wchar_t const* m_revision = L"";
 };
 
+/// A reference by short name in the memory model.
 class VMemSnref final : public NODX201::VSnref {
 public:
-    VMemSnref(VPart& part, VReference const& reference);
+    VMemSnref(VPart& part, VReference const& reference); ///< copies the text into the part's pool
 
     wchar_t const* GetShortName() const override { return m_shortName; }
 
@@ -75,6 +79,7 @@ private:
 /// Whether an element is of the class that a reference expects; a hit of another class is none.
 using VExpect = bool (*)(NODX201::VReferencable& element);
 
+/// Whether the element is a `Target`.
 template <class Target>
 bool IsOfClass(NODX201::VReferencable& element) {
     return dynamic_cast<Target*>(&element) != nullptr;
@@ -93,6 +98,7 @@ NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& 
 template <class Contract, NODX201::VOdxTagEnum Tag, class Target>
 class VMemLink : public VMemTagged<Contract> {
 public:
+    /// A link that names this target; it is looked for when the link is asked.
     VMemLink(VPlace const& place, VReference const& reference) : VMemTagged<Contract>(place, Tag) {
         SetReference(reference);
     }
@@ -149,7 +155,7 @@ protected:
         return target != nullptr;
     }
 
-    Target& Found() const { return *m_target; }
+    Target& Found() const { return *m_target; } ///< REQUIRES: the search before was true
 
 private:
     std::variant<VMemOdxLink, VMemSnref> m_form;

@@ -8,21 +8,21 @@
 
 namespace NMemory {
 
-using Tag = NODX201::VOdxTagEnum;
+using Tag = NODX201::VOdxTagEnum; ///< for the lists of template arguments
 
 class VMemNode;
 
 /// Where an element stands in a file. Line and column count from 1; 0 means not known, as for elements made by hand.
 struct VPosition {
     std::uint32_t document = 0; ///< see `VDatabase::GetDocumentName`
-    std::uint32_t line = 0;
-    std::uint32_t column = 0;
+    std::uint32_t line = 0;     ///< from 1
+    std::uint32_t column = 0;   ///< from 1, in characters
 };
 
 /// What a new element is born into.
 struct VPlace {
-    NODX201::VOdxObject* owner;
-    VPart* part;
+    NODX201::VOdxObject* owner; ///< what it will stand in
+    VPart* part;                ///< whose pool holds its texts
 };
 
 /// A collection, from the side of an element that leaves it.
@@ -43,18 +43,18 @@ public:
     VMemNode& operator=(VMemNode const&) = delete;
 
     VDatabase& GetDatabase() const { return m_part->GetDatabase(); }
-    VPosition const& GetPosition() const { return m_position; }
-    void SetPosition(VPosition const& position) { m_position = position; }
+    VPosition const& GetPosition() const { return m_position; }            ///< where it was read; see `VPosition`
+    void SetPosition(VPosition const& position) { m_position = position; } ///< for readers
 
 protected:
-    VMemNode(VPlace const& place, NODX201::VOdxTagEnum tag);
+    VMemNode(VPlace const& place, NODX201::VOdxTagEnum tag); ///< counted in, in no collection yet
     ~VMemNode();
 
-    NODX201::VOdxObject* Owner() const { return m_owner; }
-    VPart& Part() const { return *m_part; }
-    wchar_t const* Store(wchar_t const* text) const; ///< in the part's text pool
+    NODX201::VOdxObject* Owner() const { return m_owner; } ///< null for the root
+    VPart& Part() const { return *m_part; }                ///< that its children belong to as well
+    wchar_t const* Store(wchar_t const* text) const;       ///< in the part's text pool
 
-    void NoteMove();
+    void NoteMove();                                                    ///< the element has another owner now
     void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< in the database's counts
     void CountOut(NODX201::VOdxTagEnum tag);                            ///< the element of this tag is being destroyed
 

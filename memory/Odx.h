@@ -45,6 +45,7 @@ public:
     void Adopt(std::unique_ptr<VMemFlash> made) { m_flash.Make().Append(std::move(made)); }
     void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { m_multipleEcuJobSpec.Make().Append(std::move(made)); }
 
+    /// At the end of those of the root.
     void AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
         m_instructions.Add(Store(name), Store(content));
     }

@@ -32,6 +32,7 @@ public:
     NODX201::VProcessingInstructionCollection& ProcessingInstructionCollection() override {
         return m_instructions.Get();
     }
+    /// At the end of those of the element.
     void AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
         m_instructions.Add(this->Store(name), this->Store(content));
     }

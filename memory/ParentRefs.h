@@ -45,10 +45,10 @@ private:
 enum class VParentRefKind { Unknown, Protocol, FunctionalGroup, BaseVariant, EcuSharedData };
 
 // clang-format off
-inline VParentRefKind ParentRefKindOf(NODX201::VProtocol const&)        { return VParentRefKind::Protocol; }
-inline VParentRefKind ParentRefKindOf(NODX201::VFunctionalGroup const&) { return VParentRefKind::FunctionalGroup; }
-inline VParentRefKind ParentRefKindOf(NODX201::VBaseVariant const&)     { return VParentRefKind::BaseVariant; }
-inline VParentRefKind ParentRefKindOf(NODX201::VEcuSharedData const&)   { return VParentRefKind::EcuSharedData; }
+inline VParentRefKind ParentRefKindOf(NODX201::VProtocol const&)        { return VParentRefKind::Protocol; }        ///< PROTOCOL-REF
+inline VParentRefKind ParentRefKindOf(NODX201::VFunctionalGroup const&) { return VParentRefKind::FunctionalGroup; } ///< FUNCTIONAL-GROUP-REF
+inline VParentRefKind ParentRefKindOf(NODX201::VBaseVariant const&)     { return VParentRefKind::BaseVariant; }     ///< BASE-VARIANT-REF
+inline VParentRefKind ParentRefKindOf(NODX201::VEcuSharedData const&)   { return VParentRefKind::EcuSharedData; }   ///< ECU-SHARED-DATA-REF
 // clang-format on
 
 /// The kind of reference that names a layer; `Unknown` for an ECU-VARIANT, which nothing inherits from.
@@ -57,17 +57,19 @@ VParentRefKind ParentRefKindOf(NODX201::VDiagLayer& layer);
 /// What a program does with a PARENT-REF without knowing its kind.
 class IMemParentRef {
 public:
-    virtual void MakeNotInheritedDiagCommCollection() = 0;
-    virtual void MakeNotInheritedVariableCollection() = 0;
+    virtual void MakeNotInheritedDiagCommCollection() = 0; ///< present from now on, with contents or without
+    virtual void MakeNotInheritedVariableCollection() = 0; ///< present from now on, with contents or without
     virtual VMemNotInheritedDiagComm& AddNotInheritedDiagComm(VReference const& reference) = 0;
     virtual VMemNotInheritedVariable& AddNotInheritedVariable(VReference const& reference) = 0;
-    virtual NODX201::VParentRef& ParentRef() = 0;
-    virtual VMemNode& Node() = 0;
+    virtual NODX201::VParentRef& ParentRef() = 0; ///< the same element as the contract has it
+    virtual VMemNode& Node() = 0;                 ///< the same element, for its position and database
 
+    /// Adds a NOT-INHERITED-DIAG-COMM; returns this reference, for more of them.
     IMemParentRef& ExcludeDiagComm(wchar_t const* shortName) {
         AddNotInheritedDiagComm(VReference::ByShortName(shortName));
         return *this;
     }
+    /// Adds a NOT-INHERITED-VARIABLE; returns this reference, for more of them.
     IMemParentRef& ExcludeVariable(wchar_t const* shortName) {
         AddNotInheritedVariable(VReference::ByShortName(shortName));
         return *this;

@@ -21,7 +21,7 @@ class VDatabase;
 /// thread, and what becomes of them depends on the order of adoption alone.
 class VPart {
 public:
-    explicit VPart(VDatabase& database) : m_database(database) {}
+    explicit VPart(VDatabase& database) : m_database(database) {} ///< detached, for `VDatabase::Adopt`
     VPart(VPart const&) = delete;
     VPart& operator=(VPart const&) = delete;
 
@@ -34,13 +34,13 @@ public:
 
     // For the elements of the part.
 
-    wchar_t const* Store(std::wstring_view text) { return m_texts.Store(text); }
-    void Index(wchar_t const* id, NODX201::VReferencable& element);
-    void Unindex(wchar_t const* id, NODX201::VReferencable const& element);
-    void NoteChange();
-    void CountIn(NODX201::VOdxTagEnum tag);
-    void CountOut(NODX201::VOdxTagEnum tag);
-    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to);
+    wchar_t const* Store(std::wstring_view text) { return m_texts.Store(text); } ///< the copy in the pool
+    void Index(wchar_t const* id, NODX201::VReferencable& element);              ///< at once, or when adopted
+    void Unindex(wchar_t const* id, NODX201::VReferencable const& element);      ///< no effect when not indexed
+    void NoteChange();                                                  ///< to the database; no effect while detached
+    void CountIn(NODX201::VOdxTagEnum tag);                             ///< there is one more of the kind
+    void CountOut(NODX201::VOdxTagEnum tag);                            ///< there is one less of the kind
+    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< one is of another kind now
 
 private:
     friend class VDatabase;

@@ -46,11 +46,13 @@ Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place, Finish finis
     return *slot;
 }
 
+/// The same, and one that is made gets a short name.
 template <class Child>
 Child& MakeNamedChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* shortName) {
     return MakeChild(slot, place, [shortName](Child& child) { child.SetShortName(shortName); });
 }
 
+/// The same, and one that is made gets a text.
 template <class Child>
 Child& MakeTextChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* text) {
     return MakeChild(slot, place, [text](Child& child) { child.SetText(text); });
@@ -78,11 +80,13 @@ Alternative& SetChoice(std::unique_ptr<Slot>& slot, Choice*& choice, VPlace cons
     return alternative;
 }
 
+/// A new element at the end of a repeated child.
 template <class Item, class Collection>
 Item& AddPlain(VMemMany<Collection>& many, VPlace const& place) {
     return many.Make().Append(New<Item>(place));
 }
 
+/// The same with a short name.
 template <class Item, class Collection>
 Item& AddNamed(VMemMany<Collection>& many, VPlace const& place, wchar_t const* shortName) {
     auto item = New<Item>(place);
@@ -90,6 +94,7 @@ Item& AddNamed(VMemMany<Collection>& many, VPlace const& place, wchar_t const* s
     return many.Make().Append(std::move(item));
 }
 
+/// The same with a text.
 template <class Item, class Collection>
 Item& AddText(VMemMany<Collection>& many, VPlace const& place, wchar_t const* text) {
     auto item = New<Item>(place);
@@ -97,6 +102,7 @@ Item& AddText(VMemMany<Collection>& many, VPlace const& place, wchar_t const* te
     return many.Make().Append(std::move(item));
 }
 
+/// The same for a link with its reference.
 template <class Item, class Collection>
 Item& AddLink(VMemMany<Collection>& many, VPlace const& place, VReference const& reference) {
     return many.Make().Append(New<Item>(place, reference));
@@ -108,10 +114,10 @@ void RequireById(VReference const& reference);
 /// Texts such as ROLES as a member.
 class VMemStrings {
 public:
-    bool IsPresent() const { return m_collection != nullptr; }
-    NODX201::VStringCollection& Get() const;
-    void Make();
-    void Add(wchar_t const* text);
+    bool IsPresent() const { return m_collection != nullptr; } ///< whether it was ever added to, or made
+    NODX201::VStringCollection& Get() const;                   ///< in document order; empty when absent
+    void Make();                                               ///< from now on it is present
+    void Add(wchar_t const* text);                             ///< a copy, at the end
 
 private:
     class VMemStringCollection : public NODX201::VStringCollection {

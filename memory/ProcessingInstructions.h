@@ -8,8 +8,10 @@
 
 namespace NMemory {
 
+/// A processing instruction; its texts are those of a pool.
 class VMemProcessingInstruction final : public NODX201::VProcessingInstruction {
 public:
+    /// Keeps the pointers, not copies.
     VMemProcessingInstruction(wchar_t const* name, wchar_t const* content) : m_name(name), m_content(content) {}
 
     wchar_t const* GetName() const override { return m_name; }
@@ -23,8 +25,8 @@ private:
 /// The processing instructions of an element as a member; the texts are stored by the caller.
 class VMemProcessingInstructions {
 public:
-    NODX201::VProcessingInstructionCollection& Get() const;
-    void Add(wchar_t const* name, wchar_t const* content);
+    NODX201::VProcessingInstructionCollection& Get() const; ///< in document order; empty when there are none
+    void Add(wchar_t const* name, wchar_t const* content);  ///< at the end
 
 private:
     class VOwning : public NODX201::VProcessingInstructionCollection {

@@ -9,23 +9,25 @@
 
 namespace NMemory {
 
-std::uint32_t HashOf(std::wstring_view text);
+std::uint32_t HashOf(std::wstring_view text); ///< the same on every call in a process
 
 /// A hash table by texts that stay where they are, such as those of a pool: all entries in one array, so that a look-up
 /// costs one far access to memory. Entries move when another one is added; none leaves.
 template <class Value>
 class VTextTable {
 public:
+    /// A text and what belongs to it.
     struct VEntry : Value {
         wchar_t const* text = nullptr; ///< not zero-terminated; null in a place that is free
-        std::uint32_t size = 0;
-        std::uint32_t hash = 0;
+        std::uint32_t size = 0;        ///< of the text, in characters
+        std::uint32_t hash = 0;        ///< what `HashOf` gives for the text
     };
 
     /// Null when there is none.
     VEntry const* Find(std::wstring_view text) const {
         return m_entries.empty() ? nullptr : Occupied(m_entries[Place(text, HashOf(text))]);
     }
+    /// Null when there is none.
     VEntry* Find(std::wstring_view text) {
         return m_entries.empty() ? nullptr : Occupied(m_entries[Place(text, HashOf(text))]);
     }
@@ -63,7 +65,8 @@ public:
         }
     }
 
-    std::size_t Count() const { return m_count; }
+    std::size_t Count() const { return m_count; } ///< of entries
+    /// Forgets all entries and gives their memory back.
     void Clear() {
         m_entries = {};
         m_count = 0;

@@ -183,6 +183,7 @@ public:
 class DIAGKIT_EXPORT VOutParamIfLink : public VLink {
 public:
     ~VOutParamIfLink() override;
+    /// Looks for the parameter in the DIAG-COMM as `VAbstractSnrefResolver` does; the layer is what DOPs resolve in.
     virtual bool HasOutParamIf(VDiagComm& diagComm, VDiagLayer& layer, VSearchRange range) = 0;
     virtual IOutParamIf& GetOutParamIf() = 0;
 };

@@ -12,7 +12,7 @@ template <class Iter, class Ref>
 class VExternalIterator {
 public:
     VExternalIterator() = default;
-    explicit VExternalIterator(Iter const& position) : m_position(position) {}
+    explicit VExternalIterator(Iter const& position) : m_position(position) {} ///< at this position
     VExternalIterator(VExternalIterator const&) = default;
     VExternalIterator& operator=(VExternalIterator const&) = default;
     virtual ~VExternalIterator() = default;

@@ -6,16 +6,17 @@
 
 namespace NReader {
 
+/// An error breaks the rules of ODX or leaves something out; a warning looks odd.
 enum class VSeverity { Warning, Error };
 
 /// One finding about a user's data. All texts are UTF-8.
 struct VDiagnostic {
-    std::string file;         ///< as named by the user; inside a package PACKAGE!MEMBER
-    std::uint32_t line = 0;   ///< counts from 1; 0 when the finding has no position
-    std::uint32_t column = 0; ///< counts from 1, in characters; 0 when the finding has no position
-    VSeverity severity = VSeverity::Error;
-    std::string code;    ///< stable, such as "unresolved-reference"
-    std::string message; ///< lower-case start, no full stop
+    std::string file;                      ///< as named by the user; inside a package PACKAGE!MEMBER
+    std::uint32_t line = 0;                ///< counts from 1; 0 when the finding has no position
+    std::uint32_t column = 0;              ///< counts from 1, in characters; 0 when the finding has no position
+    VSeverity severity = VSeverity::Error; ///< whether the data is wrong or looks odd
+    std::string code;                      ///< stable, such as "unresolved-reference"
+    std::string message;                   ///< lower-case start, no full stop
 };
 
 char const* SeverityText(VSeverity severity); ///< "error" or "warning"

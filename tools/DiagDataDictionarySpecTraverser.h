@@ -276,15 +276,15 @@ protected:
     virtual void PostProcessRelatedDoc(NODX201::VRelatedDoc&) {}
     virtual void PostProcessXdoc(NODX201::VXdoc&) {}
 
-    virtual void DefaultVisit(NODX201::VOdxElement&) {}
+    virtual void DefaultVisit(NODX201::VOdxElement&) {} ///< hook: called for every element
     // clang-format on
 
 public:
     /// The admin data, the DOPs in collection order, the dictionary's own ENV-DATAs (references among them are not
     /// followed), the unit spec, the tables.
     virtual void TraverseDiagDataDictionarySpec(NODX201::VDiagDataDictionarySpec& spec);
-    virtual void TraverseParam(NODX201::VParam& param);
-    virtual void TraverseParamCollection(NODX201::VParamCollection& params);
+    virtual void TraverseParam(NODX201::VParam& param);                      ///< visits it, by its kind
+    virtual void TraverseParamCollection(NODX201::VParamCollection& params); ///< each, in document order
 
 protected:
     void VisitEnvData(NODX201::VEnvData& x) override;

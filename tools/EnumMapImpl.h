@@ -13,20 +13,20 @@ namespace NDIAGKIT {
 template <class T>
 class EnumMapImpl {
 public:
-    explicit EnumMapImpl(wchar_t const* name);
+    explicit EnumMapImpl(wchar_t const* name); ///< empty; the name, copied, is for its users
 
     /// Adds a pair; a literal that is there already keeps its value. Texts are copied.
     void Add(wchar_t const* literal, T value);
 
-    T Get(wchar_t const* literal) const;
+    T Get(wchar_t const* literal) const; ///< the default when unknown
 
     /// The first literal, in the order of the literals, that has the value; it stays valid as long as the table.
     wchar_t const* GetStr(T value) const;
 
-    std::map<std::wstring, T> m_map;
-    std::wstring m_name;
-    T m_default = T();
-    bool m_isDefaultSet = false;
+    std::map<std::wstring, T> m_map; ///< values by literal
+    std::wstring m_name;             ///< of the enumeration
+    T m_default = T();               ///< of the first pair added
+    bool m_isDefaultSet = false;     ///< whether a pair was added
 };
 
 template <class T>

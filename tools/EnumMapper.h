@@ -138,7 +138,7 @@ private:
 /// The tables, one object a process, made at the first call of `Instance()`; that first call must not race.
 class DIAGKIT_EXPORT VEnumMapper : public VEnumTables {
 public:
-    static VEnumMapper& Instance();
+    static VEnumMapper& Instance(); ///< the one of the process
     ~VEnumMapper() override;
     VEnumMapper(VEnumMapper const& other);
     VEnumMapper& operator=(VEnumMapper const& other);
@@ -150,7 +150,7 @@ private:
 /// The same tables under another name; which of the two a client uses makes no difference to any answer.
 class DIAGKIT_EXPORT VEnumStringMapper : public VEnumTables {
 public:
-    static VEnumStringMapper& Instance();
+    static VEnumStringMapper& Instance(); ///< the one of the process
     ~VEnumStringMapper() override;
     VEnumStringMapper(VEnumStringMapper const& other);
     VEnumStringMapper& operator=(VEnumStringMapper const& other);

@@ -11,8 +11,8 @@ namespace NDIAGKIT {
 template <class Iter, class Ref>
 class VExternalIterator {
 public:
-    VExternalIterator() = default; ///< a null position
-    explicit VExternalIterator(Iter const& position) : m_position(position) {}
+    VExternalIterator() = default;                                             ///< a null position
+    explicit VExternalIterator(Iter const& position) : m_position(position) {} ///< at this position
     VExternalIterator(VExternalIterator const&) = default;
     VExternalIterator& operator=(VExternalIterator const&) = default;
     virtual ~VExternalIterator() = default;
@@ -38,8 +38,8 @@ private:
 template <class Iter, class Ref>
 class VMapExternalIterator {
 public:
-    VMapExternalIterator() = default; ///< a null position
-    explicit VMapExternalIterator(Iter const& position) : m_position(position) {}
+    VMapExternalIterator() = default;                                             ///< a null position
+    explicit VMapExternalIterator(Iter const& position) : m_position(position) {} ///< at this position
     VMapExternalIterator(VMapExternalIterator const&) = default;
     VMapExternalIterator& operator=(VMapExternalIterator const&) = default;
     virtual ~VMapExternalIterator() = default;

@@ -44,11 +44,11 @@ protected:
     void VisitEcuVariant(NODX201::VEcuVariant& layer) override;
     void VisitEcuSharedData(NODX201::VEcuSharedData& layer) override;
 
-    void BuildViewFor(NODX201::VBaseVariant& layer);
-    void BuildViewFor(NODX201::VProtocol& layer);
-    void BuildViewFor(NODX201::VFunctionalGroup& layer);
-    void BuildViewFor(NODX201::VEcuVariant& layer);
-    void BuildViewFor(NODX201::VEcuSharedData& layer);
+    void BuildViewFor(NODX201::VBaseVariant& layer);     ///< own responses, then both passes
+    void BuildViewFor(NODX201::VProtocol& layer);        ///< own responses, then its pass
+    void BuildViewFor(NODX201::VFunctionalGroup& layer); ///< own responses, then both passes
+    void BuildViewFor(NODX201::VEcuVariant& layer);      ///< own responses, then both passes
+    void BuildViewFor(NODX201::VEcuSharedData& layer);   ///< own responses
 
 private:
     VGlobalNegResponseView();

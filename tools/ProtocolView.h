@@ -43,7 +43,7 @@ protected:
     void VisitEcuVariant(NODX201::VEcuVariant& layer) override;
     void VisitEcuSharedData(NODX201::VEcuSharedData& layer) override;
 
-    void EvaluateAndAddProtocolsFrom(NODX201::VParentRefCollection& parentRefs);
+    void EvaluateAndAddProtocolsFrom(NODX201::VParentRefCollection& parentRefs); ///< those of BASE-VARIANTs
 
 private:
     VProtocolView();

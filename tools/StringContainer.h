@@ -46,7 +46,7 @@ public:
     void Remove(wchar_t const* text);
     /// Removes the entry at the position. Asserts at `End()`, and changes nothing then.
     void Remove(Iterator iter);
-    void Clear();
+    void Clear(); ///< removes all entries
 
     /// Whether both hold the very same copies: two containers that were filled separately differ, even with the same
     /// texts; empty ones are equal.

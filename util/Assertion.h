@@ -13,9 +13,10 @@ namespace NPavonaUtil {
 struct VAssertion {
     wchar_t const* expression; ///< the text of the condition
     wchar_t const* source;     ///< base name of the source, without suffix
-    int line;
+    int line;                  ///< in the source
 };
 
+/// What is called when an assertion fails, in the thread that failed.
 using VAssertionHandler = void (*)(VAssertion const& assertion);
 
 /// Installs a handler and returns the one before; null installs the first one again. Not locked: install it before
@@ -28,6 +29,7 @@ DIAGKIT_EXPORT void ReportAssertion(VAssertion const& assertion);
 /// Installs a handler for a scope, for tests and hosts that want another answer for a while.
 class VScopedAssertionHandler {
 public:
+    /// Installs the handler; the destructor installs the one before again.
     explicit VScopedAssertionHandler(VAssertionHandler handler) : m_before(SetAssertionHandler(handler)) {}
     ~VScopedAssertionHandler() { SetAssertionHandler(m_before); }
     VScopedAssertionHandler(VScopedAssertionHandler const&) = delete;
