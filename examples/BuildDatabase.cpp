@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+
+// Builds a database by hand, looks at it, changes it and looks again:
+//
+//     build_database
+
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include <diagkit/memory/Database.h>
+#include <diagkit/memory/Dops.h>
+#include <diagkit/memory/Layers.h>
+#include <diagkit/memory/Odx.h>
+#include <diagkit/memory/Params.h>
+#include <diagkit/memory/Responses.h>
+#include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/DiagCommView.h>
+#include <diagkit/tools/OpResolveSnref.h>
+
+void PrintDiagComms(NODX201::VEcuVariant& layer) {
+    NDIAGKIT::VDiagCommView view(layer); // of a layer whose kind is known; no builder is needed
+    for (NODX201::VDiagComm& diagComm : view) {
+        std::cout << "  " << NReader::ToUtf8(diagComm.GetShortName()) << '\n';
+    }
+}
+
+int main() {
+    NMemory::VDatabase database;
+    database.SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
+
+    auto& container = database.AddDiagLayerContainer(L"Doors");
+    auto& protocol = container.AddProtocol(L"Uds");
+    auto& reset = protocol.AddDiagService(L"Reset");
+    protocol.AddDiagService(L"ReadIdent");
+
+    auto& door = container.AddBaseVariant(L"Door");
+    door.AddParentRef(protocol).ExcludeDiagComm(L"ReadIdent");
+    door.MakeDiagDataDictionarySpec().AddDataObjectProp(L"Angle");
+    auto& response = door.AddPosResponse(L"AngleResponse");
+    auto& angle = response.AddValue(L"Angle");
+    angle.SetDopBaseLink(NMemory::VReference::ByShortName(L"Angle"));
+    auto& readAngle = door.AddDiagService(L"ReadAngle");
+    readAngle.AddPosResponseRef(response);
+
+    auto& rearDoor = container.AddEcuVariant(L"RearDoor");
+    rearDoor.AddParentRef(door);
+    rearDoor.MakeDiagDataDictionarySpec().AddDataObjectProp(L"Angle").SetId(L"RearDoor.Angle");
+
+    std::cout << "visible in RearDoor:\n";
+    PrintDiagComms(rearDoor);
+    if (angle.GetDopBaseLink().HasDopBase(rearDoor)) {
+        std::cout << "Angle is " << NReader::ToUtf8(angle.GetDopBaseLink().GetDopBase().GetId()) << '\n';
+    }
+
+    delete &reset; // it leaves its layer, and no reference finds it any more
+    std::cout << "visible without Reset:\n";
+    PrintDiagComms(rearDoor);
+    std::cout << database.Count(NODX201::VOdxTagEnum::DiagService) << " DIAG-SERVICEs are left\n";
+}
