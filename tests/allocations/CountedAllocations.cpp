@@ -30,6 +30,14 @@ void* Allocate(std::size_t size) {
     return block;
 }
 
+void* AllocateOrNull(std::size_t size) noexcept {
+    try {
+        return Allocate(size);
+    } catch (std::bad_alloc const&) {
+        return nullptr;
+    }
+}
+
 void Release(void* block) noexcept {
     if (block != nullptr) {
         --s_live;
@@ -51,6 +59,9 @@ VFailingAllocations::~VFailingAllocations() { s_left = kNever; }
 
 void* operator new(std::size_t size) { return NTest::Allocate(size); }
 void* operator new[](std::size_t size) { return NTest::Allocate(size); }
+// The standard's own calls the operator above; a sanitizer's does not, and the block would be released by ours.
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return NTest::AllocateOrNull(size); }
+void* operator new[](std::size_t size, std::nothrow_t const&) noexcept { return NTest::AllocateOrNull(size); }
 void operator delete(void* block) noexcept { NTest::Release(block); }
 void operator delete[](void* block) noexcept { NTest::Release(block); }
 void operator delete(void* block, std::size_t) noexcept { NTest::Release(block); }

@@ -52,7 +52,7 @@ TEST_F(VFaultsTest, MemberThatCannotBeReadToItsEndIsNeverLostInSilence) {
         EXPECT_LT(m_result.documents.size(), 2U) << bytes;
     }
     EXPECT_GT(refused, 10U); // in the directory, or in the first member
-    EXPECT_GT(leftOut, 10U); // in the second member
+    EXPECT_GT(leftOut, 5U);  // in the second member; how often depends on how much is read ahead of it
     EXPECT_EQ(m_result.documents.size(), 2U);
     EXPECT_EQ(Diagnostics(), "");
 }

@@ -1,0 +1,100 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Hold the guide against what it is about: every call it shows and its answer, every piece of C++ and of ODX and the
+example or sample that it is taken from, every link; and that it leaves out no command, view or public operation.
+
+    check_guide.py FOLDER FOLDER_OF_PROGRAMS...
+"""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+
+from guide import FENCE, LINK, blocks, calls, difference, is_extract, is_shown, languages
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tests" / "install"))
+from project import empty, expect, run  # noqa: E402
+
+GUIDE = ROOT / "docs" / "guide"
+LINES = 100  # of text: with its examples a page is two screens
+
+
+def texts(*patterns):
+    found = [path.read_text(encoding="utf-8") for pattern in patterns for path in sorted(ROOT.glob(pattern))]
+    expect(found, f"nothing is {patterns}")
+    return found
+
+
+def make_tree(folder):
+    for name in ("samples", "tests"):
+        (folder / name).symlink_to(ROOT / name)
+
+
+def check_calls(page, text, folder, environment):
+    count = 0
+    for block in blocks(text, "console"):
+        for command, shown in calls(block):
+            done = subprocess.run(["bash", "-c", command], cwd=folder, env=environment, stdin=subprocess.DEVNULL,
+                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8")
+            actual = [line.rstrip() for line in done.stdout.splitlines()]
+            expect(is_shown(shown, actual), f"{page}: '{command}' answers\n{difference(shown, actual)}")
+            count += 1
+    return count
+
+
+def check_extracts(page, text):
+    unknown = languages(text) - {"console", "cpp", "xml"}
+    expect(not unknown, f"{page}: nobody proves the blocks of {unknown}")
+    for language, sources in (("cpp", texts("examples/*.cpp")), ("xml", texts("samples/*.odx-*"))):
+        for block in blocks(text, language):
+            expect(is_extract(block, sources), f"{page}: this stands in no example or sample:\n{block}")
+
+
+def check_links(page, text, path):
+    for target in LINK.findall(text):
+        expect("://" in target or (path.parent / target).exists(), f"{page}: {target} is not there")
+    rooms = "|".join(sorted(room.name for room in ROOT.iterdir() if room.is_dir() and room.name != "build"))
+    for target in re.findall(rf"`((?:{rooms})/[\w./-]+)`", text):
+        expect((ROOT / target).exists(), f"{page}: {target} is not there")
+
+
+def check_is_complete(environment):
+    index = (GUIDE / "README.md").read_text(encoding="utf-8")
+    for path in GUIDE.glob("*.md"):
+        expect(path.name == "README.md" or f"({path.name})" in index, f"the guide's index says nothing of {path.name}")
+
+    recipes = (GUIDE / "command-line.md").read_text(encoding="utf-8")
+    help_text = run("diagkit", "--help", env=environment)
+    commands = re.findall(r"^  (\w+) {2,}", help_text.split("Commands:")[1], re.MULTILINE)
+    expect(len(commands) >= 8, f"the program's commands are {commands}")
+    for command in commands:
+        expect(f"\n## {command}\n" in recipes and f"$ diagkit {command} " in recipes, f"no recipe for {command}")
+
+    views = (GUIDE / "views.md").read_text(encoding="utf-8")
+    for path in sorted([*ROOT.glob("tools/*View.h"), *ROOT.glob("tools/OpBuild*.h")]):
+        name = f"V{path.stem}"
+        expect(f"`{name}`" in views or name == "VListView", f"views.md says nothing of {name}")
+
+
+def main():
+    folder = empty(pathlib.Path(sys.argv[1]))
+    make_tree(folder)
+    path = os.pathsep.join([*sys.argv[2:], os.environ["PATH"]])
+    environment = os.environ | {"PATH": path, "LC_ALL": "C.UTF-8", "HOME": str(folder)}
+    count = 0
+    for page in sorted(GUIDE.glob("*.md")):
+        text = page.read_text(encoding="utf-8")
+        expect(len(FENCE.sub("", text).splitlines()) <= LINES, f"{page.name} has more than {LINES} lines of text")
+        check_extracts(page.name, text)
+        check_links(page.name, text, page)
+        count += check_calls(page.name, text, folder, environment)
+    expect(count >= 20, f"the guide shows {count} calls")
+    check_is_complete(environment)
+    print(f"{count} calls answer as shown")
+
+
+if __name__ == "__main__":
+    main()
