@@ -93,6 +93,7 @@ WORDS = {
     "BasicStructureEnvDataDescChoice": "BASIC-STRUCTURE-REF or ENV-DATA-DESC-REF",
     "CompuConstCompuRationalCoeffsChoice": "COMPU-CONST or COMPU-RATIONAL-COEFFS",
     "CompuScalesProgCodeChoice": "COMPU-SCALES or PROG-CODE",
+    "Database": "database",
     "DiagLayer": "diagnostic layer",
     "DopBase": "DOP",
     "EcuParentPattern": "ECU-VARIANT-PATTERN",

@@ -19,6 +19,7 @@ sys.path.insert(0, str(ROOT / "tests" / "install"))
 from project import empty, expect, run  # noqa: E402
 
 GUIDE = ROOT / "docs" / "guide"
+SOURCES = {"cpp": ["examples/*.cpp"], "xml": ["samples/*.odx-*"]}  # which are built and run, or checked, elsewhere
 LINES = 100  # of text: with its examples a page is two screens
 
 
@@ -48,7 +49,8 @@ def check_calls(page, text, folder, environment):
 def check_extracts(page, text):
     unknown = languages(text) - {"console", "cpp", "xml"}
     expect(not unknown, f"{page}: nobody proves the blocks of {unknown}")
-    for language, sources in (("cpp", texts("examples/*.cpp")), ("xml", texts("samples/*.odx-*"))):
+    for language, patterns in SOURCES.items():
+        sources = texts(*patterns)
         for block in blocks(text, language):
             expect(is_extract(block, sources), f"{page}: this stands in no example or sample:\n{block}")
 
