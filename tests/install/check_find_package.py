@@ -41,7 +41,7 @@ def main():
     run("cmake", "--build", folder)
     run_stranger_programs(folder)
     run_readme_program(folder / "app")
-    run_examples(folder, examples())
+    run_examples(folder, [*examples(), "own_model"])
 
 
 if __name__ == "__main__":
