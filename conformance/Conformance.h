@@ -19,7 +19,7 @@ namespace NConformance {
 
 /// One promise that is checked. Names are stable: `owner-contains-element`.
 struct VCheck {
-    wchar_t const* name;
+    wchar_t const* name;    ///< stable
     wchar_t const* promise; ///< in a sentence
 };
 
@@ -40,9 +40,9 @@ std::wstring ToText(VFinding const& finding);
 /// What is checked. Nothing is owned; all must live while the checks run. The contract has no way from the root to
 /// FLASH and MULTIPLE-ECU-JOB documents, so a model that has them names them.
 struct VModel {
-    NODX201::VOdx& odx;
-    std::vector<NODX201::VFlash*> flashes{};
-    std::vector<NODX201::VMultipleEcuJob*> multipleEcuJobs{};
+    NODX201::VOdx& odx;                                       ///< the root
+    std::vector<NODX201::VFlash*> flashes{};                  ///< FLASH documents; none when empty
+    std::vector<NODX201::VMultipleEcuJob*> multipleEcuJobs{}; ///< of all MULTIPLE-ECU-JOB-SPECs; none when empty
 };
 
 /// Walks everything that the contract reaches and asks everything twice. The findings come in the order of the walk,
