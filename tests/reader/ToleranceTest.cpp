@@ -88,6 +88,39 @@ TEST_F(VToleranceTest, ValuesThatAreNoneAreReportedAndKept) {
     EXPECT_STREQ(As<NMemory::VMemValue>(Param(0)).GetBytePosition(), L"0x1F");
 }
 
+TEST_F(VToleranceTest, NumbersAreThoseOfXml) {
+    auto const isValue = [this](std::string const& text) {
+        Read(Dictionary("<UNIT-SPEC><UNITS><UNIT ID=\"U\"><SHORT-NAME>U</SHORT-NAME><DISPLAY-NAME>V</DISPLAY-NAME>"
+                        "<FACTOR-SI-TO-UNIT>" +
+                        text + "</FACTOR-SI-TO-UNIT></UNIT></UNITS></UNIT-SPEC>"));
+        return Diagnostics().find("not-a-value") == std::string::npos;
+    };
+    for (char const* const text : {"1", "-1.5", "+.5", "1.", "1e3", "1E-3", "INF", "-INF", "NaN"}) {
+        EXPECT_TRUE(isValue(text)) << text;
+    }
+    for (char const* const text : {"inf", "1,5", ".", "1e", "e3", "0x1F", "1.5.1", "one"}) {
+        EXPECT_FALSE(isValue(text)) << text;
+    }
+}
+
+TEST_F(VToleranceTest, DatesHaveATimeAndMayHaveAZone) {
+    auto const isValue = [this](std::string const& text) {
+        Read(Dictionary("<ADMIN-DATA><DOC-REVISIONS><DOC-REVISION><DATE>" + text +
+                        "</DATE></DOC-REVISION></DOC-REVISIONS></ADMIN-DATA>"));
+        return Diagnostics().find("not-a-value") == std::string::npos;
+    };
+    std::string const date = "2005-06-01T12:00:00";
+    for (char const* const rest : {"", "Z", ".5", ".123Z", "+01:00", "-01:30", ".5+01:00"}) {
+        EXPECT_TRUE(isValue(date + rest)) << rest;
+    }
+    for (char const* const rest : {".", "+1", "+0100", "z", " Z"}) {
+        EXPECT_FALSE(isValue(date + rest)) << rest;
+    }
+    for (char const* const text : {"2005-06-01", "2005-06-01T12:00", "2005-06-01 12:00:00", "01.06.2005"}) {
+        EXPECT_FALSE(isValue(text)) << text;
+    }
+}
+
 TEST_F(VToleranceTest, LiteralsThatAreNoneAreReportedAndKeptFor20Only) {
     std::string const type = "<PHYSICAL-TYPE BASE-DATA-TYPE=\"A_UINT32\"\nDISPLAY-RADIX=\"hex\"/>";
     std::string const dop = "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>D</SHORT-NAME>"

@@ -53,6 +53,16 @@ TEST_F(AsymmetriesTest, CurrentDiagCommIsTheOneBeingVisitedAndNoneElsewhere) {
         )"));
 }
 
+TEST_F(AsymmetriesTest, CurrentDiagCommIsNullAfterAJob) {
+    m_layer.AddSingleEcuJob(L"Job");
+    m_layer.AddRequest(L"Request");
+    EXPECT_EQ(VCurrentRecorder(m_layer).Recorded(), Text(LR"(
+        +Job in Job
+        -Job in Job
+        +Request in none
+        )"));
+}
+
 TEST_F(AsymmetriesTest, CurrentDiagCommIsNullAfterANestedDiagComm) {
     NMemory::VMemDiagService& outer = m_layer.AddDiagService(L"Outer");
     outer.AddRelatedDiagCommRef(m_library.AddDiagService(L"Nested"));

@@ -294,6 +294,9 @@ protected:
     void OnTooDeep(wchar_t const* kind, NODX201::VOdxElement& x) override {
         m_text += std::wstring(kind) + L' ' + x.GetShortName() + L" is too deep, ";
     }
+    void OnCycle(wchar_t const* kind, NODX201::VOdxElement& x) override {
+        m_text += std::wstring(kind) + L' ' + x.GetShortName() + L" leads back, ";
+    }
 };
 
 TEST_F(GuardedTest, WhatIsDeeperThanTheLimitIsLeftOutAndTold) {
@@ -310,6 +313,14 @@ TEST_F(GuardedTest, WhatIsDeeperThanTheLimitIsLeftOutAndTold) {
     VShallowWalk deep(m_layer, 4);
     deep.TraverseDiagLayer();
     EXPECT_EQ(deep.m_text, L"First Second Third Last ");
+}
+
+TEST_F(GuardedTest, WhatLeadsBackAtTheLimitIsACycle) {
+    NMemory::VMemDiagService& service = m_layer.AddDiagService(L"Service");
+    service.AddRelatedDiagCommRef(service);
+    VShallowWalk walk(m_layer, 2); // the layer, Service
+    walk.TraverseDiagLayer();
+    EXPECT_EQ(walk.m_text, L"Service DiagComm Service leads back, ");
 }
 
 TEST_F(GuardedTest, NothingHappensAtACycleOrTheLimitUnlessItIsOverridden) {

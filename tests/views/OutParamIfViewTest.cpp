@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OutParamIfView.h>
 
+#include <string>
 #include <type_traits>
 
 #include "views/ParamTest.h"
@@ -51,6 +52,21 @@ TEST_F(OutParamIfViewTest, EverySearchRangeSelectsItsSources) {
     EXPECT_EQ(Params(5), L"Req Pos Neg");
     EXPECT_EQ(Params(6), L"") << "any other value selects nothing";
     EXPECT_EQ(Params(-1), L"");
+}
+
+/// Otherwise the search takes twice as long with each level, and does not end here.
+TEST_F(OutParamIfViewTest, AStructureThatManyShareIsSearchedOnce) {
+    NMemory::VMemStructure* inner = &StructureOf(L"Innermost");
+    for (int level = 0; level < 40; ++level) {
+        NMemory::VMemStructure& outer = m_dictionary.AddStructure((L"Level" + std::to_wstring(level)).c_str());
+        outer.AddValue(L"Left").SetDopBaseLink(*inner);
+        outer.AddValue(L"Right").SetDopBaseLink(*inner);
+        inner = &outer;
+    }
+    Request().AddValue(L"Top").SetDopBaseLink(*inner);
+    VOutParamIfView view(m_service, VSearchRange::Request);
+    EXPECT_EQ(view.FindParam(L"Nowhere", m_layer), nullptr);
+    EXPECT_NE(view.FindParam(L"Innermost", m_layer), nullptr);
 }
 
 TEST_F(OutParamIfViewTest, TheSearchRangeSelectsTheSearchRootsAsWell) {
