@@ -11,55 +11,6 @@
 #include <diagkit/reader/Values.h>
 
 namespace NReader {
-
-int VElementType::FindRow(std::string_view name, int from) const {
-    auto const start = names.begin() + from;
-    if (auto const found = std::find(start, names.end(), name); found != names.end()) {
-        return static_cast<int>(found - names.begin());
-    }
-    auto const found = std::find(names.begin(), start, name);
-    return found != start ? static_cast<int>(found - names.begin()) : -1;
-}
-
-VElementType Indexed(VElementType type) {
-    for (VRow const& row : type.rows) {
-        type.names.emplace_back(row.name);
-    }
-    return type;
-}
-
-VElementType const& LinkType() {
-    static VElementType const type;
-    return type;
-}
-
-void NotePosition(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.Position()); }
-
-void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement& element) {
-    NotePosition(loader, node);
-    if (loader.Reading().keepsElements) {
-        loader.Reading().elements.push_back(&element);
-    }
-}
-
-void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link)) {
-    loader.Reading().links.push_back({&node, &link, resolves});
-}
-
-void NoteUntypedParentRef(VLoader& loader, NMemory::IMemParentRef& parentRef,
-                          NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef,
-                                                                NMemory::VParentRefKind kind)) {
-    loader.Reading().parentRefs.push_back({&parentRef, changeKind});
-}
-
-NMemory::VReference IdReference(VLoader& loader, VAttributes const& attributes) {
-    return loader.ReadIdReference(attributes);
-}
-
-NMemory::VReference ShortNameReference(VLoader& loader, VAttributes const& attributes) {
-    return loader.ReadShortNameReference(attributes);
-}
-
 namespace {
 
 bool IsNumber(std::string_view text) {
@@ -75,12 +26,6 @@ bool IsBlank(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char character) {
         return character == ' ' || character == '\n' || character == '\t' || character == '\r';
     });
-}
-
-std::string Quoted(std::string_view text) {
-    std::string quoted = "'";
-    quoted += text;
-    return quoted += '\'';
 }
 
 } // namespace
@@ -247,25 +192,6 @@ bool VLoader::NoteRow(VFrame& frame, VRow const& row, int index) {
     return !isSecondAlternative && !(isRepeated && row.isFirstKept);
 }
 
-/// Reports a child that is one too many or stands behind one that it belongs before.
-void VLoader::ReportRow(VFrame const& frame, VRow const& row, bool isRepeated, bool isSecondAlternative) {
-    std::string const stands = Quoted(row.name) + " stands in " + Quoted(frame.name);
-    if (isRepeated) {
-        Report(VSeverity::Error, "repeated-child",
-               stands + " more than once" + (row.isFirstKept ? "; the first one counts" : ""));
-        return;
-    }
-    if (isSecondAlternative) {
-        Report(VSeverity::Error, "second-alternative", stands + " beside an alternative; the first one counts");
-        return;
-    }
-    VRow const& last = frame.type->rows[static_cast<std::size_t>(frame.lastRow)];
-    if (m_isVersion20 && !(row.occurs == Many && last.occurs == Many)) {
-        Report(VSeverity::Warning, "misplaced-child",
-               Quoted(row.name) + " belongs before " + Quoted(last.name) + " in " + Quoted(frame.name));
-    }
-}
-
 void VLoader::Open(VAttributes const& attributes, VRow const& row, void* owner) {
     VOpened const opened = row.open(*this, owner, row, attributes);
     if (opened.isDeferred) {
@@ -345,23 +271,6 @@ std::wstring const& VLoader::ReadValue(VContent content, std::string_view text) 
     return m_value;
 }
 
-/// Holds the value just read, of an attribute of the element or of its text, against what it must be.
-void VLoader::CheckValue(VContent content, wchar_t const* const* literals, VFrame const& frame, char const* attribute) {
-    bool const isValue = IsValue(content, m_value);
-    if (isValue && (literals == nullptr || !m_isVersion20 || IsLiteral(literals, m_value))) {
-        return;
-    }
-    std::string const what = attribute != nullptr ? attribute + (" of " + Quoted(frame.name)) : Quoted(frame.name);
-    std::string const is = what + " is " + Quoted(ToUtf8(m_value));
-    if (!isValue) {
-        m_reading.findings.Add(frame.position, VSeverity::Error, "not-a-value",
-                               is + ", which is no " + ValueText(content));
-    } else {
-        m_reading.findings.Add(frame.position, VSeverity::Error, "unknown-literal",
-                               is + ", which is none of " + LiteralsText(literals));
-    }
-}
-
 void VLoader::Text(std::string_view text) {
     if (m_recordedDepth > 0) {
         Record({VEvent::VKind::Text, {}, std::string(text), {}, Position()});
@@ -425,49 +334,6 @@ void VLoader::TakeContent(VFrame const& frame) {
     m_text.clear();
 }
 
-void VLoader::CheckComplete(VFrame const& frame) {
-    std::uint64_t reportedChoices = 0;
-    for (std::size_t index = 0; index < frame.type->rows.size(); ++index) {
-        VRow const& row = frame.type->rows[index];
-        if (row.occurs != Required || ((frame.seen | frame.implied) & (std::uint64_t{1} << index)) != 0) {
-            continue;
-        }
-        // Without xsi:type an element may be of the general kind, which has little but names.
-        if (frame.isInferred && std::strcmp(row.name, "SHORT-NAME") != 0) {
-            continue;
-        }
-        std::uint64_t const choiceBit = row.choice != 0 ? std::uint64_t{1} << row.choice : 0;
-        if (((frame.choices | reportedChoices) & choiceBit) != 0) {
-            continue;
-        }
-        reportedChoices |= choiceBit;
-        m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
-                               Quoted(frame.name) + " has no " + Quoted(row.name) +
-                                   (row.choice != 0 ? " nor an alternative to it" : ""));
-    }
-    CheckKind(frame);
-}
-
-/// Holds what is inside against the xsi:type.
-void VLoader::CheckKind(VFrame const& frame) {
-    if (frame.kind == nullptr || frame.isInferred) {
-        return;
-    }
-    std::string const& xsiType = frame.kind->xsiType;
-    for (VKind const& kind : frame.type->kinds) {
-        int const index = frame.type->FindRow(kind.child);
-        bool const isSeen = (frame.seen & (std::uint64_t{1} << index)) != 0;
-        if (kind.xsiType == xsiType && !isSeen) {
-            m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
-                                   Quoted(frame.name) + " of the type " + xsiType + " has no " + Quoted(kind.child));
-        } else if (kind.xsiType != xsiType && isSeen) {
-            m_reading.findings.Add(frame.position, VSeverity::Error, "contradicting-type",
-                                   Quoted(frame.name) + " is of the type " + xsiType + " and holds " +
-                                       Quoted(kind.child) + ", as one of the type " + kind.xsiType + " does");
-        }
-    }
-}
-
 void VLoader::Instruction(std::string_view name, std::string_view content) {
     if (m_recordedDepth > 0) {
         Record({VEvent::VKind::Instruction, std::string(name), std::string(content), {}, Position()});
@@ -516,90 +382,6 @@ void VLoader::EndMarkup(std::string_view name) {
         m_text += '>';
     }
     --m_markupDepth;
-}
-
-// Elements whose kind shows only from their contents
-
-void VLoader::RecordStart(std::string_view name, VAttributes const& attributes) {
-    VEvent event{VEvent::VKind::Start, std::string(name), {}, {}, Position()};
-    for (char const* const* attribute = attributes.Raw(); *attribute != nullptr; ++attribute) {
-        event.attributes.emplace_back(*attribute);
-    }
-    Record(std::move(event));
-}
-
-void VLoader::Record(VEvent event) {
-    m_recordedSize += sizeof event + event.name.size() + event.text.size();
-    for (std::string const& text : event.attributes) {
-        m_recordedSize += sizeof text + text.size();
-    }
-    m_parser->LimitText(m_recordedSize); // they are held as a text is
-    m_recorded.push_back(std::move(event));
-}
-
-void VLoader::Replay() {
-    std::vector<VEvent> events;
-    events.swap(m_recorded);
-    m_recordedSize = 0;
-    VRow const& row = *m_recordedRow;
-
-    std::vector<std::string> childNames;
-    std::uint32_t depth = 0;
-    for (VEvent const& event : events) {
-        if (event.kind == VEvent::VKind::Start && depth++ == 1) {
-            childNames.emplace_back(LocalName(event.name));
-        } else if (event.kind == VEvent::VKind::End) {
-            --depth;
-        }
-    }
-    auto const pointers = [](std::vector<std::string> const& attributes) {
-        std::vector<char const*> raw;
-        for (std::string const& attribute : attributes) {
-            raw.push_back(attribute.c_str());
-        }
-        raw.push_back(nullptr);
-        return raw;
-    };
-    VEvent& first = events.front();
-    std::string const type = InferType(first.name, VAttributes(pointers(first.attributes).data()), childNames);
-    for (std::size_t index = 0; index + 1 < first.attributes.size();) {
-        if (LocalName(first.attributes[index]) == "type") {
-            first.attributes.erase(first.attributes.begin() + static_cast<std::ptrdiff_t>(index),
-                                   first.attributes.begin() + static_cast<std::ptrdiff_t>(index + 2));
-        } else {
-            index += 2;
-        }
-    }
-    first.attributes.insert(first.attributes.end(), {"xsi:type", type});
-
-    NMemory::VPosition const* const before = m_replayed;
-    for (std::size_t index = 0; index < events.size(); ++index) {
-        VEvent const& event = events[index];
-        m_replayed = &event.position;
-        switch (event.kind) {
-        case VEvent::VKind::Start: {
-            std::vector<char const*> const raw = pointers(event.attributes);
-            if (index == 0) {
-                // Noted among its siblings already, when it was met.
-                Open(VAttributes(raw.data()), row, m_frames.back().object);
-                m_frames.back().isInferred = true;
-            } else {
-                Start(event.name, VAttributes(raw.data()));
-            }
-            break;
-        }
-        case VEvent::VKind::End:
-            End(event.name);
-            break;
-        case VEvent::VKind::Text:
-            Text(event.text);
-            break;
-        case VEvent::VKind::Instruction:
-            Instruction(event.name, event.text);
-            break;
-        }
-    }
-    m_replayed = before;
 }
 
 } // namespace NReader

@@ -168,7 +168,9 @@ private:
 
     void RecordStart(std::string_view name, VAttributes const& attributes);
     void Record(VEvent event);
+    static std::vector<std::string> ChildNames(std::vector<VEvent> const& events);
     void Replay();
+    void Replay(VEvent const& event);
 
     VDocumentReading& m_reading;
     VXmlParser* m_parser = nullptr;
@@ -193,6 +195,9 @@ private:
 
     std::wstring m_reference[4];
 };
+
+/// 'TEXT', as messages name an element.
+std::string Quoted(std::string_view text);
 
 /// The table of the root element, which holds the categories.
 VElementType const& RootType();

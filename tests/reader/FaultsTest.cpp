@@ -39,22 +39,27 @@ TEST_F(VFaultsTest, DocumentThatCannotBeReadToItsEndIsRefused) {
 
 TEST_F(VFaultsTest, MemberThatCannotBeReadToItsEndIsNeverLostInSilence) {
     std::string const path = Write("a.pdx", ZipOf({{"a.odx", Large("A", 300000)}, {"b.odx", Large("B", 300000)}}));
-    std::size_t refused = 0;
-    std::size_t leftOut = 0;
-    std::uint64_t bytes = 0;
-    for (; ReadUntilFault(path, bytes); bytes += 20000) {
-        ASSERT_FALSE(m_result.diagnostics.empty()) << bytes;
-        for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
-            EXPECT_EQ(diagnostic.severity, NReader::VSeverity::Error);
-            EXPECT_TRUE(diagnostic.code == "unreadable" || diagnostic.code == "no-package") << diagnostic.code;
+    for (unsigned const threads : {1U, 2U}) {
+        m_options.threads = threads;
+        std::size_t refused = 0;
+        std::size_t leftOut = 0;
+        for (std::uint64_t bytes = 0; ReadUntilFault(path, bytes); bytes += 20000) {
+            ASSERT_FALSE(m_result.diagnostics.empty()) << bytes;
+            for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
+                EXPECT_EQ(diagnostic.severity, NReader::VSeverity::Error);
+                EXPECT_TRUE(diagnostic.code == "unreadable" || diagnostic.code == "no-package") << diagnostic.code;
+            }
+            ++(m_result.database == nullptr ? refused : leftOut);
+            EXPECT_LT(m_result.documents.size(), 2U) << bytes;
         }
-        ++(m_result.database == nullptr ? refused : leftOut);
-        EXPECT_LT(m_result.documents.size(), 2U) << bytes;
+        EXPECT_EQ(m_result.documents.size(), 2U);
+        EXPECT_EQ(Diagnostics(), "");
+        EXPECT_GT(refused, 2U); // in the directory at least
+        if (threads == 1) {     // of two threads it is chance which one meets the fault, and with how much behind it
+            EXPECT_GT(refused, 10U); // in the directory, or in the first member
+            EXPECT_GT(leftOut, 10U); // in the second member
+        }
     }
-    EXPECT_GT(refused, 10U); // in the directory, or in the first member
-    EXPECT_GT(leftOut, 5U);  // in the second member; how often depends on how much is read ahead of it
-    EXPECT_EQ(m_result.documents.size(), 2U);
-    EXPECT_EQ(Diagnostics(), "");
 }
 
 TEST_F(VFaultsTest, PackageWhoseBytesCannotBeHadIsCalledThat) {

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/ElementTable.h>
+
+#include <algorithm>
+
+#include <diagkit/reader/Loader.h>
+
+namespace NReader {
+
+int VElementType::FindRow(std::string_view name, int from) const {
+    auto const start = names.begin() + from;
+    if (auto const found = std::find(start, names.end(), name); found != names.end()) {
+        return static_cast<int>(found - names.begin());
+    }
+    auto const found = std::find(names.begin(), start, name);
+    return found != start ? static_cast<int>(found - names.begin()) : -1;
+}
+
+VElementType Indexed(VElementType type) {
+    for (VRow const& row : type.rows) {
+        type.names.emplace_back(row.name);
+    }
+    return type;
+}
+
+VElementType const& LinkType() {
+    static VElementType const type;
+    return type;
+}
+
+void NotePosition(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.Position()); }
+
+void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement& element) {
+    NotePosition(loader, node);
+    if (loader.Reading().keepsElements) {
+        loader.Reading().elements.push_back(&element);
+    }
+}
+
+void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link)) {
+    loader.Reading().links.push_back({&node, &link, resolves});
+}
+
+void NoteUntypedParentRef(VLoader& loader, NMemory::IMemParentRef& parentRef,
+                          NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef,
+                                                                NMemory::VParentRefKind kind)) {
+    loader.Reading().parentRefs.push_back({&parentRef, changeKind});
+}
+
+NMemory::VReference IdReference(VLoader& loader, VAttributes const& attributes) {
+    return loader.ReadIdReference(attributes);
+}
+
+NMemory::VReference ShortNameReference(VLoader& loader, VAttributes const& attributes) {
+    return loader.ReadShortNameReference(attributes);
+}
+
+} // namespace NReader

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/InputFile.h>
+
+#include <cerrno>
+#include <new>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace NReader {
+
+namespace fs = std::filesystem;
+
+VFailure Unreadable(std::string const& reason) { return {{}, "unreadable", "cannot be read: " + reason}; }
+
+VFailure FileTooLarge(VReadLimits const& limits) {
+    return {{}, "too-large", OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
+}
+
+fs::path PathOf(std::string const& file) {
+    try {
+        return fs::u8path(file);
+    } catch (std::system_error const&) {
+        return {};
+    }
+}
+
+std::ifstream Opened(fs::path const& path) {
+    errno = 0;
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream && errno == ENOMEM) {
+        throw std::bad_alloc();
+    }
+    return stream;
+}
+
+namespace {
+
+/// Reads the first bytes of a file, fewer where it has fewer; what is wrong when they cannot be read.
+std::optional<VFailure> ReadHead(fs::path const& path, std::string& head) {
+    std::ifstream stream = Opened(path);
+    char bytes[4] = {};
+    stream.read(bytes, sizeof bytes);
+    if (!stream.is_open() || stream.bad()) {
+        return Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
+    }
+    head.assign(bytes, static_cast<std::size_t>(stream.gcount()));
+    return {};
+}
+
+bool IsLikeZip(std::string_view head) { return head == "PK\3\4" || head == "PK\5\6"; }
+
+bool IsPackageName(std::string const& file) {
+    std::string suffix = fs::u8path(file).extension().u8string();
+    for (char& character : suffix) {
+        character = character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+    }
+    return suffix == ".pdx" || suffix == ".zip";
+}
+
+/// Why there is nothing to read by that name, if so.
+std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code const& error) {
+    if (!fs::exists(status)) {
+        bool const isTold = error && error != std::errc::no_such_file_or_directory;
+        return VFailure{{}, "no-file", isTold ? "cannot be read: " + error.message() : "no such file"};
+    }
+    if (fs::is_directory(status)) {
+        return VFailure{{}, "no-file", "is a folder; name the ODX documents or packages in it"};
+    }
+    if (fs::is_fifo(status)) {
+        return VFailure{{}, "no-file", "is a pipe, which cannot be read twice; save it to a file first"};
+    }
+    return {};
+}
+
+} // namespace
+
+VInputFile Inspect(std::string const& file, VReadLimits const& limits) {
+    std::error_code error;
+    fs::path const path = PathOf(file);
+    fs::file_status const status = fs::status(path, error);
+    if (std::optional<VFailure> failure = NoFile(status, error)) {
+        return {false, 0, std::move(failure)};
+    }
+    std::string head;
+    if (std::optional<VFailure> failure = ReadHead(path, head)) {
+        return {false, 0, std::move(failure)};
+    }
+    // Reading tells, not the size: files of the system say to be empty and are not.
+    if (IsPackageName(file) && head.empty()) {
+        return {false, 0, VFailure{{}, "empty", "is empty"}};
+    }
+    std::uintmax_t const told = fs::is_regular_file(status) ? fs::file_size(path, error) : 0;
+    std::uintmax_t const size = error ? 0 : told;
+    if (size > limits.maxFileSize) {
+        return {false, size, FileTooLarge(limits)};
+    }
+    bool const isPackage = IsLikeZip(head);
+    if (!isPackage && IsPackageName(file)) {
+        return {false, size, VFailure{{}, "no-package", "is no PDX package: the file is not a zip archive"}};
+    }
+    return {isPackage, size, {}};
+}
+
+} // namespace NReader
