@@ -75,7 +75,7 @@ std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code co
 
 } // namespace
 
-VInputFile Inspect(std::string const& file, VReadLimits const& limits) {
+VInspection Inspect(std::string const& file, VReadLimits const& limits) {
     std::error_code error;
     fs::path const path = PathOf(file);
     fs::file_status const status = fs::status(path, error);

@@ -22,12 +22,12 @@ std::filesystem::path PathOf(std::string const& file);
 std::ifstream Opened(std::filesystem::path const& path);
 
 /// What a look at a file from outside tells.
-struct VInputFile {
+struct VInspection {
     bool isPackage = false;
     std::uint64_t size = 0;            ///< 0 for what is no plain file
     std::optional<VFailure> failure{}; ///< why it cannot be read, whatever is in it
 };
 
-VInputFile Inspect(std::string const& file, VReadLimits const& limits);
+VInspection Inspect(std::string const& file, VReadLimits const& limits);
 
 } // namespace NReader

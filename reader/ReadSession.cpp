@@ -60,7 +60,7 @@ std::string VReadSession::EarlierNameOf(std::string const& name) {
 }
 
 std::optional<VFailure> VReadSession::AddFile(std::string const& name) {
-    VInputFile const file = Inspect(name, m_options);
+    VInspection const file = Inspect(name, m_options);
     if (file.failure) {
         return file.failure;
     }
