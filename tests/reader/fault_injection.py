@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Break a valid database in every way that the grammar knows, one fault at a time, and see that each is reported.
 
     fault_injection.py PROGRAM... -- DOCUMENT...

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Validate ODX 2.0.1 documents against grammar.txt.
 
     check_grammar.py DOCUMENT...

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Break one sample document at a time and see that check_grammar.py notices.
 
     check_grammar_test.py [DOCUMENT...]

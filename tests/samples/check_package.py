@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Check that a package holds exactly the documents of a folder.
 
     check_package.py PACKAGE FOLDER

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """The grammar of ODX 2.0.1 as grammar.txt writes it down: value types, definitions, content models."""
 
 import datetime
