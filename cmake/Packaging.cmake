@@ -2,7 +2,8 @@
 # `scripts/package` runs it over the build of ./run.
 set(CPACK_PACKAGE_NAME diagkit)
 set(CPACK_PACKAGE_VENDOR diagkit)
-set(CPACK_PACKAGE_CONTACT "diagkit maintainers <maintainers@diagkit.invalid>")
+# An address that reaches nobody, until whoever makes packages says theirs; see scripts/package.
+set(CPACK_PACKAGE_CONTACT "diagkit contributors <contributors@diagkit.invalid>")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_PACKAGE_FILE_NAME diagkit-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
