@@ -23,7 +23,7 @@ function(diagkit_settings target)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${DIAGKIT_INCLUDE_DIR}>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     if(MSVC)
-        # Not warned about: standard classes inside exported ones, what virtual bases dominate, functions of the C library.
+        # Not warned about: standard classes inside exported ones, what virtual bases dominate, C functions.
         target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8 /bigobj /wd4251 /wd4275 /wd4250)
         target_compile_definitions(${target} PRIVATE NOMINMAX _CRT_SECURE_NO_WARNINGS)
     else()

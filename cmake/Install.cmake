@@ -1,5 +1,5 @@
-# What `cmake --install` puts where, in three components: Library (what programs need to run), Development (what it takes
-# to build them) and Program.
+# What `cmake --install` puts where, in three components: Library (what programs need to run), Development (what it
+# takes to build them) and Program.
 
 # Debian has a folder of libraries for each architecture, below /usr/local as below /usr, and looks for them in both.
 # One build then serves packages and prefixes alike; -DCMAKE_INSTALL_LIBDIR=lib says otherwise.
@@ -34,7 +34,7 @@ function(diagkit_install_targets export)
     install(EXPORT ${export} NAMESPACE diagkit:: DESTINATION ${package_dir} COMPONENT Development)
 endfunction()
 
-# A library has a file for pkg-config, too. REQUIRES of an archive are all that it needs: it is always linked statically.
+# A library has a file for pkg-config, too. REQUIRES of an archive are all that it needs, since it is linked statically.
 function(diagkit_install_pkgconfig name library description requires)
     set(from_file ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})

@@ -54,8 +54,8 @@ private:
     std::wstring m_shortName;
     NODX201::VValue* m_result = nullptr;
     NODX201::VDiagLayer* m_layer;
-    /// A structure is searched once: a second search finds no more than the first. Data in which structures share others
-    /// would take exponential time otherwise, and data in which one contains itself would take for ever.
+    /// A structure is searched once: a second search finds no more than the first. Data in which structures share
+    /// others would take exponential time otherwise, and data in which one contains itself would take for ever.
     std::unordered_set<NODX201::VBasicStructure const*> m_searched;
 };
 

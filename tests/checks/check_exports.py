@@ -4,8 +4,9 @@
 
     check_exports.py LIBRARY [OBJDUMP]
 
-With OBJDUMP, the program of that name for the library's platform, the library is a Windows DLL. Meant are the names of exported.txt, and every class and function that a header of model/ marks DIAGKIT_EXPORT. Symbols
-of std:: that the compiler emitted along with others do not count.
+With OBJDUMP, the program of that name for the library's platform, the library is a Windows DLL. Meant are the names of
+exported.txt, and every class and function that a header of model/ marks DIAGKIT_EXPORT. Symbols of std:: that the
+compiler emitted along with others do not count.
 """
 
 import pathlib
@@ -87,7 +88,7 @@ def exported_by_dll(library, objdump):
 
 
 def without_type_information(symbols):
-    """GCC for Windows exports the type information of some classes that it meets on its way, and nothing else of these."""
+    """GCC for Windows exports the type information of some classes that it meets on its way, and nothing else of them."""
     return [symbol for symbol in symbols if not symbol.startswith("typeinfo for ")]
 
 

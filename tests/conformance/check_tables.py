@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
 """Hold the tables of conformance/ against the contract: Parts.def has a row for every operation that hands something
-out, Links.cpp for every link, Kinds.cpp for every class that elements are of; every check has a test of its name, and its
-place in docs/guide/own-model.md."""
+out, Links.cpp for every link, Kinds.cpp for every class that elements are of; every check has a test of its name, and
+its place in docs/guide/own-model.md."""
 
 import pathlib
 import re
