@@ -18,9 +18,9 @@ import tempfile
 import unittest
 import zipfile
 
-IS_POSIX = os.name == "posix"
+from program import IS_POSIX, PROGRAM, main
+
 IS_MEASURED = IS_POSIX and "DIAGKIT_SANITIZED" not in os.environ
-PROGRAM = []
 MEBIBYTE = 1 << 20
 LONGEST = 60  # seconds; what is not limited takes many times that
 GOOD = b'<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME></DIAG-LAYER-CONTAINER></ODX>'
@@ -250,7 +250,4 @@ class Hostile(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 2:
-        raise SystemExit(__doc__)
-    PROGRAM = [str(pathlib.Path(word).resolve()) if pathlib.Path(word).exists() else word for word in sys.argv[1:]]
-    unittest.main(argv=sys.argv[:1], verbosity=2)
+    main(__doc__)

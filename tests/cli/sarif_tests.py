@@ -8,14 +8,12 @@
 import json
 import pathlib
 import re
-import subprocess
-import sys
 import tempfile
 import unittest
 import zipfile
 
-DATA = pathlib.Path(__file__).resolve().parent / "data"
-PROGRAM = []
+from program import DATA, PROGRAM, main, run
+
 LEVELS = {"none", "note", "warning", "error"}
 # RFC 3986: what may stand in a URI reference without a colon in its first segment.
 URI = re.compile(r"(?:file:///?)?(?:[A-Za-z0-9._~!$&'()*+,;=@/-]|%[0-9A-F]{2})+")
@@ -27,13 +25,7 @@ def absolute(path):
 
 
 def log_of(*files, status):
-    done = subprocess.run(
-        [*PROGRAM, "check", "--format", "sarif", *map(str, files)],
-        cwd=DATA,
-        stdin=subprocess.DEVNULL,
-        capture_output=True,
-        encoding="utf-8",
-    )
+    done = run("check", "--format", "sarif", *files)
     assert done.returncode == status, (done.returncode, done.stderr)
     assert done.stderr == "", done.stderr
     return json.loads(done.stdout)
@@ -129,5 +121,4 @@ class Structure(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    PROGRAM = [str(pathlib.Path(word).resolve()) if pathlib.Path(word).exists() else word for word in sys.argv[1:]]
-    unittest.main(argv=sys.argv[:1])
+    main(__doc__)
