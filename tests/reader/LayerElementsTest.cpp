@@ -44,9 +44,6 @@ std::wstring Named(NODX201::VLink& link) {
 
 std::wstring TagOf(NODX201::VOdxElement& element) { return NODX201::OdxTagText(element.GetOdxTag()); }
 
-constexpr char kStandardType[] = "<DIAG-CODED-TYPE xsi:type=\"STANDARD-LENGTH-TYPE\" BASE-DATA-TYPE=\"A_UINT32\">"
-                                 "<BIT-LENGTH>8</BIT-LENGTH></DIAG-CODED-TYPE>";
-
 // Names, identity, markup, positions
 
 TEST_F(VLayerElementsTest, NamesAndIdentity) {

@@ -25,6 +25,11 @@ std::string Dictionary(std::string_view content, std::string_view version = "2.0
 /// The PARAMs of a REQUEST with the ID "RQ" in such a layer.
 std::string Params(std::string_view params, std::string_view version = "2.0.1");
 
+/// A DIAG-CODED-TYPE of eight bits.
+inline constexpr char kStandardType[] =
+    "<DIAG-CODED-TYPE xsi:type=\"STANDARD-LENGTH-TYPE\" BASE-DATA-TYPE=\"A_UINT32\">"
+    "<BIT-LENGTH>8</BIT-LENGTH></DIAG-CODED-TYPE>";
+
 /// A container of that ID and short name, on one line.
 std::string Named(std::string const& name);
 
