@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/reader/Loader.h>
+#include <diagkit/reader/DocumentReading.h>
 
 namespace NReader {
 

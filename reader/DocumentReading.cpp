@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/reader/DocumentReading.h>
+
 #include <iterator>
 #include <utility>
 
-#include <diagkit/reader/Loader.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NReader {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include <diagkit/reader/Checks.h>
+#include <diagkit/reader/FinishReading.h>
 #include <diagkit/reader/ReadSession.h>
 #include <diagkit/tools/OpResolveSnref.h>
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <diagkit/reader/Encodings.h>
+#include <diagkit/reader/Loader.h>
 
 namespace NReader {
 namespace {

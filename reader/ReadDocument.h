@@ -7,7 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include <diagkit/reader/Loader.h>
+#include <diagkit/reader/DocumentReading.h>
+#include <diagkit/reader/XmlParser.h>
 
 namespace NReader {
 

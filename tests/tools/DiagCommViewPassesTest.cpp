@@ -74,7 +74,7 @@ TEST_F(DiagCommViewPassesTest, AParentBringsItsFullView) {
     EXPECT_EQ(DiagComms(L"Ecu"), L"E@Ecu B@Bv F@Doors P@Uds L1@Lib1 L2@Lib2 L3@Lib3 L4@Lib4");
 }
 
-TEST_F(DiagCommViewPassesTest, AnEsdInheritedThroughAParentBeatsAParentMergedLater) {
+TEST_F(DiagCommViewPassesTest, AnEcuSharedDataInheritedThroughAParentBeatsAParentMergedLater) {
     Graph(LR"(
         esd  Lib : Read
         prot Uds        < Lib

@@ -68,7 +68,7 @@ TEST_F(DiagCommViewTest, OfTwoParentsThatOfferANameTheFirstReferencedWins) {
     EXPECT_EQ(DiagComms(L"B"), L"Start@Two Stop@Two");
 }
 
-TEST_F(DiagCommViewTest, EsdReferencedBeforeProtocolRanksBelowIt) {
+TEST_F(DiagCommViewTest, EcuSharedDataReferencedBeforeProtocolRanksBelowIt) {
     Graph(LR"(
         esd  Lib  : Start Ident
         prot Uds  : Start Read
@@ -79,7 +79,7 @@ TEST_F(DiagCommViewTest, EsdReferencedBeforeProtocolRanksBelowIt) {
     EXPECT_EQ(DiagComms(L"Bv"), L"Start@Uds Read@Uds Ident@Lib");
 }
 
-TEST_F(DiagCommViewTest, EsdReferencedBeforeFunctionalGroupRanksBelowIt) {
+TEST_F(DiagCommViewTest, EcuSharedDataReferencedBeforeFunctionalGroupRanksBelowIt) {
     Graph(LR"(
         esd  Lib   : Start Ident
         func Doors : Start Read
@@ -88,7 +88,7 @@ TEST_F(DiagCommViewTest, EsdReferencedBeforeFunctionalGroupRanksBelowIt) {
     EXPECT_EQ(DiagComms(L"Bv"), L"Start@Doors Read@Doors Ident@Lib");
 }
 
-TEST_F(DiagCommViewTest, EsdReferencedBeforeBaseVariantRanksBelowIt) {
+TEST_F(DiagCommViewTest, EcuSharedDataReferencedBeforeBaseVariantRanksBelowIt) {
     Graph(LR"(
         esd  Lib : Start Ident
         base Bv  : Start Read
@@ -97,7 +97,7 @@ TEST_F(DiagCommViewTest, EsdReferencedBeforeBaseVariantRanksBelowIt) {
     EXPECT_EQ(DiagComms(L"Ecu"), L"Start@Bv Read@Bv Ident@Lib");
 }
 
-TEST_F(DiagCommViewTest, OfTwoEsdsThatOfferANameTheFirstReferencedWins) {
+TEST_F(DiagCommViewTest, OfTwoEcuSharedDatasThatOfferANameTheFirstReferencedWins) {
     Graph(LR"(
         esd  One : Start
         esd  Two : Start Stop

@@ -227,7 +227,7 @@ TEST_F(DopViewTest, AParentBringsItsFullView) {
     EXPECT_EQ(Dops(L"Ecu"), L"B@Bv E@Ecu F@Doors L1@Lib1 L2@Lib2 L3@Lib3 L4@Lib4 P@Uds");
 }
 
-TEST_F(DopViewTest, AnEsdInheritedThroughAParentBeatsAParentMergedLater) {
+TEST_F(DopViewTest, AnEcuSharedDataInheritedThroughAParentBeatsAParentMergedLater) {
     Graph(LR"(
         esd  Lib : x
         prot Uds     < Lib

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/reader/Checks.h>
+#include <diagkit/reader/FinishReading.h>
 
 #include <string>
 #include <unordered_map>

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include <diagkit/memory/Odx.h>
+#include <diagkit/reader/Findings.h>
+#include <diagkit/reader/OdxReader.h>
+
+namespace NReader {
+
+/// A reference that has been read, to be tried when everything is loaded.
+struct VPendingLink {
+    NMemory::VMemNode* node;
+    NODX201::VLink* link;
+    bool (*resolves)(NODX201::VLink& link);
+};
+
+/// A PARENT-REF without xsi:type, which takes its kind from its target when everything is loaded.
+struct VPendingParentRef {
+    NMemory::IMemParentRef* parentRef;
+    NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef, NMemory::VParentRefKind kind);
+};
+
+/// What reading collects, of one document or of several.
+struct VCollected {
+    VFindings findings;
+    std::vector<VDocumentInfo> documents;
+    std::map<std::string, std::size_t> unknownElements;
+    std::vector<VPendingLink> links;
+    std::vector<VPendingParentRef> parentRefs;
+    bool keepsElements = false;
+    std::vector<NODX201::VOdxElement*> elements; ///< when they are kept: all, in document order
+    /// The IDs of elements that found no place in the model, with their tags: a reference to one is not to nothing.
+    std::unordered_map<std::string, std::string> idsLeftOut;
+
+    void Append(VCollected&& later);
+};
+
+/// What reading several documents into one database comes to.
+struct VReading : VCollected {
+    std::unique_ptr<NMemory::VDatabase> database;
+};
+
+/// What one document brings. It stands by itself: the database has nothing of it until it is adopted, so documents are
+/// read in any order, and beside one another. One that is not adopted leaves nothing behind.
+class VDocumentReading : public VCollected {
+public:
+    VDocumentReading(NMemory::VDatabase& database, VReadOptions const& options);
+    ~VDocumentReading();
+    VDocumentReading(VDocumentReading const&) = delete;
+    VDocumentReading& operator=(VDocumentReading const&) = delete;
+
+    NMemory::VDatabase& Database() { return m_database; }
+
+    /// A new category document. Its name in the table is kept.
+    template <class Category>
+    Category& MakeCategory(char const* name) {
+        auto made = m_database.GetMemOdx().MakeDetached<Category>(*m_part);
+        Category& category = *made;
+        m_categories.push_back({std::move(made), name, [](NMemory::VMemOdx& odx, VMade adopted) {
+                                    odx.Adopt(std::unique_ptr<Category>(static_cast<Category*>(adopted.release())));
+                                }});
+        return category;
+    }
+    void AddInstruction(std::wstring name, std::wstring content);
+
+    /// The document has been read to its end.
+    void Complete(std::uint32_t document, NMemory::VPosition const& root, std::string const& modelVersion);
+
+    /// Puts all into the database and what is collected of it.
+    void AdoptInto(VReading& reading);
+
+private:
+    using VMade = std::unique_ptr<NODX201::VReferencable>;
+
+    struct VCategory {
+        VMade made;
+        char const* name;
+        void (*adopt)(NMemory::VMemOdx& odx, VMade adopted);
+    };
+
+    NMemory::VDatabase& m_database;
+    std::unique_ptr<NMemory::VPart> m_part;
+    std::vector<VCategory> m_categories;
+    std::vector<std::pair<std::wstring, std::wstring>> m_instructions; // of the database
+};
+
+} // namespace NReader
