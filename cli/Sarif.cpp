@@ -36,6 +36,15 @@ std::string UriOf(std::string const& file) {
     return uri;
 }
 
+/// SARIF takes single braces in a message for placeholders.
+std::string MessageOf(std::string const& text) {
+    std::string message;
+    for (char const character : text) {
+        message.append(character == '{' || character == '}' ? 2 : 1, character);
+    }
+    return message;
+}
+
 VJson RuleOf(NCheck::VCode const& code) {
     VJson rule;
     rule["id"] = code.code;
@@ -72,7 +81,7 @@ VJson ResultOf(NReader::VDiagnostic const& diagnostic) {
         result["ruleIndex"] = code - NCheck::Codes().data();
     }
     result["level"] = SeverityText(diagnostic.severity);
-    result["message"]["text"] = diagnostic.message;
+    result["message"]["text"] = MessageOf(diagnostic.message);
     result["locations"] = VJson::array({LocationOf(diagnostic)});
     return result;
 }

@@ -108,6 +108,15 @@ class Structure(unittest.TestCase):
         self.assertTrue(uri.startswith("file:///"), uri)
         self.assertTrue(uri.endswith("/Seat%201%23%C3%BC.pdx!sub/faulty%202.odx-d"), uri)
 
+    def test_braces_in_messages_are_doubled(self):
+        with tempfile.TemporaryDirectory() as folder:
+            document = pathlib.Path(folder).resolve() / "braces.odx-f"
+            flash = '<FLASH ID="F"><SHORT-NAME>Seat_{0}</SHORT-NAME></FLASH>'
+            document.write_text(f'<ODX MODEL-VERSION="2.0.1">{flash}</ODX>', encoding="utf-8")
+            results = self.see_log(log_of(absolute(document), status=0))
+        self.assertEqual([result["ruleId"] for result in results], ["short-name-characters"])
+        self.assertIn("'Seat_{{0}}'", results[0]["message"]["text"])
+
     def test_what_has_no_position_has_no_region(self):
         with tempfile.TemporaryDirectory() as folder:
             package = pathlib.Path(folder).resolve() / "Seat.pdx"
