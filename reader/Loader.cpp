@@ -67,11 +67,11 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
         Trim(m_reference[index]); // as the IDs and short names that it names are
     }
     if (m_reference[0].empty()) {
-        Report(VSeverity::Error, "missing-attribute", "the reference has no ID-REF");
+        Report(VSeverity::Error, "missing-attribute", Quoted(m_opening) + " has no ID-REF");
     }
     if (m_isVersion20 && !m_reference[2].empty() && !IsLiteral(LiteralsOf<&Mapper::GetDoctypeStr>(), m_reference[2])) {
         Report(VSeverity::Warning, "unknown-literal",
-               "DOCTYPE is '" + ToUtf8(m_reference[2]) + "', which is none of " +
+               "DOCTYPE of " + Quoted(m_opening) + " is '" + ToUtf8(m_reference[2]) + "', which is none of " +
                    LiteralsText(LiteralsOf<&Mapper::GetDoctypeStr>()) + "; the target is looked for without it");
     }
     return NMemory::VReference::ById(m_reference[0].c_str(), m_reference[1].c_str(), m_reference[2].c_str(),
@@ -84,7 +84,7 @@ NMemory::VReference VLoader::ReadShortNameReference(VAttributes const& attribute
     AppendFromUtf8(m_reference[0], value != nullptr ? value : "");
     Trim(m_reference[0]);
     if (m_reference[0].empty()) {
-        Report(VSeverity::Error, "missing-attribute", "the short-name reference has no SHORT-NAME");
+        Report(VSeverity::Error, "missing-attribute", Quoted(m_opening) + " has no SHORT-NAME");
     }
     return NMemory::VReference::ByShortName(m_reference[0].c_str());
 }
@@ -193,6 +193,7 @@ bool VLoader::NoteRow(VFrame& frame, VRow const& row, int index) {
 }
 
 void VLoader::Open(VAttributes const& attributes, VRow const& row, void* owner) {
+    m_opening = row.name;
     VOpened const opened = row.open(*this, owner, row, attributes);
     if (opened.isDeferred) {
         m_recordedDepth = 1;
@@ -318,9 +319,7 @@ void VLoader::End(std::string_view name) {
     if (frame.type->setContent != nullptr) {
         TakeContent(frame);
     }
-    if (m_isVersion20) {
-        CheckComplete(frame);
-    }
+    CheckComplete(frame);
 }
 
 void VLoader::TakeContent(VFrame const& frame) {

@@ -95,6 +95,7 @@ private:
     std::uint32_t m_document;
     NMemory::VPosition m_rootPosition;
     bool m_isVersion20 = false; // as far as the document says
+    char const* m_opening = ""; // the element whose attributes are being read
     std::string m_modelVersion;
 
     std::vector<VFrame> m_frames;

@@ -57,8 +57,9 @@ void VLoader::CheckComplete(VFrame const& frame) {
         if (row.occurs != Required || ((frame.seen | frame.implied) & (std::uint64_t{1} << index)) != 0) {
             continue;
         }
-        // Without xsi:type an element may be of the general kind, which has little but names.
-        if (frame.isInferred && std::strcmp(row.name, "SHORT-NAME") != 0) {
+        // Later versions require other elements, and without xsi:type one may be of the general kind, which has little
+        // but names: these are what all have.
+        if ((frame.isInferred || !m_isVersion20) && std::strcmp(row.name, "SHORT-NAME") != 0) {
             continue;
         }
         std::uint64_t const choiceBit = row.choice != 0 ? std::uint64_t{1} << row.choice : 0;
@@ -75,7 +76,7 @@ void VLoader::CheckComplete(VFrame const& frame) {
 
 /// Holds what is inside against the xsi:type.
 void VLoader::CheckKind(VFrame const& frame) {
-    if (frame.kind == nullptr || frame.isInferred) {
+    if (frame.kind == nullptr || frame.isInferred || !m_isVersion20) {
         return;
     }
     std::string const& xsiType = frame.kind->xsiType;

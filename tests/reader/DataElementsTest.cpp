@@ -288,15 +288,16 @@ TEST_F(VDataElementsTest, StructuresAndFields) {
 }
 
 TEST_F(VDataElementsTest, Mux) {
-    Read(Dictionary("<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"/></DATA-OBJECT-PROPS><STRUCTURES><STRUCTURE "
-                    "ID=\"S\"/></STRUCTURES><MUXS><MUX ID=\"M\" "
+    Read(Dictionary("<DATA-OBJECT-PROPS><DATA-OBJECT-PROP "
+                    "ID=\"D\"><SHORT-NAME>D</SHORT-NAME></DATA-OBJECT-PROP></DATA-OBJECT-PROPS><STRUCTURES><STRUCTURE "
+                    "ID=\"S\"><SHORT-NAME>S</SHORT-NAME></STRUCTURE></STRUCTURES><MUXS><MUX ID=\"M\" "
                     "IS-VISIBLE=\"true\"><SHORT-NAME>M</SHORT-NAME><BYTE-POSITION>1</BYTE-POSITION>"
                     "<SWITCH-KEY><BYTE-POSITION>0</BYTE-POSITION><BIT-POSITION>3</BIT-POSITION><DATA-OBJECT-PROP-REF "
                     "ID-REF=\"D\"/></SWITCH-KEY><DEFAULT-CASE><SHORT-NAME>Other</SHORT-NAME><STRUCTURE-REF "
                     "ID-REF=\"S\"/></DEFAULT-CASE>"
                     "<CASES><CASE><SHORT-NAME>One</SHORT-NAME><STRUCTURE-REF "
                     "ID-REF=\"S\"/><LOWER-LIMIT>1</LOWER-LIMIT><UPPER-LIMIT>2</UPPER-LIMIT></CASE></CASES></MUX><MUX "
-                    "ID=\"N\"/></MUXS>",
+                    "ID=\"N\"><SHORT-NAME>N</SHORT-NAME></MUX></MUXS>",
                     "2.1.0"));
     EXPECT_EQ(Diagnostics(), "");
     auto& mux = Get<VMemMux>(L"M");
@@ -356,8 +357,9 @@ TEST_F(VDataElementsTest, Units) {
 
 TEST_F(VDataElementsTest, Tables) {
     Read(Dictionary(
-        "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"/></DATA-OBJECT-PROPS><STRUCTURES><STRUCTURE "
-        "ID=\"S\"/></STRUCTURES><TABLES><TABLE ID=\"T\" "
+        "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP "
+        "ID=\"D\"><SHORT-NAME>D</SHORT-NAME></DATA-OBJECT-PROP></DATA-OBJECT-PROPS><STRUCTURES><STRUCTURE "
+        "ID=\"S\"><SHORT-NAME>S</SHORT-NAME></STRUCTURE></STRUCTURES><TABLES><TABLE ID=\"T\" "
         "SEMANTIC=\"DATA-ID\"><SHORT-NAME>T</SHORT-NAME><KEY-LABEL>k</KEY-LABEL><STRUCT-LABEL>s</STRUCT-LABEL>"
         "<ADMIN-DATA/><KEY-DOP-REF ID-REF=\"D\"/><TABLE-ROW ID=\"R\"><SHORT-NAME>R</SHORT-NAME><KEY> 1 "
         "</KEY><STRUCTURE-REF ID-REF=\"S\"/></TABLE-ROW><TABLE-ROW-REF ID-REF=\"R\"/><TABLE-ROW "

@@ -81,13 +81,13 @@ TEST_F(VFlashElementsTest, Sessions) {
         "CHECKSUM-ALG><SOURCE-END-ADDRESS>03</SOURCE-END-ADDRESS><CHECKSUM-RESULT "
         "TYPE=\"A_BYTEFIELD\">7C</CHECKSUM-RESULT></CHECKSUM>"
         "<CHECKSUM "
-        "ID=\"K2\"><UNCOMPRESSED-SIZE>9</UNCOMPRESSED-SIZE></CHECKSUM></"
+        "ID=\"K2\"><SHORT-NAME>K2</SHORT-NAME><UNCOMPRESSED-SIZE>9</UNCOMPRESSED-SIZE></CHECKSUM></"
         "CHECKSUMS><SECURITYS><SECURITY><SECURITY-METHOD TYPE=\"A_ASCIISTRING\">m</SECURITY-METHOD><FW-SIGNATURE "
         "TYPE=\"A_BYTEFIELD\">01</FW-SIGNATURE><FW-CHECKSUM "
         "TYPE=\"A_UINT32\">2</FW-CHECKSUM><VALIDITY-FOR>v</VALIDITY-FOR></SECURITY><SECURITY/></SECURITYS>"
         "<DATABLOCK-REFS><DATABLOCK-REF "
         "ID-REF=\"B\"/></DATABLOCK-REFS><SDGS><SDG/></SDGS></SESSION></SESSIONS><DATABLOCKS><DATABLOCK "
-        "ID=\"B\"/></DATABLOCKS>");
+        "ID=\"B\"><SHORT-NAME>B</SHORT-NAME></DATABLOCK></DATABLOCKS>");
     auto& session = As<VMemSession>(At(Mem().SessionCollection(), 0));
     auto& values = As<VMemExpectedIdent>(At(session.ExpectedIdentCollection(), 0)).IdentValueCollection();
     ASSERT_EQ(values.Count(), 2U);
@@ -129,17 +129,20 @@ TEST_F(VFlashElementsTest, DatablocksAndFlashdata) {
         "FILTERS><SEGMENTS><SEGMENT "
         "ID=\"G\"><SHORT-NAME>G</SHORT-NAME><SOURCE-START-ADDRESS>00</SOURCE-START-ADDRESS><COMPRESSED-SIZE>1</"
         "COMPRESSED-SIZE><UNCOMPRESSED-SIZE>4</UNCOMPRESSED-SIZE></SEGMENT>"
-        "<SEGMENT ID=\"G2\"><SOURCE-END-ADDRESS>0F</SOURCE-END-ADDRESS></SEGMENT></SEGMENTS><TARGET-ADDR-OFFSET "
+        "<SEGMENT "
+        "ID=\"G2\"><SHORT-NAME>G2</SHORT-NAME><SOURCE-END-ADDRESS>0F</SOURCE-END-ADDRESS></SEGMENT></"
+        "SEGMENTS><TARGET-ADDR-OFFSET "
         "xsi:type=\"POS-OFFSET\"><POSITIVE-OFFSET>80</POSITIVE-OFFSET></TARGET-ADDR-OFFSET>"
         "<OWN-IDENTS><OWN-IDENT ID=\"O\"><SHORT-NAME>O</SHORT-NAME><IDENT-VALUE "
         "TYPE=\"A_ASCIISTRING\">x</IDENT-VALUE></OWN-IDENT></OWN-IDENTS><SECURITYS><SECURITY/></SECURITYS><SDGS><SDG/"
         "></SDGS></DATABLOCK>"
-        "<DATABLOCK ID=\"C\" TYPE=\"DATA\"><TARGET-ADDR-OFFSET "
+        "<DATABLOCK ID=\"C\" TYPE=\"DATA\"><SHORT-NAME>C</SHORT-NAME><TARGET-ADDR-OFFSET "
         "xsi:type=\"NEG-OFFSET\"><NEGATIVE-OFFSET>10</NEGATIVE-OFFSET></TARGET-ADDR-OFFSET></DATABLOCK></DATABLOCKS>"
         "<FLASHDATAS><FLASHDATA ID=\"D1\" xsi:type=\"INTERN-FLASHDATA\"><SHORT-NAME>D1</SHORT-NAME><DATAFORMAT "
         "SELECTION=\"BINARY\">raw</DATAFORMAT><ENCRYPT-COMPRESS-METHOD "
         "TYPE=\"A_BYTEFIELD\">00</ENCRYPT-COMPRESS-METHOD><DATA>DEADBEEF</DATA></FLASHDATA>"
-        "<FLASHDATA ID=\"D2\" xsi:type=\"EXTERN-FLASHDATA\"><DATAFORMAT SELECTION=\"INTEL-HEX\"/><DATAFILE "
+        "<FLASHDATA ID=\"D2\" xsi:type=\"EXTERN-FLASHDATA\"><SHORT-NAME>D2</SHORT-NAME><DATAFORMAT "
+        "SELECTION=\"INTEL-HEX\"/><DATAFILE "
         "LATEBOUND-DATAFILE=\"true\">d.hex</DATAFILE></FLASHDATA></FLASHDATAS>");
     auto& block = Get<VMemDatablock>(L"B");
     EXPECT_STREQ(block.GetType(), L"CODE");
@@ -151,7 +154,7 @@ TEST_F(VFlashElementsTest, DatablocksAndFlashdata) {
     EXPECT_STREQ(At(block.SegmentCollection(), 0).GetCompressedSize(), L"1");
     EXPECT_STREQ(At(block.SegmentCollection(), 0).GetUncompressedSize(), L"4");
     EXPECT_STREQ(At(block.SegmentCollection(), 1).GetSourceEndAddress(), L"0F");
-    EXPECT_STREQ(At(block.SegmentCollection(), 1).GetShortName(), L"");
+    EXPECT_STREQ(At(block.SegmentCollection(), 1).GetShortName(), L"G2");
     EXPECT_STREQ(block.GetTargetAddrOffset().GetPositiveOffset(), L"80");
     EXPECT_STREQ(Get<VMemDatablock>(L"C").GetTargetAddrOffset().GetNegativeOffset(), L"10");
     EXPECT_FALSE(Get<VMemDatablock>(L"C").HasFlashdataRef());
@@ -175,12 +178,12 @@ TEST_F(VFlashElementsTest, DatablocksAndFlashdata) {
 }
 
 TEST_F(VFlashElementsTest, FlashdataWithoutTypeTakesTheKindOfItsContents) {
-    ReadMem("<FLASHDATAS><FLASHDATA ID=\"D1\"><DATA>00</DATA></FLASHDATA><FLASHDATA "
-            "ID=\"D2\"><DATAFILE>d.hex</DATAFILE></FLASHDATA></FLASHDATAS>");
+    ReadMem("<FLASHDATAS><FLASHDATA ID=\"D1\"><SHORT-NAME>D1</SHORT-NAME><DATA>00</DATA></FLASHDATA><FLASHDATA "
+            "ID=\"D2\"><SHORT-NAME>D2</SHORT-NAME><DATAFILE>d.hex</DATAFILE></FLASHDATA></FLASHDATAS>");
     EXPECT_EQ(Get<VMemFlashdata>(L"D1").GetOdxTag(), VOdxTagEnum::InternFlashdata);
     EXPECT_EQ(Get<VMemFlashdata>(L"D2").GetOdxTag(), VOdxTagEnum::ExternFlashdata);
     EXPECT_FALSE(Get<VMemFlashdata>(L"D2").IsLatebound());
-    ReadMem("<FLASHDATAS><FLASHDATA ID=\"D\"/></FLASHDATAS>");
+    ReadMem("<FLASHDATAS><FLASHDATA ID=\"D\"><SHORT-NAME>D</SHORT-NAME></FLASHDATA></FLASHDATAS>");
     EXPECT_EQ(Get<VMemFlashdata>(L"D").GetOdxTag(), VOdxTagEnum::InternFlashdata);
 }
 

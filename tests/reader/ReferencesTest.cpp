@@ -255,6 +255,15 @@ TEST_F(VReferencesTest, ReferenceWithoutIdRefIsOneError) {
     EXPECT_EQ(m_result.diagnostics[0].code, "missing-attribute");
 }
 
+TEST_F(VReferencesTest, MessagesAboutAttributesNameTheReference) {
+    Read(Container(LayerOfKind("BASE-VARIANT", "B", "<PARENT-REFS><PARENT-REF/></PARENT-REFS>")));
+    EXPECT_EQ(Message(0), "'PARENT-REF' has no ID-REF");
+    Read(Params("<PARAM xsi:type=\"VALUE\"><SHORT-NAME>P</SHORT-NAME><DOP-SNREF/></PARAM>"));
+    EXPECT_EQ(Message(0), "'DOP-SNREF' has no SHORT-NAME");
+    Read(Layer("<DIAG-COMMS>" + Service("S", "ID-REF=\"R\" DOCTYPE=\"NOWHERE\"") + "</DIAG-COMMS>"));
+    EXPECT_EQ(Message(0).rfind("DOCTYPE of 'REQUEST-REF' is 'NOWHERE', which is none of ", 0), 0U) << Message(0);
+}
+
 TEST_F(VReferencesTest, IdTwiceInOneDocumentIsAnErrorAtTheSecond) {
     Read(Layer("<REQUESTS>" + Request("R", "First") + "\n" + Request("R", "Second") + "\n " + Request("R", "Third") +
                "</REQUESTS>"));

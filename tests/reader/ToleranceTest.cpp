@@ -135,8 +135,9 @@ TEST_F(VToleranceTest, DoctypesThatAreNoneAreReportedAndForgiven) {
     Read(Layer("<REQUESTS><REQUEST ID=\"RQ\"><SHORT-NAME>RQ</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>"
                "<IMPORT-REFS>\n<IMPORT-REF ID-REF=\"L\" DOCREF=\"L\" DOCTYPE=\"Layer\"/></IMPORT-REFS>"));
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning unknown-literal");
-    EXPECT_EQ(Message(0), "DOCTYPE is 'Layer', which is none of FLASH, CONTAINER, LAYER, MULTIPLE-ECU-JOB-SPEC, "
-                          "COMPARAM-SPEC; the target is looked for without it");
+    EXPECT_EQ(Message(0),
+              "DOCTYPE of 'IMPORT-REF' is 'Layer', which is none of FLASH, CONTAINER, LAYER, MULTIPLE-ECU-JOB-SPEC, "
+              "COMPARAM-SPEC; the target is looked for without it");
 }
 
 // Booleans
@@ -383,6 +384,16 @@ TEST_F(VToleranceTest, EmptyIdsAndShortNamesAreReportedForEveryVersion) {
         EXPECT_EQ(Diagnostics(), "test.odx:3:1 error missing-attribute\ntest.odx:4:1 error missing-child") << version;
         EXPECT_EQ(Count(L"BASE-VARIANT"), 1U);
     }
+}
+
+TEST_F(VToleranceTest, MissingShortNamesAreReportedForEveryVersion) {
+    for (char const* const version : {"2.0.1", "2.1.0", "2.2.0"}) {
+        Read(Container("<BASE-VARIANTS>\n<BASE-VARIANT ID=\"B\"/></BASE-VARIANTS>", version));
+        EXPECT_EQ(Diagnostics(), "test.odx:3:1 error missing-child") << version;
+        EXPECT_EQ(Message(0), "'BASE-VARIANT' has no 'SHORT-NAME'");
+    }
+    Read("<ODX>\n<FLASH ID=\"F\"/></ODX>");
+    EXPECT_EQ(Diagnostics(), "test.odx:1:1 warning missing-model-version\ntest.odx:2:1 error missing-child");
 }
 
 TEST_F(VToleranceTest, DataWithoutTheirRequiredPartsAnswerNo) {
