@@ -69,6 +69,13 @@ bool IsLatin1(std::string_view declared) {
 
 bool IsOneByteEncoding(std::string_view encoding) { return encoding == kWindows || encoding == kLatin9; }
 
+bool HasCharacter(std::string_view declared, unsigned char byte) {
+    if (byte < 0x80 || byte > 0x9F) {
+        return true;
+    }
+    return EncodingOf(declared) == kWindows && !IsLatin1(declared) && kWindows1252[byte - 0x80] != byte;
+}
+
 bool FillEncoding(char const* name, int (&map)[256]) {
     std::string_view const encoding = EncodingOf(name);
     if (!IsOneByteEncoding(encoding)) {

@@ -16,6 +16,10 @@ bool IsOneByteEncoding(std::string_view encoding);
 /// Whether the name is one of ISO-8859-1.
 bool IsLatin1(std::string_view declared);
 
+/// Whether the one-byte encoding that a document declares has a character for the byte, a control character from 0x80
+/// to 0x9F being none.
+bool HasCharacter(std::string_view declared, unsigned char byte);
+
 /// Fills the map from bytes to code points of a one-byte encoding that the XML parser does not know itself. False for
 /// a name that we do not know either.
 bool FillEncoding(char const* name, int (&map)[256]);

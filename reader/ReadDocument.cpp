@@ -31,10 +31,11 @@ void ReportOneByteEncoding(VXmlParser const& parser, std::uint32_t document, VFi
                      "the document declares " + declared +
                          (isReadOtherwise ? " and is read as Windows-1252" : ", in which it is read") +
                          ", but all that is beyond ASCII is UTF-8, first here");
-    } else if (isReadOtherwise) {
+    } else if (control.position.line != 0) {
         findings.Add({document, control.position.line, control.position.column}, VSeverity::Warning, "encoding",
                      "the document declares " + declared + ", which has no character for the byte " +
-                         Hexadecimal(control.byte) + ", first here; read as Windows-1252");
+                         Hexadecimal(control.byte) + ", first here; read as " +
+                         (isReadOtherwise ? "Windows-1252" : "a control character"));
     }
 }
 
@@ -99,7 +100,7 @@ std::unique_ptr<VDocumentReading> ReadDocument(NMemory::VDatabase& database, VRe
     VFailure failure = first.failure;
     if (!first.doubt.empty()) {
         // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
-        for (char const* const encoding : {"UTF-16", "UTF-8", "windows-1252"}) {
+        for (char const* const encoding : {"UTF-16", "UTF-8", "Windows-1252"}) {
             VTry next = tryDocument(encoding, true);
             if (next.reading != nullptr) {
                 next.reading->findings.Add(at(first.failure.position), VSeverity::Warning, "encoding",

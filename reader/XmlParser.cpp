@@ -18,22 +18,22 @@ namespace {
 /// stand that tell.
 class VByteWatch {
 public:
-    void See(std::string_view bytes) {
+    void See(std::string_view bytes, std::string const& declaredEncoding) {
         for (char const character : bytes) {
-            See(static_cast<unsigned char>(character));
+            See(static_cast<unsigned char>(character), declaredEncoding);
         }
     }
 
     /// Where the first character beyond ASCII stands, when all of them are UTF-8.
     VXmlPosition FirstOfUtf8() const { return m_isUtf8 && m_left == 0 ? m_first : VXmlPosition(); }
 
-    /// The first byte from 0x80 to 0x9F.
+    /// The first byte that the declared encoding has no character for.
     VXmlControl FirstControl() const { return m_control; }
 
 private:
-    void See(unsigned char byte) {
+    void See(unsigned char byte, std::string const& declaredEncoding) {
         if (byte >= 0x80) {
-            Note(byte);
+            Note(byte, declaredEncoding);
         }
         bool const isContinued = (byte & 0xC0) == 0x80;
         m_isUtf8 = m_isUtf8 && isContinued == (m_left > 0) && (byte < 0x80 || isContinued || IsLead(byte));
@@ -41,11 +41,11 @@ private:
         m_at = byte == '\n' ? VXmlPosition{m_at.line + 1, 1} : VXmlPosition{m_at.line, m_at.column + 1};
     }
 
-    void Note(unsigned char byte) {
+    void Note(unsigned char byte, std::string const& declaredEncoding) {
         if (m_first.line == 0) {
             m_first = m_at;
         }
-        if (byte < 0xA0 && m_control.position.line == 0) {
+        if (byte < 0xA0 && m_control.position.line == 0 && !HasCharacter(declaredEncoding, byte)) {
             m_control = {m_at, byte};
         }
     }
@@ -340,7 +340,7 @@ bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
         }
         m_state->taken += length;
         if (IsInOneByteEncoding()) {
-            m_state->watch.See(bytes.substr(0, length));
+            m_state->watch.See(bytes.substr(0, length), m_state->declaredEncoding);
         }
         if (!isLastPiece && !AreLeftBytesWithinLimit()) {
             return false;

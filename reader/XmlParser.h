@@ -63,8 +63,8 @@ public:
     /// Where the first character beyond ASCII stands in a document that declares a one-byte encoding and has nothing
     /// but UTF-8 there, which hardly happens by accident; line 0 elsewhere. To be asked at the end.
     VXmlPosition GetDoubtfulPosition() const;
-    /// The first byte from 0x80 to 0x9F in a document that declares a one-byte encoding: control characters in the
-    /// encodings of ISO 8859, and mostly a sign that the bytes are Windows-1252. To be asked at the end.
+    /// The first byte that the one-byte encoding that a document declares has no character for: in the encodings of ISO
+    /// 8859 those from 0x80 to 0x9F, mostly a sign that the bytes are Windows-1252. To be asked at the end.
     VXmlControl GetFirstControl() const;
     std::string const& GetDeclaredEncoding() const;
 

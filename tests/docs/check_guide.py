@@ -3,7 +3,7 @@
 """Hold the guide against what it is about: every call it shows and its answer, every piece of C++ and of ODX and the
 example or sample that it is taken from, every link; and that it leaves out no command, view or public operation.
 
-    check_guide.py FOLDER FOLDER_OF_PROGRAMS...
+    check_guide.py FOLDER [--emulator EMULATOR] FOLDER_OF_PROGRAMS...
 """
 
 import os
@@ -32,6 +32,17 @@ def texts(*patterns):
 def make_tree(folder):
     for name in ("samples", "tests"):
         (folder / name).symlink_to(ROOT / name)
+
+
+def make_commands(folder, emulator, folders):
+    """Programs for another platform get a command each, by their name without the suffix."""
+    commands = folder / "commands"
+    commands.mkdir()
+    for program in [path for name in folders for path in pathlib.Path(name).glob("*.exe")]:
+        command = commands / program.stem
+        command.write_text(f'#!/bin/sh\nexec {emulator} {program} "$@"\n', encoding="utf-8")
+        command.chmod(0o755)
+    return commands
 
 
 def check_calls(page, text, folder, environment):
@@ -84,7 +95,10 @@ def check_is_complete(environment):
 def main():
     folder = empty(pathlib.Path(sys.argv[1]))
     make_tree(folder)
-    path = os.pathsep.join([*sys.argv[2:], os.environ["PATH"]])
+    programs = sys.argv[2:]
+    if programs[0] == "--emulator":
+        programs = [str(make_commands(folder, programs[1], programs[2:]))]
+    path = os.pathsep.join([*programs, os.environ["PATH"]])
     environment = os.environ | {"PATH": path, "LC_ALL": "C.UTF-8", "HOME": str(folder)}
     count = 0
     for page in sorted(GUIDE.glob("*.md")):

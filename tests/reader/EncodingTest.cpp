@@ -181,7 +181,7 @@ TEST_F(VEncodingTest, AsciiThatIsNoneIsReadAsWhatItMayBeAndReportedWhereItShows)
     std::string const declaration = "<?xml version=\"1.0\" encoding=\"US-ASCII\"?>\n";
     EXPECT_EQ(NameIn(With(declaration, "T\xFCr")), L"T\u00FCr");
     EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
-    EXPECT_NE(Message(0).find("read as windows-1252"), std::string::npos) << Message(0);
+    EXPECT_NE(Message(0).find("read as Windows-1252"), std::string::npos) << Message(0);
     EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr")), L"T\u00FCr");
     EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
     EXPECT_NE(Message(0).find("read as UTF-8"), std::string::npos) << Message(0);
@@ -234,6 +234,19 @@ TEST_F(VEncodingTest, Latin1WithBytesThatItHasNoCharactersForIsReadAsWindows1252
     EXPECT_EQ(Diagnostics(), "");
 }
 
+TEST_F(VEncodingTest, BytesWithoutACharacterInTheDeclaredEncodingAreControlCharactersAndReported) {
+    for (char const byte : {'\x81', '\x8D', '\x8F', '\x90', '\x9D'}) {
+        std::wstring const control(1, static_cast<wchar_t>(static_cast<unsigned char>(byte)));
+        EXPECT_EQ(NameIn(With(kWindows1252, std::string("\x80") + byte)), L"\u20AC" + control);
+        EXPECT_EQ(Diagnostics(), "test.odx:1:115 warning encoding");
+    }
+    EXPECT_EQ(Message(0),
+              "the document declares Windows-1252, which has no character for the byte 0x9D, first here; read "
+              "as a control character");
+    EXPECT_EQ(NameIn(With("<?xml version=\"1.0\" encoding=\"ISO-8859-15\"?>\n", "\x80")), L"\x80");
+    EXPECT_EQ(Diagnostics(), "test.odx:2:69 warning encoding");
+}
+
 TEST_F(VEncodingTest, Latin1OfManyPiecesIsLookedAtToItsEnd) {
     std::string const declaration = std::string(kLatin1) + "<!--" + std::string(600000, '\n') + "-->";
     EXPECT_EQ(NameIn(With(declaration, "\x80")), L"\u20AC");
@@ -280,7 +293,7 @@ TEST_F(VEncodingTest, OtherNamesOfEncodingsThatLieAreReported) {
     EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
     EXPECT_EQ(Message(0),
               "the bytes are not in the encoding that the document declares (UTF-8 where it declares none); "
-              "read as windows-1252");
+              "read as Windows-1252");
     EXPECT_EQ(NameIn(With("<?xml version=\"1.0\" encoding=\"utf16\"?>", "T\xC3\xBCr")), L"T\u00FCr");
     ASSERT_EQ(m_result.diagnostics.size(), 1U);
     EXPECT_EQ(Message(0),
