@@ -123,8 +123,8 @@ TEST_F(VShortNamesTest, OfDifferentCaseAreDifferent) {
 }
 
 TEST_F(VShortNamesTest, ThatAreMissingAreNoDuplicates) {
-    Check(LayerXml("BASE-VARIANT", "L", DiagComms("<DIAG-SERVICE ID=\"A\"/><DIAG-SERVICE ID=\"B\"/>")));
-    EXPECT_EQ(Diagnostics(), "");
+    Check(LayerXml("BASE-VARIANT", "L", DiagComms("<DIAG-SERVICE ID=\"A\"/>\n<DIAG-SERVICE ID=\"B\"/>")));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:13 error missing-child\ntest.odx:4:1 error missing-child");
 }
 
 } // namespace
