@@ -54,17 +54,18 @@ private:
     wchar_t const* m_text = L"";
 };
 
-/// COMPU-CONST
-class VMemCompuConst final : public VMemElement<NODX201::VCompuConst, Tag::CompuConst> {
+/// A value as a number or as a text.
+template <class Base>
+class VWithValue : public Base {
 public:
-    using VMemElement::VMemElement;
+    using Base::Base;
 
     wchar_t const* GetV() const { return m_v; } ///< V
-    void SetV(wchar_t const* text) { m_v = Store(text); }
+    void SetV(wchar_t const* text) { m_v = this->Store(text); }
 
     bool HasVt() const override { return m_vt != nullptr; } ///< VT
     VMemVt& GetVt() override { return *m_vt; }
-    VMemVt& MakeVt() { return MakeChild(m_vt, Inside()); }
+    VMemVt& MakeVt() { return MakeChild(m_vt, this->Inside()); }
     void RemoveVt() { m_vt.reset(); }
 
 private:
@@ -72,22 +73,17 @@ private:
     std::unique_ptr<VMemVt> m_vt;
 };
 
-/// COMPU-DEFAULT-VALUE
-class VMemCompuDefaultValue final : public VMemElement<NODX201::VCompuDefaultValue, Tag::CompuDefaultValue> {
+/// COMPU-CONST
+class VMemCompuConst final : public VWithValue<VMemElement<NODX201::VCompuConst, Tag::CompuConst>> {
 public:
-    using VMemElement::VMemElement;
+    using VWithValue::VWithValue;
+};
 
-    wchar_t const* GetV() const { return m_v; } ///< V
-    void SetV(wchar_t const* text) { m_v = Store(text); }
-
-    bool HasVt() const override { return m_vt != nullptr; } ///< VT
-    VMemVt& GetVt() override { return *m_vt; }
-    VMemVt& MakeVt() { return MakeChild(m_vt, Inside()); }
-    void RemoveVt() { m_vt.reset(); }
-
-private:
-    wchar_t const* m_v = L"";
-    std::unique_ptr<VMemVt> m_vt;
+/// COMPU-DEFAULT-VALUE
+class VMemCompuDefaultValue final
+    : public VWithValue<VMemElement<NODX201::VCompuDefaultValue, Tag::CompuDefaultValue>> {
+public:
+    using VWithValue::VWithValue;
 };
 
 /// COMPU-INVERSE-VALUE
@@ -108,6 +104,31 @@ private:
     std::unique_ptr<VMemVt> m_vt;
 };
 
+/// What lies between a LOWER-LIMIT and an UPPER-LIMIT.
+template <class Base>
+class VWithLimits : public Base {
+public:
+    using Base::Base;
+
+    bool HasLowerLimit() const override { return m_lowerLimit != nullptr; }
+    VMemLimit& GetLowerLimit() override { return *m_lowerLimit; }
+    VMemLimit& MakeLowerLimit(wchar_t const* text = L"") {
+        return MakeLimit(m_lowerLimit, this->Inside(), Tag::LowerLimit, text);
+    }
+    void RemoveLowerLimit() { m_lowerLimit.reset(); }
+
+    bool HasUpperLimit() const override { return m_upperLimit != nullptr; }
+    VMemLimit& GetUpperLimit() override { return *m_upperLimit; }
+    VMemLimit& MakeUpperLimit(wchar_t const* text = L"") {
+        return MakeLimit(m_upperLimit, this->Inside(), Tag::UpperLimit, text);
+    }
+    void RemoveUpperLimit() { m_upperLimit.reset(); }
+
+private:
+    std::unique_ptr<VMemLimit> m_lowerLimit;
+    std::unique_ptr<VMemLimit> m_upperLimit;
+};
+
 /// COMPU-RATIONAL-COEFFS
 class VMemCompuRationalCoeffs final : public VMemElement<NODX201::VCompuRationalCoeffs, Tag::CompuRationalCoeffs> {
 public:
@@ -125,29 +146,15 @@ private:
 };
 
 /// COMPU-SCALE
-class VMemCompuScale final : public VMemElement<NODX201::VCompuScale, Tag::CompuScale> {
+class VMemCompuScale final : public VWithLimits<VMemElement<NODX201::VCompuScale, Tag::CompuScale>> {
 public:
-    using VMemElement::VMemElement;
+    using VWithLimits::VWithLimits;
 
     wchar_t const* GetShortLabel() const { return m_shortLabel; } ///< SHORT-LABEL
     void SetShortLabel(wchar_t const* text) { m_shortLabel = Store(text); }
 
     wchar_t const* GetDesc() const { return m_desc; } ///< DESC
     void SetDesc(wchar_t const* text) { m_desc = Store(text); }
-
-    bool HasLowerLimit() const override { return m_lowerLimit != nullptr; }
-    VMemLimit& GetLowerLimit() override { return *m_lowerLimit; }
-    VMemLimit& MakeLowerLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_lowerLimit, Inside(), Tag::LowerLimit, text);
-    }
-    void RemoveLowerLimit() { m_lowerLimit.reset(); }
-
-    bool HasUpperLimit() const override { return m_upperLimit != nullptr; }
-    VMemLimit& GetUpperLimit() override { return *m_upperLimit; }
-    VMemLimit& MakeUpperLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_upperLimit, Inside(), Tag::UpperLimit, text);
-    }
-    void RemoveUpperLimit() { m_upperLimit.reset(); }
 
     bool HasCompuInverseValue() const override { return m_compuInverseValue != nullptr; }
     VMemCompuInverseValue& GetCompuInverseValue() override { return *m_compuInverseValue; }
@@ -172,8 +179,6 @@ public:
 private:
     wchar_t const* m_shortLabel = L"";
     wchar_t const* m_desc = L"";
-    std::unique_ptr<VMemLimit> m_lowerLimit;
-    std::unique_ptr<VMemLimit> m_upperLimit;
     std::unique_ptr<VMemCompuInverseValue> m_compuInverseValue;
     std::unique_ptr<NODX201::VOdxElement> m_compuConstCompuRationalCoeffsChoiceElement;
     NODX201::ICompuConstCompuRationalCoeffsChoice* m_compuConstCompuRationalCoeffsChoice = nullptr;
@@ -251,9 +256,9 @@ private:
 };
 
 /// SCALE-CONSTR
-class VMemScaleConstr final : public VMemElement<NODX201::VScaleConstr, Tag::ScaleConstr> {
+class VMemScaleConstr final : public VWithLimits<VMemElement<NODX201::VScaleConstr, Tag::ScaleConstr>> {
 public:
-    using VMemElement::VMemElement;
+    using VWithLimits::VWithLimits;
 
     wchar_t const* GetValidity() const { return m_validity; } ///< @VALIDITY
     void SetValidity(wchar_t const* text) { m_validity = Store(text); }
@@ -264,54 +269,22 @@ public:
     wchar_t const* GetDesc() const { return m_desc; } ///< DESC
     void SetDesc(wchar_t const* text) { m_desc = Store(text); }
 
-    bool HasLowerLimit() const override { return m_lowerLimit != nullptr; }
-    VMemLimit& GetLowerLimit() override { return *m_lowerLimit; }
-    VMemLimit& MakeLowerLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_lowerLimit, Inside(), Tag::LowerLimit, text);
-    }
-    void RemoveLowerLimit() { m_lowerLimit.reset(); }
-
-    bool HasUpperLimit() const override { return m_upperLimit != nullptr; }
-    VMemLimit& GetUpperLimit() override { return *m_upperLimit; }
-    VMemLimit& MakeUpperLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_upperLimit, Inside(), Tag::UpperLimit, text);
-    }
-    void RemoveUpperLimit() { m_upperLimit.reset(); }
-
 private:
     wchar_t const* m_validity = L"";
     wchar_t const* m_shortLabel = L"";
     wchar_t const* m_desc = L"";
-    std::unique_ptr<VMemLimit> m_lowerLimit;
-    std::unique_ptr<VMemLimit> m_upperLimit;
 };
 
 /// INTERNAL-CONSTR
-class VMemInternalConstr final : public VMemElement<NODX201::VInternalConstr, Tag::InternalConstr> {
+class VMemInternalConstr final : public VWithLimits<VMemElement<NODX201::VInternalConstr, Tag::InternalConstr>> {
 public:
-    using VMemElement::VMemElement;
-
-    bool HasLowerLimit() const override { return m_lowerLimit != nullptr; }
-    VMemLimit& GetLowerLimit() override { return *m_lowerLimit; }
-    VMemLimit& MakeLowerLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_lowerLimit, Inside(), Tag::LowerLimit, text);
-    }
-    void RemoveLowerLimit() { m_lowerLimit.reset(); }
-
-    bool HasUpperLimit() const override { return m_upperLimit != nullptr; }
-    VMemLimit& GetUpperLimit() override { return *m_upperLimit; }
-    VMemLimit& MakeUpperLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_upperLimit, Inside(), Tag::UpperLimit, text);
-    }
-    void RemoveUpperLimit() { m_upperLimit.reset(); }
+    using VWithLimits::VWithLimits;
 
     NODX201::VScaleConstrCollection& ScaleConstrCollection() override { return m_scaleConstr.Get(); } ///< SCALE-CONSTRS
     VMemCollection<NODX201::VScaleConstrCollection>& MakeScaleConstrCollection() { return m_scaleConstr.Make(); }
     VMemScaleConstr& AddScaleConstr() { return AddPlain<VMemScaleConstr>(m_scaleConstr, Inside()); }
 
 private:
-    std::unique_ptr<VMemLimit> m_lowerLimit;
-    std::unique_ptr<VMemLimit> m_upperLimit;
     VMemMany<NODX201::VScaleConstrCollection> m_scaleConstr;
 };
 

@@ -255,22 +255,22 @@ private:
     wchar_t const* m_itemByteSize = L"";
 };
 
-/// DETERMINE-NUMBER-OF-ITEMS
-class VMemDetermineNumberOfItems final
-    : public VMemElement<NODX201::VDetermineNumberOfItems, Tag::DetermineNumberOfItems> {
+/// A value of a DOP at its own place, which decides on what follows.
+template <class Base>
+class VWithPositionedDop : public Base {
 public:
-    using VMemElement::VMemElement;
+    using Base::Base;
 
     wchar_t const* GetBytePosition() const { return m_bytePosition; } ///< BYTE-POSITION
-    void SetBytePosition(wchar_t const* text) { m_bytePosition = Store(text); }
+    void SetBytePosition(wchar_t const* text) { m_bytePosition = this->Store(text); }
 
     wchar_t const* GetBitPosition() const { return m_bitPosition; } ///< BIT-POSITION
-    void SetBitPosition(wchar_t const* text) { m_bitPosition = Store(text); }
+    void SetBitPosition(wchar_t const* text) { m_bitPosition = this->Store(text); }
 
     bool HasDataObjectPropRef() const override { return m_dataObjectPropRef != nullptr; } ///< DATA-OBJECT-PROP-REF
     VMemDataObjectPropLink& GetDataObjectPropRef() override { return *m_dataObjectPropRef; }
     VMemDataObjectPropLink& SetDataObjectPropRef(VReference const& reference) {
-        return MakeLink(m_dataObjectPropRef, Inside(), reference);
+        return MakeLink(m_dataObjectPropRef, this->Inside(), reference);
     }
     void RemoveDataObjectPropRef() { m_dataObjectPropRef.reset(); }
 
@@ -278,6 +278,13 @@ private:
     wchar_t const* m_bytePosition = L"";
     wchar_t const* m_bitPosition = L"";
     std::unique_ptr<VMemDataObjectPropLink> m_dataObjectPropRef;
+};
+
+/// DETERMINE-NUMBER-OF-ITEMS
+class VMemDetermineNumberOfItems final
+    : public VWithPositionedDop<VMemElement<NODX201::VDetermineNumberOfItems, Tag::DetermineNumberOfItems>> {
+public:
+    using VWithPositionedDop::VWithPositionedDop;
 };
 
 /// DYNAMIC-LENGTH-FIELD
@@ -340,75 +347,38 @@ private:
 };
 
 /// SWITCH-KEY
-class VMemSwitchKey final : public VMemElement<NODX201::VSwitchKey, Tag::SwitchKey> {
+class VMemSwitchKey final : public VWithPositionedDop<VMemElement<NODX201::VSwitchKey, Tag::SwitchKey>> {
 public:
-    using VMemElement::VMemElement;
+    using VWithPositionedDop::VWithPositionedDop;
+};
 
-    wchar_t const* GetBytePosition() const { return m_bytePosition; } ///< BYTE-POSITION
-    void SetBytePosition(wchar_t const* text) { m_bytePosition = Store(text); }
+/// What the cases of a MUX share.
+template <class Base>
+class VWithStructureRef : public Base {
+public:
+    using Base::Base;
 
-    wchar_t const* GetBitPosition() const { return m_bitPosition; } ///< BIT-POSITION
-    void SetBitPosition(wchar_t const* text) { m_bitPosition = Store(text); }
-
-    bool HasDataObjectPropRef() const override { return m_dataObjectPropRef != nullptr; } ///< DATA-OBJECT-PROP-REF
-    VMemDataObjectPropLink& GetDataObjectPropRef() override { return *m_dataObjectPropRef; }
-    VMemDataObjectPropLink& SetDataObjectPropRef(VReference const& reference) {
-        return MakeLink(m_dataObjectPropRef, Inside(), reference);
+    bool HasStructureRef() const override { return m_structureRef != nullptr; } ///< STRUCTURE-REF
+    VMemStructureLink& GetStructureRef() override { return *m_structureRef; }
+    VMemStructureLink& SetStructureRef(VReference const& reference) {
+        return MakeLink(m_structureRef, this->Inside(), reference);
     }
-    void RemoveDataObjectPropRef() { m_dataObjectPropRef.reset(); }
+    void RemoveStructureRef() { m_structureRef.reset(); }
 
 private:
-    wchar_t const* m_bytePosition = L"";
-    wchar_t const* m_bitPosition = L"";
-    std::unique_ptr<VMemDataObjectPropLink> m_dataObjectPropRef;
+    std::unique_ptr<VMemStructureLink> m_structureRef;
 };
 
 /// DEFAULT-CASE
-class VMemDefaultCase final : public VMemNamed<NODX201::VDefaultCase, Tag::DefaultCase> {
+class VMemDefaultCase final : public VWithStructureRef<VMemNamed<NODX201::VDefaultCase, Tag::DefaultCase>> {
 public:
-    using VMemNamed::VMemNamed;
-
-    bool HasStructureRef() const override { return m_structureRef != nullptr; } ///< STRUCTURE-REF
-    VMemStructureLink& GetStructureRef() override { return *m_structureRef; }
-    VMemStructureLink& SetStructureRef(VReference const& reference) {
-        return MakeLink(m_structureRef, Inside(), reference);
-    }
-    void RemoveStructureRef() { m_structureRef.reset(); }
-
-private:
-    std::unique_ptr<VMemStructureLink> m_structureRef;
+    using VWithStructureRef::VWithStructureRef;
 };
 
 /// CASE
-class VMemCase final : public VMemNamed<NODX201::VCase, Tag::Case> {
+class VMemCase final : public VWithStructureRef<VWithLimits<VMemNamed<NODX201::VCase, Tag::Case>>> {
 public:
-    using VMemNamed::VMemNamed;
-
-    bool HasStructureRef() const override { return m_structureRef != nullptr; } ///< STRUCTURE-REF
-    VMemStructureLink& GetStructureRef() override { return *m_structureRef; }
-    VMemStructureLink& SetStructureRef(VReference const& reference) {
-        return MakeLink(m_structureRef, Inside(), reference);
-    }
-    void RemoveStructureRef() { m_structureRef.reset(); }
-
-    bool HasLowerLimit() const override { return m_lowerLimit != nullptr; }
-    VMemLimit& GetLowerLimit() override { return *m_lowerLimit; }
-    VMemLimit& MakeLowerLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_lowerLimit, Inside(), Tag::LowerLimit, text);
-    }
-    void RemoveLowerLimit() { m_lowerLimit.reset(); }
-
-    bool HasUpperLimit() const override { return m_upperLimit != nullptr; }
-    VMemLimit& GetUpperLimit() override { return *m_upperLimit; }
-    VMemLimit& MakeUpperLimit(wchar_t const* text = L"") {
-        return MakeLimit(m_upperLimit, Inside(), Tag::UpperLimit, text);
-    }
-    void RemoveUpperLimit() { m_upperLimit.reset(); }
-
-private:
-    std::unique_ptr<VMemStructureLink> m_structureRef;
-    std::unique_ptr<VMemLimit> m_lowerLimit;
-    std::unique_ptr<VMemLimit> m_upperLimit;
+    using VWithStructureRef::VWithStructureRef;
 };
 
 /// MUX

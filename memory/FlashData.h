@@ -68,19 +68,9 @@ private:
 
 /// ENCRYPT-COMPRESS-METHOD
 class VMemEncryptCompressMethod final
-    : public VMemElement<NODX201::VEncryptCompressMethod, Tag::EncryptCompressMethod> {
+    : public VWithTypedText<VMemElement<NODX201::VEncryptCompressMethod, Tag::EncryptCompressMethod>> {
 public:
-    using VMemElement::VMemElement;
-
-    wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
-
-    wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
-
-private:
-    wchar_t const* m_type = L"";
-    wchar_t const* m_text = L"";
+    using VWithTypedText::VWithTypedText;
 };
 
 /// FLASHDATA: INTERN-FLASHDATA holds its data, EXTERN-FLASHDATA names a file.

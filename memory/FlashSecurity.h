@@ -9,20 +9,27 @@
 
 namespace NMemory {
 
-/// IDENT-VALUE
-class VMemIdentValue final : public VMemElement<NODX201::VIdentValue, Tag::IdentValue> {
+/// A text with a type, as idents, checksums and securities are written.
+template <class Base>
+class VWithTypedText : public Base {
 public:
-    using VMemElement::VMemElement;
+    using Base::Base;
 
     wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
+    void SetType(wchar_t const* text) { m_type = this->Store(text); }
 
     wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
+    void SetText(wchar_t const* text) { m_text = this->Store(text); }
 
 private:
     wchar_t const* m_type = L"";
     wchar_t const* m_text = L"";
+};
+
+/// IDENT-VALUE
+class VMemIdentValue final : public VWithTypedText<VMemElement<NODX201::VIdentValue, Tag::IdentValue>> {
+public:
+    using VWithTypedText::VWithTypedText;
 };
 
 class VIdentValueCollection : public NODX201::VElementCollection<VMemIdentValue> {};
@@ -57,83 +64,33 @@ private:
 };
 
 /// CHECKSUM-RESULT
-class VMemChecksumResult final : public VMemElement<NODX201::VChecksumResult, Tag::ChecksumResult> {
+class VMemChecksumResult final : public VWithTypedText<VMemElement<NODX201::VChecksumResult, Tag::ChecksumResult>> {
 public:
-    using VMemElement::VMemElement;
-
-    wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
-
-    wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
-
-private:
-    wchar_t const* m_type = L"";
-    wchar_t const* m_text = L"";
+    using VWithTypedText::VWithTypedText;
 };
 
 /// SECURITY-METHOD
-class VMemSecurityMethod final : public VMemElement<NODX201::VOdxElement, Tag::SecurityMethod> {
+class VMemSecurityMethod final : public VWithTypedText<VMemElement<NODX201::VOdxElement, Tag::SecurityMethod>> {
 public:
-    using VMemElement::VMemElement;
-
-    wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
-
-    wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
-
-private:
-    wchar_t const* m_type = L"";
-    wchar_t const* m_text = L"";
+    using VWithTypedText::VWithTypedText;
 };
 
 /// FW-SIGNATURE
-class VMemFwSignature final : public VMemElement<NODX201::VOdxElement, Tag::FwSignature> {
+class VMemFwSignature final : public VWithTypedText<VMemElement<NODX201::VOdxElement, Tag::FwSignature>> {
 public:
-    using VMemElement::VMemElement;
-
-    wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
-
-    wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
-
-private:
-    wchar_t const* m_type = L"";
-    wchar_t const* m_text = L"";
+    using VWithTypedText::VWithTypedText;
 };
 
 /// FW-CHECKSUM
-class VMemFwChecksum final : public VMemElement<NODX201::VOdxElement, Tag::FwChecksum> {
+class VMemFwChecksum final : public VWithTypedText<VMemElement<NODX201::VOdxElement, Tag::FwChecksum>> {
 public:
-    using VMemElement::VMemElement;
-
-    wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
-
-    wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
-
-private:
-    wchar_t const* m_type = L"";
-    wchar_t const* m_text = L"";
+    using VWithTypedText::VWithTypedText;
 };
 
 /// VALIDITY-FOR
-class VMemValidityFor final : public VMemElement<NODX201::VOdxElement, Tag::ValidityFor> {
+class VMemValidityFor final : public VWithTypedText<VMemElement<NODX201::VOdxElement, Tag::ValidityFor>> {
 public:
-    using VMemElement::VMemElement;
-
-    wchar_t const* GetType() const { return m_type; } ///< @TYPE
-    void SetType(wchar_t const* text) { m_type = Store(text); }
-
-    wchar_t const* GetText() const { return m_text; } ///< the text itself
-    void SetText(wchar_t const* text) { m_text = Store(text); }
-
-private:
-    wchar_t const* m_type = L"";
-    wchar_t const* m_text = L"";
+    using VWithTypedText::VWithTypedText;
 };
 
 /// SECURITY

@@ -101,13 +101,31 @@ VElementType const& TypeOf(VMemEnvDataDesc*) {
     return type;
 }
 
+// What the four kinds of field share comes before what is their own.
+template <class T>
+VElementType FieldTable(std::vector<VRow> own) {
+    using R = VRows<T>;
+    return IdentTable<T>({R::template Flag<&T::SetIsVisible>("IS-VISIBLE")}, Join<VRow>({
+        AdminDataRow<T>(),
+        R::template Link<&T::SetBasicStructureRef>("BASIC-STRUCTURE-REF", Required, 1),
+        R::template Link<&T::SetEnvDataDescRef>("ENV-DATA-DESC-REF", Required, 1),
+    }, std::move(own)));
+}
+
+template <class T>
+VElementType PositionedDopTable() {
+    using R = VRows<T>;
+    return Table({}, {
+        R::template Text<&T::SetBytePosition>("BYTE-POSITION", Required, VContent::Uint),
+        R::template Text<&T::SetBitPosition>("BIT-POSITION", Optional, VContent::Uint),
+        R::template Link<&T::SetDataObjectPropRef>("DATA-OBJECT-PROP-REF", Required),
+    });
+}
+
 VElementType const& TypeOf(VMemStaticField*) {
     using T = VMemStaticField;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({R::Flag<&T::SetIsVisible>("IS-VISIBLE")}, {
-        AdminDataRow<T>(),
-        R::Link<&T::SetBasicStructureRef>("BASIC-STRUCTURE-REF", Required, 1),
-        R::Link<&T::SetEnvDataDescRef>("ENV-DATA-DESC-REF", Required, 1),
+    static VElementType const type = FieldTable<T>({
         R::Text<&T::SetFixedNumberOfItems>("FIXED-NUMBER-OF-ITEMS", Required, VContent::Uint),
         R::Text<&T::SetItemByteSize>("ITEM-BYTE-SIZE", Required, VContent::Uint),
     });
@@ -116,22 +134,14 @@ VElementType const& TypeOf(VMemStaticField*) {
 
 VElementType const& TypeOf(VMemDetermineNumberOfItems*) {
     using T = VMemDetermineNumberOfItems;
-    using R = VRows<T>;
-    static VElementType const type = Table({}, {
-        R::Text<&T::SetBytePosition>("BYTE-POSITION", Required, VContent::Uint),
-        R::Text<&T::SetBitPosition>("BIT-POSITION", Optional, VContent::Uint),
-        R::Link<&T::SetDataObjectPropRef>("DATA-OBJECT-PROP-REF", Required),
-    });
+    static VElementType const type = PositionedDopTable<T>();
     return type;
 }
 
 VElementType const& TypeOf(VMemDynamicLengthField*) {
     using T = VMemDynamicLengthField;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({R::Flag<&T::SetIsVisible>("IS-VISIBLE")}, {
-        AdminDataRow<T>(),
-        R::Link<&T::SetBasicStructureRef>("BASIC-STRUCTURE-REF", Required, 1),
-        R::Link<&T::SetEnvDataDescRef>("ENV-DATA-DESC-REF", Required, 1),
+    static VElementType const type = FieldTable<T>({
         R::Text<&T::SetOffset>("OFFSET", Required, VContent::Uint),
         R::Child<&T::MakeDetermineNumberOfItems>("DETERMINE-NUMBER-OF-ITEMS", Required),
     });
@@ -151,10 +161,7 @@ VElementType const& TypeOf(VMemDynEndDopRef*) {
 VElementType const& TypeOf(VMemDynamicEndmarkerField*) {
     using T = VMemDynamicEndmarkerField;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({R::Flag<&T::SetIsVisible>("IS-VISIBLE")}, {
-        AdminDataRow<T>(),
-        R::Link<&T::SetBasicStructureRef>("BASIC-STRUCTURE-REF", Required, 1),
-        R::Link<&T::SetEnvDataDescRef>("ENV-DATA-DESC-REF", Required, 1),
+    static VElementType const type = FieldTable<T>({
         R::Link<&T::SetDataObjectPropRef>("DATA-OBJECT-PROP-REF", Required, 2),
         R::Link<&T::SetDataObjectPropRef>("DYN-END-DOP-REF", Required, 2),
     });
@@ -164,10 +171,7 @@ VElementType const& TypeOf(VMemDynamicEndmarkerField*) {
 VElementType const& TypeOf(VMemEndOfPduField*) {
     using T = VMemEndOfPduField;
     using R = VRows<T>;
-    static VElementType const type = IdentTable<T>({R::Flag<&T::SetIsVisible>("IS-VISIBLE")}, {
-        AdminDataRow<T>(),
-        R::Link<&T::SetBasicStructureRef>("BASIC-STRUCTURE-REF", Required, 1),
-        R::Link<&T::SetEnvDataDescRef>("ENV-DATA-DESC-REF", Required, 1),
+    static VElementType const type = FieldTable<T>({
         R::Text<&T::SetMaxNumberOfItems>("MAX-NUMBER-OF-ITEMS", Optional, VContent::Uint),
         R::Text<&T::SetMinNumberOfItems>("MIN-NUMBER-OF-ITEMS", Optional, VContent::Uint),
     });
@@ -176,12 +180,7 @@ VElementType const& TypeOf(VMemEndOfPduField*) {
 
 VElementType const& TypeOf(VMemSwitchKey*) {
     using T = VMemSwitchKey;
-    using R = VRows<T>;
-    static VElementType const type = Table({}, {
-        R::Text<&T::SetBytePosition>("BYTE-POSITION", Required, VContent::Uint),
-        R::Text<&T::SetBitPosition>("BIT-POSITION", Optional, VContent::Uint),
-        R::Link<&T::SetDataObjectPropRef>("DATA-OBJECT-PROP-REF", Required),
-    });
+    static VElementType const type = PositionedDopTable<T>();
     return type;
 }
 
