@@ -13,6 +13,10 @@ IS_POSIX = os.name == "posix"
 PROGRAM = []  # the words that call it; `main` fills them in
 
 
+def is_for_windows():
+    return PROGRAM[-1].endswith(".exe")
+
+
 def run(*arguments, **options):
     """The call with all that it wrote, as text."""
     options.setdefault("stdout", subprocess.PIPE)

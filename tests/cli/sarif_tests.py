@@ -12,7 +12,7 @@ import tempfile
 import unittest
 import zipfile
 
-from program import DATA, PROGRAM, main, run
+from program import DATA, is_for_windows, main, run
 
 LEVELS = {"none", "note", "warning", "error"}
 # RFC 3986: what may stand in a URI reference without a colon in its first segment.
@@ -21,7 +21,7 @@ URI = re.compile(r"(?:file:///?)?(?:[A-Za-z0-9._~!$&'()*+,;=@/-]|%[0-9A-F]{2})+"
 
 def absolute(path):
     """The path as the program must name it; Wine shows the root of this machine as a drive."""
-    return f"Z:{path}" if PROGRAM[-1].endswith(".exe") and path.as_posix().startswith("/") else path
+    return f"Z:{path}" if is_for_windows() and path.as_posix().startswith("/") else path
 
 
 def log_of(*files, status):
