@@ -277,5 +277,28 @@ TEST_F(AsymmetriesTest, AVisitOrADescendThatIsOverriddenSkipsWhatItLeavesOut) {
         )"));
 }
 
+/// Asks for fields in general, which no step of a walk does, and overrides nothing else.
+class VFieldHook final : public NDIAGKIT::VDiagDataDictionarySpecTraverser {
+public:
+    using VDiagDataDictionarySpecTraverser::VDiagDataDictionarySpecTraverser;
+
+    int m_count = 0;
+
+protected:
+    void PreProcessStaticField(NODX201::VStaticField& x) override {
+        ++m_count;
+        PreProcessField(x);
+        PreProcessComplexDop(x);
+    }
+};
+
+TEST_F(AsymmetriesTest, HooksThatAreNotOverriddenDoNothingAndTheWalkGoesOn) {
+    m_dictionary.AddStaticField(L"First");
+    m_dictionary.AddStaticField(L"Second");
+    VFieldHook walk(m_layer);
+    walk.TraverseDiagDataDictionarySpec(m_dictionary);
+    EXPECT_EQ(walk.m_count, 2);
+}
+
 } // namespace
 } // namespace NTest
