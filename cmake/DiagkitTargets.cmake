@@ -36,3 +36,11 @@ function(diagkit_settings target)
         target_link_options(${target} PRIVATE -fsanitize=${DIAGKIT_SANITIZERS})
     endif()
 endfunction()
+
+# For an archive: without import attributes it links with the toolkit's library as well as with the toolkit's objects,
+# which tests take that replace what the library calls. MSVC knows no such code.
+function(diagkit_links_either_way target)
+    if(MINGW)
+        target_compile_definitions(${target} PRIVATE DIAGKIT_STATIC_DEFINE)
+    endif()
+endfunction()

@@ -2,6 +2,8 @@
 #include <diagkit/reader/OdxReader.h>
 
 #include <memory>
+#include <new>
+#include <system_error>
 #include <utility>
 
 #include <diagkit/reader/FinishReading.h>
@@ -9,8 +11,9 @@
 #include <diagkit/tools/OpResolveSnref.h>
 
 namespace NReader {
+namespace {
 
-VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options) {
+VReadResult Read(std::vector<std::string> const& files, VReadOptions const& options) {
     VReading reading;
     reading.database = std::make_unique<NMemory::VDatabase>();
     reading.findings = VFindings(options.maxDiagnostics);
@@ -29,6 +32,20 @@ VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& o
     result.elements = std::move(reading.elements);
     result.database = std::move(reading.database);
     return result;
+}
+
+} // namespace
+
+VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options) {
+    try {
+        return Read(files, options);
+    } catch (std::system_error const& error) {
+        // Where a mutex takes memory when it is locked first, it has another way to say that there is none.
+        if (error.code() == std::errc::not_enough_memory) {
+            throw std::bad_alloc();
+        }
+        throw;
+    }
 }
 
 } // namespace NReader

@@ -59,6 +59,9 @@ struct VReadResult {
 /// is loaded. A member of a package that cannot be read is left out whole, and so is one whose name leads out of the
 /// package, or that another member of the same name follows. Packages inside packages are not opened. A file that is
 /// named twice, however the names are spelt, is read once, with a warning.
+///
+/// Throws std::bad_alloc when memory runs out, which is never taken for a fault of the data, and whatever the functions
+/// of the options throw.
 VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& options = {});
 
 } // namespace NReader

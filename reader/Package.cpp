@@ -9,6 +9,8 @@
 
 #include <zip.h>
 
+#include <diagkit/reader/SystemReason.h>
+
 namespace NReader {
 namespace {
 
@@ -26,6 +28,14 @@ void RequireMemory(zip_error_t& error) {
 
 std::string Text(zip_error_t& error) {
     RequireMemory(error);
+    // Most errors of Windows have no number of C's: libzip has then none, or one of its own, and no text.
+    constexpr int kNumbersOfLibzip = 10000;
+    int const number = zip_error_code_system(&error);
+    if (zip_error_system_type(&error) == ZIP_ET_SYS && (number == 0 || number >= kNumbersOfLibzip)) {
+        if (std::string reason = ReasonBeyondErrno(); !reason.empty()) {
+            return reason;
+        }
+    }
     return zip_error_strerror(&error);
 }
 

@@ -31,7 +31,7 @@ ROOMS = {
 }
 
 # Rooms that may use the platform, in sources that say for which one they are.
-PLATFORM_ROOMS = {"util", "cli"}
+PLATFORM_ROOMS = {"util", "reader", "cli"}
 PLATFORM_SOURCE = re.compile(r"_(win32|posix)$")
 
 # Made by the build; for all rooms.

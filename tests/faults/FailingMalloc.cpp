@@ -4,11 +4,20 @@
 #include <cerrno>
 #include <limits>
 
-// The allocator of the C library under the names that it keeps for programs that replace the usual ones.
+// The allocator of the C library, and the functions that are called in its place. On Windows the linker puts them there
+// (--wrap) and says what the library's own are called; elsewhere those keep these names for programs that replace them.
+#ifdef _WIN32
+#define LIBRARY_OWN(name) __real_##name
+#define IN_PLACE_OF(name) __wrap_##name
+#else
+#define LIBRARY_OWN(name) __libc_##name
+#define IN_PLACE_OF(name) name
+#endif
+
 extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* block, std::size_t size);
+void* LIBRARY_OWN(malloc)(std::size_t size);
+void* LIBRARY_OWN(calloc)(std::size_t count, std::size_t size);
+void* LIBRARY_OWN(realloc)(void* block, std::size_t size);
 }
 
 namespace NTest {
@@ -16,8 +25,9 @@ namespace {
 
 constexpr std::size_t kNever = std::numeric_limits<std::size_t>::max();
 
-thread_local std::size_t s_left = kNever; // allocations that still succeed
-thread_local bool s_hasFailed = false;
+// Not of each thread its own: MinGW would take the memory for that from malloc.
+std::size_t s_left = kNever; // allocations that still succeed
+bool s_hasFailed = false;
 
 bool Fails() {
     if (s_left == kNever) {
@@ -47,7 +57,11 @@ bool VFailingMalloc::HasFailed() const { return s_hasFailed; }
 } // namespace NTest
 
 extern "C" {
-void* malloc(std::size_t size) { return NTest::Fails() ? nullptr : __libc_malloc(size); }
-void* calloc(std::size_t count, std::size_t size) { return NTest::Fails() ? nullptr : __libc_calloc(count, size); }
-void* realloc(void* block, std::size_t size) { return NTest::Fails() ? nullptr : __libc_realloc(block, size); }
+void* IN_PLACE_OF(malloc)(std::size_t size) { return NTest::Fails() ? nullptr : LIBRARY_OWN(malloc)(size); }
+void* IN_PLACE_OF(calloc)(std::size_t count, std::size_t size) {
+    return NTest::Fails() ? nullptr : LIBRARY_OWN(calloc)(count, size);
+}
+void* IN_PLACE_OF(realloc)(void* block, std::size_t size) {
+    return NTest::Fails() ? nullptr : LIBRARY_OWN(realloc)(block, size);
+}
 }

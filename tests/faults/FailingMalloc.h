@@ -3,11 +3,12 @@
 
 #include <cstddef>
 
-/// Lets the malloc of the whole program fail, the C libraries included. Linking FailingMalloc.cpp replaces it.
+/// Lets the malloc of the whole program fail, the C libraries included. Linking FailingMalloc.cpp replaces it. For one
+/// thread: no other may allocate in the meantime.
 
 namespace NTest {
 
-/// As long as it lives, the allocation of this thread after so many others fails, and only that one.
+/// As long as it lives, the allocation after so many others fails, and only that one.
 class VFailingMalloc {
 public:
     explicit VFailingMalloc(std::size_t after);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <string>
 
-/// Reading that fails in the middle, as on a medium that is broken. The functions with which the standard library and
-/// libzip read files are replaced in the whole program, which therefore holds nothing but tests of such faults.
+/// Reading that fails, as on a medium that is broken. The functions with which the standard library and libzip read
+/// files are replaced in the whole program, which therefore holds nothing but tests of such faults.
 
 namespace NTest {
 
@@ -18,5 +20,26 @@ public:
 
     bool HasHappened() const;
 };
+
+/// What the system calls the fault that libzip meets; the standard library meets EIO.
+std::string TextOfPackageFault();
+
+/// While it lives, the path leads to a file that is there and cannot be read.
+class VUnreadableFile {
+public:
+    explicit VUnreadableFile(std::string const& path);
+    ~VUnreadableFile();
+    VUnreadableFile(VUnreadableFile const&) = delete;
+    VUnreadableFile& operator=(VUnreadableFile const&) = delete;
+
+    static int const kError; ///< reading it gives this errno
+
+private:
+    void* m_handle = nullptr; ///< of Windows
+};
+
+/// For the functions in the place of the system's: how many of the bytes wanted can be had. 0, with the fault noted,
+/// when reading is to fail.
+std::size_t GrantedBytes(std::size_t wanted);
 
 } // namespace NTest

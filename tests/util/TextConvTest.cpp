@@ -6,14 +6,10 @@
 #include <cwchar>
 #include <string>
 
-#ifdef __linux__
-#include <sys/mman.h>
-#include <unistd.h>
-#endif
-
 #include <gtest/gtest.h>
 
 #include "support/RecordedAssertions.h"
+#include "util/LongText.h"
 
 namespace NTest {
 namespace {
@@ -217,34 +213,7 @@ TEST_F(TextConvTest, MoreThanThePlatformCanCountDoesNotConvert) {
     EXPECT_EQ(LastConversionError(), kConversionFailed);
 }
 
-#ifdef __linux__
-/// A text of 2 GiB and a terminator, of which only one block is really in memory.
-class VLongText {
-public:
-    VLongText() {
-        int const file = memfd_create("text", 0);
-        EXPECT_EQ(ftruncate(file, kBlock), 0);
-        for (std::size_t start = 0; start < kLength; start += kBlock) {
-            mmap(m_text + start, kBlock, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_FIXED, file, 0);
-        }
-        close(file);
-        std::memset(m_text, 'x', kBlock);
-    }
-    ~VLongText() { munmap(m_text, kLength + kBlock); }
-    VLongText(VLongText const&) = delete;
-    VLongText& operator=(VLongText const&) = delete;
-
-    char const* Get() const { return m_text; }
-
-private:
-    static constexpr std::size_t kBlock = std::size_t{1} << 24;
-    static constexpr std::size_t kLength = std::size_t{1} << 31;
-
-    // What follows the blocks is zero.
-    char* const m_text = static_cast<char*>(
-        mmap(nullptr, kLength + kBlock, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
-};
-
+#if defined(__linux__) || defined(_WIN32)
 TEST_F(TextConvTest, AnAnsiTextLongerThanThePlatformCanCountDoesNotConvert) {
     VLongText const text;
     EXPECT_EQ(AnsiToWide(text.Get()), nullptr);

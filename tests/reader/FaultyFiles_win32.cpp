@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "reader/FaultyFiles.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+
+#include <windows.h>
+
+// The linker puts the functions called __wrap_... in the place of others (--wrap), which it then calls __real_...;
+// those of Windows are called by way of pointers called __imp_....
+extern "C" {
+int __real_read(int file, void* buffer, unsigned count);
+extern decltype(&ReadFile) __real___imp_ReadFile;
+
+int __wrap_read(int file, void* buffer, unsigned count) {
+    std::size_t const granted = NTest::GrantedBytes(count);
+    if (granted == 0 && count > 0) {
+        errno = EIO;
+        return -1;
+    }
+    return __real_read(file, buffer, static_cast<unsigned>(granted));
+}
+
+static BOOL WINAPI FaultyReadFile(HANDLE file, void* buffer, DWORD count, DWORD* done, OVERLAPPED* overlapped) {
+    std::size_t const granted = NTest::GrantedBytes(count);
+    if (granted == 0 && count > 0) {
+        SetLastError(ERROR_IO_DEVICE);
+        return FALSE;
+    }
+    return __real___imp_ReadFile(file, buffer, static_cast<DWORD>(granted), done, overlapped);
+}
+
+decltype(&ReadFile) __wrap___imp_ReadFile = &FaultyReadFile;
+}
+
+namespace NTest {
+
+std::string TextOfPackageFault() { return std::system_category().message(ERROR_IO_DEVICE); }
+
+int const VUnreadableFile::kError = EACCES;
+
+// What one has opened and shares with nobody cannot be read by others.
+VUnreadableFile::VUnreadableFile(std::string const& path)
+    : m_handle(
+          CreateFileW(std::filesystem::u8path(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr)) {
+    if (m_handle == INVALID_HANDLE_VALUE) {
+        throw std::runtime_error("cannot make " + path);
+    }
+}
+
+VUnreadableFile::~VUnreadableFile() { CloseHandle(m_handle); }
+
+} // namespace NTest
