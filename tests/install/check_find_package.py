@@ -9,7 +9,9 @@ import pathlib
 import sys
 
 from project import (
+    EMULATOR,
     HERE,
+    ROOT,
     empty,
     examples,
     own_model,
@@ -18,9 +20,21 @@ from project import (
     run_examples,
     run_readme_program,
     run_stranger_programs,
+    use_libraries_of,
     version,
     write_readme_program,
 )
+
+
+def finding(prefix, folder):
+    """How CMake is told of the prefix. A toolchain file names all places where things for another system are."""
+    if not EMULATOR:
+        return f"-DCMAKE_PREFIX_PATH={prefix}"
+    toolchain = folder / "toolchain.cmake"
+    own = ROOT / "cmake" / "MinGW.cmake"
+    toolchain.write_text(f"include({own})\nlist(APPEND CMAKE_FIND_ROOT_PATH {prefix})\n", encoding="utf-8")
+    use_libraries_of(f"{prefix}/bin")
+    return f"-DCMAKE_TOOLCHAIN_FILE={toolchain}"
 
 
 def main():
@@ -30,7 +44,7 @@ def main():
     run(
         "cmake",
         *sys.argv[3:],
-        f"-DCMAKE_PREFIX_PATH={prefix}",
+        finding(prefix, folder),
         f"-DWANTED_VERSION={version()}",
         f"-DEXAMPLES={';'.join(map(str, examples().values()))}",
         f"-DOWN_MODEL={';'.join(map(str, own_model()))}",

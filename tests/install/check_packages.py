@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Make the Debian packages and the archives, look into them, and run the program out of them.
+"""Make the archives, and on Debian its packages; look into them, and run the program out of them.
 
     check_packages.py BUILD_FOLDER FOLDER
 """
@@ -12,7 +12,7 @@ import sys
 import tarfile
 import zipfile
 
-from project import ROOT, SAMPLE, empty, expect, run, version
+from project import EMULATOR, EXE, ROOT, SAMPLE, empty, expect, run, run_program, version
 
 FIELDS = ["Package", "Version", "Architecture", "Depends"]
 
@@ -22,12 +22,13 @@ def make(build, folder):
     tree = empty(folder / "tree")
     (tree / "scripts").mkdir()
     (tree / "scripts" / "package").write_bytes((ROOT / "scripts" / "package").read_bytes())
-    (tree / "scripts" / "prepare").write_text("#!/bin/sh\n")
-    for script in ("package", "prepare"):
-        (tree / "scripts" / script).chmod(0o755)
+    for script in ("prepare", "prepare-windows"):
+        (tree / "scripts" / script).write_text("#!/bin/sh\n")
+    for script in (tree / "scripts").iterdir():
+        script.chmod(0o755)
     (tree / "build").mkdir()
-    (tree / "build" / "release").symlink_to(build)
-    run(tree / "scripts" / "package", folder / "made")
+    (tree / "build" / ("windows" if EMULATOR else "release")).symlink_to(build)
+    run(tree / "scripts" / "package", *(["--windows"] if EMULATOR else []), folder / "made")
     return folder / "made"
 
 
@@ -88,7 +89,7 @@ def check_debian(made, root):
         run("dpkg-deb", "-x", path, root)
     program = root / "usr/bin/diagkit"
     expect("PATH" not in re.sub(r"^.*file format.*$", "", run("objdump", "-p", program), flags=re.M), "a path is left")
-    run_program(program, os.environ | {"LD_LIBRARY_PATH": f"{root}{lib}"})
+    check_program(program, os.environ | {"LD_LIBRARY_PATH": f"{root}{lib}"})
     flags = run(
         *("pkg-config", "--libs", "diagkit"),
         env=os.environ | {"PKG_CONFIG_LIBDIR": f"{root}{lib}/pkgconfig", "PKG_CONFIG_PATH": ""},
@@ -96,9 +97,10 @@ def check_debian(made, root):
     expect("-ldiagkit" in flags, f"pkg-config says {flags}")
 
 
-def run_program(program, environment):
-    expect(run(program, "--version", env=environment) == f"diagkit {version()}\n", f"{program} has another version")
-    answer = run(program, "view", "diag-comms", SAMPLE, "--layer", "FrontWiperRainLight", env=environment)
+def check_program(program, environment):
+    answer = run_program(program, "--version", env=environment)
+    expect(answer == f"diagkit {version()}\n", f"{program} has another version")
+    answer = run_program(program, "view", "diag-comms", SAMPLE, "--layer", "FrontWiperRainLight", env=environment)
     expect("SwitchHeadlamps" in answer, f"{program} answers\n{answer}")
 
 
@@ -119,15 +121,16 @@ def check_archives(made, folder):
     top = folder / tops.pop()
     names = {str(path.relative_to(folder)) for path in folder.rglob("*") if not path.is_dir()}
     expect(names <= listings[1], f"the .zip lacks {names - listings[1]}")
-    for name in ("bin/diagkit", "include/diagkit/Version.h", "share/man/man1/diagkit.1"):
+    for name in (f"bin/diagkit{EXE}", "include/diagkit/Version.h", "share/man/man1/diagkit.1"):
         expect((top / name).is_file(), f"the archives lack {name}")
-    run_program(top / "bin/diagkit", environment)
+    check_program(top / "bin/diagkit", environment)
 
 
 def main():
     build, folder = pathlib.Path(sys.argv[1]), empty(pathlib.Path(sys.argv[2]))
     made = make(build, folder)
-    check_debian(made, empty(folder / "root"))
+    if not EMULATOR:
+        check_debian(made, empty(folder / "root"))
     check_archives(made, empty(folder / "unpacked"))
     sums = list(made.glob("*.sha256"))
     expect(sums, "no checksums")

@@ -10,7 +10,10 @@ import pathlib
 import sys
 
 from project import (
+    EMULATOR,
+    EXE,
     HERE,
+    ROOT,
     WARNINGS,
     empty,
     examples,
@@ -20,20 +23,31 @@ from project import (
     run_examples,
     run_readme_program,
     run_stranger_programs,
+    use_libraries_of,
     version,
     write_readme_program,
 )
 
+# Libraries of MinGW that its programs need.
+RUNTIME = ["libstdc++-6.dll", "libgcc_s_seh-1.dll", "libwinpthread-1.dll"]
+
 
 def main():
     prefix, folder, compiler = pathlib.Path(sys.argv[1]), empty(pathlib.Path(sys.argv[2])), sys.argv[3]
-    libraries = next(prefix.rglob("libdiagkit.so")).parent
+    libraries = next(prefix.rglob("libdiagkit_memory.a")).parent
     os.environ["PKG_CONFIG_PATH"] = str(libraries / "pkgconfig")
-    os.environ["LD_LIBRARY_PATH"] = str(libraries)
+    linking = []
+    if EMULATOR:
+        os.environ["PKG_CONFIG_LIBDIR"] = str(ROOT / "build/windows-libraries/prefix/lib/pkgconfig")
+        linking = ["--static"]  # expat and libzip are archives there
+        runtime = [run(compiler, f"-print-file-name={name}").strip() for name in RUNTIME]
+        use_libraries_of(prefix / "bin", *(pathlib.Path(file).parent for file in runtime))
+    else:
+        use_libraries_of(libraries)
 
     def build(program, package, *sources):
-        flags = run("pkg-config", "--cflags", "--libs", package).split()
-        run(compiler, "-std=c++17", *WARNINGS, *sources, "-o", folder / program, *flags)
+        flags = run("pkg-config", "--cflags", "--libs", *linking, package).split()
+        run(compiler, "-std=c++17", *WARNINGS, *sources, "-o", folder / f"{program}{EXE}", *flags)
 
     packages = ["diagkit", "diagkit-memory", "diagkit-conformance", "diagkit-reader", "diagkit-check"]
     for package in packages:

@@ -11,7 +11,7 @@ import re
 import shutil
 import sys
 
-from project import ROOT, SAMPLE, empty, expect, run, version
+from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, run_program, version
 
 INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
 
@@ -27,8 +27,6 @@ PUBLIC = {
     "check": {"Check.h", "Codes.h", "Cycles.h"},
 }
 FILES = """
-    bin/diagkit
-    LIB/libdiagkit.so LIB/libdiagkit.so.SO LIB/libdiagkit.so.VERSION
     LIB/libdiagkit_check.a LIB/libdiagkit_conformance.a LIB/libdiagkit_memory.a LIB/libdiagkit_reader.a
     LIB/cmake/diagkit/diagkitConfig.cmake LIB/cmake/diagkit/diagkitConfigVersion.cmake
     LIB/cmake/diagkit/diagkitReaderTargets-release.cmake LIB/cmake/diagkit/diagkitReaderTargets.cmake
@@ -39,21 +37,26 @@ FILES = """
     share/bash-completion/completions/diagkit share/fish/vendor_completions.d/diagkit.fish
     share/man/man1/diagkit.1 share/zsh/site-functions/_diagkit
 """
+LINUX_FILES = "bin/diagkit LIB/libdiagkit.so LIB/libdiagkit.so.SO LIB/libdiagkit.so.VERSION"
+WINDOWS_FILES = "bin/diagkit.exe bin/diagkit.dll LIB/libdiagkit.dll.a"
 
 
 def check_files(prefix, build_type):
     """Everything but headers, by name."""
-    libraries = {str(path.parent.relative_to(prefix)) for path in prefix.rglob("libdiagkit.so")}
-    expect(len(libraries) == 1, f"libdiagkit.so is in {libraries}")
+    library = "libdiagkit.dll.a" if EMULATOR else "libdiagkit.so"
+    libraries = {str(path.parent.relative_to(prefix)) for path in prefix.rglob(library)}
+    expect(len(libraries) == 1, f"{library} is in {libraries}")
     soversion = version().rpartition(".")[0] if version().startswith("0.") else version().partition(".")[0]
-    expected = FILES.replace("LIB", libraries.pop()).replace("VERSION", version()).replace("SO", soversion)
+    expected = FILES + (WINDOWS_FILES if EMULATOR else LINUX_FILES)
+    expected = expected.replace("LIB", libraries.pop()).replace("VERSION", version()).replace("SO", soversion)
     expected = expected.replace("-release", f"-{build_type.lower()}")
     there = {str(path.relative_to(prefix)) for path in prefix.rglob("*") if not path.is_dir()}
     there = {name for name in there if not name.startswith("include/")}
     unlike = there ^ set(expected.split())
     expect(not unlike, f"files that are there and not meant, or the other way: {unlike}")
-    soname = re.search(r"SONAME\s+(\S+)", run("objdump", "-p", next(prefix.rglob("libdiagkit.so"))))[1]
-    expect(soname == f"libdiagkit.so.{soversion}", f"the soname is {soname}")
+    if not EMULATOR:
+        soname = re.search(r"SONAME\s+(\S+)", run("objdump", "-p", next(prefix.rglob(library))))[1]
+        expect(soname == f"libdiagkit.so.{soversion}", f"the soname is {soname}")
 
 
 def internals_told(folder):
@@ -108,9 +111,9 @@ def main():
 
     # Without help from the environment the program finds its library.
     environment = {name: value for name, value in os.environ.items() if name != "LD_LIBRARY_PATH"}
-    answer = run(prefix / "bin" / "diagkit", "--version", env=environment)
+    answer = run_program(prefix / "bin" / "diagkit", "--version", env=environment)
     expect(answer == f"diagkit {version()}\n", f"the program is {answer!r}")
-    answer = run(prefix / "bin" / "diagkit", "layers", SAMPLE, env=environment)
+    answer = run_program(prefix / "bin" / "diagkit", "layers", SAMPLE, env=environment)
     expect("FrontWiperRainLight" in answer, f"the sample has the layers\n{answer}")
 
 

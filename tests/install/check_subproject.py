@@ -9,7 +9,7 @@ import pathlib
 import shutil
 import sys
 
-from project import HERE, ROOT, empty, expect, run, version
+from project import HERE, ROOT, empty, expect, run, run_program, use_libraries_of, version
 
 
 def main():
@@ -31,7 +31,8 @@ def main():
     run(*configure, "-B", with_reader, "-DDIAGKIT_BUILD_READER=ON")
     run(*configure, "-B", folder)
     run("cmake", "--build", folder, "--target", "stranger")
-    answer = run(folder / "stranger")
+    use_libraries_of(*{path.parent for path in folder.rglob("*diagkit.*") if path.suffix in (".so", ".dll")})
+    answer = run_program(folder / "stranger")
     expect(answer == f"{version()} PHYSICAL\n", f"the program prints {answer!r}")
 
     tests = run("ctest", "--test-dir", folder, "-N")

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """What the tests of this folder share."""
 
+import os
 import pathlib
 import re
 import shutil
@@ -11,6 +12,10 @@ HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
 SAMPLE = ROOT / "samples" / "WiperDatabase.pdx"
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Werror"]
+
+# What runs the programs that were built, where they are not for this machine but for Windows.
+EMULATOR = [os.environ["DIAGKIT_EMULATOR"]] if "DIAGKIT_EMULATOR" in os.environ else []
+EXE = ".exe" if EMULATOR else ""
 
 
 def fail(message):
@@ -29,6 +34,19 @@ def run(*command, **options):
     if done.returncode != 0:
         fail(f"{' '.join(command)} ended with {done.returncode}:\n{done.stdout}")
     return done.stdout
+
+
+def run_program(program, *arguments, **options):
+    """What a program that was built prints, with line feeds alone."""
+    return run(*EMULATOR, f"{program}{EXE}", *arguments, **options).replace("\r\n", "\n")
+
+
+def use_libraries_of(*folders):
+    """Where the system looks for the libraries of programs from now on."""
+    if EMULATOR:
+        os.environ["WINEPATH"] = ";".join(f"Z:{folder}" for folder in folders)
+    else:
+        os.environ["LD_LIBRARY_PATH"] = ":".join(map(str, folders))
 
 
 def empty(folder):
@@ -58,7 +76,8 @@ def run_examples(folder, names):
         cases = sorted((ROOT / "tests" / "examples").glob(f"{name}*.case"))
         expect(cases, f"no case for {name}")
         for case in cases:
-            run(sys.executable, "-B", ROOT / "tests" / "cli" / "run_cli_tests.py", case, folder / name)
+            script = [sys.executable, "-B", ROOT / "tests" / "cli" / "run_cli_tests.py", "--any-line-ends"]
+            run(*script, case, *EMULATOR, folder / f"{name}{EXE}")
 
 
 def readme_block(language):
@@ -93,7 +112,7 @@ def write_readme_program(folder):
 
 def run_readme_program(program):
     """Its answer for one layer, as samples/README.md gives it."""
-    answer = run(program, SAMPLE)
+    answer = run_program(program, SAMPLE)
     layers = dict(re.findall(r"^\[(\w+)\]\n((?:\w+\n)*)", answer, re.M))
     expected = "ReadTroubleCodes ClearTroubleCodes HardReset TesterPresent StartSession RequestSeed SendKey"
     expect(layers.get("UdsOnCan", "").split() == expected.split(), f"the README's program prints\n{answer}")
@@ -110,5 +129,5 @@ def run_stranger_programs(folder):
         ("by_hand", [], "Open\nReset\n"),
         ("checked", [SAMPLE], "0 findings\n"),
     ):
-        answer = run(folder / program, *arguments)
+        answer = run_program(folder / program, *arguments)
         expect(answer == expected, f"{program} prints {answer!r}, not {expected!r}")
