@@ -2,7 +2,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 
 #include <chrono>
 #include <cstdint>
@@ -13,11 +12,12 @@
 #include <vector>
 
 #include <expat.h>
-#include <sys/resource.h>
 
 #include <diagkit/check/Check.h>
 #include <diagkit/reader/OdxReader.h>
 #include <diagkit/reader/Package.h>
+
+#include "ProcessCost.h"
 
 /// Loads files once, or does what loading them takes at least, and prints what it cost as JSON. One run a process, so
 /// that the peak of its memory means this run alone; `load` runs it.
@@ -112,21 +112,21 @@ int main(int count, char** arguments) {
     std::vector<std::string> const files(arguments + 2, arguments + count);
     VCost cost;
     double start = Seconds();
-    std::clock_t cpuStart = std::clock();
+    double cpuStart = NBench::ProcessorSeconds();
     double end = 0;
-    std::clock_t cpuEnd = 0;
+    double cpuEnd = 0;
     auto const stop = [&] {
         end = Seconds();
-        cpuEnd = std::clock();
+        cpuEnd = NBench::ProcessorSeconds();
     };
     if (mode.rfind("load:", 0) == 0) {
         NReader::VReadOptions options;
         options.threads = static_cast<std::uint32_t>(std::atoi(mode.c_str() + std::strlen("load:")));
-        std::clock_t cpuRead = 0; // when the last document was read
-        options.progress = [&cpuRead](std::uint64_t, std::uint64_t) { cpuRead = std::clock(); };
+        double cpuRead = 0; // when the last document was read
+        options.progress = [&cpuRead](std::uint64_t, std::uint64_t) { cpuRead = NBench::ProcessorSeconds(); };
         NReader::VReadResult result = NReader::ReadOdx(files, options);
         stop();
-        cost.serialCpu = static_cast<double>(cpuEnd - cpuRead) / CLOCKS_PER_SEC;
+        cost.serialCpu = cpuEnd - cpuRead;
         if (result.database == nullptr || !result.diagnostics.empty()) {
             Fail("the files cannot be loaded without a diagnostic");
         }
@@ -139,7 +139,7 @@ int main(int count, char** arguments) {
         options.keepsElements = true;
         NReader::VReadResult result = NReader::ReadOdx(files, options);
         start = Seconds();
-        cpuStart = std::clock();
+        cpuStart = NBench::ProcessorSeconds();
         std::size_t const diagnostics = NCheck::CheckDatabase(result).size();
         stop();
         if (result.database == nullptr || diagnostics != 0) {
@@ -151,13 +151,11 @@ int main(int count, char** arguments) {
         }
         stop();
     }
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
     std::printf("{\"seconds\": %.6f, \"cpu\": %.6f, \"serial\": %.6f, \"destroy\": %.6f, \"bytes\": %llu, "
                 "\"elements\": %llu, \"peak\": "
                 "%llu}\n",
-                end - start, static_cast<double>(cpuEnd - cpuStart) / CLOCKS_PER_SEC, cost.serialCpu,
-                cost.destroySeconds, static_cast<unsigned long long>(cost.bytes),
-                static_cast<unsigned long long>(cost.starts), static_cast<unsigned long long>(usage.ru_maxrss) * 1024);
+                end - start, cpuEnd - cpuStart, cost.serialCpu, cost.destroySeconds,
+                static_cast<unsigned long long>(cost.bytes), static_cast<unsigned long long>(cost.starts),
+                static_cast<unsigned long long>(NBench::PeakBytes()));
     return 0;
 }

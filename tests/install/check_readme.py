@@ -13,7 +13,7 @@ import re
 import shutil
 import sys
 
-from project import ROOT, SAMPLE, empty, expect, run
+from project import EMULATOR, ROOT, SAMPLE, empty, expect, run
 
 # What stands in the commands for something of the user's, and something of the sample's for it.
 PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper"}
@@ -44,13 +44,26 @@ def commands():
     return lines + re.findall(r"`(\./run [^`]*)`", text)
 
 
+def make_windows_build(release, build):
+    """What the commands find where the build of this machine would be: the program of Windows, and its installation."""
+    program = release / "cli" / "diagkit"
+    program.parent.mkdir(parents=True)
+    program.write_text(f'#!/bin/sh\nexec {EMULATOR[0]} {build}/bin/diagkit.exe "$@"\n')
+    program.chmod(0o755)
+    (release / "cmake_install.cmake").symlink_to(build / "cmake_install.cmake")
+
+
 def make_tree(folder, build):
     (folder / "scripts").mkdir()
     shutil.copy(ROOT / "run", folder)
     (folder / "scripts" / "prepare").write_text("#!/bin/sh\n")
     (folder / "scripts" / "prepare").chmod(0o755)
-    (folder / "build").mkdir()
-    (folder / "build" / "release").symlink_to(build)
+    release = folder / "build" / "release"
+    if EMULATOR:
+        make_windows_build(release, build)
+    else:
+        release.parent.mkdir()
+        release.symlink_to(build)
     (folder / "samples").symlink_to(ROOT / "samples")
 
 

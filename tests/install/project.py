@@ -14,7 +14,7 @@ SAMPLE = ROOT / "samples" / "WiperDatabase.pdx"
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Werror"]
 
 # What runs the programs that were built, where they are not for this machine but for Windows.
-EMULATOR = [os.environ["DIAGKIT_EMULATOR"]] if "DIAGKIT_EMULATOR" in os.environ else []
+EMULATOR = [word for word in [os.environ.get("DIAGKIT_EMULATOR")] if word]
 EXE = ".exe" if EMULATOR else ""
 
 
