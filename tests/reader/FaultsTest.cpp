@@ -77,12 +77,12 @@ TEST_F(VFaultsTest, PackageWhoseBytesCannotBeHadIsCalledThat) {
 
 TEST_F(VFaultsTest, FileWithoutBytesBehindItIsRefusedWhateverItsName) {
     for (std::string const name : {"a.odx", "a.pdx", "a"}) {
-        VUnreadableFile const file(Path(name));
+        auto const held = MakeUnreadableFile(Path(name));
         ReadFiles({Path(name)});
         EXPECT_EQ(m_result.database, nullptr);
         ASSERT_EQ(m_result.diagnostics.size(), 1U);
         EXPECT_EQ(NReader::FormatDiagnostic(m_result.diagnostics[0]),
-                  Path(name) + ": error: cannot be read: " + std::strerror(VUnreadableFile::kError) + " [unreadable]");
+                  Path(name) + ": error: cannot be read: " + std::strerror(kErrorOfUnreadableFile) + " [unreadable]");
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 /// Reading that fails, as on a medium that is broken. The functions with which the standard library and libzip read
@@ -24,19 +25,11 @@ public:
 /// What the system calls the fault that libzip meets; the standard library meets EIO.
 std::string TextOfPackageFault();
 
-/// While it lives, the path leads to a file that is there and cannot be read.
-class VUnreadableFile {
-public:
-    explicit VUnreadableFile(std::string const& path);
-    ~VUnreadableFile();
-    VUnreadableFile(VUnreadableFile const&) = delete;
-    VUnreadableFile& operator=(VUnreadableFile const&) = delete;
+/// Makes a file that is there and cannot be read, as long as what is returned lives.
+[[nodiscard]] std::shared_ptr<void> MakeUnreadableFile(std::string const& path);
 
-    static int const kError; ///< reading it gives this errno
-
-private:
-    void* m_handle = nullptr; ///< of Windows
-};
+/// The errno of reading it.
+extern int const kErrorOfUnreadableFile;
 
 /// For the functions in the place of the system's: how many of the bytes wanted can be had. 0, with the fault noted,
 /// when reading is to fail.

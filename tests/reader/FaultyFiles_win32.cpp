@@ -39,17 +39,16 @@ namespace NTest {
 
 std::string TextOfPackageFault() { return std::system_category().message(ERROR_IO_DEVICE); }
 
-int const VUnreadableFile::kError = EACCES;
+int const kErrorOfUnreadableFile = EACCES;
 
 // What one has opened and shares with nobody cannot be read by others.
-VUnreadableFile::VUnreadableFile(std::string const& path)
-    : m_handle(
-          CreateFileW(std::filesystem::u8path(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr)) {
-    if (m_handle == INVALID_HANDLE_VALUE) {
+std::shared_ptr<void> MakeUnreadableFile(std::string const& path) {
+    HANDLE const file =
+        CreateFileW(std::filesystem::u8path(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
         throw std::runtime_error("cannot make " + path);
     }
+    return {file, &CloseHandle};
 }
-
-VUnreadableFile::~VUnreadableFile() { CloseHandle(m_handle); }
 
 } // namespace NTest

@@ -37,11 +37,12 @@ namespace NTest {
 
 std::string TextOfPackageFault() { return std::strerror(EIO); }
 
-int const VUnreadableFile::kError = EIO;
+int const kErrorOfUnreadableFile = EIO;
 
 // A process may read its own memory, and there is none at address 0.
-VUnreadableFile::VUnreadableFile(std::string const& path) { std::filesystem::create_symlink("/proc/self/mem", path); }
-
-VUnreadableFile::~VUnreadableFile() = default;
+std::shared_ptr<void> MakeUnreadableFile(std::string const& path) {
+    std::filesystem::create_symlink("/proc/self/mem", path);
+    return nullptr;
+}
 
 } // namespace NTest
