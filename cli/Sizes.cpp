@@ -5,6 +5,8 @@
 #include <limits>
 #include <system_error>
 
+#include <diagkit/reader/Ascii.h>
+
 namespace NCli {
 namespace {
 
@@ -13,7 +15,7 @@ std::optional<int> ShiftOf(std::string_view suffix) {
     constexpr std::string_view kUnits = "kmgt";
     std::string lower;
     for (char const character : suffix) {
-        lower += character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+        lower += NReader::Lower(character);
     }
     if (lower.empty() || lower == "b") {
         return 0;

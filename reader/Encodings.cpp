@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include <diagkit/reader/Ascii.h>
+
 namespace NReader {
 namespace {
 
@@ -42,7 +44,7 @@ std::string Plain(std::string_view name) {
     std::string plain;
     for (char const character : name) {
         if (character != '-' && character != '_') {
-            plain += character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+            plain += Lower(character);
         }
     }
     return plain;

@@ -7,11 +7,17 @@
 #include <system_error>
 #include <utility>
 
+#include <diagkit/reader/Ascii.h>
+
 namespace NReader {
 
 namespace fs = std::filesystem;
 
 VFailure Unreadable(std::string const& reason) { return {{}, "unreadable", "cannot be read: " + reason}; }
+
+VFailure UnreadableStream() {
+    return Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
+}
 
 VFailure FileTooLarge(VReadLimits const& limits) {
     return {{}, "too-large", OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
@@ -42,7 +48,7 @@ std::optional<VFailure> ReadHead(fs::path const& path, std::string& head) {
     char bytes[4] = {};
     stream.read(bytes, sizeof bytes);
     if (!stream.is_open() || stream.bad()) {
-        return Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
+        return UnreadableStream();
     }
     head.assign(bytes, static_cast<std::size_t>(stream.gcount()));
     return {};
@@ -53,7 +59,7 @@ bool IsLikeZip(std::string_view head) { return head == "PK\3\4" || head == "PK\5
 bool IsPackageName(std::string const& file) {
     std::string suffix = fs::u8path(file).extension().u8string();
     for (char& character : suffix) {
-        character = character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+        character = Lower(character);
     }
     return suffix == ".pdx" || suffix == ".zip";
 }

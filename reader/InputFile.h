@@ -13,6 +13,7 @@
 namespace NReader {
 
 VFailure Unreadable(std::string const& reason);
+VFailure UnreadableStream(); ///< of a stream that just failed, with the reason in errno if there is one
 VFailure FileTooLarge(VReadLimits const& limits);
 
 /// On Windows a name that is not UTF-8 is no name of a file: the path is then empty.

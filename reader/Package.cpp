@@ -9,14 +9,11 @@
 
 #include <zip.h>
 
+#include <diagkit/reader/Ascii.h>
 #include <diagkit/reader/SystemReason.h>
 
 namespace NReader {
 namespace {
-
-char Folded(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
-}
 
 /// Running out of memory says nothing about a package. libzip may take it for bad data; the system's number, which is
 /// cleared before every call, tells.
@@ -47,6 +44,11 @@ std::pair<std::string, bool> Reason(int code) {
     return {Text(error), zip_error_system_type(&error) == ZIP_ET_SYS};
 }
 
+/// libzip notices a wrong size of stored members only.
+std::string SizeFault(std::uint64_t unpacked, std::uint64_t said) {
+    return "the member unpacks to " + std::to_string(unpacked) + " bytes, the package says " + std::to_string(said);
+}
+
 } // namespace
 
 struct VPackage::VArchive {
@@ -70,11 +72,11 @@ bool IsOdxName(std::string_view name) {
     std::string_view const suffix = point == std::string_view::npos ? std::string_view() : file.substr(point);
     return suffix.size() >= kSuffix.size() &&
            std::equal(kSuffix.begin(), kSuffix.end(), suffix.begin(),
-                      [](char wanted, char character) { return wanted == Folded(character); });
+                      [](char wanted, char character) { return wanted == Lower(character); });
 }
 
 bool LeadsOut(std::string_view name) {
-    bool const hasDrive = name.size() >= 2 && name[1] == ':' && Folded(name[0]) >= 'a' && Folded(name[0]) <= 'z';
+    bool const hasDrive = name.size() >= 2 && name[1] == ':' && Lower(name[0]) >= 'a' && Lower(name[0]) <= 'z';
     if (hasDrive || name.substr(0, 1) == "/") {
         return true;
     }
@@ -134,11 +136,6 @@ bool VPackage::Open(std::string const& path, std::string& error) {
         }
     }
     return true;
-}
-
-/// libzip notices a wrong size of stored members only.
-std::string SizeFault(std::uint64_t unpacked, std::uint64_t said) {
-    return "the member unpacks to " + std::to_string(unpacked) + " bytes, the package says " + std::to_string(said);
 }
 
 VPackage::VOutcome VPackage::Read(VMember const& member, std::uint64_t limit,

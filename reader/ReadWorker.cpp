@@ -2,11 +2,8 @@
 #include <diagkit/reader/ReadWorker.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <fstream>
 #include <mutex>
-#include <system_error>
-#include <utility>
 #include <vector>
 
 #include <diagkit/reader/InputFile.h>
@@ -91,7 +88,7 @@ bool VReadWorker::TakeFile(VFile const& file, std::function<bool(std::string_vie
         }
     }
     if (stream.bad() || !stream.is_open()) {
-        failure = Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
+        failure = UnreadableStream();
         return false;
     }
     return true;

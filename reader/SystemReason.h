@@ -5,7 +5,7 @@
 
 namespace NReader {
 
-/// What the system says of its latest error, where that is more than a number of C's can say; otherwise "".
+/// What Windows says of the latest error of this thread; "" elsewhere, where errno tells all.
 std::string ReasonBeyondErrno();
 
 } // namespace NReader
