@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/conformance/Reference.h>
 
+#include <memory>
+#include <utility>
+
 #include <diagkit/conformance/ReferenceText.h>
 #include <diagkit/conformance/Walk.h>
 #include <diagkit/model/Layers.h>
@@ -29,44 +32,33 @@ public:
     VViewAnswers(VWalk const& walk, std::vector<std::wstring>& answers) : m_walk(walk), m_answers(answers) {}
 
     void AnswerContainer(VDiagLayerContainer& container) {
-        NDIAGKIT::VOpBuildProtocolView builder;
-        NDIAGKIT::VProtocolView& view = *builder.CreateProtocolView(container);
-        Answer(container, L"protocols", view);
-        builder.DestroyProtocolView(view);
+        AnswerBuilt(container, L"protocols", NDIAGKIT::VOpBuildProtocolView().CreateProtocolView(container));
     }
 
     void AnswerLayer(VDiagLayer& layer) {
-        NDIAGKIT::VOpBuildDiagCommView diagComms;
-        NDIAGKIT::VDiagCommView& diagCommView = *diagComms.CreateDiagCommView(layer);
-        Answer(layer, L"visible DIAG-COMMs", diagCommView);
-        diagComms.DestroyDiagCommView(diagCommView);
-
-        NDIAGKIT::VOpBuildDiagVariableView variables;
-        NDIAGKIT::VDiagVariableView& variableView = *variables.CreateDiagVariableView(layer);
-        Answer(layer, L"visible DIAG-VARIABLEs", variableView);
-        variables.DestroyDiagVariableView(variableView);
-
-        NDIAGKIT::VOpBuildDopView dops;
-        NDIAGKIT::VDopView& dopView = *dops.CreateDopView(layer);
-        Answer(layer, L"visible DOPs", dopView);
-        dops.DestroyDopView(dopView);
-
-        NDIAGKIT::VOpBuildGlobalNegResponseView responses;
-        NDIAGKIT::VGlobalNegResponseView& responseView = *responses.CreateGlobalNegResponseView(layer);
-        Answer(layer, L"visible GLOBAL-NEG-RESPONSEs", responseView);
-        responses.DestroyGlobalNegResponseView(responseView);
-
+        using namespace NDIAGKIT;
+        AnswerBuilt(layer, L"visible DIAG-COMMs", VOpBuildDiagCommView().CreateDiagCommView(layer));
+        AnswerBuilt(layer, L"visible DIAG-VARIABLEs", VOpBuildDiagVariableView().CreateDiagVariableView(layer));
+        AnswerBuilt(layer, L"visible DOPs", VOpBuildDopView().CreateDopView(layer));
+        AnswerBuilt(layer, L"visible GLOBAL-NEG-RESPONSEs",
+                    VOpBuildGlobalNegResponseView().CreateGlobalNegResponseView(layer));
         for (IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
             if (auto* const service = dynamic_cast<VDiagService*>(&proxy); service != nullptr) {
-                NDIAGKIT::VInParamIfView inParams(*service);
+                VInParamIfView inParams(*service);
                 Answer(*service, L"input parameters", inParams);
-                NDIAGKIT::VOutParamIfView outParams(*service, VSearchRange::RequestAndResponses);
+                VOutParamIfView outParams(*service, VSearchRange::RequestAndResponses);
                 Answer(*service, L"output parameters", outParams);
             }
         }
     }
 
 private:
+    template <class View>
+    void AnswerBuilt(VOdxElement& element, wchar_t const* what, View* built) {
+        std::unique_ptr<View> const view(built);
+        Answer(element, what, *view);
+    }
+
     template <class View>
     void Answer(VOdxElement& element, wchar_t const* what, View& view) {
         std::wstring entries;
