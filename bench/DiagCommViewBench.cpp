@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <list>
 #include <string_view>
-#include <vector>
 
 #include <benchmark/benchmark.h>
 

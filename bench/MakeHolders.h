@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <memory>
-#include <string>
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Flash.h>

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include <diagkit/conformance/Kinds.h>
 #include <diagkit/conformance/Links.h>

@@ -5,7 +5,6 @@
 #include <map>
 #include <string>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
 #include <diagkit/conformance/Alternatives.h>

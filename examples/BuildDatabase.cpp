@@ -6,7 +6,6 @@
 
 #include <iostream>
 #include <memory>
-#include <string>
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Dops.h>

@@ -6,7 +6,6 @@
 
 #include <iostream>
 #include <memory>
-#include <string>
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/DiagVariables.h>

@@ -2,8 +2,6 @@
 
 // Bytes as one PDX package.
 
-#include <string_view>
-
 #include <diagkit/reader/OdxReader.h>
 
 #include <diagkit/fuzz/Limits.h>

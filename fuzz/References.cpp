@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdlib>
-#include <type_traits>
 
 #include <diagkit/memory/Odx.h>
 #include <diagkit/model/SearchRange.h>

@@ -2,8 +2,6 @@
 
 // Bytes as one ODX document, through the reader and the texts of its diagnostics.
 
-#include <string_view>
-
 #include <diagkit/reader/OdxReader.h>
 
 #include <diagkit/fuzz/Limits.h>

@@ -33,7 +33,6 @@ public:
 
     VDocumentReading& Reading() { return m_reading; }
     NMemory::VPosition Position() const; ///< of the tag being read
-    bool IsVersion20() const { return m_isVersion20; }
     void SetModelVersion(std::string_view version);
     void Report(VSeverity severity, char const* code, std::string message);
     /// An ID reference or short-name reference as its attributes say, valid until the next call.

@@ -99,13 +99,6 @@ VRow RolesRow() {
     return R::PlainWrapper("ROLES", Optional, {R::template Text<&T::AddRole>("ROLE", Many)});
 }
 
-template <class T>
-std::vector<VRow> LimitRows(VOccurs occurs = Optional) {
-    using R = VRows<T>;
-    return {R::template Child<&T::MakeLowerLimit>("LOWER-LIMIT", occurs),
-            R::template Child<&T::MakeUpperLimit>("UPPER-LIMIT", occurs)};
-}
-
 /// DIAG-CODED-TYPE, whose kind is its xsi:type or shows from its contents.
 template <class T>
 VRow CodedTypeRow(VOccurs occurs) {

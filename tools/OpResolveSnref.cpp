@@ -2,7 +2,6 @@
 #include <diagkit/tools/OpResolveSnref.h>
 
 #include <memory>
-#include <string>
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/DiagVariables.h>

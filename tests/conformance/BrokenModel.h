@@ -4,7 +4,6 @@
 #include <memory>
 #include <sstream>
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 

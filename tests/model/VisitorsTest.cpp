@@ -5,7 +5,6 @@
 #include <diagkit/model/Visitors.h>
 
 #include <string>
-#include <type_traits>
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,7 @@
 #include <diagkit/util/TextConv.h>
 
 #include <algorithm>
-#include <cstring>
-#include <cwchar>
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
