@@ -71,7 +71,7 @@ protected:
         return dynamic_cast<T&>(Element(id));
     }
 
-    /// Tag, short name and place of an element.
+    /// Line and column of an element, such as "2:1".
     static std::string PositionOf(NMemory::VMemNode const& node);
 
     NReader::VReadOptions m_options;

@@ -176,6 +176,7 @@ TEST_F(VThreadsTest, ProgressIsToldByTheCallersThreadAlone) {
     };
     m_options.threads = 4;
     ReadFiles({package});
+    EXPECT_GT(before, 0U) << "it was told";
 }
 
 TEST_F(VThreadsTest, WhatProgressThrowsEndsTheReading) {
