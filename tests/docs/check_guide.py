@@ -19,8 +19,13 @@ sys.path.insert(0, str(ROOT / "tests" / "install"))
 from project import empty, expect, run  # noqa: E402
 
 GUIDE = ROOT / "docs" / "guide"
-SOURCES = {"cpp": ["examples/*.cpp"], "xml": ["samples/*.odx-*"]}  # which are built and run, or checked, elsewhere
-LINES = 130  # of text, indented extracts among it: a page is two screens, that of models three
+# Which are built and run, or checked, elsewhere.
+SOURCES = {
+    "cpp": ["examples/*.cpp", "examples/own_model/*.h", "examples/own_model/*.cpp"],
+    "text": ["examples/own_model/*.table"],
+    "xml": ["samples/*.odx-*"],
+}
+LINES = 130  # of text: a page is two screens, that of models three
 
 
 def texts(*patterns):
@@ -58,7 +63,7 @@ def check_calls(page, text, folder, environment):
 
 
 def check_extracts(page, text):
-    unknown = languages(text) - {"console", "cpp", "xml"}
+    unknown = languages(text) - {"console", *SOURCES}
     expect(not unknown, f"{page}: nobody proves the blocks of {unknown}")
     for language, patterns in SOURCES.items():
         sources = texts(*patterns)
