@@ -151,9 +151,8 @@ int main(int count, char** arguments) {
         }
         stop();
     }
-    std::printf("{\"seconds\": %.6f, \"cpu\": %.6f, \"serial\": %.6f, \"destroy\": %.6f, \"bytes\": %llu, "
-                "\"elements\": %llu, \"peak\": "
-                "%llu}\n",
+    std::printf("{\"seconds\": %.6f, \"cpu\": %.6f, \"serial\": %.6f, \"destroy\": %.6f, "
+                "\"bytes\": %llu, \"elements\": %llu, \"peak\": %llu}\n",
                 end - start, cpuEnd - cpuStart, cost.serialCpu, cost.destroySeconds,
                 static_cast<unsigned long long>(cost.bytes), static_cast<unsigned long long>(cost.starts),
                 static_cast<unsigned long long>(NBench::PeakBytes()));

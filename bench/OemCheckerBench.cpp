@@ -2,8 +2,7 @@
 
 // Detecting the manufacturer, by DIAG-SERVICEs of a database of 200 layers and by characters of one long name:
 //
-//     oem/N, oem-bare/N                        half of the services stand in PROTOCOLs and are named as Volkswagen
-//     does,
+//     oem/N, oem-bare/N                        half of the services stand in PROTOCOLs, named as Volkswagen does,
 //                                              half in variants and have the state models of Fiat
 //     oem-names/N, oem-names-bare/N            all of the first sort
 //     oem-states/N, oem-states-bare/N          all of the second
