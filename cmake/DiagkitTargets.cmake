@@ -14,6 +14,13 @@ foreach(folder model logging util tools memory reader check conformance cli fuzz
     endif()
 endforeach()
 
+# What the sources of a platform are called: CodePages_win32.cpp.
+if(WIN32)
+    set(DIAGKIT_PLATFORM win32)
+else()
+    set(DIAGKIT_PLATFORM posix)
+endif()
+
 # Windows looks for a library in the folder of the program.
 if(WIN32 AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)

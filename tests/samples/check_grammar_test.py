@@ -264,7 +264,7 @@ class GrammarTest(unittest.TestCase):
 
     def test_exit_status(self):
         def run(paths):
-            command = [sys.executable, check_grammar.__file__, *map(str, paths)]
+            command = [sys.executable, "-B", check_grammar.__file__, *map(str, paths)]
             return subprocess.run(command, capture_output=True, text=True, check=False)
 
         self.assertEqual(run(DOCUMENTS).returncode, 0)
