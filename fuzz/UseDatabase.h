@@ -13,10 +13,6 @@ namespace NFuzz {
 /// Wants a result with a database whose elements were kept. Returns what the check said.
 std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result);
 
-/// The part of it that works reference by reference.
-class VBudget;
-void ResolveReferences(NReader::VReadResult& result, VBudget& budget);
-
 /// Counts steps down. Thrown as it is, it leaves a walk.
 class VBudget {
 public:
@@ -31,5 +27,8 @@ public:
 private:
     std::size_t m_left;
 };
+
+/// The part of `UseDatabase` that works reference by reference.
+void ResolveReferences(NReader::VReadResult& result, VBudget& budget);
 
 } // namespace NFuzz

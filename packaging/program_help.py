@@ -39,7 +39,7 @@ def sections(text):
     found, heading = {"": []}, ""
     for line in text.splitlines():
         if line.startswith("Usage: "):
-            found["Usage"] = [line[len("Usage: ") :]]
+            found["Usage"] = [line[len("Usage: "):]]
         elif line.endswith(":") and not line.startswith(" "):
             heading = line[:-1]
             found[heading] = []

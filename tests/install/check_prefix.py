@@ -74,7 +74,7 @@ def check_headers(include):
     by_folder = {}
     for name in headers:
         expect(name.startswith("diagkit/"), f"{name} is not below diagkit/")
-        folder, _, header = name[len("diagkit/") :].rpartition("/")
+        folder, _, header = name[len("diagkit/"):].rpartition("/")
         by_folder.setdefault(folder, set()).add(header)
     expect(set(by_folder) == FOLDERS, f"folders of headers: {set(by_folder)}")
     for folder in FOLDERS:
