@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 
 #include <diagkit/check/Parents.h>
 #include <diagkit/check/Topics.h>
@@ -9,18 +8,6 @@
 
 namespace NCheck {
 namespace {
-
-using VNames = std::unordered_set<std::wstring_view>;
-
-VNames ExcludedDiagComms(NODX201::VParentRef& parentRef) {
-    VNames names;
-    for (NODX201::VNotInheritedDiagComm& exclusion : parentRef.NotInheritedDiagCommCollection()) {
-        if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&exclusion.GetDiagCommSnref().GetLink())) {
-            names.insert(snref->GetShortName());
-        }
-    }
-    return names;
-}
 
 /// No other view applies exclusions.
 VNames NoExclusions(NODX201::VParentRef&) { return {}; }

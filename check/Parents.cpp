@@ -47,4 +47,14 @@ std::vector<std::vector<VParent>> ParentsByRank(NODX201::VDiagLayer& layer) {
     return std::move(ranks.ranks);
 }
 
+VNames ExcludedDiagComms(NODX201::VParentRef& parentRef) {
+    VNames names;
+    for (NODX201::VNotInheritedDiagComm& exclusion : parentRef.NotInheritedDiagCommCollection()) {
+        if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&exclusion.GetDiagCommSnref().GetLink())) {
+            names.insert(snref->GetShortName());
+        }
+    }
+    return names;
+}
+
 } // namespace NCheck

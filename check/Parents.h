@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <diagkit/check/Views.h>
 #include <diagkit/model/ParentRefs.h>
 
 namespace NCheck {
@@ -16,5 +17,8 @@ struct VParent {
 /// The parents of a layer by rank: first those that win over the rest, each rank in the order of the PARENT-REFs.
 /// References that inheritance does not follow are left out.
 std::vector<std::vector<VParent>> ParentsByRank(NODX201::VDiagLayer& layer);
+
+/// The short names of a PARENT-REF's NOT-INHERITED-DIAG-COMMS.
+VNames ExcludedDiagComms(NODX201::VParentRef& parentRef);
 
 } // namespace NCheck

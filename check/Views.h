@@ -3,6 +3,7 @@
 
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include <diagkit/model/DiagComms.h>
@@ -23,6 +24,9 @@ std::vector<NODX201::VDiagComm*> OwnDiagComms(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VDopBase*> OwnDops(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VDiagVariable*> OwnDiagVariables(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VGlobalNegResponse*> OwnGlobalNegResponses(NODX201::VDiagLayer& layer);
+
+/// Short names; they view the texts of the elements.
+using VNames = std::unordered_set<std::wstring_view>;
 
 /// Elements by short name; of several of one name the first.
 template <class Element>

@@ -13,7 +13,6 @@
 
 namespace NCheck {
 
-using VNames = std::unordered_set<std::wstring_view>;
 using VNamesByElement = std::unordered_map<NODX201::VReferencable const*, VNames>;
 
 /// What short names mean in one layer. The views of the layer live as long as this object.

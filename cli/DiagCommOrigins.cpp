@@ -5,36 +5,12 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include <diagkit/check/Parents.h>
+#include <diagkit/check/Views.h>
 #include <diagkit/cli/Parents.h>
-#include <diagkit/tools/OpBuildDiagCommView.h>
 
 namespace NCli {
 namespace {
-
-using VNames = std::unordered_set<std::wstring_view>;
-
-/// How many entries the layer's own DIAG-COMMS give; they come first in its view.
-std::size_t CountOwn(NODX201::VDiagLayer& layer) {
-    std::size_t count = 0;
-    if (!layer.HasDiagCommProxyCollection()) {
-        return count;
-    }
-    for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
-        auto* const link = dynamic_cast<NODX201::VDiagCommLink*>(&proxy);
-        count += link == nullptr || link->HasDiagComm(layer) ? 1 : 0;
-    }
-    return count;
-}
-
-VNames ExcludedBy(NODX201::VParentRef& parentRef) {
-    VNames names;
-    for (NODX201::VNotInheritedDiagComm& notInherited : parentRef.NotInheritedDiagCommCollection()) {
-        if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&notInherited.GetDiagCommSnref().GetLink())) {
-            names.insert(snref->GetShortName());
-        }
-    }
-    return names;
-}
 
 class VOriginFinder {
 public:
@@ -54,7 +30,7 @@ private:
     VDiagCommOrigins m_origins;
 };
 
-VOriginFinder::VOriginFinder(NODX201::VDiagLayer& layer) : m_layer(layer), m_view(VisibleDiagComms(layer)) {
+VOriginFinder::VOriginFinder(NODX201::VDiagLayer& layer) : m_layer(layer), m_view(NCheck::DiagCommsIn(layer)) {
     for (NODX201::VDiagComm* const diagComm : m_view) {
         m_visibleByName.try_emplace(diagComm->GetShortName(), diagComm);
         m_parents.try_emplace(diagComm, nullptr);
@@ -70,7 +46,7 @@ VDiagCommOrigins VOriginFinder::Find() {
             }
         }
     }
-    std::size_t const ownCount = CountOwn(m_layer);
+    std::size_t const ownCount = NCheck::OwnDiagComms(m_layer).size();
     for (std::size_t index = 0; index < m_view.size(); ++index) {
         if (index < ownCount) {
             m_origins.own.push_back(m_view[index]);
@@ -82,8 +58,8 @@ VDiagCommOrigins VOriginFinder::Find() {
 }
 
 void VOriginFinder::SeeParent(VParent const& parent) {
-    VNames const excluded = ExcludedBy(*parent.parentRef);
-    for (NODX201::VDiagComm* const diagComm : VisibleDiagComms(*parent.layer)) {
+    NCheck::VNames const excluded = NCheck::ExcludedDiagComms(*parent.parentRef);
+    for (NODX201::VDiagComm* const diagComm : NCheck::DiagCommsIn(*parent.layer)) {
         SeeOffer({diagComm, parent.layer, nullptr}, excluded.count(diagComm->GetShortName()) != 0);
     }
 }
@@ -106,17 +82,6 @@ void VOriginFinder::SeeOffer(VOfferedDiagComm const& offer, bool isExcluded) {
 }
 
 } // namespace
-
-std::vector<NODX201::VDiagComm*> VisibleDiagComms(NODX201::VDiagLayer& layer) {
-    NDIAGKIT::VOpBuildDiagCommView builder;
-    NDIAGKIT::VDiagCommView& view = *builder.CreateDiagCommView(layer);
-    std::vector<NODX201::VDiagComm*> entries;
-    for (NODX201::VDiagComm& diagComm : view) {
-        entries.push_back(&diagComm);
-    }
-    builder.DestroyDiagCommView(view);
-    return entries;
-}
 
 VDiagCommOrigins DiagCommOriginsOf(NODX201::VDiagLayer& layer) { return VOriginFinder(layer).Find(); }
 

@@ -24,9 +24,6 @@ struct VDiagCommOrigins {
     std::vector<VOfferedDiagComm> excluded;  ///< not visible for NOT-INHERITED-DIAG-COMMS, in the order of the passes
 };
 
-/// The DIAG-COMMs visible in a layer, in view order.
-std::vector<NODX201::VDiagComm*> VisibleDiagComms(NODX201::VDiagLayer& layer);
-
 VDiagCommOrigins DiagCommOriginsOf(NODX201::VDiagLayer& layer);
 
 } // namespace NCli

@@ -7,8 +7,8 @@
 
 #include <fmt/format.h>
 
+#include <diagkit/check/Views.h>
 #include <diagkit/cli/Columns.h>
-#include <diagkit/cli/DiagCommOrigins.h>
 #include <diagkit/cli/Layers.h>
 #include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/Text.h>
@@ -203,7 +203,7 @@ NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string c
 NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, std::string const& name,
                                  VOutput const& output) {
     VCandidates<NODX201::VDiagComm> visible;
-    for (NODX201::VDiagComm* const diagComm : VisibleDiagComms(layer)) {
+    for (NODX201::VDiagComm* const diagComm : NCheck::DiagCommsIn(layer)) {
         visible.push_back({diagComm});
     }
     std::wstring const wanted = NReader::FromUtf8(name);

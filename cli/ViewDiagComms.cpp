@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include <diagkit/check/Views.h>
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/DiagCommOrigins.h>
 #include <diagkit/cli/ElementFinder.h>
@@ -106,7 +107,7 @@ void WriteText(NODX201::VDiagLayer& layer, VDiagCommOrigins const& origins, VOut
 }
 
 void WriteJson(NODX201::VDiagLayer& layer, VOutput& output) {
-    std::vector<NODX201::VDiagComm*> const view = VisibleDiagComms(layer);
+    std::vector<NODX201::VDiagComm*> const view = NCheck::DiagCommsIn(layer);
     WriteViewAsJson("diag-comms", layer, {view.begin(), view.end()}, output);
 }
 
