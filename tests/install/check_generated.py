@@ -20,6 +20,13 @@ COMPLETIONS = PACKAGING / "completions"
 FILES = ["diagkit.1", "completions/diagkit.bash", "completions/_diagkit", "completions/diagkit.fish"]
 
 
+def is_here(tool):
+    """Says so where a tool is not, since what is made for it is then not tried."""
+    if not shutil.which(tool):
+        print(f"not tried, because {tool} is not installed")
+    return shutil.which(tool) is not None
+
+
 def check_up_to_date(program):
     with tempfile.TemporaryDirectory() as folder:
         run(sys.executable, "-B", PACKAGING / "generate", folder, *program)
@@ -34,7 +41,7 @@ def check_man_page(commands):
         expect(f"\n.SS {command.name}\n" in page, f"no {command.name} in the man page")
         for option in command.options:
             expect(f"\n\\fB{option.name}\\fR" in page, f"no {option.name} in the man page")
-    if shutil.which("groff"):
+    if is_here("groff"):
         warnings = run("groff", "-man", "-ww", "-z", PACKAGING / "diagkit.1")
         expect(warnings == "", warnings)
 
@@ -85,9 +92,9 @@ def main():
     check_up_to_date(program)
     check_man_page(commands)
     check_bash(own, commands)
-    if shutil.which("zsh"):
+    if is_here("zsh"):
         run("zsh", "-n", COMPLETIONS / "_diagkit")
-    if shutil.which("fish"):
+    if is_here("fish"):
         check_fish(commands)
 
 
