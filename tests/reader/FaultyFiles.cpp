@@ -27,10 +27,15 @@ std::size_t GrantedBytes(std::size_t wanted) {
     if (!s_isFaulty) {
         return wanted;
     }
-    std::size_t const granted = static_cast<std::size_t>(std::min<std::uint64_t>(wanted, s_left));
-    s_left -= granted;
-    s_hasHappened = s_hasHappened || (granted == 0 && wanted > 0);
-    return granted;
+    std::uint64_t left = s_left;
+    std::uint64_t granted = 0;
+    do { // two threads may read at the same time
+        granted = std::min<std::uint64_t>(wanted, left);
+    } while (!s_left.compare_exchange_weak(left, left - granted));
+    if (granted == 0 && wanted > 0) {
+        s_hasHappened = true;
+    }
+    return static_cast<std::size_t>(granted);
 }
 
 } // namespace NTest
