@@ -11,6 +11,7 @@
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
+#include <diagkit/reader/Ascii.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
@@ -159,7 +160,8 @@ void WriteError(std::string const& file, std::string const& reason, bool isJson,
 }
 
 bool IsNamedLikeOdx(fs::path const& path) {
-    std::string const extension = path.extension().u8string();
+    std::string extension = path.extension().u8string();
+    std::transform(extension.begin(), extension.end(), extension.begin(), NReader::Lower);
     return extension == ".pdx" || extension == ".zip" || extension == ".xml" || extension.rfind(".odx", 0) == 0;
 }
 

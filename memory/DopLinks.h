@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include <diagkit/memory/Parts.h>
+#include <diagkit/memory/Children.h>
 #include <diagkit/model/Dops.h>
 
 /// References to DOPs.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <diagkit/memory/Children.h>
 #include <diagkit/memory/DiagCommLinks.h>
-#include <diagkit/memory/Parts.h>
 #include <diagkit/memory/TableLinks.h>
 #include <diagkit/model/Layers.h>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <type_traits>
+#include <utility>
 #include <variant>
 
 #include <diagkit/memory/Element.h>

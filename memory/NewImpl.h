@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/memory/Parts.h>
+#include <diagkit/memory/Children.h>
 
 /// The body of `New`, for the sources that instantiate it.
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/memory/Parts.h>
+#include <diagkit/memory/Children.h>
 #include <diagkit/model/Tables.h>
 
 /// References to tables and their rows.

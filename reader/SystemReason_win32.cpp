@@ -7,6 +7,9 @@
 
 namespace NReader {
 
-std::string ReasonBeyondErrno() { return std::system_category().message(static_cast<int>(GetLastError())); }
+std::string ReasonBeyondErrno() {
+    DWORD const number = GetLastError();
+    return number == ERROR_SUCCESS ? std::string() : std::system_category().message(static_cast<int>(number));
+}
 
 } // namespace NReader

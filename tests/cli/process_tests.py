@@ -261,7 +261,7 @@ class OemOfEach(unittest.TestCase):
             for name, content in {
                 "b.odx-d": (databases / "Psa.odx-d").read_bytes(),
                 "a.xml": b"<ODX",
-                "c.pdx": b"PK\3\4",
+                "c.PDX": b"PK\3\4",
                 "notes.txt": b"not looked at",
             }.items():
                 (pathlib.Path(folder) / name).write_bytes(content)
@@ -269,7 +269,7 @@ class OemOfEach(unittest.TestCase):
         self.assertEqual((done.returncode, done.stderr), (3, ""))
         lines = [json.loads(line) for line in done.stdout.splitlines()]
         names = [pathlib.Path(line["file"]).name for line in lines]
-        self.assertEqual(names, ["a.xml", "b.odx-d", "c.pdx", "Claas.odx-d"])
+        self.assertEqual(names, ["a.xml", "b.odx-d", "c.PDX", "Claas.odx-d"])
         self.assertEqual([line.get("manufacturer") for line in lines], [None, "Psa", None, "Claas"])
         self.assertEqual(["error" in line for line in lines], [True, False, True, False])
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <utility>
 
 #include <diagkit/memory/Collection.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/memory/Parts.h>
+#include <diagkit/memory/Children.h>
 
 #include <stdexcept>
 
