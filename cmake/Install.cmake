@@ -19,6 +19,9 @@ install(FILES ${DIAGKIT_INCLUDE_DIR}/diagkit/Export.h ${DIAGKIT_INCLUDE_DIR}/dia
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/diagkit)
 
+# What is installed is built by this target; ./run and scripts/package ask for it.
+add_custom_target(diagkit_products)
+
 # Targets are called diagkit::NAME here as there. The export sets are those of the headers' dependencies: a program that
 # reads no files needs neither expat nor libzip.
 function(diagkit_install_targets export)
@@ -26,6 +29,7 @@ function(diagkit_install_targets export)
         string(REPLACE "diagkit_" "" name ${target})
         set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
     endforeach()
+    add_dependencies(diagkit_products ${ARGN})
     install(TARGETS ${ARGN} EXPORT ${export}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Library
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Library NAMELINK_COMPONENT Development
@@ -79,6 +83,7 @@ if(TARGET diagkit_cli)
         file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
         set_target_properties(diagkit_cli PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
     endif()
+    add_dependencies(diagkit_products diagkit_cli)
     install(TARGETS diagkit_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Program)
     install(FILES packaging/diagkit.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Program)
     install(FILES packaging/completions/diagkit.bash RENAME diagkit

@@ -12,7 +12,7 @@ import sys
 import tarfile
 import zipfile
 
-from project import EMULATOR, EXE, ROOT, SAMPLE, empty, expect, run, run_program, version
+from project import EMULATOR, EXE, ROOT, SAMPLE, empty, expect, run, run_program, version, write_preparation
 
 FIELDS = ["Package", "Version", "Architecture", "Depends"]
 
@@ -22,8 +22,8 @@ def make(build, folder):
     tree = empty(folder / "tree")
     (tree / "scripts").mkdir()
     (tree / "scripts" / "package").write_bytes((ROOT / "scripts" / "package").read_bytes())
-    for script in ("prepare", "prepare-windows"):
-        (tree / "scripts" / script).write_text("#!/bin/sh\n")
+    write_preparation(tree / "scripts")
+    (tree / "scripts" / "prepare-windows").write_text("#!/bin/sh\n")
     for script in (tree / "scripts").iterdir():
         script.chmod(0o755)
     (tree / "build").mkdir()

@@ -13,7 +13,7 @@ import re
 import shutil
 import sys
 
-from project import EMULATOR, ROOT, SAMPLE, empty, expect, run
+from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, write_preparation
 
 # What stands in the commands for something of the user's, and something of the sample's for it.
 PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper"}
@@ -56,8 +56,7 @@ def make_windows_build(release, build):
 def make_tree(folder, build):
     (folder / "scripts").mkdir()
     shutil.copy(ROOT / "run", folder)
-    (folder / "scripts" / "prepare").write_text("#!/bin/sh\n")
-    (folder / "scripts" / "prepare").chmod(0o755)
+    write_preparation(folder / "scripts")
     release = folder / "build" / "release"
     if EMULATOR:
         make_windows_build(release, build)

@@ -55,6 +55,13 @@ def empty(folder):
     return folder
 
 
+def write_preparation(scripts):
+    """A scripts/prepare that builds nothing: it says what it is asked for when that is not what is installed."""
+    script = scripts / "prepare"
+    script.write_text('#!/bin/sh\n[ "$2" = diagkit_products ] || { echo "prepare $*: what is installed?"; exit 1; }\n')
+    script.chmod(0o755)
+
+
 def examples():
     """The sources of examples/, by the name of the program."""
     found = (ROOT / "examples").glob("*.cpp")
