@@ -4,7 +4,7 @@
 import json
 import re
 import subprocess
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 
 OPTION = re.compile(r"  (?:-\w,)?(--[\w-]+)(?: (.*?))?(?:\s{2,}(.*))?$")
 POSITIONAL = re.compile(r"  ([A-Z]+)(?: \.\.\.)?(?: REQUIRED)?\s{2,}(.*)$")
@@ -17,6 +17,7 @@ class Option:
     value: str  # what stands for its value, "" for a flag
     choices: list
     text: str
+    group: str = ""  # the heading that it stands under, "" among the usual options
 
 
 @dataclass
@@ -26,7 +27,7 @@ class Command:
     usage: str = ""
     options: list = field(default_factory=list)
     positionals: dict = field(default_factory=dict)  # name: text
-    notes: str = ""  # what follows the options, as it is
+    notes: str = ""  # what follows the options and is none, as it is
     choices: list = field(default_factory=list)  # of its first argument
 
 
@@ -54,6 +55,8 @@ def option_of(name, value, text):
         choices = found[1].split(",")
     elif found := re.search(r"in \[(\d+) - (\d+)\]", value):
         choices = [str(number) for number in range(int(found[1]), int(found[2]) + 1)]
+    if found := re.search(r"=(\w+)$", value):
+        text += f"; default {found[1]}"
     return Option(name, re.split(r"[:= ]", value)[0], choices, text)
 
 
@@ -78,6 +81,9 @@ def command_of(program, name, text):
     if "KIND" in command.positionals:
         command.choices = command.positionals["KIND"].partition(": ")[2].split(", ")
     others = [heading for heading in parts if heading not in ("", "Usage", "Options", "Positionals")]
+    for heading in [heading for heading in others if all(OPTION.match(line) for line in parts[heading])]:
+        command.options += [replace(option, group=heading) for option in options_of(parts[heading])]
+        others.remove(heading)
     command.notes = "\n\n".join("\n".join([heading + ":", *parts[heading]]) for heading in others)
     return command
 

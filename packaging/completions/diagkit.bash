@@ -3,16 +3,27 @@ _diagkit() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local options= choices= answers=
     case ${COMP_WORDS[1]} in
-    info) options="--help --json --strict --quiet --version" choices="" ;;
-    layers) options="--help --json --strict --quiet --version" choices="" ;;
-    view) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
-    resolve) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
-    traverse) options="--help --layer --dictionary --max-visits --json --strict --quiet --version" choices="" ;;
-    oem) options="--help --each --json --strict --quiet --version" choices="" ;;
+    info) options="--help --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    layers) options="--help --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    view) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
+    resolve) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
+    traverse) options="--help --layer --dictionary --max-visits --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    oem) options="--help --each --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
-    check) options="--help --format --json --strict --quiet --version" choices="" ;;
+    check) options="--help --format --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     esac
     case $previous in
+    --max-file-size) answers="" ;;
+    --max-members) answers="" ;;
+    --max-member-size) answers="" ;;
+    --max-package-size) answers="" ;;
+    --max-ratio) answers="" ;;
+    --max-elements) answers="" ;;
+    --max-depth) answers="" ;;
+    --max-attributes) answers="" ;;
+    --max-tag-size) answers="" ;;
+    --max-text-size) answers="" ;;
+    --max-diagnostics) answers="" ;;
     --layer) answers="" ;;
     --container) answers="" ;;
     --diag-comm) answers="" ;;

@@ -86,7 +86,8 @@ def main():
     own, commands = program_help.read(program)
     # Were these not read from the help, the rest would say nothing.
     view = next(command for command in commands if command.name == "view")
-    expect({"--layer", "--range", "--json"} <= {option.name for option in view.options}, "the options are not read")
+    expected = {"--layer", "--range", "--json", "--max-file-size"}
+    expect(expected <= {option.name for option in view.options}, "the options are not read")
     expect("diag-comms" in view.choices and len(view.choices) == 9, "the kinds are not read")
 
     check_up_to_date(program)
