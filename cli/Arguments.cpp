@@ -73,7 +73,8 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments) {
 }
 
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments) {
-    auto& option = *command.add_option("--layer", arguments.layer, "The layer to look from, by its short name or ID");
+    auto& option = *command.add_option("--layer", arguments.layer,
+                                       "The layer to look from, by its short name or ID, or as CONTAINER/LAYER");
     return *option.type_name("L");
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <array>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -8,6 +10,7 @@
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/EnumMapper.h>
@@ -168,11 +171,11 @@ VStatus RunEnums(VArguments const& arguments, VOutput& output) {
                                                  : WriteTable(table, arguments, output);
         }
     }
-    std::string all;
+    std::vector<std::string> names;
     for (VTable const& table : kTables) {
-        all += fmt::format("{}{}", all.empty() ? "" : ", ", table.name);
+        names.emplace_back(table.name);
     }
-    output.Complain(fmt::format("no table '{}'; there are {}", Shown(*arguments.table), all));
+    output.Complain(fmt::format("no table '{}'{}", Shown(*arguments.table), NearOrAllNote(*arguments.table, names)));
     return VStatus::NotThere;
 }
 
