@@ -132,6 +132,8 @@ def main():
     if not EMULATOR:
         check_debian(made, empty(folder / "root"))
     check_archives(made, empty(folder / "unpacked"))
+    others = {path.name for path in made.iterdir() if not re.search(r"\.(deb|tar\.gz|zip)(\.sha256)?$", path.name)}
+    expect(not others, f"besides packages there are {others}")
     sums = list(made.glob("*.sha256"))
     expect(sums, "no checksums")
     run("sha256sum", "-c", *sums, cwd=made)
