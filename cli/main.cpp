@@ -70,6 +70,20 @@ std::vector<std::string> OptionsOf(CLI::App const& program) {
     return names;
 }
 
+/// What CLI11 says, where it is about how many values an option has, in this program's words.
+std::string ValueMessage(CLI::ParseError const& error) {
+    std::string const text = error.what();
+    bool const isAboutCount = dynamic_cast<CLI::ArgumentMismatch const*>(&error) != nullptr;
+    std::string const option = text.substr(0, text.find(':'));
+    if (isAboutCount && text.find("missing") != std::string::npos) {
+        return option + " wants a value";
+    }
+    if (isAboutCount && text.find("At Most 1") != std::string::npos) {
+        return option + " may be given once";
+    }
+    return text;
+}
+
 /// What is wrong with a call that could not be understood, with near names for what may be misspelt in it.
 std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) {
     std::vector<std::string> const left = program.remaining(true);
@@ -83,8 +97,11 @@ std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) 
     if (option != left.end()) {
         return fmt::format("no option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));
     }
+    if (word != left.end()) {
+        return fmt::format("'{}' is one argument too many", Shown(*word));
+    }
     return parsed.empty() ? fmt::format("a command is required{}", NearOrAllNote("", NamesOf(kCommands)))
-                          : error.what();
+                          : ValueMessage(error);
 }
 
 VStatus Run(std::vector<std::string> words, VOutput& output) {
