@@ -61,11 +61,11 @@ def main():
     build("checked", "diagkit-check", HERE / "stranger" / "checked.cpp")
     build("app", "diagkit-reader", write_readme_program(folder))
     build("own_model", "diagkit-conformance", *own_model())
-    # The flags are the same for all examples, and check_find_package.py builds them all.
-    build("collect_elements", "diagkit-reader", examples()["collect_elements"])
+    for program, source in examples().items():
+        build(program, "diagkit-reader", source)
     run_stranger_programs(folder)
     run_readme_program(folder / "app")
-    run_examples(folder, ["collect_elements", "own_model"])
+    run_examples(folder, [*examples(), "own_model"])
 
 
 if __name__ == "__main__":

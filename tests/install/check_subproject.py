@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Build and run a program of a project that takes the sources of diagkit with it.
+"""Build and run programs of projects that take the sources of diagkit with them: of one that wants the toolkit alone, and
+the examples, which want the reader, too.
 
     check_subproject.py FOLDER CMAKE_ARGUMENT...
 """
@@ -9,7 +10,35 @@ import pathlib
 import shutil
 import sys
 
-from project import HERE, ROOT, empty, expect, run, run_program, use_libraries_of, version
+from project import (
+    HERE,
+    ROOT,
+    empty,
+    examples,
+    expect,
+    own_model,
+    run,
+    run_examples,
+    run_program,
+    use_libraries_of,
+    version,
+)
+
+
+def use_library_built_in(folder):
+    use_libraries_of(*{path.parent for path in folder.rglob("*diagkit.*") if path.suffix in (".so", ".dll")})
+
+
+def check_examples(configure, folder):
+    sources = [
+        f"-DEXAMPLES={';'.join(map(str, examples().values()))}",
+        f"-DOWN_MODEL={';'.join(map(str, own_model()))}",
+    ]
+    run(*configure, "-B", folder, "-DWITH_READER=ON", *sources)
+    names = [*examples(), "own_model"]
+    run("cmake", "--build", folder, "--target", *names)
+    use_library_built_in(folder)
+    run_examples(folder, names)
 
 
 def main():
@@ -28,10 +57,10 @@ def main():
         f"-DSTRANGER={HERE / 'stranger' / 'toolkit.cpp'}",
         *("-S", HERE / "subproject"),
     ]
-    run(*configure, "-B", with_reader, "-DDIAGKIT_BUILD_READER=ON")
+    check_examples(configure, with_reader)
     run(*configure, "-B", folder)
     run("cmake", "--build", folder, "--target", "stranger")
-    use_libraries_of(*{path.parent for path in folder.rglob("*diagkit.*") if path.suffix in (".so", ".dll")})
+    use_library_built_in(folder)
     answer = run_program(folder / "stranger")
     expect(answer == f"{version()} PHYSICAL\n", f"the program prints {answer!r}")
 
