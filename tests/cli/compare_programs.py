@@ -5,7 +5,8 @@
     compare_programs.py REFERENCE -- PROGRAM...
 
 Both are asked about the sample, the databases of the other tests and, where they are present, those that lie beside the
-project: each command about all of a database, then those that take a layer about every layer.
+project: each command about all of a database, then those that take a layer about every layer; about the sample also
+what takes something else.
 """
 
 import concurrent.futures
@@ -34,10 +35,22 @@ OF_LAYER = (
     ["traverse", "--json", "--quiet", "--max-visits", "100000"],
 )
 
+SAMPLE = "samples/WiperDatabase.pdx"
+OF_SAMPLE = (
+    ["view", "protocols", "--layer", "FrontWiper"],
+    ["view", "protocols", "--container", "BodyProtocols"],
+    ["view", "sessions", "--flash", "WiperFlash"],
+    ["view", "idents", "--flash", "WiperFlash"],
+    ["resolve", "dop", "WiperMode", "--layer", "FrontWiperBasic"],
+    ["resolve", "dop", "NoSuchName", "--layer", "FrontWiper"],
+    ["resolve", "out-param", "MotorCurrent", "--layer", "FrontWiper", "--diag-comm", "ReadWiperStatus"],
+    ["resolve", "session", "CalibrationUpdate", "--flash", "WiperFlash"],
+)
+
 
 def databases():
     """Lists of files, each of which makes one database."""
-    names = ["samples/WiperDatabase.pdx"]
+    names = [SAMPLE]
     for folder, suffix in (("tests/oem/databases", "*.odx-*"), ("tests/cli/data", "*")):
         names += [path.relative_to(ROOT).as_posix() for path in sorted((ROOT / folder).glob(suffix))]
     shared = ROOT.parent / "shared" / "samples"
@@ -70,6 +83,15 @@ def calls_about(files, reference):
     return calls
 
 
+def calls_about_sample(reference):
+    """Beside the above: FLASHs, containers, names, the parameters of every service and job, and what takes no file."""
+    view = json.loads(answer(reference, ["view", "diag-comms", "--json", SAMPLE, "--layer", "FrontWiper"])[1])
+    names = [entry["short_name"] for entry in view["entries"]]
+    params = [["view", kind, "--layer", "FrontWiper", "--diag-comm", name]
+              for name in names for kind in ("in-params", "out-params")]
+    return [["enums", "--json"]] + [[*call, "--json", SAMPLE] for call in [*OF_SAMPLE, *params]]
+
+
 def difference(call, expected, actual):
     text = [f"$ diagkit {' '.join(call)}"]
     if expected[0] != actual[0]:
@@ -88,6 +110,7 @@ def main(words):
     reference, program = words[:end], words[end + 1:]
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         calls = [call for files in databases() for call in calls_about(files, reference)]
+        calls += calls_about_sample(reference)
         answers = zip(calls, pool.map(lambda call: answer(reference, call), calls),
                       pool.map(lambda call: answer(program, call), calls))
         answers = [(*row[:2], second_chance(program, *row)) for row in answers]
