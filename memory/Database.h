@@ -28,7 +28,7 @@ class VFlashCollection : public NODX201::VElementCollection<VMemFlash> {};
 class VMultipleEcuJobSpecCollection : public NODX201::VElementCollection<VMemMultipleEcuJobSpec> {};
 
 /// An ODX database in memory: owns the root and, through it, every element. This is how programs build a database by
-/// hand, and what the reader fills.
+/// hand, and what the reader fills. With `memory/Layers.h`:
 ///
 ///     NMemory::VDatabase database;
 ///     auto& container = database.AddDiagLayerContainer(L"Doors");

@@ -168,6 +168,9 @@ std::string MessageOf(XML_Error code, std::string const& declaredEncoding) {
     if (code == XML_ERROR_UNKNOWN_ENCODING) {
         return "the encoding '" + declaredEncoding.substr(0, 100) + "' is unknown; known are " + KnownEncodings();
     }
+    if (code == XML_ERROR_INVALID_TOKEN) {
+        return "invalid token"; // expat's own text says first that the document is not well-formed
+    }
     std::string const message = XML_ErrorString(code);
     return code == XML_ERROR_MISPLACED_XML_PI ? message + "; remove what stands before the declaration" : message;
 }

@@ -76,6 +76,7 @@ TEST_F(VBadInputTest, BinaryFileIsRefused) {
                           "ELF\0\x01\x02\0\xFF",
                           9));
     ExpectRefused("test.odx:1:1 error not-xml", "not well-formed XML");
+    EXPECT_EQ(Message(0).find("not well-formed", 1), std::string::npos) << "said twice: " << Message(0);
 }
 
 TEST_F(VBadInputTest, NameThatIsNotUtf8IsAMissingFileOrReadAsItIs) {
