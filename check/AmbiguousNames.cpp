@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <string_view>
+#include <type_traits>
 #include <unordered_map>
 
 #include <diagkit/check/Parents.h>
@@ -9,31 +11,23 @@
 namespace NCheck {
 namespace {
 
-/// No other view applies exclusions.
-VNames NoExclusions(NODX201::VParentRef&) { return {}; }
-
-/// A kind of element that layers inherit by short name.
-template <class Element>
-struct VInherited {
-    char const* title;
-    std::vector<Element*> (*visible)(NODX201::VDiagLayer& layer);
-    std::vector<Element*> (*own)(NODX201::VDiagLayer& layer);
-    VNames (*excluded)(NODX201::VParentRef& parentRef);
-};
-
 /// Compares what the parents of one layer offer.
-template <class Element>
+template <class Kind>
 class VComparison {
 public:
-    VComparison(VInherited<Element> const& kind, NODX201::VDiagLayer& layer, VFindings& findings)
-        : m_kind(kind), m_layer(layer), m_findings(findings), m_view(ByShortName(kind.visible(layer))) {
-        for (Element const* const element : kind.own(layer)) {
+    using Element = typename Kind::Element;
+
+    VComparison(char const* title, NDIAGKIT::VInheritance<Kind>& views, NODX201::VDiagLayer& layer, VFindings& findings)
+        : m_title(title), m_views(views), m_layer(layer), m_findings(findings),
+          m_view(ByShortName(views.EntriesOf(layer))) {
+        for (Element const* const element : NDIAGKIT::VInheritance<Kind>::OwnOf(layer)) {
             m_decided.insert(element->GetShortName());
         }
     }
 
     void CompareRank(std::vector<VParent> const& rank) {
         m_first.clear();
+        m_offers.clear();
         for (VParent const& parent : rank) {
             SeeParent(parent);
         }
@@ -43,24 +37,64 @@ public:
     }
 
 private:
+    /// The DOP view is the one that has an order of its own.
+    static std::vector<Element*> InViewOrder(std::vector<Element*> entries) {
+        if constexpr (std::is_same_v<Kind, NDIAGKIT::VInheritedDops>) {
+            std::sort(entries.begin(), entries.end(), [](Element const* a, Element const* b) {
+                return std::wstring_view(a->GetShortName()) < b->GetShortName();
+            });
+        }
+        return entries;
+    }
+
     struct VOffer {
         Element* element;
         VParent parent;
     };
+    struct VOffered {
+        std::vector<Element*> left;   ///< what no reference has brought so far
+        std::vector<Element*> rivals; ///< what another parent offers another element for
+    };
 
     void SeeParent(VParent const& parent) {
-        VNames const excluded = m_kind.excluded(*parent.reference);
-        VNames seen; // a parent's own second one of a name is never offered
-        for (Element* const element : m_kind.visible(*parent.layer)) {
-            std::wstring_view const name = element->GetShortName();
-            if (m_decided.count(name) != 0 || excluded.count(name) != 0 || !seen.insert(name).second) {
+        VNames const excluded = Kind::kRow.appliesExclusions ? ExcludedDiagComms(*parent.reference) : VNames();
+        auto const [known, isNew] = m_offers.try_emplace(parent.layer);
+        VOffered& offered = known->second;
+        if (isNew) {
+            offered.left = OfferedBy(*parent.layer);
+        }
+        for (Element* const element : offered.rivals) {
+            if (excluded.count(element->GetShortName()) == 0) {
+                Report(m_first.at(element->GetShortName()), *element, parent);
+            }
+        }
+        // What a parent offers is seen once, by the first reference that does not exclude it.
+        std::vector<Element*> const left = std::move(offered.left);
+        offered.left = {};
+        for (Element* const element : left) {
+            if (excluded.count(element->GetShortName()) != 0) {
+                offered.left.push_back(element);
                 continue;
             }
-            VOffer const& first = m_first.try_emplace(name, VOffer{element, parent}).first->second;
+            VOffer const& first = m_first.try_emplace(element->GetShortName(), VOffer{element, parent}).first->second;
             if (first.element != element && !IsRankedAbove(first.parent, parent)) {
+                offered.rivals.push_back(element);
                 Report(first, *element, parent);
             }
         }
+    }
+
+    /// The first of each short name that is not decided: a parent's own second one of a name is never offered.
+    std::vector<Element*> OfferedBy(NODX201::VDiagLayer& parent) {
+        std::vector<Element*> offered;
+        VNames seen;
+        for (Element* const element : InViewOrder(m_views.EntriesOfParent(parent))) {
+            std::wstring_view const name = element->GetShortName();
+            if (m_decided.count(name) == 0 && seen.insert(name).second) {
+                offered.push_back(element);
+            }
+        }
+        return offered;
     }
 
     /// ODX ranks a FUNCTIONAL-GROUP above a PROTOCOL; where it also stands first, all agree on who wins.
@@ -75,24 +109,26 @@ private:
             return; // a layer of this kind inherits none from there
         }
         m_findings.Add({"ambiguous-name", PositionOf(*parent.reference),
-                        std::string(m_kind.title) + ' ' + Quoted(element.GetShortName()) + " comes to the " +
+                        std::string(m_title) + ' ' + Quoted(element.GetShortName()) + " comes to the " +
                             Titled(m_layer) + " from the " + Titled(*first.parent.layer) +
                             " and another one of that name from the " + Titled(*parent.layer) +
                             ", parents of equal rank; the first wins, because its PARENT-REF stands first"});
     }
 
-    VInherited<Element> const& m_kind;
+    char const* m_title; ///< of the kind
+    NDIAGKIT::VInheritance<Kind>& m_views;
     NODX201::VDiagLayer& m_layer;
     VFindings& m_findings;
     std::unordered_map<std::wstring_view, Element*> m_view;
     VNames m_decided; ///< names of own elements and of those that parents of higher rank offer
     std::unordered_map<std::wstring_view, VOffer> m_first;
+    std::unordered_map<NODX201::VDiagLayer*, VOffered> m_offers; ///< of the parents of this rank
 };
 
-template <class Element>
-void Compare(VInherited<Element> const& kind, NODX201::VDiagLayer& layer,
+template <class Kind>
+void Compare(char const* title, NDIAGKIT::VInheritance<Kind>& views, NODX201::VDiagLayer& layer,
              std::vector<std::vector<VParent>> const& ranks, VFindings& findings) {
-    VComparison<Element> comparison(kind, layer, findings);
+    VComparison<Kind> comparison(title, views, layer, findings);
     for (std::vector<VParent> const& rank : ranks) {
         comparison.CompareRank(rank);
     }
@@ -110,22 +146,16 @@ bool HasEqualParents(std::vector<std::vector<VParent>> const& ranks) {
 } // namespace
 
 void CheckAmbiguousNames(VChecked const& checked, VFindings& findings) {
-    // clang-format off
-    static constexpr VInherited<NODX201::VDiagComm> kDiagComms{"DIAG-COMM", &DiagCommsIn, &OwnDiagComms, &ExcludedDiagComms};
-    static constexpr VInherited<NODX201::VDopBase> kDops{"DOP", &DopsIn, &OwnDops, &NoExclusions};
-    static constexpr VInherited<NODX201::VDiagVariable> kVariables{"DIAG-VARIABLE", &DiagVariablesIn, &OwnDiagVariables, &NoExclusions};
-    static constexpr VInherited<NODX201::VGlobalNegResponse> kResponses{"GLOBAL-NEG-RESPONSE", &GlobalNegResponsesIn, &OwnGlobalNegResponses, &NoExclusions};
-    // clang-format on
     for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
         checked.layerDone();
         std::vector<std::vector<VParent>> const ranks = ParentsByRank(*layer);
         if (!HasEqualParents(ranks)) {
             continue;
         }
-        Compare(kDiagComms, *layer, ranks, findings);
-        Compare(kDops, *layer, ranks, findings);
-        Compare(kVariables, *layer, ranks, findings);
-        Compare(kResponses, *layer, ranks, findings);
+        Compare("DIAG-COMM", checked.views.diagComms, *layer, ranks, findings);
+        Compare("DOP", checked.views.dops, *layer, ranks, findings);
+        Compare("DIAG-VARIABLE", checked.views.diagVariables, *layer, ranks, findings);
+        Compare("GLOBAL-NEG-RESPONSE", checked.views.globalNegResponses, *layer, ranks, findings);
     }
 }
 

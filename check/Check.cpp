@@ -62,8 +62,9 @@ CheckDatabase(NReader::VReadResult& result,
     VFindings findings(result.maxDiagnostics);
     VSteps steps(LayersOf(database).size(), progress);
     std::function<void()> const layerDone = [&steps] { steps.LayerDone(); };
+    VViews views;
     for (auto const topic : kTopics) {
-        topic({database, result.elements, layerDone}, findings);
+        topic({database, result.elements, views, layerDone}, findings);
         database.StartNewResolver(); // the views of all layers are more than most programs want to hold
         steps.TopicDone();
     }

@@ -10,6 +10,7 @@ std::vector<VCode> const& Codes() {
     constexpr auto Warning = NReader::VSeverity::Warning;
     // clang-format off
     static std::vector<VCode> const codes{
+        {"ambiguous-document",         Error,   "Several documents of the name in a DOCREF have what a reference names"},
         {"ambiguous-name",             Warning, "Two parents of equal rank offer different elements under one short name"},
         {"containment-cycle",          Error,   "A DOP contains itself"},
         {"contradicting-type",         Error,   "An element holds what another xsi:type has"},
@@ -37,6 +38,7 @@ std::vector<VCode> const& Codes() {
         {"reference-kind",             Error,   "A reference names an element of the wrong kind"},
         {"related-diag-comm-cycle",    Warning, "Related DIAG-COMMs lead back to where they started"},
         {"repeated-child",             Error,   "An element stands twice where ODX allows one"},
+        {"repeated-document",          Warning, "Two documents of one kind have one short name"},
         {"repeated-file",              Warning, "A file is named twice in one call"},
         {"repeated-import",            Warning, "A layer imports another one twice"},
         {"repeated-parent",            Warning, "A layer names a parent twice"},

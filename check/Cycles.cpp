@@ -2,12 +2,17 @@
 #include <diagkit/check/Cycles.h>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
-#include <diagkit/check/Containment.h>
 #include <diagkit/check/Topics.h>
 #include <diagkit/check/Views.h>
+#include <diagkit/reader/Containment.h>
+#include <diagkit/reader/DopMeanings.h>
+#include <diagkit/reader/Suspects.h>
 
 namespace NCheck {
 namespace {
@@ -15,15 +20,18 @@ namespace {
 using NReader::VEdge;
 using NReader::VEdges;
 using NReader::VEdgesOf;
+using NReader::VFollow;
+using NReader::VMayLead;
 using NReader::VReferencables;
 
-bool IsOfTable(NODX201::VReferencable const* element) {
-    return dynamic_cast<NODX201::VTable const*>(element) != nullptr ||
-           dynamic_cast<NODX201::VTableRow const*>(element) != nullptr;
+bool IsOfTable(NODX201::VReferencable const& element) {
+    return dynamic_cast<NODX201::VTable const*>(&element) != nullptr ||
+           dynamic_cast<NODX201::VTableRow const*>(&element) != nullptr;
 }
 
-VReferencables ContainersOf(NMemory::VDatabase& database) {
-    VReferencables containers = NReader::DopsOf(database);
+/// DOPs and TABLEs.
+VReferencables ContainersIn(NMemory::VDatabase& database) {
+    VReferencables containers = NReader::ContainersOf(database);
     NReader::ForEachDictionary(database, [&containers](NODX201::VDiagDataDictionarySpec& dictionary) {
         for (NODX201::VTable& table : dictionary.TableCollection()) {
             containers.push_back(&table);
@@ -53,37 +61,65 @@ VEdges RelatedEdges(NODX201::VReferencable& element) {
     return edges;
 }
 
+using VChain = NReader::VCycleSearch::VChain;
+
+/// What is found of a cycle besides its chain, of which each user needs another part.
+struct VFoundCycle {
+    VCycleKind kind;
+    NODX201::VLink* reference;
+    NReader::VSharedLayers layers;
+};
+
 class VCycleFinder {
 public:
-    explicit VCycleFinder(NMemory::VDatabase& database) : m_database(database) {}
+    using VFound = std::function<void(VFoundCycle const& cycle, VChain const& chain)>;
 
-    std::vector<VCycle> Find() {
-        VReferencables const suspects = Suspects(ContainersOf(m_database));
-        SearchById(suspects, Containing(&NReader::NoTargets));
+    VCycleFinder(NMemory::VDatabase& database, VFound found) : m_database(database), m_found(std::move(found)) {}
+
+    void Find() {
+        VReferencables const suspects = Suspects(ContainersIn(m_database));
+        NReader::VDopsById byId;
+        SearchById(suspects, Containing(byId));
         SearchById(DiagCommsOf(m_database), &RelatedEdges);
-        FindInLayers(suspects);
-        return std::move(m_cycles);
+        FindByShortNames(suspects);
     }
 
 private:
     void SearchById(VReferencables const& roots, VEdgesOf const& edgesOf) {
-        NReader::VCycleSearch search(edgesOf, &NReader::IsReference,
-                                     [this](VEdge const& closing, VReferencables const& chain) {
-                                         m_inEveryLayer.insert(closing.link);
-                                         m_cycles.push_back({KindOf(chain), chain, closing.link, nullptr});
-                                     });
+        NReader::VCycleSearch search(
+            edgesOf, &NReader::IsReference,
+            [this](VEdge const& closing, VChain const& chain) {
+                m_inEveryLayer.insert(closing.link);
+                m_found({KindOf(chain), closing.link, nullptr}, chain);
+            },
+            &IsOfTable);
         for (NODX201::VReferencable* const root : roots) {
             search.From(*root);
         }
     }
 
-    void SearchInLayer(VReferencables const& roots, NODX201::VDiagLayer& layer) {
-        m_inLayer.clear();
-        NReader::VCycleSearch search(Containing(NReader::TargetsIn(layer)), &NReader::IsByShortName,
-                                     [this, &layer](VEdge const& closing, VReferencables const& chain) {
-                                         m_inLayer.insert(closing.link);
-                                         m_cycles.push_back({KindOf(chain), chain, closing.link, &layer});
-                                     });
+    void FindByShortNames(VReferencables const& containers) {
+        VReferencables const suspects = containers.empty() ? containers : Suspects(containers);
+        if (suspects.empty()) {
+            return; // no layer needs to be asked
+        }
+        NReader::VSuspects const known(suspects, VFollow::Tables);
+        NReader::VDopMeanings const meanings(m_database, known.RelevantNames());
+        for (NReader::VDopMeanings::VClass const* const meaning : meanings.Classes()) {
+            SearchIn(*meaning, known.RootsIn(*meaning));
+        }
+    }
+
+    void SearchIn(NReader::VDopMeanings::VClass const& meaning, VReferencables const& roots) {
+        auto const layers = std::make_shared<std::vector<NODX201::VDiagLayer*> const>(meaning.Layers());
+        NReader::VDopsOfClass dops(meaning);
+        NReader::VCycleSearch search(
+            Containing(dops), &NReader::IsByShortName,
+            [&](VEdge const& closing, VChain const& chain) {
+                dops.LeaveOut(*closing.link);
+                m_found({KindOf(chain), closing.link, layers}, chain);
+            },
+            &IsOfTable);
         for (NODX201::VReferencable* const root : roots) {
             search.From(*root);
         }
@@ -92,44 +128,35 @@ private:
     /// Those that lead into a cycle other than those that are known, short names being followed to whatever bears them:
     /// nearly always none, and then nothing else is looked at.
     VReferencables Suspects(VReferencables const& containers) const {
-        return NReader::LeadingIntoCycles(containers, Containing(NReader::VDopsByName(containers)));
+        return NReader::LeadingIntoCycles(containers,
+                                          [this](NODX201::VReferencable& container) { return MayLeadFrom(container); });
     }
 
-    void FindInLayers(VReferencables const& containers) {
-        VReferencables const suspects = containers.empty() ? containers : Suspects(containers);
-        if (suspects.empty()) {
-            return; // no layer needs to be asked
-        }
-        for (NODX201::VDiagLayer* const layer : LayersOf(m_database)) {
-            SearchInLayer(suspects, *layer);
-            m_database.StartNewResolver(); // drops the views of this layer
-        }
+    VMayLead MayLeadFrom(NODX201::VReferencable& container) const {
+        return NReader::MayLeadFrom(container, VFollow::Tables, m_inEveryLayer);
     }
 
     /// The ways that contain, without those that are known to close a cycle.
-    VEdgesOf Containing(NReader::VShortNameTargets shortNameTargets) const {
-        return [this, shortNameTargets = std::move(shortNameTargets)](NODX201::VReferencable& element) {
-            VEdges edges = EdgesOf(element, shortNameTargets);
+    VEdgesOf Containing(NDIAGKIT::IDopFinder& dops) const {
+        return [this, &dops](NODX201::VReferencable& container) {
+            VEdges edges = NReader::EdgesOf(container, VFollow::Tables, dops);
             edges.erase(std::remove_if(edges.begin(), edges.end(),
-                                       [this](VEdge const& edge) {
-                                           return m_inEveryLayer.count(edge.link) + m_inLayer.count(edge.link) != 0;
-                                       }),
+                                       [this](VEdge const& edge) { return m_inEveryLayer.count(edge.link) != 0; }),
                         edges.end());
             return edges;
         };
     }
 
-    static VCycleKind KindOf(VReferencables const& chain) {
-        if (dynamic_cast<NODX201::VDiagComm*>(chain.front()) != nullptr) {
+    static VCycleKind KindOf(VChain const& chain) {
+        if (dynamic_cast<NODX201::VDiagComm*>(&chain[0]) != nullptr) {
             return VCycleKind::RelatedDiagComms;
         }
-        return std::any_of(chain.begin(), chain.end(), &IsOfTable) ? VCycleKind::TableRows : VCycleKind::Containment;
+        return chain.HasMarked() ? VCycleKind::TableRows : VCycleKind::Containment;
     }
 
     NMemory::VDatabase& m_database;
-    std::unordered_set<NODX201::VLink const*> m_inEveryLayer;
-    std::unordered_set<NODX201::VLink const*> m_inLayer; ///< that is looked at
-    std::vector<VCycle> m_cycles;
+    NReader::VLinks m_inEveryLayer; ///< the references that close a cycle by ID
+    VFound m_found;
 };
 
 struct VCycleText {
@@ -144,42 +171,70 @@ constexpr VCycleText kCycleTexts[] = {
     {VCycleKind::RelatedDiagComms, "related-diag-comm-cycle", "is related to itself"},
 };
 
-std::string ChainText(VCycle const& cycle) {
-    std::vector<std::string> names;
-    for (NODX201::VReferencable const* const element : cycle.elements) {
-        names.push_back(Titled(*element));
-    }
-    return "; walks that follow references do not end there: " + Listed(names);
-}
+/// One finding for each reference, however many layers read it in how many ways.
+class VCycleReport {
+public:
+    explicit VCycleReport(NMemory::VDatabase& database) : m_database(database) {}
 
-void Report(VCycle const& cycle, std::vector<NODX201::VDiagLayer*> const& layers, VFindings& findings) {
-    auto const* const text = std::find_if(std::begin(kCycleTexts), std::end(kCycleTexts),
-                                          [&cycle](VCycleText const& row) { return row.kind == cycle.kind; });
-    std::string const where = layers.empty() ? "" : ' ' + InLayers(layers, layers.size());
-    findings.Add(
-        {text->code, PositionOf(*cycle.reference),
-         Titled(*cycle.elements.front()) + ' ' + text->leads + " by this reference" + where + ChainText(cycle)});
-}
+    void Add(VFoundCycle const& cycle, VChain const& chain) {
+        auto const [place, isNew] = m_places.try_emplace(cycle.reference, m_entries.size());
+        if (isNew) {
+            auto const* const text = std::find_if(std::begin(kCycleTexts), std::end(kCycleTexts),
+                                                  [&cycle](VCycleText const& row) { return row.kind == cycle.kind; });
+            m_entries.push_back({text->code,
+                                 cycle.reference,
+                                 Titled(chain[0]) + ' ' + text->leads,
+                                 "; walks that follow references do not end there: " + ListedIn(chain),
+                                 {}});
+        }
+        if (cycle.layers != nullptr) {
+            m_entries[place->second].layers.push_back(cycle.layers);
+        }
+    }
+
+    void Tell(VFindings& findings) const {
+        std::vector<NODX201::VDiagLayer*> const all = LayersOf(m_database);
+        for (VEntry const& entry : m_entries) {
+            std::string const where = entry.layers.empty() ? "" : ' ' + InLayers(entry.layers, all);
+            findings.Add(
+                {entry.code, PositionOf(*entry.reference), entry.leads + " by this reference" + where + entry.chain});
+        }
+    }
+
+private:
+    struct VEntry {
+        char const* code;
+        NODX201::VLink* reference;
+        std::string leads;
+        std::string chain;
+        std::vector<NReader::VSharedLayers> layers;
+    };
+
+    NMemory::VDatabase& m_database;
+    std::vector<VEntry> m_entries;
+    std::unordered_map<NODX201::VLink const*, std::size_t> m_places; // in `m_entries`
+};
 
 } // namespace
 
-std::vector<VCycle> FindCycles(NMemory::VDatabase& database) { return VCycleFinder(database).Find(); }
+std::vector<VCycle> FindCycles(NMemory::VDatabase& database) {
+    std::vector<VCycle> cycles;
+    VCycleFinder finder(database, [&cycles](VFoundCycle const& found, VChain const& chain) {
+        VCycle& cycle = cycles.emplace_back(VCycle{found.kind, {}, found.reference, found.layers});
+        for (std::size_t index = 0; index < chain.Count(); ++index) {
+            cycle.elements.push_back(&chain[index]);
+        }
+    });
+    finder.Find();
+    return cycles;
+}
 
 void CheckCycles(VChecked const& checked, VFindings& findings) {
-    std::vector<VCycle> const cycles = FindCycles(checked.database);
-    std::unordered_map<NODX201::VLink const*, std::vector<NODX201::VDiagLayer*>> layers;
-    for (VCycle const& cycle : cycles) {
-        auto& of = layers[cycle.reference];
-        if (cycle.layer != nullptr && (of.empty() || of.back() != cycle.layer)) {
-            of.push_back(cycle.layer);
-        }
-    }
-    std::unordered_set<NODX201::VLink const*> reported;
-    for (VCycle const& cycle : cycles) {
-        if (reported.insert(cycle.reference).second) {
-            Report(cycle, layers[cycle.reference], findings);
-        }
-    }
+    VCycleReport report(checked.database);
+    VCycleFinder finder(checked.database,
+                        [&report](VFoundCycle const& cycle, VChain const& chain) { report.Add(cycle, chain); });
+    finder.Find();
+    report.Tell(findings);
 }
 
 } // namespace NCheck

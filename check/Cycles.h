@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include <diagkit/memory/Database.h>
@@ -21,17 +22,20 @@ struct VCycle {
     VCycleKind kind; ///< what the chain runs through
     /// The chain, each element followed by one that it refers to or holds: DOPs, TABLEs and TABLE-ROWs, or DIAG-COMMs.
     std::vector<NODX201::VReferencable*> elements;
-    NODX201::VLink* reference;  ///< the one that leads from the end of the chain back to its start
-    NODX201::VDiagLayer* layer; ///< in which short names mean these elements; null where the references are all by ID
+    NODX201::VLink* reference; ///< the one that leads from the end of the chain back to its start
+    /// The layers in which short names mean these elements, in document order; cycles share them. Null where the
+    /// references are all by ID.
+    std::shared_ptr<std::vector<NODX201::VDiagLayer*> const> layers;
 };
 
 /// The cycles of a database: for programs that ask before they walk or search. Every reference that closes a chain
 /// gives one cycle: a walk in a layer that follows none of those given for every layer or for that one comes to its
-/// end. First those that exist in every layer, DOPs and tables before DIAG-COMMs, then for each layer, in document
-/// order, those that exist by its short names alone.
+/// end. First those that exist in every layer, DOPs and tables before DIAG-COMMs, then those that exist by short names
+/// alone, for all layers together in which the names that matter mean the same; these in the order of their first
+/// layers.
 ///
-/// Layers are only looked at when a short name might lead into a cycle at all; the database's resolver is started
-/// afresh then. Nothing else is changed. The pointers are valid until something is removed from the database.
+/// Layers are only looked at when a short name might lead into a cycle at all. Nothing is changed. The pointers are
+/// valid until something is removed from the database.
 std::vector<VCycle> FindCycles(NMemory::VDatabase& database);
 
 } // namespace NCheck

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <array>
-#include <string_view>
+#include <string>
 
 #include <diagkit/check/Topics.h>
 #include <diagkit/memory/Database.h>
+#include <diagkit/memory/Link.h>
 #include <diagkit/model/Reference.h>
 
 namespace NCheck {
@@ -28,48 +28,6 @@ VPlaces PlacesOf(NODX201::VOdxElement& element) {
     return places;
 }
 
-struct VDoctypeRow {
-    std::wstring_view literal;
-    Tag category;
-};
-
-constexpr std::array<VDoctypeRow, 4> kDoctypes{{
-    {L"CONTAINER", Tag::DiagLayerContainer},
-    {L"COMPARAM-SPEC", Tag::ComparamSpec},
-    {L"FLASH", Tag::Flash},
-    {L"MULTIPLE-ECU-JOB-SPEC", Tag::MultipleEcuJobSpec},
-}};
-
-bool IsNamed(NODX201::VOdxElement const* element, std::wstring_view shortName) {
-    return element != nullptr && shortName == element->GetShortName();
-}
-
-/// Whether DOCREF and DOCTYPE name one of the places. A DOCTYPE of later versions is not held against the data.
-bool AreNamedBy(VPlaces const& places, NODX201::VOdxLink const& link) {
-    std::wstring_view const doctype = link.GetDoctype();
-    if (doctype == L"LAYER") {
-        return IsNamed(places.layer, link.GetDocref());
-    }
-    for (VDoctypeRow const& row : kDoctypes) {
-        if (row.literal == doctype) {
-            return IsNamed(places.category, link.GetDocref()) && places.category->GetOdxTag() == row.category;
-        }
-    }
-    return IsNamed(places.layer, link.GetDocref()) || IsNamed(places.category, link.GetDocref());
-}
-
-bool IsAnyNamedBy(NMemory::VIdIndex::VEntry const& entry, NODX201::VOdxLink const& link) {
-    if (AreNamedBy(PlacesOf(*entry.first), link)) {
-        return true;
-    }
-    for (NODX201::VReferencable* const other : entry.others) {
-        if (AreNamedBy(PlacesOf(*other), link)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 std::string Shown(VPlaces const& places) {
     std::string const layer = places.layer != nullptr ? Titled(*places.layer) + " of the " : "";
     return layer + (places.category != nullptr ? Titled(*places.category) : "database");
@@ -86,7 +44,7 @@ void CheckDocrefs(VChecked const& checked, VFindings& findings) {
             continue;
         }
         auto const* const entry = checked.database.GetIdIndex().Find(link->GetIdRef());
-        if (entry == nullptr || IsAnyNamedBy(*entry, *link)) {
+        if (entry == nullptr || NMemory::IsInNamedDocument(checked.database, *link)) {
             continue; // one that names nothing is reported as unresolved
         }
         std::string const doctype = *link->GetDoctype() != L'\0' ? " and DOCTYPE " + Quoted(link->GetDoctype()) : "";

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <unordered_map>
+
 #include <diagkit/check/Parents.h>
 #include <diagkit/check/Topics.h>
 #include <diagkit/check/Views.h>
@@ -6,50 +8,75 @@
 namespace NCheck {
 namespace {
 
-/// Reports an exclusion that names none of the parent's elements.
-template <class Exclusion, class Elements>
-void CheckExclusion(Exclusion const& exclusion, NODX201::ILink const& link, NODX201::VDiagLayer const& parent,
-                    Elements const& byName, VFindings& findings) {
-    auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&link);
-    if (snref == nullptr) {
-        findings.Add({"excludes-nothing", PositionOf(exclusion),
-                      TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short "
-                                         "name"});
-    } else if (byName.count(snref->GetShortName()) == 0 && *snref->GetShortName() != L'\0') {
-        findings.Add({"excludes-nothing", PositionOf(exclusion),
-                      TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " + Titled(parent) +
-                          " does not have"});
-    }
-}
+/// The short names of what is visible of one kind, layer by layer.
+template <class Kind>
+class VNamesOf {
+public:
+    explicit VNamesOf(NDIAGKIT::VInheritance<Kind>& views) : m_views(views) {}
 
-void CheckDiagComms(VParent const& parent, VFindings& findings) {
-    if (!parent.reference->HasNotInheritedDiagCommCollection()) {
-        return;
+    VNames const& In(NODX201::VDiagLayer& layer) {
+        auto const [names, isNew] = m_names.try_emplace(&layer);
+        if (isNew) {
+            for (auto const* const element : m_views.EntriesOfParent(layer)) {
+                names->second.insert(element->GetShortName());
+            }
+        }
+        return names->second;
     }
-    auto const byName = ByShortName(DiagCommsIn(*parent.layer));
-    for (NODX201::VNotInheritedDiagComm& exclusion : parent.reference->NotInheritedDiagCommCollection()) {
-        CheckExclusion(exclusion, exclusion.GetDiagCommSnref().GetLink(), *parent.layer, byName, findings);
-    }
-}
 
-void CheckVariables(VParent const& parent, VFindings& findings) {
-    if (!parent.reference->HasNotInheritedVariableCollection()) {
-        return;
+private:
+    NDIAGKIT::VInheritance<Kind>& m_views;
+    std::unordered_map<NODX201::VDiagLayer*, VNames> m_names;
+};
+
+/// Reports exclusions that name none of the parent's elements.
+class VExclusions {
+public:
+    VExclusions(VViews& views, VFindings& findings)
+        : m_diagComms(views.diagComms), m_variables(views.diagVariables), m_findings(findings) {}
+
+    void Check(VParent const& parent) {
+        if (parent.reference->HasNotInheritedDiagCommCollection()) {
+            for (NODX201::VNotInheritedDiagComm& exclusion : parent.reference->NotInheritedDiagCommCollection()) {
+                Check(exclusion, exclusion.GetDiagCommSnref().GetLink(), *parent.layer, m_diagComms);
+            }
+        }
+        if (parent.reference->HasNotInheritedVariableCollection()) {
+            for (NODX201::VNotInheritedVariable& exclusion : parent.reference->NotInheritedVariableCollection()) {
+                Check(exclusion, exclusion.GetDiagVariableSnref().GetLink(), *parent.layer, m_variables);
+            }
+        }
     }
-    auto const byName = ByShortName(DiagVariablesIn(*parent.layer));
-    for (NODX201::VNotInheritedVariable& exclusion : parent.reference->NotInheritedVariableCollection()) {
-        CheckExclusion(exclusion, exclusion.GetDiagVariableSnref().GetLink(), *parent.layer, byName, findings);
+
+private:
+    template <class Names>
+    void Check(NODX201::VOdxElement const& exclusion, NODX201::ILink const& link, NODX201::VDiagLayer& parent,
+               Names& names) {
+        auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&link);
+        if (snref == nullptr) {
+            m_findings.Add(
+                {"excludes-nothing", PositionOf(exclusion),
+                 TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short name"});
+        } else if (*snref->GetShortName() != L'\0' && names.In(parent).count(snref->GetShortName()) == 0) {
+            m_findings.Add({"excludes-nothing", PositionOf(exclusion),
+                            TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " +
+                                Titled(parent) + " does not have"});
+        }
     }
-}
+
+    VNamesOf<NDIAGKIT::VInheritedDiagComms> m_diagComms;
+    VNamesOf<NDIAGKIT::VInheritedDiagVariables> m_variables;
+    VFindings& m_findings;
+};
 
 } // namespace
 
 void CheckExclusions(VChecked const& checked, VFindings& findings) {
+    VExclusions exclusions(checked.views, findings);
     for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
         for (std::vector<VParent> const& rank : ParentsByRank(*layer)) {
             for (VParent const& parent : rank) {
-                CheckDiagComms(parent, findings);
-                CheckVariables(parent, findings);
+                exclusions.Check(parent);
             }
         }
         checked.layerDone();

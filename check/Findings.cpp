@@ -5,13 +5,14 @@
 #include <utility>
 
 #include <diagkit/check/Codes.h>
-#include <diagkit/reader/Containment.h>
-#include <diagkit/reader/Utf8.h>
 
 namespace NCheck {
 
 void VFindings::Add(VFinding finding) {
-    m_findings.Add(finding.position, FindCode(finding.code)->severity, finding.code, std::move(finding.message));
+    VCode const* const code = FindCode(finding.code);
+    // One that is in no table is a fault of the topic; the finding is told all the same.
+    NReader::VSeverity const severity = code != nullptr ? code->severity : NReader::VSeverity::Error;
+    m_findings.Add(finding.position, severity, finding.code, std::move(finding.message));
 }
 
 std::vector<NReader::VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {
@@ -32,43 +33,12 @@ NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement& element) {
     return nullptr;
 }
 
-std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database) {
-    std::vector<NODX201::VDiagLayer*> layers;
-    NReader::ForEachLayer(database, [&layers](NODX201::VDiagLayer& layer) { layers.push_back(&layer); });
-    return layers;
-}
-
-std::string Quoted(wchar_t const* text) { return "'" + NReader::ToUtf8(text) + "'"; }
-
-std::string TagOf(NODX201::VOdxElement const& element) {
-    return NReader::ToUtf8(NODX201::OdxTagText(element.GetOdxTag()));
-}
-
-std::string Titled(NODX201::VOdxElement const& element) {
-    return TagOf(element) + ' ' + Quoted(element.GetShortName());
-}
-
-namespace {
-
-std::string ListedOf(std::vector<std::string> const& items, std::size_t count) {
-    std::string text;
-    std::size_t const listed = std::min(items.size(), kMostListed);
-    for (std::size_t index = 0; index < listed; ++index) {
-        text += (index > 0 ? ", " : "") + items[index];
+std::string ListedIn(NReader::VCycleSearch::VChain const& chain) {
+    std::vector<std::string> titles;
+    for (std::size_t index = 0; index < std::min(chain.Count(), kMostListed); ++index) {
+        titles.push_back(Titled(chain[index]));
     }
-    return count > listed ? text + " and " + std::to_string(count - listed) + " more" : text;
-}
-
-} // namespace
-
-std::string Listed(std::vector<std::string> const& items) { return ListedOf(items, items.size()); }
-
-std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers, std::size_t count) {
-    std::vector<std::string> names;
-    for (NODX201::VDiagLayer const* const layer : layers) {
-        names.push_back(Quoted(layer->GetShortName()));
-    }
-    return (count == 1 ? "in the layer " : "in the layers ") + ListedOf(names, count);
+    return NReader::ListedOf(titles, chain.Count());
 }
 
 } // namespace NCheck

@@ -5,9 +5,12 @@
 #include <string>
 #include <vector>
 
+#include <diagkit/check/Views.h>
 #include <diagkit/memory/Node.h>
 #include <diagkit/model/Layers.h>
+#include <diagkit/reader/Containment.h>
 #include <diagkit/reader/Findings.h>
+#include <diagkit/reader/Naming.h>
 #include <diagkit/reader/OdxReader.h>
 
 /// What the topics report, and how they name elements in messages.
@@ -36,6 +39,7 @@ private:
 struct VChecked {
     NMemory::VDatabase& database;
     std::vector<NODX201::VOdxElement*> const& elements; ///< all, in document order
+    VViews& views;                                      ///< of the layers
     std::function<void()> const& layerDone;             ///< called by topics that take layers one by one
 };
 
@@ -44,18 +48,15 @@ NMemory::VPosition PositionOf(NODX201::VOdxElement const& element);
 /// The layer that an element stands in; null outside layers. A layer stands in itself.
 NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement& element);
 
-std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database); ///< in document order
+std::string ListedIn(NReader::VCycleSearch::VChain const& chain); ///< the titles of its elements, as `Listed` has them
 
-std::string Quoted(wchar_t const* text);                 ///< 'NAME'
-std::string TagOf(NODX201::VOdxElement const& element);  ///< "ECU-VARIANT"
-std::string Titled(NODX201::VOdxElement const& element); ///< "ECU-VARIANT 'NAME'"
-
-/// Of very many things messages name this many, and say how many more there are.
-inline constexpr std::size_t kMostListed = 10;
-
-std::string Listed(std::vector<std::string> const& items); ///< with commas
-
-/// "in the layer 'A'", "in the layers 'A', 'B'": of `count` layers, of which the first are given.
-std::string InLayers(std::vector<NODX201::VDiagLayer*> const& layers, std::size_t count);
+// How messages name things.
+using NReader::InLayers;
+using NReader::kMostListed;
+using NReader::LayersOf;
+using NReader::Listed;
+using NReader::Quoted;
+using NReader::TagOf;
+using NReader::Titled;
 
 } // namespace NCheck

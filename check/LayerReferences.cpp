@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <map>
+#include <optional>
 #include <tuple>
 
 #include <diagkit/check/Topics.h>
 #include <diagkit/memory/Importing.h>
 #include <diagkit/reader/CycleSearch.h>
-#include <diagkit/reader/ParentTargets.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NCheck {
 namespace {
@@ -19,7 +20,8 @@ struct VLayerReference {
 
 NODX201::VDiagLayer* ParentOf(NODX201::VOdxElement& element) {
     auto* const parentRef = dynamic_cast<NODX201::VParentRef*>(&element);
-    return parentRef != nullptr ? NReader::TargetOf(*parentRef) : nullptr;
+    auto const parent = parentRef != nullptr ? NDIAGKIT::ParentBy(*parentRef) : std::nullopt;
+    return parent.has_value() ? parent->layer : nullptr;
 }
 
 NODX201::VDiagLayer* ImportOf(NODX201::VOdxElement& element) {
@@ -52,7 +54,7 @@ void CheckRepeated(VChecked const& checked, VLayerReference const& kind, VFindin
 
 NReader::VEdges ImportsOf(NODX201::VReferencable& layer) {
     NReader::VEdges edges;
-    for (NMemory::VMemImportRef& import : dynamic_cast<NMemory::IImporting&>(layer).ImportRefCollection()) {
+    for (NMemory::VMemImportRef& import : dynamic_cast<NMemory::IMemLayer&>(layer).ImportRefCollection()) {
         if (import.HasDiagLayer()) {
             edges.push_back({&import.GetDiagLayer(), &import});
         }
@@ -60,22 +62,19 @@ NReader::VEdges ImportsOf(NODX201::VReferencable& layer) {
     return edges;
 }
 
-void ReportCycle(NReader::VEdge const& closing, NReader::VReferencables const& chain, VFindings& findings) {
-    std::vector<std::string> names;
-    for (NODX201::VReferencable const* const layer : chain) {
-        names.push_back(Titled(*layer));
-    }
-    std::string const ring = names.size() > 1 ? ", in the ring of " + Listed(names) : "";
+void ReportCycle(NReader::VEdge const& closing, NReader::VCycleSearch::VChain const& chain, VFindings& findings) {
+    std::string const ring = chain.Count() > 1 ? ", in the ring of " + ListedIn(chain) : "";
     findings.Add({"import-cycle", PositionOf(*closing.link),
-                  Titled(*chain.front()) + " imports itself by this reference" + ring +
+                  Titled(chain[0]) + " imports itself by this reference" + ring +
                       "; programs that follow imports do not end there"});
 }
 
 void CheckImportCycles(VChecked const& checked, VFindings& findings) {
-    NReader::VCycleSearch search(&ImportsOf, &NReader::IsReference,
-                                 [&findings](NReader::VEdge const& closing, NReader::VReferencables const& chain) {
-                                     ReportCycle(closing, chain, findings);
-                                 });
+    NReader::VCycleSearch search(
+        &ImportsOf, &NReader::IsReference,
+        [&findings](NReader::VEdge const& closing, NReader::VCycleSearch::VChain const& chain) {
+            ReportCycle(closing, chain, findings);
+        });
     for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
         search.From(*layer);
     }

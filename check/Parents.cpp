@@ -1,50 +1,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/check/Parents.h>
 
-#include <diagkit/model/Visitors.h>
-#include <diagkit/tools/ParentPass.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NCheck {
-namespace {
-
-struct VRanks : NODX201::VDiagLayerVisitor {
-    std::vector<std::vector<VParent>> ranks;
-
-    void VisitProtocol(NODX201::VProtocol& layer) override { Add<NODX201::VEcuSharedDataRef>(layer); }
-    void VisitFunctionalGroup(NODX201::VFunctionalGroup& layer) override {
-        Add<NODX201::VProtocolRef>(layer);
-        Add<NODX201::VEcuSharedDataRef>(layer);
-    }
-    void VisitBaseVariant(NODX201::VBaseVariant& layer) override {
-        Add<NODX201::VProtocolRef, NODX201::VFunctionalGroupRef>(layer);
-        Add<NODX201::VEcuSharedDataRef>(layer);
-    }
-    void VisitEcuVariant(NODX201::VEcuVariant& layer) override {
-        Add<NODX201::VBaseVariantRef>(layer);
-        Add<NODX201::VEcuSharedDataRef>(layer);
-    }
-    void VisitEcuSharedData(NODX201::VEcuSharedData&) override {}
-
-private:
-    template <class... Refs, class Layer>
-    void Add(Layer& layer) {
-        std::vector<VParent> rank;
-        NODX201::VParentRef* current = nullptr;
-        NDIAGKIT::ParentPass<Refs...>(
-            layer.ParentRefCollection(), [&current](NODX201::VParentRef& parentRef) { current = &parentRef; },
-            [&](NODX201::VDiagLayer& parent) {
-                rank.push_back({current, &parent});
-            });
-        ranks.push_back(std::move(rank));
-    }
-};
-
-} // namespace
 
 std::vector<std::vector<VParent>> ParentsByRank(NODX201::VDiagLayer& layer) {
-    VRanks ranks;
-    layer.Accept(ranks);
-    return std::move(ranks.ranks);
+    NDIAGKIT::VLayerOfKind const kinded = layer;
+    NDIAGKIT::VInheritancePasses const passes = NDIAGKIT::VInheritedDiagComms::kRow.PassesOf(kinded.kind);
+    NODX201::VParentRefCollection* const parentRefs = NDIAGKIT::ParentRefsOf(kinded);
+    std::vector<std::vector<VParent>> ranks;
+    for (NDIAGKIT::VLayerKinds const pass : {passes.first, passes.second}) {
+        if (parentRefs == nullptr || pass == NDIAGKIT::VLayerKinds::None) {
+            continue;
+        }
+        std::vector<VParent>& rank = ranks.emplace_back();
+        for (NODX201::VParentRef& parentRef : *parentRefs) {
+            if (auto const parent = NDIAGKIT::ParentBy(parentRef, pass)) {
+                rank.push_back({&parentRef, parent->layer});
+            }
+        }
+    }
+    return ranks;
 }
 
 VNames ExcludedDiagComms(NODX201::VParentRef& parentRef) {

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <map>
+#include <optional>
 #include <unordered_map>
+#include <unordered_set>
 
 #include <diagkit/check/Topics.h>
 #include <diagkit/check/VisibleNames.h>
@@ -144,6 +147,15 @@ public:
 private:
     using VIndices = std::vector<std::size_t>; // of pending ones
 
+    /// A MULTIPLE-ECU-JOB-SPEC, and its references that its own dictionary does not answer.
+    struct VSpec {
+        explicit VSpec(NMemory::VMemMultipleEcuJobSpec& spec) : names(spec), layers(LayersOfJobs(spec)) {}
+
+        VNamesOfSpec names;
+        std::optional<std::vector<NODX201::VDiagLayer*>> layers; ///< nothing when one is not loaded
+        VIndices pending{};
+    };
+
     static bool IsByShortName(NODX201::VLink& reference) {
         auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
         return snref != nullptr && *snref->GetShortName() != L'\0';
@@ -171,19 +183,28 @@ private:
     /// What the dictionary of the job's document does not have, the layers in which its jobs run may.
     void AddOfSpec(NMemory::VMemMultipleEcuJobSpec& spec, std::size_t index) {
         NODX201::VLink& reference = *m_pending[index].reference;
-        auto const layers = LayersOfJobs(spec);
-        if (IsOfEnvDataDesc(reference) || ResolvesInSpec(reference, spec) || !layers.has_value()) {
+        auto const [known, isNew] = m_specs.try_emplace(&spec, spec);
+        VSpec& of = known->second;
+        if (isNew && of.layers.has_value()) {
+            for (NODX201::VDiagLayer* const layer : *of.layers) {
+                m_specsOf[layer].insert(&of);
+            }
+        }
+        if (IsOfEnvDataDesc(reference) || of.names.Resolves(reference) || !of.layers.has_value()) {
             return;
         }
         m_pending[index].spec = &spec;
-        for (NODX201::VDiagLayer* const layer : *layers) {
-            m_at[layer].push_back(index);
-        }
+        of.pending.push_back(index);
     }
 
     void TryIn(NODX201::VDiagLayer& layer) {
-        VVisibleNames names(layer);
+        VVisibleNames names(layer, m_checked.views);
         TryAt(layer, names, layer);
+        if (auto const specs = m_specsOf.find(&layer); specs != m_specsOf.end()) {
+            for (VSpec const* const spec : specs->second) {
+                Try(spec->pending, names, layer);
+            }
+        }
         for (NODX201::VDiagComm* const diagComm : names.DiagComms()) {
             TryAt(*diagComm, names, layer);
             if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
@@ -193,10 +214,10 @@ private:
         for (NODX201::VDopBase* const dop : names.Dops()) {
             TryAt(*dop, names, layer);
         }
-        for (NODX201::VDiagVariable* const variable : DiagVariablesIn(layer)) {
+        for (NODX201::VDiagVariable* const variable : m_checked.views.diagVariables.EntriesOf(layer)) {
             TryAt(*variable, names, layer);
         }
-        for (NODX201::VGlobalNegResponse* const response : GlobalNegResponsesIn(layer)) {
+        for (NODX201::VGlobalNegResponse* const response : m_checked.views.globalNegResponses.EntriesOf(layer)) {
             TryAt(*response, names, layer);
         }
     }
@@ -219,11 +240,13 @@ private:
 
     /// Tries the references that stand in an element, once in each layer.
     void TryAt(NODX201::VOdxElement const& place, VVisibleNames& names, NODX201::VDiagLayer& layer) {
-        auto const found = m_at.find(&place);
-        if (found == m_at.end()) {
-            return;
+        if (auto const found = m_at.find(&place); found != m_at.end()) {
+            Try(found->second, names, layer);
         }
-        for (std::size_t const index : found->second) {
+    }
+
+    void Try(VIndices const& indices, VVisibleNames& names, NODX201::VDiagLayer& layer) {
+        for (std::size_t const index : indices) {
             VPending& pending = m_pending[index];
             if (pending.latest == &layer) {
                 continue;
@@ -267,6 +290,8 @@ private:
     }
 
     VChecked const& m_checked;
+    std::map<NMemory::VMemMultipleEcuJobSpec*, VSpec> m_specs;
+    std::unordered_map<NODX201::VDiagLayer*, std::unordered_set<VSpec*>> m_specsOf; // whose jobs run in the layer
     std::vector<VPending> m_pending;
     std::unordered_map<NODX201::VOdxElement const*, VIndices> m_at; // by layer and by anchor
 };

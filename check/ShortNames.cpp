@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
+#include <functional>
 #include <string_view>
 #include <tuple>
+#include <unordered_map>
 
 #include <diagkit/check/Topics.h>
 #include <diagkit/model/DiagComms.h>
@@ -44,14 +46,8 @@ std::wstring_view ListOf(NODX201::VOdxElement const& element) {
 }
 
 struct VNamed {
-    NODX201::VOdxObject const* owner;
-    std::wstring_view list;
-    std::wstring_view shortName;
-    std::size_t index; ///< in document order
     NODX201::VOdxElement const* element;
     NODX201::VOdxElement const* named; ///< the same, or what a reference in the list brings into it
-
-    auto Key() const { return std::tie(owner, list, shortName); }
 };
 
 /// What a DIAG-COMM-REF or DIAG-VARIABLE-REF brings into the list of its layer; null for other elements.
@@ -67,21 +63,6 @@ NODX201::VOdxElement const* BroughtBy(NODX201::VOdxElement& element) {
     return link != nullptr && link->HasDiagVariable(*layer) ? &link->GetDiagVariable() : nullptr;
 }
 
-/// Elements that can stand several times in what owns them. The categories are the files' own.
-std::vector<VNamed> NamedElements(VChecked const& checked) {
-    std::vector<VNamed> named;
-    for (NODX201::VOdxElement* const element : checked.elements) {
-        NODX201::VOdxObject const* const owner = element->GetOwner();
-        NODX201::VOdxElement const* const brought = BroughtBy(*element);
-        NODX201::VOdxElement const& name = brought != nullptr ? *brought : *element;
-        bool const isCategory = owner == &checked.database.GetOdx();
-        if (*name.GetShortName() != L'\0' && !isCategory) {
-            named.push_back({owner, ListOf(name), name.GetShortName(), named.size(), element, &name});
-        }
-    }
-    return named;
-}
-
 std::string Shown(VNamed const& entry) {
     bool const isReference = entry.named != entry.element;
     return (isReference ? "what the " + TagOf(*entry.element) + " names, the " : "") + Titled(*entry.named) +
@@ -92,21 +73,31 @@ std::string ShownFirst(VNamed const& entry) {
     return (entry.named != entry.element ? "what is named by the " : "the ") + TagOf(*entry.element);
 }
 
+/// Looks at elements that can stand several times in what owns them. The categories are the files' own.
 void CheckDuplicates(VChecked const& checked, VFindings& findings) {
-    std::vector<VNamed> named = NamedElements(checked);
-    std::sort(named.begin(), named.end(), [](VNamed const& a, VNamed const& b) {
-        return std::tuple_cat(a.Key(), std::tie(a.index)) < std::tuple_cat(b.Key(), std::tie(b.index));
-    });
-    VNamed const* first = nullptr;
-    for (VNamed const& entry : named) {
-        if (first == nullptr || first->Key() != entry.Key()) {
-            first = &entry;
+    using VKey = std::tuple<NODX201::VOdxObject const*, std::wstring_view, std::wstring_view>;
+    struct VHash {
+        std::size_t operator()(VKey const& key) const {
+            auto const& [owner, list, shortName] = key;
+            return std::hash<std::wstring_view>()(shortName) ^ std::hash<void const*>()(owner);
+        }
+    };
+    std::unordered_map<VKey, VNamed, VHash> firsts; // by owner, list and name; only looked up, never walked
+    for (NODX201::VOdxElement* const element : checked.elements) {
+        NODX201::VOdxElement const* const brought = BroughtBy(*element);
+        VNamed const entry{element, brought != nullptr ? brought : element};
+        std::wstring_view const shortName = entry.named->GetShortName();
+        NODX201::VOdxObject const* const owner = element->GetOwner();
+        if (shortName.empty() || owner == &checked.database.GetOdx()) {
             continue;
         }
-        findings.Add({"duplicate-short-name", PositionOf(*entry.element),
-                      Shown(entry) + " has the short name of " + ShownFirst(*first) + " at line " +
-                          std::to_string(PositionOf(*first->element).line) +
-                          " in the same list; where the name is looked up, that one is found"});
+        auto const [first, isFirst] = firsts.try_emplace({owner, ListOf(*entry.named), shortName}, entry);
+        if (!isFirst) {
+            findings.Add({"duplicate-short-name", PositionOf(*element),
+                          Shown(entry) + " has the short name of " + ShownFirst(first->second) + " at line " +
+                              std::to_string(PositionOf(*first->second.element).line) +
+                              " in the same list; where the name is looked up, that one is found"});
+        }
     }
 }
 

@@ -10,6 +10,7 @@
 #include <diagkit/model/DiagVariables.h>
 #include <diagkit/model/Dops.h>
 #include <diagkit/model/Responses.h>
+#include <diagkit/tools/Inheritance.h>
 
 /// What is visible in a layer, as plain lists in view order, and what of it is the layer's own.
 
@@ -24,6 +25,14 @@ std::vector<NODX201::VDiagComm*> OwnDiagComms(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VDopBase*> OwnDops(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VDiagVariable*> OwnDiagVariables(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VGlobalNegResponse*> OwnGlobalNegResponses(NODX201::VDiagLayer& layer);
+
+/// What is visible in the layers of one database, parents being looked at once.
+struct VViews {
+    NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDiagComms> diagComms;
+    NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDops> dops;
+    NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDiagVariables> diagVariables;
+    NDIAGKIT::VInheritance<NDIAGKIT::VInheritedGlobalNegResponses> globalNegResponses;
+};
 
 /// Short names; they view the texts of the elements.
 using VNames = std::unordered_set<std::wstring_view>;

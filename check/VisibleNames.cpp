@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/check/VisibleNames.h>
 
-#include <algorithm>
+#include <unordered_set>
 
 #include <diagkit/check/Parents.h>
+#include <diagkit/reader/Containment.h>
+#include <diagkit/tools/ParamWalk.h>
 
 namespace NCheck {
 namespace {
@@ -13,146 +15,110 @@ std::wstring_view NameIn(NODX201::VLink& reference) {
 }
 
 template <class Element>
-Element* Find(std::unordered_map<std::wstring_view, Element*> const& byName, std::wstring_view shortName) {
+Element* FindIn(std::unordered_map<std::wstring_view, Element*> const& byName, std::wstring_view shortName) {
     auto const found = byName.find(shortName);
     return found != byName.end() ? found->second : nullptr;
 }
 
-void AddProtocols(NODX201::VDiagLayer& layer, std::vector<NODX201::VProtocol*>& protocols) {
-    if (auto* const protocol = dynamic_cast<NODX201::VProtocol*>(&layer)) {
-        protocols.push_back(protocol);
-    }
-    for (std::vector<VParent> const& rank : ParentsByRank(layer)) {
-        for (VParent const& parent : rank) {
-            AddProtocols(*parent.layer, protocols);
+/// A layer and all that it inherits from, each once.
+std::vector<NODX201::VDiagLayer*> WithAncestors(NODX201::VDiagLayer& layer) {
+    std::vector<NODX201::VDiagLayer*> layers{&layer};
+    std::unordered_set<NODX201::VDiagLayer*> seen{&layer};
+    for (std::size_t next = 0; next < layers.size(); ++next) { // grows on the way
+        for (std::vector<VParent> const& rank : ParentsByRank(*layers[next])) {
+            for (VParent const& parent : rank) {
+                if (seen.insert(parent.layer).second) {
+                    layers.push_back(parent.layer);
+                }
+            }
         }
     }
+    return layers;
 }
 
-void AddTables(NODX201::VDiagLayer& layer, VNames& tables) {
-    if (layer.HasDiagDataDictionarySpec()) {
-        for (NODX201::VTable const& table : layer.GetDiagDataDictionarySpec().TableCollection()) {
-            tables.insert(table.GetShortName());
+VNames ProtocolsFor(NODX201::VDiagLayer& layer) {
+    VNames names;
+    auto const see = [&names](NODX201::VDiagLayer& candidate) {
+        if (dynamic_cast<NODX201::VProtocol*>(&candidate) != nullptr) {
+            names.insert(candidate.GetShortName());
         }
+    };
+    for (NODX201::VDiagLayer* const ancestor : WithAncestors(layer)) {
+        see(*ancestor);
     }
-    for (std::vector<VParent> const& rank : ParentsByRank(layer)) {
-        for (VParent const& parent : rank) {
-            AddTables(*parent.layer, tables);
-        }
+    for (NODX201::VDiagLayer& beside : dynamic_cast<NODX201::VDiagLayerCollection&>(*layer.GetOwner())) {
+        see(beside);
     }
+    return names;
 }
 
-/// Looks for a VALUE parameter through everything that parameters contain, each element once; without a name it sees
-/// everything.
-class VParamSearch {
+VNames TablesFor(NODX201::VDiagLayer& layer) {
+    VNames names;
+    for (NODX201::VDiagLayer* const ancestor : WithAncestors(layer)) {
+        if (ancestor->HasDiagDataDictionarySpec()) {
+            for (NODX201::VTable const& table : ancestor->GetDiagDataDictionarySpec().TableCollection()) {
+                names.insert(table.GetShortName());
+            }
+        }
+    }
+    return names;
+}
+
+/// Collects the names of all VALUE parameters below others.
+class VNameCollector : public NDIAGKIT::VParamWalk {
 public:
-    VParamSearch(std::wstring_view shortName, NReader::VShortNameTargets shortNameTargets)
-        : m_shortName(shortName), m_shortNameTargets(std::move(shortNameTargets)) {}
+    VNameCollector(NDIAGKIT::IDopFinder& dops, VNames& names) : VParamWalk(dops), m_names(names) {}
 
-    /// The names seen are those of parameters that belong to the ENV-DATA-DESCs seen.
-    void AddTo(VNamesByElement& params) const {
-        for (NODX201::VReferencable const* const element : m_visited) {
-            if (dynamic_cast<NODX201::VEnvDataDesc const*>(element) != nullptr) {
-                params[element].insert(m_names.begin(), m_names.end());
-            }
+    void WalkAll(NODX201::VParamCollection& params) {
+        for (NODX201::VParam& param : params) {
+            Walk(param);
         }
     }
 
-    void See(NODX201::VParamCollection& params) {
-        NoteNames(params);
-        NoteTargets(EdgesOf(params, m_shortNameTargets));
-    }
-
-    void See(NODX201::VDopBaseLink& link) {
-        auto& dopLink = dynamic_cast<NMemory::VMemDopBaseLink&>(link);
-        if (dopLink.ResolvesById()) {
-            m_toVisit.push_back(&dopLink.GetDopBase());
-        } else if (dynamic_cast<NODX201::VSnref const*>(&dopLink.GetLink()) != nullptr) {
-            for (NODX201::VReferencable* const dop : m_shortNameTargets(dopLink)) {
-                m_toVisit.push_back(dop);
-            }
-        }
-    }
-
-    void See(wchar_t const* shortName) {
-        if (m_shortName.empty()) {
-            m_names.insert(shortName);
-        } else {
-            m_isFound = m_isFound || m_shortName == shortName;
-        }
-    }
-
-    bool Finish() {
-        while (!m_isFound && !m_toVisit.empty()) {
-            NODX201::VReferencable* const element = m_toVisit.back();
-            m_toVisit.pop_back();
-            if (!m_visited.insert(element).second) {
-                continue;
-            }
-            if (auto* const structure = dynamic_cast<NODX201::VBasicStructure*>(element)) {
-                NoteNames(structure->ParamCollection());
-            }
-            NoteTargets(EdgesOf(*element, m_shortNameTargets));
-        }
-        return m_isFound;
+protected:
+    void VisitValue(NODX201::VValue& param) override {
+        m_names.insert(param.GetShortName());
+        WalkBelow(param);
     }
 
 private:
-    void NoteNames(NODX201::VParamCollection& params) {
-        for (NODX201::VParam& param : params) {
-            if (dynamic_cast<NODX201::VValue*>(&param) != nullptr) {
-                See(param.GetShortName());
-            }
-        }
-    }
-
-    void NoteTargets(NReader::VEdges const& edges) {
-        for (NReader::VEdge const& edge : edges) {
-            m_toVisit.push_back(edge.target);
-        }
-    }
-
-    std::wstring_view m_shortName;
-    NReader::VShortNameTargets m_shortNameTargets;
-    std::vector<NODX201::VReferencable*> m_toVisit;
-    std::unordered_set<NODX201::VReferencable*> m_visited;
-    VNames m_names;
-    bool m_isFound = false;
+    VNames& m_names;
 };
 
-void SeeService(VParamSearch& search, NODX201::VDiagService& service, bool isInput) {
+void WalkService(VNameCollector& collector, NODX201::VDiagService& service, bool isInput) {
     if (service.HasRequestRef() && service.GetRequestRef().HasRequest()) {
-        search.See(service.GetRequestRef().GetRequest().ParamCollection());
+        collector.WalkAll(service.GetRequestRef().GetRequest().ParamCollection());
     }
     if (isInput) {
         return;
     }
     for (NODX201::VPosResponseLink& link : service.PosResponseLinkCollection()) {
         if (link.HasPosResponse()) {
-            search.See(link.GetPosResponse().ParamCollection());
+            collector.WalkAll(link.GetPosResponse().ParamCollection());
         }
     }
     for (NODX201::VNegResponseLink& link : service.NegResponseLinkCollection()) {
         if (link.HasNegResponse()) {
-            search.See(link.GetNegResponse().ParamCollection());
+            collector.WalkAll(link.GetNegResponse().ParamCollection());
         }
     }
 }
 
 template <class Params>
-void SeeJobParams(VParamSearch& search, Params& params) {
+void WalkJobParams(VNameCollector& collector, VNames& names, NDIAGKIT::IDopFinder& dops, Params& params) {
     for (auto& param : params) {
-        search.See(param.GetShortName());
-        if (param.HasDopBaseRef()) {
-            search.See(param.GetDopBaseRef());
+        names.insert(param.GetShortName());
+        NODX201::VDopBase* const dop = param.HasDopBaseRef() ? dops.Find(param.GetDopBaseRef()) : nullptr;
+        if (dop != nullptr) {
+            collector.WalkIn(*dop);
         }
     }
 }
 
 } // namespace
 
-VVisibleNames::VVisibleNames(NODX201::VDiagLayer& layer)
-    : m_layer(layer), m_diagComms(DiagCommsIn(layer)), m_dops(DopsIn(layer)),
+VVisibleNames::VVisibleNames(NODX201::VDiagLayer& layer, VViews& views)
+    : m_layer(layer), m_diagComms(views.diagComms.EntriesOf(layer)), m_dops(views.dops.EntriesOf(layer)),
       m_diagCommsByName(ByShortName(m_diagComms)), m_dopsByName(ByShortName(m_dops)) {}
 
 std::optional<bool> VVisibleNames::Resolves(NODX201::VLink& reference) {
@@ -173,7 +139,10 @@ std::optional<bool> VVisibleNames::Resolves(NODX201::VLink& reference) {
         return HasTable(name);
     }
     if (auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner())) {
-        return HasParamFor(*envDataDesc, name);
+        if (!m_services.has_value()) {
+            m_services.emplace(m_diagComms, static_cast<NDIAGKIT::IDopFinder&>(*this));
+        }
+        return m_services->HasParamFor(*envDataDesc, name);
     }
     NODX201::VDiagComm* const diagComm = DiagCommBeside(reference);
     if (diagComm == nullptr) {
@@ -182,54 +151,29 @@ std::optional<bool> VVisibleNames::Resolves(NODX201::VLink& reference) {
     return HasParam(*diagComm, name, dynamic_cast<NMemory::VMemInParamIfLink*>(&reference) != nullptr);
 }
 
-NODX201::VDopBase* VVisibleNames::FindDop(std::wstring_view shortName) const { return Find(m_dopsByName, shortName); }
+NODX201::VDopBase* VVisibleNames::FindDop(std::wstring_view shortName) const { return FindIn(m_dopsByName, shortName); }
 
 NODX201::VDiagComm* VVisibleNames::FindDiagComm(std::wstring_view shortName) const {
-    return Find(m_diagCommsByName, shortName);
+    return FindIn(m_diagCommsByName, shortName);
 }
 
 bool VVisibleNames::HasProtocol(std::wstring_view shortName) {
-    if (m_protocols.empty()) {
-        AddProtocols(m_layer, m_protocols);
-        for (NODX201::VDiagLayer& layer : dynamic_cast<NODX201::VDiagLayerCollection&>(*m_layer.GetOwner())) {
-            if (auto* const protocol = dynamic_cast<NODX201::VProtocol*>(&layer)) {
-                m_protocols.push_back(protocol);
-            }
-        }
+    if (!m_protocols.has_value()) {
+        m_protocols = ProtocolsFor(m_layer);
     }
-    return std::any_of(m_protocols.begin(), m_protocols.end(), [shortName](NODX201::VProtocol const* protocol) {
-        return shortName == protocol->GetShortName();
-    });
+    return m_protocols->count(shortName) != 0;
 }
 
 bool VVisibleNames::HasTable(std::wstring_view shortName) {
     if (!m_tables.has_value()) {
-        AddTables(m_layer, m_tables.emplace());
+        m_tables = TablesFor(m_layer);
     }
     return m_tables->count(shortName) != 0;
 }
 
-std::optional<bool> VVisibleNames::HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName) {
-    if (!m_params.has_value()) {
-        m_params.emplace();
-        for (NODX201::VDiagComm* const diagComm : m_diagComms) {
-            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
-                VParamSearch search({}, Targets());
-                SeeService(search, *service, false);
-                search.Finish();
-                search.AddTo(*m_params);
-            }
-        }
-    }
-    auto const found = m_params->find(&envDataDesc);
-    return found != m_params->end() ? std::optional<bool>(found->second.count(shortName) != 0) : std::nullopt;
-}
-
-NReader::VShortNameTargets VVisibleNames::Targets() const {
-    return [this](NMemory::VMemDopBaseLink& link) {
-        NODX201::VDopBase* const dop = FindDop(NameIn(link));
-        return dop != nullptr ? NReader::VReferencables{dop} : NReader::VReferencables{};
-    };
+NODX201::VDopBase* VVisibleNames::Find(NODX201::VDopBaseLink& link) {
+    std::wstring_view const shortName = NReader::ShortNameIn(link);
+    return shortName.empty() ? NReader::VDopsById().Find(link) : FindDop(shortName);
 }
 
 NODX201::VDiagComm* VVisibleNames::DiagCommBeside(NODX201::VLink& reference) const {
@@ -251,29 +195,39 @@ NODX201::VDiagComm* VVisibleNames::TargetOf(NODX201::VDiagCommLink& link) const 
     return link.HasDiagComm(m_layer) ? &link.GetDiagComm() : nullptr;
 }
 
-bool VVisibleNames::HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput) const {
-    VParamSearch search(shortName, Targets());
-    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
-        SeeService(search, *service, isInput);
-    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
-        if (isInput) {
-            SeeJobParams(search, job->InputParamCollection());
-        } else {
-            SeeJobParams(search, job->OutputParamCollection());
-        }
+bool VVisibleNames::HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput) {
+    auto known = m_params.find({&diagComm, isInput});
+    if (known == m_params.end()) {
+        known = m_params.emplace(std::make_pair(&diagComm, isInput), ParamsOf(diagComm, isInput)).first;
     }
-    return search.Finish();
+    return known->second.count(shortName) != 0;
 }
 
-bool ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec) {
-    std::vector<NODX201::VDopBase*> dops;
-    if (spec.HasDiagDataDictionarySpec()) {
-        for (NODX201::VDopBase& dop : spec.GetDiagDataDictionarySpec().DopBaseCollection()) {
-            dops.push_back(&dop);
+VNames VVisibleNames::ParamsOf(NODX201::VDiagComm& diagComm, bool isInput) {
+    VNames names;
+    VNameCollector collector(*this, names);
+    if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
+        WalkService(collector, *service, isInput);
+    } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
+        if (isInput) {
+            WalkJobParams(collector, names, *this, job->InputParamCollection());
+        } else {
+            WalkJobParams(collector, names, *this, job->OutputParamCollection());
         }
     }
-    auto const byName = ByShortName(dops);
-    NODX201::VDopBase* const dop = Find(byName, NameIn(reference));
+    return names;
+}
+
+VNamesOfSpec::VNamesOfSpec(NMemory::VMemMultipleEcuJobSpec& spec) {
+    if (spec.HasDiagDataDictionarySpec()) {
+        for (NODX201::VDopBase& dop : spec.GetDiagDataDictionarySpec().DopBaseCollection()) {
+            m_dops.emplace(dop.GetShortName(), &dop);
+        }
+    }
+}
+
+bool VNamesOfSpec::Resolves(NODX201::VLink& reference) const {
+    NODX201::VDopBase* const dop = FindIn(m_dops, NameIn(reference));
     bool const isDataObjectProp = dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr;
     return dop != nullptr && (!isDataObjectProp || dynamic_cast<NODX201::VDataObjectProp*>(dop) != nullptr);
 }

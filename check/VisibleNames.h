@@ -1,24 +1,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
+#include <utility>
 #include <vector>
 
-#include <diagkit/check/Containment.h>
+#include <diagkit/check/ServiceGraph.h>
 #include <diagkit/check/Views.h>
 #include <diagkit/memory/Odx.h>
+#include <diagkit/tools/Containment.h>
 
 namespace NCheck {
 
-using VNamesByElement = std::unordered_map<NODX201::VReferencable const*, VNames>;
-
-/// What short names mean in one layer. The views of the layer live as long as this object.
-class VVisibleNames {
+/// What short names mean in one layer. What has been asked is remembered.
+class VVisibleNames final : private NDIAGKIT::IDopFinder {
 public:
-    explicit VVisibleNames(NODX201::VDiagLayer& layer);
+    VVisibleNames(NODX201::VDiagLayer& layer, VViews& views);
+    ~VVisibleNames() = default;
+    VVisibleNames(VVisibleNames const&) = delete;
+    VVisibleNames& operator=(VVisibleNames const&) = delete;
 
     /// Whether a reference by short name, which stands in an element visible in the layer, names something. Nothing for
     /// a reference to a parameter of a DIAG-COMM that is not there itself, and for the one of an ENV-DATA-DESC to which
@@ -32,17 +35,18 @@ private:
     template <class Element>
     using VByName = std::unordered_map<std::wstring_view, Element*>;
 
+    NODX201::VDopBase* Find(NODX201::VDopBaseLink& link) override;
     NODX201::VDopBase* FindDop(std::wstring_view shortName) const;
     NODX201::VDiagComm* FindDiagComm(std::wstring_view shortName) const;
     bool HasProtocol(std::wstring_view shortName);
     bool HasTable(std::wstring_view shortName);
-    NReader::VShortNameTargets Targets() const;
     std::optional<bool> HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName);
 
     /// The DIAG-COMM that stands beside a reference to one of its parameters; null when it does not resolve.
     NODX201::VDiagComm* DiagCommBeside(NODX201::VLink& reference) const;
     NODX201::VDiagComm* TargetOf(NODX201::VDiagCommLink& link) const;
-    bool HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput) const;
+    bool HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput);
+    VNames ParamsOf(NODX201::VDiagComm& diagComm, bool isInput);
 
     NODX201::VDiagLayer& m_layer;
     std::vector<NODX201::VDiagComm*> m_diagComms;
@@ -51,12 +55,21 @@ private:
     VByName<NODX201::VDopBase> m_dopsByName;
 
     // Filled when first asked for.
-    std::vector<NODX201::VProtocol*> m_protocols;
+    std::optional<VNames> m_protocols;
     std::optional<VNames> m_tables;
-    std::optional<VNamesByElement> m_params; ///< of the DIAG-SERVICEs that lead to an ENV-DATA-DESC
+    std::optional<VServiceGraph> m_services;
+    std::map<std::pair<NODX201::VDiagComm*, bool>, VNames> m_params; ///< output or input parameters
 };
 
-/// Whether a reference to a DOP by short name, which stands in a MULTIPLE-ECU-JOB-SPEC, names one in its dictionary.
-bool ResolvesInSpec(NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec);
+/// What short names of DOPs mean in a MULTIPLE-ECU-JOB-SPEC by itself: its dictionary.
+class VNamesOfSpec {
+public:
+    explicit VNamesOfSpec(NMemory::VMemMultipleEcuJobSpec& spec);
+
+    bool Resolves(NODX201::VLink& reference) const; ///< REQUIRES: a reference to a DOP by short name
+
+private:
+    std::unordered_map<std::wstring_view, NODX201::VDopBase*> m_dops;
+};
 
 } // namespace NCheck

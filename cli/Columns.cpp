@@ -43,6 +43,18 @@ void AppendRow(std::string& text, std::vector<std::string> const& row, std::vect
 
 } // namespace
 
+std::string Cut(std::string text) {
+    constexpr std::size_t kLongest = 400;
+    if (text.size() <= kLongest) {
+        return text;
+    }
+    std::size_t end = kLongest;
+    while ((text[end] & '\xC0') == '\x80') { // inside a character of UTF-8
+        --end;
+    }
+    return text.substr(0, end) + "...";
+}
+
 void VColumns::Add(std::vector<std::string> cells) { m_rows.push_back(std::move(cells)); }
 
 std::string VColumns::Format(std::string_view indent) const {

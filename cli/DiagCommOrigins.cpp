@@ -8,6 +8,7 @@
 #include <diagkit/check/Parents.h>
 #include <diagkit/check/Views.h>
 #include <diagkit/cli/Parents.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NCli {
 namespace {
@@ -23,14 +24,16 @@ private:
     void SeeOffer(VOfferedDiagComm const& offer, bool isExcluded);
 
     NODX201::VDiagLayer& m_layer;
+    NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDiagComms> m_inheritance;
     std::vector<NODX201::VDiagComm*> m_view;
     std::unordered_map<std::wstring_view, NODX201::VDiagComm*> m_visibleByName;
     std::unordered_map<NODX201::VDiagComm*, NODX201::VDiagLayer*> m_parents; // of visible ones; null until it is seen
     std::unordered_set<NODX201::VDiagComm*> m_listed;                        // hidden and excluded ones
+    std::unordered_map<NODX201::VDiagLayer*, std::vector<NODX201::VDiagComm*>> m_offers; // of parents, that are left
     VDiagCommOrigins m_origins;
 };
 
-VOriginFinder::VOriginFinder(NODX201::VDiagLayer& layer) : m_layer(layer), m_view(NCheck::DiagCommsIn(layer)) {
+VOriginFinder::VOriginFinder(NODX201::VDiagLayer& layer) : m_layer(layer), m_view(m_inheritance.EntriesOf(layer)) {
     for (NODX201::VDiagComm* const diagComm : m_view) {
         m_visibleByName.try_emplace(diagComm->GetShortName(), diagComm);
         m_parents.try_emplace(diagComm, nullptr);
@@ -59,8 +62,19 @@ VDiagCommOrigins VOriginFinder::Find() {
 
 void VOriginFinder::SeeParent(VParent const& parent) {
     NCheck::VNames const excluded = NCheck::ExcludedDiagComms(*parent.parentRef);
-    for (NODX201::VDiagComm* const diagComm : NCheck::DiagCommsIn(*parent.layer)) {
-        SeeOffer({diagComm, parent.layer, nullptr}, excluded.count(diagComm->GetShortName()) != 0);
+    auto const [offers, isFirst] = m_offers.try_emplace(parent.layer);
+    if (isFirst) {
+        offers->second = m_inheritance.EntriesOfParent(*parent.layer);
+    }
+    // Named again, a parent can only bring what was excluded before.
+    std::vector<NODX201::VDiagComm*> const offered = std::move(offers->second);
+    offers->second = {};
+    for (NODX201::VDiagComm* const diagComm : offered) {
+        bool const isExcluded = excluded.count(diagComm->GetShortName()) != 0;
+        SeeOffer({diagComm, parent.layer, nullptr}, isExcluded);
+        if (isExcluded) {
+            offers->second.push_back(diagComm);
+        }
     }
 }
 

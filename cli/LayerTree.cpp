@@ -70,10 +70,10 @@ VLayerTree::VLayerTree(std::vector<VPlacedLayer> const& layers) {
 void VLayerTree::AddLayer(VPlacedLayer const& placed) {
     m_layers.emplace(placed.layer, m_nodes.size());
     VNode& node = m_nodes.emplace_back();
-    node.name = ShownName(*placed.layer);
+    node.name = Cut(ShownName(*placed.layer));
     node.kind = TagTextOf(*placed.layer);
-    node.id = ShownId(*placed.layer);
-    node.container = "in " + ShownName(*placed.container);
+    node.id = Cut(ShownId(*placed.layer));
+    node.container = Cut("in " + ShownName(*placed.container));
 }
 
 void VLayerTree::AddBelowParents(std::size_t node, NODX201::VDiagLayer& layer) {
@@ -98,7 +98,7 @@ std::size_t VLayerTree::NodeOf(VParent const& parent) {
         VNode& node = m_nodes.emplace_back();
         node.name = "?";
         node.kind = parent.kind;
-        node.id = Shown(parent.name);
+        node.id = Cut(Shown(parent.name));
         node.isResolved = false;
     }
     return position->second;

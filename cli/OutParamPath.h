@@ -15,9 +15,6 @@ namespace NCli {
 struct VOutParamPath {
     /// From a parameter of the request or a response to the one found, both included; empty when nothing has the name.
     std::vector<NODX201::VOdxElement const*> steps;
-    /// What contains itself, or lies deeper than any search may go, on the way to the first match. The search itself
-    /// has no guard: it must not be made then. Null where all is well.
-    NODX201::VOdxElement const* endless = nullptr;
     /// What the parameters that were looked at in vain are called, nested ones included; with nothing found, that is
     /// all.
     std::vector<std::wstring_view> names;

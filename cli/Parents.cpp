@@ -7,8 +7,8 @@
 #include <diagkit/cli/Text.h>
 #include <diagkit/memory/ParentRefs.h>
 #include <diagkit/model/Visitors.h>
-#include <diagkit/reader/ParentTargets.h>
 #include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NCli {
 namespace {
@@ -28,8 +28,8 @@ struct VParentRefsFinder : NODX201::VDiagLayerVisitor {
 
 /// Of a reference without a kind as well.
 NODX201::VDiagLayer* TargetOf(NODX201::VParentRef& parentRef) {
-    if (NODX201::VDiagLayer* const target = NReader::TargetOf(parentRef)) {
-        return target;
+    if (auto const parent = NDIAGKIT::ParentBy(parentRef)) {
+        return parent->layer;
     }
     auto* const ref = dynamic_cast<NMemory::VMemParentRef*>(&parentRef);
     return ref != nullptr && ref->HasDiagLayer() ? &ref->GetDiagLayer() : nullptr;

@@ -42,7 +42,6 @@ struct VAnswer {
     std::string where;                    ///< what was searched, for the message when nothing is found
     std::vector<std::wstring_view> names; ///< those visible there
     std::string path{};                   ///< how the search got to what was found, where that is more than its owners
-    std::string refusal{};                ///< why nothing was searched; "" when it was
     NODX201::VOdxElement const* other = nullptr; ///< what has the name but is of another kind; null when nothing is
 };
 
@@ -186,12 +185,6 @@ VAnswer ResolveOutParam(VQuestion& question) {
     VAnswer answer;
     answer.isSelected = true;
     answer.where = TitleOf(selection);
-    if (path.endless != nullptr) {
-        answer.refusal = fmt::format(
-            "{} leads to {} {}, which contains itself or nests without end; its parameters are not searched",
-            answer.where, TagTextOf(*path.endless), ShownName(*path.endless));
-        return answer;
-    }
     NODX201::IOutParamIf* const found =
         selection.job != nullptr
             ? question.resolver.ResolveOutParamIfSnref(question.name.c_str(), *selection.job, *selection.layer)
@@ -263,7 +256,7 @@ VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output
     if (answer.found != nullptr) {
         return VStatus::Done;
     }
-    output.Complain(answer.refusal.empty() ? MissingMessage(question, answer) : answer.refusal);
+    output.Complain(MissingMessage(question, answer));
     return VStatus::NotThere;
 }
 

@@ -5,9 +5,8 @@ set(internal_headers
     memory/PlaceIndex.h
     tools/Alternative.h
     tools/ListViewImpl.h
-    tools/NameSet.h
     tools/ParamRecursivSearchVisitor.h
-    tools/ParentPass.h
+    tools/PointerSet.h
     tools/ResponseParams.h
     tools/ViewBuilder.h
 )

@@ -239,7 +239,7 @@ public:
     using VMemIdent::VMemIdent;
 
     NODX201::VStringCollection& RoleCollection() override { return m_role.Get(); } ///< ROLES
-    void AddRole(wchar_t const* text) { m_role.Add(text); }
+    void AddRole(wchar_t const* text) { m_role.Add(Part(), text); }
 
     wchar_t const* GetDepartment() const { return m_department; } ///< DEPARTMENT
     void SetDepartment(wchar_t const* text) { m_department = Store(text); }
@@ -279,7 +279,7 @@ public:
     using VMemIdent::VMemIdent;
 
     NODX201::VStringCollection& RoleCollection() override { return m_role.Get(); } ///< ROLES
-    void AddRole(wchar_t const* text) { m_role.Add(text); }
+    void AddRole(wchar_t const* text) { m_role.Add(Part(), text); }
 
     NODX201::VTeamMemberCollection& TeamMemberCollection() override { return m_teamMember.Get(); } ///< TEAM-MEMBERS
     VMemCollection<NODX201::VTeamMemberCollection>& MakeTeamMemberCollection() { return m_teamMember.Make(); }

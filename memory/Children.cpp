@@ -3,24 +3,14 @@
 
 #include <stdexcept>
 
+#include <diagkit/memory/Sdgs.h>
+
 namespace NMemory {
 
 void RequireById(VReference const& reference) {
     if (reference.IsByShortName()) {
         throw std::invalid_argument("DIAG-COMMS and DIAG-VARIABLES take references by ID only");
     }
-}
-
-VMemStrings::VMemStringCollection::~VMemStringCollection() {
-    for (std::wstring const* const text : m_elements) {
-        delete text;
-    }
-}
-
-void VMemStrings::VMemStringCollection::Add(wchar_t const* text) {
-    auto copy = std::make_unique<std::wstring const>(text);
-    m_elements.push_back(copy.get());
-    copy.release();
 }
 
 NODX201::VStringCollection& VMemStrings::Get() const {
@@ -34,9 +24,22 @@ void VMemStrings::Make() {
     }
 }
 
-void VMemStrings::Add(wchar_t const* text) {
+void VMemStrings::Add(VPart& part, wchar_t const* text) {
     Make();
-    m_collection->Add(text);
+    m_collection->Add(part.StoreString(text));
+}
+
+VMemSdg::~VMemSdg() {
+    if (!m_sdgSdChoice.IsPresent()) {
+        return;
+    }
+    auto& dying = m_sdgSdChoice.Make();
+    for (auto position = dying.Close(); position != dying.EndPosition(); ++position) {
+        auto* const nested = dynamic_cast<VMemSdg*>(*position);
+        if (nested != nullptr && nested->m_sdgSdChoice.IsPresent()) {
+            dying.TakeDying(nested->m_sdgSdChoice.Make());
+        }
+    }
 }
 
 } // namespace NMemory

@@ -116,14 +116,13 @@ public:
     bool IsPresent() const { return m_collection != nullptr; } ///< whether it was ever added to, or made
     NODX201::VStringCollection& Get() const;                   ///< in document order; empty when absent
     void Make();                                               ///< from now on it is present
-    void Add(wchar_t const* text);                             ///< a copy, at the end
+    void Add(VPart& part, wchar_t const* text);                ///< a copy, at the end, which the part holds
 
 private:
     class VMemStringCollection : public NODX201::VStringCollection {
     public:
         VMemStringCollection() = default;
-        ~VMemStringCollection();
-        void Add(wchar_t const* text);
+        void Add(std::wstring const& text) { m_elements.push_back(&text); }
     };
 
     std::unique_ptr<VMemStringCollection> m_collection;

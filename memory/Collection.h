@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <algorithm>
 #include <memory>
+#include <stdexcept>
 #include <type_traits>
 
 #include <diagkit/memory/Node.h>
@@ -29,13 +29,11 @@ public:
         }
     }
 
-    /// Takes the element in before the position; the position is found once, so that adding at the end is constant.
+    /// Takes the element in before the position.
     template <class Element>
     Element& Insert(typename List::iterator before, std::unique_ptr<Element> element) {
         Entry* const entry = element.get();
-        this->m_elements.insert(before, entry);
-        element->m_home = this;
-        element->m_entry = entry;
+        SetHome(*element, this->m_elements.insert(before, entry));
         return *element.release();
     }
 
@@ -47,39 +45,51 @@ public:
         return Insert(this->m_elements.end(), std::move(element));
     }
 
-    /// The position of an entry; the end when the collection does not hold it. Linear.
-    typename List::iterator Position(void const* entry) {
-        return std::find_if(this->m_elements.begin(), this->m_elements.end(),
-                            [entry](Entry* held) { return static_cast<void const*>(held) == entry; });
+    /// Where an element of this collection stands; the end for any other.
+    typename List::iterator Position(VMemNode const& element) {
+        return element.m_home == this ? element.m_place.In(this->m_elements) : this->m_elements.end();
     }
 
     /// Moves an element of the same database from wherever it stands into this collection of `owner`: before the entry
-    /// `before`, or to the end. Links that name it resolve as before, as far as its new place allows.
+    /// `before`, or to the end. Links that name it resolve as before, as far as its new place allows. Throws
+    /// std::invalid_argument, and changes nothing, for an element of another database or of a detached part, for one
+    /// that `owner` stands in, and for an entry `before` that this collection does not hold.
     template <class Owner, class Element>
     void Adopt(Owner& owner, Element& element, Entry* before = nullptr) {
-        Entry* const entry = &element;
         VMemNode& node = element;
-        bool const isAtHome = node.m_home == this;
-        auto const old = isAtHome ? Position(entry) : EndPosition();
-        this->m_elements.insert(before != nullptr ? Position(before) : EndPosition(), entry);
-        if (isAtHome) {
+        node.RequireMoveTo(owner, owner, element);
+        auto const position = before != nullptr ? PositionOfEntry(before) : EndPosition();
+        auto const old = Position(node);
+        auto const now = this->m_elements.insert(position, static_cast<Entry*>(&element));
+        if (old != EndPosition()) {
             this->m_elements.erase(old);
         } else if (node.m_home != nullptr) {
-            node.m_home->Forget(node.m_entry);
+            node.m_home->Forget(node.m_place);
         }
-        node.m_home = this;
-        node.m_entry = entry;
+        SetHome(element, now);
         node.m_owner = &owner;
-        node.NoteMove();
+        node.NoteRedirection();
     }
 
-    void Forget(void const* entry) override {
-        if (m_isClosing) {
-            return;
+    void Forget(VListPosition const& position) override {
+        if (!m_isClosing) {
+            this->m_elements.erase(position.In(this->m_elements));
         }
-        if (auto const position = Position(entry); position != this->m_elements.end()) {
-            this->m_elements.erase(position);
+    }
+
+    /// Everything in `other` is about to be destroyed with the entries of this one: it stands here from now on. So what
+    /// is nested however deep is destroyed one after another. Allocates nothing.
+    void TakeDying(VMemCollection& other) {
+        for (auto position = other.m_elements.begin(); position != other.m_elements.end(); ++position) {
+            dynamic_cast<VMemNode&>(**position).m_home = this;
         }
+        this->m_elements.splice(this->m_elements.end(), other.m_elements);
+    }
+
+    /// For what destroys its entries with `TakeDying`: no entry needs to leave any more.
+    typename List::iterator Close() {
+        m_isClosing = true;
+        return this->m_elements.begin();
     }
 
 private:
@@ -90,6 +100,20 @@ private:
             // Proxies have no public destructor; the element behind one has.
             delete dynamic_cast<NODX201::VOdxObject*>(entry);
         }
+    }
+
+    void SetHome(VMemNode& node, typename List::iterator position) {
+        node.m_home = this;
+        node.m_place = VListPosition(position);
+    }
+
+    typename List::iterator PositionOfEntry(Entry* entry) {
+        auto* const node = dynamic_cast<VMemNode*>(entry);
+        auto const position = node != nullptr ? Position(*node) : EndPosition();
+        if (position == EndPosition()) {
+            throw std::invalid_argument("an element moves before another one of the collection that it moves into");
+        }
+        return position;
     }
 
     bool m_isClosing = false;

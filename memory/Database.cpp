@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <stdexcept>
 #include <utility>
 
 #include <diagkit/memory/Odx.h>
@@ -81,6 +82,9 @@ std::size_t VDatabase::Count(NODX201::VOdxTagEnum tag) const {
 }
 
 void VDatabase::Adopt(std::unique_ptr<VPart>&& part) {
+    if (part == nullptr || &part->GetDatabase() != this || !part->IsDetached()) {
+        throw std::invalid_argument("a database adopts detached parts of its own");
+    }
     m_parts.reserve(m_parts.size() + 1);
     m_counts.resize(std::max(m_counts.size(), part->m_counts.size()));
     m_parts.push_back(std::move(part));
@@ -110,7 +114,7 @@ void VDatabase::AddIds(VPart const& part) {
     }
 }
 
-void VDatabase::NoteRemoval() {
+void VDatabase::NoteRedirection() {
     m_isResolverStale = true;
     NoteChange();
 }

@@ -73,8 +73,9 @@ public:
 
     /// Says how to make the resolver that answers short-name links. Without one they do not resolve.
     void SetResolverFactory(VResolverFactory factory);
-    /// Forgets the resolver; the next short-name link starts a new one, which sees the database as it is then. Removing
-    /// an element does the same by itself, because a resolver may remember what was removed.
+    /// Forgets the resolver; the next short-name link starts a new one, which sees the database as it is then.
+    /// Removing, moving or renaming an element and directing a PARENT-REF at another layer do the same by themselves,
+    /// because a resolver may remember what was there before. Adding does not.
     void StartNewResolver();
     NODX201::VAbstractSnrefResolver* GetResolver(); ///< null without a factory
 
@@ -83,7 +84,8 @@ public:
     std::string const& GetDocumentName(VPosition const& position) const; ///< UTF-8; "" when not known
 
     /// Takes in what was made detached: the IDs and the count of its elements, or nothing when memory runs out. The
-    /// part lives as long as the database, unless the pointer still holds it afterwards.
+    /// part lives as long as the database, unless the pointer still holds it afterwards. Throws std::invalid_argument
+    /// for a part that is not a detached one of this database.
     void Adopt(std::unique_ptr<VPart>&& part);
 
     /// How many elements of a kind the database holds.
@@ -97,7 +99,7 @@ public:
     VPlaceIndex& GetPlaceIndex() { return *m_places; }                      ///< of elements that share an ID
     std::wstring MakeId();                                                  ///< an ID that no element has
     void NoteChange() { ++m_generation; }                        ///< what links remember may not hold any more
-    void NoteRemoval();                                          ///< nor what the resolver remembers
+    void NoteRedirection();                                      ///< nor what the resolver remembers
     std::uint64_t GetGeneration() const { return m_generation; } ///< grows with every change
 
 private:

@@ -13,7 +13,9 @@ namespace NMemory {
 class VMemDiagCommLink final : public VMemLink<NODX201::VDiagCommLink, Tag::DiagCommRef, NODX201::VDiagComm> {
 public:
     using VMemLink::VMemLink;
-    bool ResolvesById() const { return FindById(&IsDiagCommOfLayer); } ///< false for a short name
+    /// False for a short name.
+    bool ResolvesById() const { return Snref() == nullptr && FindById(&IsDiagCommOfLayer); }
+    VDoubt FindDoubt() const { return FindDoubtOf(&IsDiagCommOfLayer); } ///< see `VMemLink`
     bool HasDiagComm(NODX201::VDiagLayer& layer) override;
     NODX201::VDiagComm& GetDiagComm() override { return Found(); }
 };
@@ -23,7 +25,9 @@ class VMemRelatedDiagCommRef final
     : public VMemLink<NODX201::VRelatedDiagCommRef, Tag::RelatedDiagCommRef, NODX201::VDiagComm> {
 public:
     using VMemLink::VMemLink;
-    bool ResolvesById() const { return FindById(&IsDiagCommOfLayer); } ///< false for a short name
+    /// False for a short name.
+    bool ResolvesById() const { return Snref() == nullptr && FindById(&IsDiagCommOfLayer); }
+    VDoubt FindDoubt() const { return FindDoubtOf(&IsDiagCommOfLayer); } ///< see `VMemLink`
     bool HasDiagComm() const override { return FindById(&IsDiagCommOfLayer); }
     NODX201::VDiagComm& GetDiagComm() override { return Found(); }
 

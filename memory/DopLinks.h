@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <unordered_set>
 #include <vector>
 
 #include <diagkit/memory/Children.h>
@@ -11,6 +13,16 @@
 
 namespace NMemory {
 
+/// Layers of the memory model, by their numbers: whatever comes to stand where one was destroyed is not meant.
+class VSeveredLayers {
+public:
+    void Add(NODX201::VDiagLayer& layer);
+    bool Holds(NODX201::VDiagLayer& layer) const;
+
+private:
+    std::unordered_set<std::uint64_t> m_numbers;
+};
+
 /// DOP-REF, DOP-BASE-REF and their SNREFs: any kind of DOP.
 class VMemDopBaseLink final : public VMemLink<NODX201::VDopBaseLink, Tag::DopBaseRef, NODX201::VDopBase> {
 public:
@@ -18,13 +30,19 @@ public:
     bool HasDopBase(NODX201::VDiagLayer& layer) override;
     NODX201::VDopBase& GetDopBase() override { return Found(); }
 
-    /// From now on the link, if by short name, resolves to nothing in this layer; see `Sever`.
-    void SeverIn(NODX201::VDiagLayer const& layer);
+    /// Names another target from now on, in every layer.
+    void SetReference(VReference const& reference) {
+        VMemLink::SetReference(reference);
+        m_severedIn.reset();
+    }
+
+    /// From now on the link, if by short name, resolves to nothing in these layers, which many links may share; until
+    /// it is given another reference. See `Sever`.
+    void SeverIn(std::shared_ptr<VSeveredLayers const> layers);
+    bool IsSeveredIn(NODX201::VDiagLayer& layer) const;
 
 private:
-    bool IsSeveredIn(NODX201::VDiagLayer const& layer) const;
-
-    std::unique_ptr<std::vector<NODX201::VDiagLayer const*>> m_severedIn; // null nearly always
+    std::unique_ptr<std::vector<std::shared_ptr<VSeveredLayers const>>> m_severedIn; // null nearly always
 };
 
 /// DOP-REF, DATA-OBJECT-PROP-REF, KEY-DOP-REF and their SNREFs: a DATA-OBJECT-PROP.

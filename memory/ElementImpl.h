@@ -12,8 +12,13 @@ namespace NMemory {
 
 template <class Contract, NODX201::VOdxTagEnum Tag>
 void VMemNamed<Contract, Tag>::SetShortName(wchar_t const* shortName) {
+    bool const isRenamed = *m_shortName != L'\0';
     m_shortName = this->Store(shortName);
-    this->Part().NoteChange();
+    if (isRenamed) {
+        this->NoteRedirection();
+    } else {
+        this->NoteChange();
+    }
 }
 
 template <class Contract, NODX201::VOdxTagEnum Tag>

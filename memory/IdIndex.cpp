@@ -9,23 +9,48 @@ void VIdIndex::Add(std::wstring_view id, std::uint32_t hash, NODX201::VReferenca
     VEntry& entry = m_entries.Add(id, hash, [](std::wstring_view added) { return added.data(); });
     if (entry.first == nullptr) {
         entry.first = &element;
-    } else {
-        entry.others.push_back(&element);
+        return;
+    }
+    auto later = entry.IsRepeated() ? nullptr : std::make_unique<std::deque<NODX201::VReferencable*>>();
+    (entry.IsRepeated() ? *entry.later : *later).push_back(&element);
+    if (later != nullptr) {
+        entry.later = std::move(later);
     }
 }
+
+namespace {
+
+/// Elements mostly leave in the order in which they came, or in that from the last to the first.
+void Erase(std::deque<NODX201::VReferencable*>& elements, NODX201::VReferencable const& element) {
+    if (elements.back() == &element) {
+        elements.pop_back();
+        return;
+    }
+    auto const found = std::find(elements.begin(), elements.end(), &element);
+    if (found != elements.end()) {
+        elements.erase(found);
+    }
+}
+
+} // namespace
 
 void VIdIndex::Remove(std::wstring_view id, NODX201::VReferencable const& element) {
     VEntry* const entry = m_entries.Find(id);
     if (entry == nullptr) {
         return;
     }
-    if (entry->first != &element) {
-        entry->others.erase(std::remove(entry->others.begin(), entry->others.end(), &element), entry->others.end());
-    } else if (entry->others.empty()) {
-        entry->first = nullptr;
+    if (!entry->IsRepeated()) {
+        entry->first = entry->first == &element ? nullptr : entry->first;
+        return;
+    }
+    if (entry->first == &element) {
+        entry->first = entry->later->front();
+        entry->later->pop_front();
     } else {
-        entry->first = entry->others.front();
-        entry->others.erase(entry->others.begin());
+        Erase(*entry->later, element);
+    }
+    if (entry->later->empty()) {
+        entry->later.reset();
     }
 }
 

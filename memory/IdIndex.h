@@ -3,8 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 #include <diagkit/memory/TextTable.h>
 #include <diagkit/model/OdxElement.h>
@@ -15,11 +16,36 @@ namespace NMemory {
 /// The keys are texts of the database's pools.
 class VIdIndex {
 public:
-    /// The elements of one ID in load order: the first, and the others where there are any. An entry stays where it is
-    /// until an ID is added.
+    /// The elements of one ID. An entry stays where it is until an ID is added.
     struct VEntry {
-        NODX201::VReferencable* first = nullptr;     ///< null when all have been removed
-        std::vector<NODX201::VReferencable*> others; ///< in load order
+        NODX201::VReferencable* first = nullptr;                    ///< in load order; null when all have been removed
+        std::unique_ptr<std::deque<NODX201::VReferencable*>> later; ///< in load order; null where there are none
+
+        bool IsRepeated() const { return later != nullptr; }
+        std::size_t Count() const { return 1 + (IsRepeated() ? later->size() : 0); }
+
+        /// The first element in load order for which the test holds, or null.
+        template <class Test>
+        NODX201::VReferencable* FirstOf(Test test) const {
+            if (test(*first)) {
+                return first;
+            }
+            for (std::size_t index = 0; index + 1 < Count(); ++index) {
+                if (test(*(*later)[index])) {
+                    return (*later)[index];
+                }
+            }
+            return nullptr;
+        }
+
+        /// Calls `take` with every element, in load order.
+        template <class Take>
+        void ForEach(Take take) const {
+            FirstOf([&take](NODX201::VReferencable& element) {
+                take(element);
+                return false;
+            });
+        }
     };
 
     void Add(std::wstring_view id, NODX201::VReferencable& element) { Add(id, HashOf(id), element); } ///< as its last
@@ -32,7 +58,7 @@ public:
     template <class Take>
     void ForEachRepeated(Take take) const {
         m_entries.ForEach([&take](VEntry const& entry) {
-            if (!entry.others.empty()) {
+            if (entry.IsRepeated()) {
                 take(entry);
             }
         });

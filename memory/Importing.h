@@ -12,26 +12,25 @@ class VMemImportRef final : public VMemLink<NODX201::VLink, NODX201::VOdxTagEnum
 public:
     using VMemLink::VMemLink;
 
-    /// Imports another layer from now on, for every reference that looks there.
-    void SetReference(VReference const& reference) {
-        VMemLink::SetReference(reference);
-        Part().NoteChange();
-    }
-
     bool HasDiagLayer() const { return FindById(); }
     NODX201::VDiagLayer& GetDiagLayer() { return Found(); }
 };
 
 class VImportRefCollection : public NODX201::VElementCollection<VMemImportRef> {};
 
-/// An element that may hold IMPORT-REFS: every kind of layer.
-class IImporting {
+/// What every kind of layer of this model has besides its contract.
+class IMemLayer {
 public:
     virtual VImportRefCollection& ImportRefCollection() = 0;
+    /// A number that no other layer of the process ever has, though layers may come to stand where others were
+    /// destroyed.
+    virtual std::uint64_t GetLayerNumber() const = 0;
 
 protected:
-    IImporting() = default;
-    ~IImporting() = default;
+    IMemLayer() = default;
+    ~IMemLayer() = default;
 };
+
+std::uint64_t NextLayerNumber(); ///< for a layer that is being made
 
 } // namespace NMemory

@@ -5,11 +5,11 @@
 #include <diagkit/memory/Compu.h>
 #include <diagkit/memory/DopLinks.h>
 #include <diagkit/memory/Dops.h>
+#include <diagkit/memory/NewImpl.h>
 #include <diagkit/memory/ProgCode.h>
 #include <diagkit/memory/TableLinks.h>
 #include <diagkit/memory/Tables.h>
 #include <diagkit/memory/Units.h>
-#include <diagkit/memory/NewImpl.h>
 
 // clang-format off
 

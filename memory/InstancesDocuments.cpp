@@ -4,8 +4,8 @@
 
 #include <diagkit/memory/AdminData.h>
 #include <diagkit/memory/Flash.h>
-#include <diagkit/memory/Sdgs.h>
 #include <diagkit/memory/NewImpl.h>
+#include <diagkit/memory/Sdgs.h>
 
 // clang-format off
 

@@ -11,10 +11,10 @@
 #include <diagkit/memory/LayerParts.h>
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/NewImpl.h>
 #include <diagkit/memory/Params.h>
 #include <diagkit/memory/ParentRefs.h>
 #include <diagkit/memory/Responses.h>
-#include <diagkit/memory/NewImpl.h>
 
 // clang-format off
 

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/memory/Layers.h>
 
+#include <atomic>
+
 namespace NMemory {
+
+std::uint64_t NextLayerNumber() {
+    static std::atomic<std::uint64_t> latest{0}; // documents are read in several threads
+    return ++latest;
+}
 
 IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRefCollection::List::iterator before,
                                VPlace const& place, VParentRefKind kind, VReference const& reference) {
@@ -48,7 +55,7 @@ IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace c
                                    VParentRefKind kind) {
     NODX201::VParentRef& before = parentRef.ParentRef();
     IMemParentRef& changed =
-        InsertParentRef(parentRefs, parentRefs.Position(&before), place, kind, ReferenceOf(before.GetLink()));
+        InsertParentRef(parentRefs, parentRefs.Position(parentRef.Node()), place, kind, ReferenceOf(before.GetLink()));
     try {
         CopyContent(parentRef, changed);
     } catch (...) {
@@ -66,18 +73,16 @@ VMemDiagLayerCollection::~VMemDiagLayerCollection() {
     }
 }
 
-void VMemDiagLayerCollection::Forget(void const* entry) {
+void VMemDiagLayerCollection::Forget(VListPosition const& position) {
     if (!m_isClosing) {
-        m_elements.remove_if([entry](NODX201::VDiagLayer* layer) { return static_cast<void const*>(layer) == entry; });
+        m_elements.erase(position.In(m_elements));
     }
 }
 
 template <class Layer>
 Layer& VMemDiagLayerCollection::Add(std::unique_ptr<Layer> layer) {
-    NODX201::VDiagLayer* const entry = layer.get();
-    m_elements.push_back(entry);
+    layer->m_place = VListPosition(m_elements.insert(m_elements.end(), layer.get()));
     layer->m_home = this;
-    layer->m_entry = entry;
     return *layer.release();
 }
 

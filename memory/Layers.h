@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <algorithm>
-
 #include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/DiagVariables.h>
 #include <diagkit/memory/Importing.h>
@@ -17,7 +15,7 @@ namespace NMemory {
 
 /// What the five kinds of layer share.
 template <class Base>
-class VWithLayer : public Base, public IImporting {
+class VWithLayer : public Base, public IMemLayer {
 public:
     using Base::Base;
 
@@ -61,14 +59,16 @@ public:
         return AddNamed<VMemGlobalNegResponse>(m_response, this->Inside(), shortName);
     }
 
+    std::uint64_t GetLayerNumber() const override { return m_layerNumber; }
+
     VImportRefCollection& ImportRefCollection() override { return m_importRef.Get(); } ///< IMPORT-REFS
     VMemCollection<VImportRefCollection>& MakeImportRefCollection() { return m_importRef.Make(); }
     VMemImportRef& AddImportRef(VReference const& reference) {
-        this->Part().NoteChange();
         return AddLink<VMemImportRef>(m_importRef, this->Inside(), reference);
     }
 
 private:
+    std::uint64_t m_layerNumber = NextLayerNumber();
     std::unique_ptr<VMemDiagDataDictionarySpec> m_dictionary;
     VMemMany<NODX201::VDiagCommProxyCollection> m_diagCommProxy;
     VMemMany<NODX201::VRequestCollection> m_request;
@@ -116,7 +116,7 @@ public:
     VMemAccessLevel& AddAccessLevel() { return AddPlain<VMemAccessLevel>(m_accessLevel, this->Inside()); }
 
     NODX201::VStringCollection& AutMethodCollection() override { return m_autMethod.Get(); } ///< AUT-METHODS
-    void AddAutMethod(wchar_t const* text) { m_autMethod.Add(text); }
+    void AddAutMethod(wchar_t const* text) { m_autMethod.Add(this->Part(), text); }
 
 private:
     VMemMany<NODX201::VParentRefCollection> m_parentRef;
@@ -257,9 +257,9 @@ public:
     ~VMemDiagLayerCollection() override;
 
     NODX201::VOdxObject* GetOwner() const override { return m_container; }
-    void Forget(void const* entry) override;
+    void Forget(VListPosition const& position) override;
 
-    /// Moves a layer of the same database here, to the end.
+    /// Moves a layer of the same database here, to the end. Throws std::invalid_argument for one of another database.
     template <class Layer>
     void Adopt(Layer& layer);
 
@@ -276,15 +276,13 @@ private:
 template <class Layer>
 void VMemDiagLayerCollection::Adopt(Layer& layer) {
     VMemNode& node = layer;
-    m_elements.push_back(&layer);
-    if (node.m_home == this) {
-        m_elements.erase(std::find(m_elements.begin(), m_elements.end(), &layer));
-    } else {
-        node.m_home->Forget(node.m_entry);
-    }
+    node.RequireMoveTo(dynamic_cast<VMemNode const&>(*m_container), *m_container, layer);
+    auto const now = m_elements.insert(m_elements.end(), &layer);
+    node.m_home->Forget(node.m_place);
     node.m_home = this;
+    node.m_place = VListPosition(now);
     node.m_owner = this;
-    node.NoteMove();
+    node.NoteRedirection();
 }
 
 /// DIAG-LAYER-CONTAINER

@@ -4,12 +4,35 @@
 #include <array>
 #include <string_view>
 
-#include <diagkit/memory/Importing.h>
 #include <diagkit/memory/PlaceIndex.h>
 #include <diagkit/model/DiagComms.h>
 
 namespace NMemory {
 namespace {
+
+/// The places that DOCREF and DOCTYPE name, the one that is searched first before the other. A DOCTYPE of later
+/// versions of ODX names no kind of document.
+std::array<VSearchPlace, 2> PlacesNamedBy(NODX201::VOdxLink const& link) {
+    static constexpr std::array<std::pair<std::wstring_view, Tag>, 4> kDoctypes{{
+        {L"FLASH", Tag::Flash},
+        {L"CONTAINER", Tag::DiagLayerContainer},
+        {L"MULTIPLE-ECU-JOB-SPEC", Tag::MultipleEcuJobSpec},
+        {L"COMPARAM-SPEC", Tag::ComparamSpec},
+    }};
+    std::wstring_view const doctype = link.GetDoctype();
+    VSearchPlace const anyKind{VPlaceKind::Named, nullptr, link.GetDocref()};
+    VSearchPlace ofKind = anyKind;
+    if (doctype == L"LAYER") {
+        ofKind.kind = VPlaceKind::NamedLayer;
+    }
+    for (auto const& [literal, category] : kDoctypes) {
+        if (literal == doctype) {
+            ofKind.kind = VPlaceKind::NamedDocument;
+            ofKind.category = category;
+        }
+    }
+    return {ofKind, anyKind};
+}
 
 /// One search for an ID that several elements have.
 class VSearch {
@@ -23,52 +46,25 @@ public:
     NODX201::VReferencable* In(NODX201::VOdxElement const* layerOrDocument) const {
         return layerOrDocument != nullptr ? In({VPlaceKind::Element, layerOrDocument}) : nullptr;
     }
+    NODX201::VReferencable* OtherIn(VSearchPlace const& place) const {
+        return m_database.GetPlaceIndex().FindOther(m_entry, m_expect, place, m_database.GetGeneration());
+    }
 
-    NODX201::VReferencable* InNamedDocument(std::wstring_view docref, std::wstring_view doctype) const;
+    NODX201::VReferencable* InNamedDocument(NODX201::VOdxLink const& link) const {
+        for (VSearchPlace const& place : PlacesNamedBy(link)) {
+            if (auto* const found = In(place)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
     NODX201::VReferencable* Around(NODX201::VOdxElement& from) const;
 
 private:
-    NODX201::VReferencable* InImports(NODX201::VOdxElement& layer) const;
-
     VDatabase& m_database;
     VIdIndex::VEntry const& m_entry;
     VExpect m_expect;
 };
-
-NODX201::VReferencable* VSearch::InNamedDocument(std::wstring_view docref, std::wstring_view doctype) const {
-    static constexpr std::array<std::pair<std::wstring_view, Tag>, 4> kDoctypes{{
-        {L"FLASH", Tag::Flash},
-        {L"CONTAINER", Tag::DiagLayerContainer},
-        {L"MULTIPLE-ECU-JOB-SPEC", Tag::MultipleEcuJobSpec},
-        {L"COMPARAM-SPEC", Tag::ComparamSpec},
-    }};
-    NODX201::VReferencable* found = nullptr;
-    if (doctype == L"LAYER") {
-        found = In({VPlaceKind::NamedLayer, nullptr, docref});
-    }
-    for (auto const& [literal, category] : kDoctypes) {
-        if (literal == doctype) {
-            found = In({VPlaceKind::NamedDocument, nullptr, docref, category});
-        }
-    }
-    return found != nullptr ? found : In({VPlaceKind::Named, nullptr, docref});
-}
-
-NODX201::VReferencable* VSearch::InImports(NODX201::VOdxElement& layer) const {
-    auto* const importing = dynamic_cast<IImporting*>(&layer);
-    if (importing == nullptr) {
-        return nullptr;
-    }
-    for (VMemImportRef& import : importing->ImportRefCollection()) {
-        if (!import.HasDiagLayer()) {
-            continue;
-        }
-        if (auto* const found = In(&import.GetDiagLayer())) {
-            return found;
-        }
-    }
-    return nullptr;
-}
 
 NODX201::VReferencable* VSearch::Around(NODX201::VOdxElement& from) const {
     VScope const own = ScopeOf(from);
@@ -82,7 +78,7 @@ NODX201::VReferencable* VSearch::Around(NODX201::VOdxElement& from) const {
     if (own.layer == nullptr || from.GetOdxTag() == Tag::ImportRef) {
         return nullptr;
     }
-    return InImports(*own.layer);
+    return m_database.GetPlaceIndex().FindInImports(m_entry, m_expect, *own.layer, m_database.GetGeneration());
 }
 
 } // namespace
@@ -95,11 +91,13 @@ VReference ReferenceOf(NODX201::ILink const& link) {
     return VReference::ById(byId.GetIdRef(), byId.GetDocref(), byId.GetDoctype(), byId.GetRevision());
 }
 
-VMemOdxLink::VMemOdxLink(VPart& part, VReference const& reference)
-    : m_id(part.Store(reference.m_id)), m_docref(part.Store(reference.m_docref)),
-      m_doctype(part.Store(reference.m_doctype)), m_revision(part.Store(reference.m_revision)) {}
-
-VMemSnref::VMemSnref(VPart& part, VReference const& reference) : m_shortName(part.Store(reference.m_shortName)) {}
+VReference StoredIn(VPart& part, VReference const& reference) {
+    if (reference.IsByShortName()) {
+        return VReference::ByShortName(part.Store(reference.m_shortName));
+    }
+    return {part.Store(reference.m_id), part.Store(reference.m_docref), part.Store(reference.m_doctype),
+            part.Store(reference.m_revision), nullptr};
+}
 
 bool IsDiagCommOfLayer(NODX201::VReferencable& element) {
     return dynamic_cast<NODX201::VDiagComm*>(&element) != nullptr &&
@@ -113,14 +111,33 @@ NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& 
         return nullptr;
     }
     // The whole database is the last place searched, so an ID that occurs once is found there if anywhere.
-    if (entry->others.empty()) {
+    if (!entry->IsRepeated()) {
         return expect(*entry->first) ? entry->first : nullptr;
     }
     VSearch const search(database, *entry, expect);
-    std::wstring_view const docref = link.GetDocref();
-    NODX201::VReferencable* const found =
-        docref.empty() ? search.Around(from) : search.InNamedDocument(docref, link.GetDoctype());
+    bool const isInNamed = *link.GetDocref() != L'\0';
+    NODX201::VReferencable* const found = isInNamed ? search.InNamedDocument(link) : search.Around(from);
     return found != nullptr ? found : search.In({VPlaceKind::Anywhere});
+}
+
+VDoubt FindDoubt(VDatabase& database, NODX201::VOdxLink const& link, VExpect expect) {
+    VIdIndex::VEntry const* const entry = database.GetIdIndex().Find(link.GetIdRef());
+    if (entry == nullptr || !entry->IsRepeated() || *link.GetDocref() == L'\0') {
+        return {nullptr, nullptr};
+    }
+    VSearch const search(database, *entry, expect);
+    for (VSearchPlace const& place : PlacesNamedBy(link)) {
+        if (NODX201::VReferencable* const target = search.In(place)) {
+            return {target, search.OtherIn(place)};
+        }
+    }
+    return {nullptr, nullptr};
+}
+
+bool IsInNamedDocument(VDatabase& database, NODX201::VOdxLink const& link) {
+    VIdIndex::VEntry const* const entry = database.GetIdIndex().Find(link.GetIdRef());
+    VExpect const anything = [](NODX201::VReferencable&) { return true; };
+    return entry != nullptr && VSearch(database, *entry, anything).In(PlacesNamedBy(link).front()) != nullptr;
 }
 
 } // namespace NMemory

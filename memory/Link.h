@@ -39,19 +39,25 @@ public:
     wchar_t const* m_shortName; ///< null for a reference by ID
 
 private:
+    friend VReference StoredIn(VPart& part, VReference const& reference);
+
     VReference(wchar_t const* id, wchar_t const* docref, wchar_t const* doctype, wchar_t const* revision,
                wchar_t const* shortName)
         : m_id(id), m_docref(docref), m_doctype(doctype), m_revision(revision), m_shortName(shortName) {}
 };
 
+/// The same with texts of the part's pool, which stay.
+VReference StoredIn(VPart& part, VReference const& reference);
+
 /// What a link names, to make another like it.
 VReference ReferenceOf(NODX201::ILink const& link);
 
-/// A reference by ID in the memory model.
+/// A reference by ID in the memory model. It keeps pointers to texts that are stored.
 class VMemOdxLink final : public NODX201::VOdxLink {
 public:
     VMemOdxLink() = default;
-    VMemOdxLink(VPart& part, VReference const& reference); ///< copies the texts into the part's pool
+    explicit VMemOdxLink(VReference const& stored) noexcept
+        : m_id(stored.m_id), m_docref(stored.m_docref), m_doctype(stored.m_doctype), m_revision(stored.m_revision) {}
 
     wchar_t const* GetIdRef() const override { return m_id; }
     wchar_t const* GetDocref() const override { return m_docref; }
@@ -65,10 +71,10 @@ private:
     wchar_t const* m_revision = L"";
 };
 
-/// A reference by short name in the memory model.
+/// A reference by short name in the memory model. It keeps a pointer to a text that is stored.
 class VMemSnref final : public NODX201::VSnref {
 public:
-    VMemSnref(VPart& part, VReference const& reference); ///< copies the text into the part's pool
+    explicit VMemSnref(VReference const& stored) noexcept : m_shortName(stored.m_shortName) {}
 
     wchar_t const* GetShortName() const override { return m_shortName; }
 
@@ -94,6 +100,20 @@ bool IsDiagCommOfLayer(NODX201::VReferencable& element);
 NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& link, NODX201::VOdxElement& from,
                                   VExpect expect);
 
+/// What a reference by ID means, and what it might mean as well.
+struct VDoubt {
+    NODX201::VReferencable* target;
+    NODX201::VReferencable* other; ///< null where there is no doubt
+};
+
+/// Whether the DOCREF of a reference is the short name of several documents or layers that have such an element: its
+/// target stands in one of them, the other one in the next.
+VDoubt FindDoubt(VDatabase& database, NODX201::VOdxLink const& link, VExpect expect);
+
+/// Whether an element, of whatever class, has the ID of the reference and stands in a document or layer that DOCREF and
+/// DOCTYPE name.
+bool IsInNamedDocument(VDatabase& database, NODX201::VOdxLink const& link);
+
 /// A link element, born with the tag `Tag`: an ID reference or a short-name reference, and the answer found last.
 template <class Contract, NODX201::VOdxTagEnum Tag, class Target>
 class VMemLink : public VMemTagged<Contract> {
@@ -107,16 +127,17 @@ public:
         return std::visit([](auto& form) -> NODX201::ILink& { return form; }, m_form);
     }
 
-    /// Names another target from now on.
+    /// Names another target from now on, or the same as before when memory runs out.
     void SetReference(VReference const& reference) {
-        VPart& part = this->Part();
-        if (reference.IsByShortName()) {
-            m_form.template emplace<VMemSnref>(part, reference);
+        VReference const stored = StoredIn(this->Part(), reference);
+        if (stored.IsByShortName()) {
+            m_form.template emplace<VMemSnref>(stored);
         } else {
-            m_form.template emplace<VMemOdxLink>(part, reference);
+            m_form.template emplace<VMemOdxLink>(stored);
         }
         m_generation = 0;
         m_isSevered = false;
+        this->NoteChange(); // other links may lead over this one
     }
 
     /// From now on the link, if by ID, resolves to nothing, until it is given another reference. For readers of data in
@@ -127,7 +148,10 @@ public:
     }
 
     /// Whether this is a reference by ID that finds its target.
-    bool ResolvesById() const { return FindById(); }
+    bool ResolvesById() const { return Snref() == nullptr && FindById(); }
+
+    /// See the function of this name.
+    VDoubt FindDoubt() const { return FindDoubtOf(&IsOfClass<Target>); }
 
 protected:
     /// The short name, or null for a reference by ID.
@@ -146,6 +170,11 @@ protected:
             m_generation = database.GetGeneration();
         }
         return m_target != nullptr;
+    }
+
+    VDoubt FindDoubtOf(VExpect expect) const {
+        auto const* const link = std::get_if<VMemOdxLink>(&m_form);
+        return link != nullptr ? NMemory::FindDoubt(this->GetDatabase(), *link, expect) : VDoubt{nullptr, nullptr};
     }
 
     /// Remembers a target found by other means, for the `GetX()` that follows.

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include <diagkit/memory/ListPosition.h>
 #include <diagkit/memory/Part.h>
 #include <diagkit/model/OdxElement.h>
 
@@ -28,7 +29,7 @@ struct VPlace {
 /// A collection, from the side of an element that leaves it.
 class VMemHome {
 public:
-    virtual void Forget(void const* entry) = 0; ///< the element behind the entry is being destroyed or moved away
+    virtual void Forget(VListPosition const& position) = 0; ///< the element there is being destroyed or moved away
 
 protected:
     VMemHome() = default;
@@ -54,7 +55,11 @@ protected:
     VPart& Part() const { return *m_part; }                ///< that its children belong to as well
     wchar_t const* Store(wchar_t const* text) const;       ///< in the part's text pool
 
-    void NoteMove();                                                    ///< the element has another owner now
+    /// Throws std::invalid_argument where the element cannot move there; see `VMemCollection::Adopt`.
+    void RequireMoveTo(VMemNode const& to, NODX201::VOdxObject const& owner, NODX201::VOdxObject const& self) const;
+
+    void NoteChange();                                                  ///< what links remember may not hold any more
+    void NoteRedirection();                                             ///< nor what the resolver remembers
     void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< in the database's counts
     void CountOut(NODX201::VOdxTagEnum tag);                            ///< the element of this tag is being destroyed
 
@@ -66,7 +71,7 @@ private:
     NODX201::VOdxObject* m_owner;
     VPart* m_part;
     VMemHome* m_home = nullptr;
-    void const* m_entry = nullptr;
+    VListPosition m_place; // in its home
     VPosition m_position;
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <stdexcept>
+
 #include <diagkit/memory/Comparams.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
@@ -40,10 +42,13 @@ public:
     std::unique_ptr<Category> MakeDetached(VPart& part) {
         return New<Category>(VPlace{this, &part});
     }
-    void Adopt(std::unique_ptr<VMemDiagLayerContainer> made) { m_diagLayerContainer.Make().Append(std::move(made)); }
-    void Adopt(std::unique_ptr<VMemComparamSpec> made) { m_comparamSpec.Make().Append(std::move(made)); }
-    void Adopt(std::unique_ptr<VMemFlash> made) { m_flash.Make().Append(std::move(made)); }
-    void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { m_multipleEcuJobSpec.Make().Append(std::move(made)); }
+    /// A category document that was made here takes its place. Throws std::invalid_argument for any other.
+    // clang-format off
+    void Adopt(std::unique_ptr<VMemDiagLayerContainer> made) { RequireMadeHere(made.get()); m_diagLayerContainer.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemComparamSpec> made)       { RequireMadeHere(made.get()); m_comparamSpec.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemFlash> made)              { RequireMadeHere(made.get()); m_flash.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { RequireMadeHere(made.get()); m_multipleEcuJobSpec.Make().Append(std::move(made)); }
+    // clang-format on
 
     /// At the end of those of the root.
     void AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
@@ -51,6 +56,12 @@ public:
     }
 
 private:
+    void RequireMadeHere(NODX201::VOdxObject const* made) const {
+        if (made == nullptr || made->GetOwner() != this) {
+            throw std::invalid_argument("a root adopts category documents that it has made");
+        }
+    }
+
     VMemMany<NODX201::VDiagLayerContainerCollection> m_diagLayerContainer;
     VMemMany<NODX201::VComparamSpecCollection> m_comparamSpec;
     VMemMany<VFlashCollection> m_flash;

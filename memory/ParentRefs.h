@@ -87,6 +87,12 @@ public:
     VMemAnyParentRef(VPlace const& place, VReference const& reference)
         : VMemLink<Contract, TheTag, Target>(place, reference) {}
 
+    /// Names another layer from now on.
+    void SetReference(VReference const& reference) {
+        VMemLink<Contract, TheTag, Target>::SetReference(reference);
+        this->NoteRedirection();
+    }
+
     bool HasNotInheritedDiagCommCollection() const override { return m_diagComms.IsPresent(); }
     NODX201::VNotInheritedDiagCommCollection& NotInheritedDiagCommCollection() override { return m_diagComms.Get(); }
     void MakeNotInheritedDiagCommCollection() override { m_diagComms.Make(); }

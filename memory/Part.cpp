@@ -46,13 +46,20 @@ void VPart::NoteChange() {
     }
 }
 
-void VPart::CountIn(NODX201::VOdxTagEnum tag) { ++CountOf(m_isDetached ? m_counts : m_database.m_counts, tag); }
+void VPart::NoteRedirection() {
+    if (!m_isDetached) {
+        m_database.NoteRedirection();
+    }
+}
+
+void VPart::CountIn(NODX201::VOdxTagEnum tag) {
+    ++CountOf(m_isDetached ? m_counts : m_database.m_counts, tag);
+    NoteChange();
+}
 
 void VPart::CountOut(NODX201::VOdxTagEnum tag) {
     --CountOf(m_isDetached ? m_counts : m_database.m_counts, tag);
-    if (!m_isDetached) {
-        m_database.NoteRemoval();
-    }
+    NoteRedirection();
 }
 
 void VPart::ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to) {

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -26,6 +28,7 @@ public:
     VPart& operator=(VPart const&) = delete;
 
     VDatabase& GetDatabase() const { return m_database; }
+    bool IsDetached() const { return m_isDetached; }
 
     /// All elements of a detached part are about to be destroyed: none needs to leave it one by one.
     void Close() { m_isClosing = true; }
@@ -37,7 +40,10 @@ public:
     wchar_t const* Store(std::wstring_view text) { return m_texts.Store(text); } ///< the copy in the pool
     void Index(wchar_t const* id, NODX201::VReferencable& element);              ///< at once, or when adopted
     void Unindex(wchar_t const* id, NODX201::VReferencable const& element);      ///< no effect when not indexed
+    /// The copy, as long as the database lives.
+    std::wstring const& StoreString(wchar_t const* text) { return m_strings.emplace_back(text); }
     void NoteChange();                                                  ///< to the database; no effect while detached
+    void NoteRedirection();                                             ///< what short names mean has changed; the same
     void CountIn(NODX201::VOdxTagEnum tag);                             ///< there is one more of the kind
     void CountOut(NODX201::VOdxTagEnum tag);                            ///< there is one less of the kind
     void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< one is of another kind now
@@ -53,6 +59,7 @@ private:
 
     VDatabase& m_database;
     VTextPool m_texts;
+    std::deque<std::wstring> m_strings;
     bool m_isDetached = true;
     bool m_isClosing = false;
     std::vector<std::size_t> m_counts; // by tag value; while it is detached

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include <diagkit/memory/Importing.h>
+
 namespace NMemory {
 namespace {
 
@@ -42,11 +44,12 @@ bool StandsIn(NODX201::VOdxElement& element, VSearchPlace const& place) {
     return stands;
 }
 
-/// The first of the elements for which the test holds, or null.
-template <class Test>
-NODX201::VReferencable* FirstOf(std::vector<NODX201::VReferencable*> const& elements, Test test) {
-    auto const found = std::find_if(elements.begin(), elements.end(), test);
-    return found != elements.end() ? *found : nullptr;
+/// The layer or document around an element which makes it stand in a place that short names tell.
+NODX201::VOdxElement const* NamedIn(NODX201::VOdxElement& element, VSearchPlace const& place) {
+    VScope const scope = ScopeOf(element);
+    bool const isByLayer = scope.layer != nullptr && place.kind != VPlaceKind::NamedDocument &&
+                           place.shortName == scope.layer->GetShortName();
+    return isByLayer ? scope.layer : scope.document;
 }
 
 } // namespace
@@ -69,38 +72,120 @@ VScope ScopeOf(NODX201::VOdxElement& element) {
 
 NODX201::VReferencable* VPlaceIndex::Find(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
                                           std::uint64_t generation) {
-    if (entry.others.size() < kFew) {
-        auto const fits = [&](NODX201::VReferencable* element) {
-            return expect(*element) && StandsIn(*element, place);
-        };
-        return fits(entry.first) ? entry.first : FirstOf(entry.others, fits);
+    if (entry.Count() <= kFew) {
+        return entry.FirstOf(
+            [&](NODX201::VReferencable& element) { return expect(element) && StandsIn(element, place); });
     }
-    if (m_generation != generation) {
-        m_sorted.clear();
-        m_generation = generation;
-    }
-    auto const [sorted, isNew] = m_sorted.try_emplace(&entry);
-    if (isNew) {
-        sorted->second = Sort(entry);
-    }
-    auto const group = sorted->second.find(place);
-    if (group == sorted->second.end()) {
+    VGroup* const group = GroupOf(entry, place, generation);
+    if (group == nullptr) {
         return nullptr;
     }
-    auto const [answer, isFirst] = group->second.firstOfClass.try_emplace(expect, nullptr);
+    auto const [answer, isFirst] = group->firstOfClass.try_emplace(expect, nullptr);
     if (isFirst) {
-        answer->second = FirstOf(group->second.elements, [expect](auto* element) { return expect(*element); });
+        auto const found = std::find_if(group->elements.begin(), group->elements.end(),
+                                        [expect](auto* held) { return expect(*held); });
+        answer->second = found != group->elements.end() ? *found : nullptr;
     }
     return answer->second;
 }
 
+NODX201::VReferencable* VPlaceIndex::FindOther(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
+                                               std::uint64_t generation) {
+    NODX201::VReferencable* const first = Find(entry, expect, place, generation);
+    if (first == nullptr) {
+        return nullptr;
+    }
+    NODX201::VOdxElement const* const named = NamedIn(*first, place);
+    auto const isOther = [&](NODX201::VReferencable& element) {
+        return expect(element) && StandsIn(element, place) && NamedIn(element, place) != named;
+    };
+    if (entry.Count() <= kFew) {
+        return entry.FirstOf(isOther);
+    }
+    VGroup& group = *GroupOf(entry, place, generation);
+    auto const [answer, isNew] = group.otherOfClass.try_emplace(expect, nullptr);
+    if (isNew) {
+        auto const found = std::find_if(group.elements.begin(), group.elements.end(),
+                                        [&isOther](auto* held) { return isOther(*held); });
+        answer->second = found != group.elements.end() ? *found : nullptr;
+    }
+    return answer->second;
+}
+
+/// Null when no element of the ID stands in the place.
+VPlaceIndex::VGroup* VPlaceIndex::GroupOf(VIdIndex::VEntry const& entry, VSearchPlace const& place,
+                                          std::uint64_t generation) {
+    ForgetOld(generation);
+    auto sorted = m_sorted.find(&entry);
+    if (sorted == m_sorted.end()) {
+        sorted = m_sorted.emplace(&entry, Sort(entry)).first;
+    }
+    auto const group = sorted->second.find(place);
+    return group != sorted->second.end() ? &group->second : nullptr;
+}
+
+NODX201::VReferencable* VPlaceIndex::FindInImports(VIdIndex::VEntry const& entry, VExpect expect,
+                                                   NODX201::VOdxElement& layer, std::uint64_t generation) {
+    ForgetOld(generation);
+    auto known = m_imports.find(&layer);
+    if (known == m_imports.end()) {
+        // To look for imports is to ask this index.
+        VImports imports = ImportsOf(layer);
+        known = m_imports.emplace(&layer, std::move(imports)).first;
+    }
+    VImports& imports = known->second;
+    if (imports.ranks.empty()) {
+        return nullptr;
+    }
+    auto const [answer, isFirst] = imports.found.try_emplace({&entry, expect}, nullptr);
+    if (isFirst) {
+        answer->second = FirstImported(entry, expect, imports);
+    }
+    return answer->second;
+}
+
+VPlaceIndex::VImports VPlaceIndex::ImportsOf(NODX201::VOdxElement& layer) {
+    VImports imports;
+    auto* const importing = dynamic_cast<IMemLayer*>(&layer);
+    if (importing == nullptr) {
+        return imports;
+    }
+    for (VMemImportRef& import : importing->ImportRefCollection()) {
+        if (import.HasDiagLayer()) {
+            imports.ranks.try_emplace(&import.GetDiagLayer(), imports.ranks.size());
+        }
+    }
+    return imports;
+}
+
+NODX201::VReferencable* VPlaceIndex::FirstImported(VIdIndex::VEntry const& entry, VExpect expect,
+                                                   VImports const& imports) {
+    NODX201::VReferencable* found = nullptr;
+    std::size_t best = imports.ranks.size();
+    auto const see = [&](NODX201::VReferencable& element) {
+        auto const rank = imports.ranks.find(ScopeOf(element).layer);
+        if (rank != imports.ranks.end() && rank->second < best && expect(element)) {
+            best = rank->second;
+            found = &element;
+        }
+    };
+    entry.ForEach(see);
+    return found;
+}
+
+void VPlaceIndex::ForgetOld(std::uint64_t generation) {
+    if (m_generation != generation) {
+        m_sorted.clear();
+        m_imports.clear();
+        m_generation = generation;
+    }
+}
+
 VPlaceIndex::VGroups VPlaceIndex::Sort(VIdIndex::VEntry const& entry) {
     VGroups groups;
-    auto const add = [&groups](NODX201::VReferencable* element) {
-        ForEachPlaceOf(*element, [&](VSearchPlace const& place) { groups[place].elements.push_back(element); });
-    };
-    add(entry.first);
-    std::for_each(entry.others.begin(), entry.others.end(), add);
+    entry.ForEach([&groups](NODX201::VReferencable& element) {
+        ForEachPlaceOf(element, [&](VSearchPlace const& place) { groups[place].elements.push_back(&element); });
+    });
     return groups;
 }
 

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string_view>
 #include <tuple>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include <diagkit/memory/IdIndex.h>
@@ -44,24 +46,47 @@ VScope ScopeOf(NODX201::VOdxElement& element);
 
 /// Finds the elements of one ID by the places they stand in. Of an ID that few elements have each is looked at; those
 /// of an ID that many have are sorted by their places once, until the database changes, so that many references to it
-/// take no longer each.
+/// take no longer each. Which layer imports which is remembered as long.
+///
+/// `generation` is that of the database. An answer that fails for lack of memory is not remembered.
 class VPlaceIndex {
 public:
     /// The first element of the entry in load order that is of the expected class and stands in the place, or null.
-    /// `generation` is that of the database.
     NODX201::VReferencable* Find(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
                                  std::uint64_t generation);
+
+    /// The first one in a place that short names tell which stands in another layer or document than the one that
+    /// `Find` gives, or null.
+    NODX201::VReferencable* FindOther(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
+                                      std::uint64_t generation);
+
+    /// The same as `Find` in the layers that a layer imports; the one that it imports first goes before the others.
+    NODX201::VReferencable* FindInImports(VIdIndex::VEntry const& entry, VExpect expect, NODX201::VOdxElement& layer,
+                                          std::uint64_t generation);
 
 private:
     struct VGroup {
         std::vector<NODX201::VReferencable*> elements;           // in load order
         std::map<VExpect, NODX201::VReferencable*> firstOfClass; // what has been asked for
+        std::map<VExpect, NODX201::VReferencable*> otherOfClass; // the same for `FindOther`
     };
     using VGroups = std::map<VSearchPlace, VGroup>;
 
+    /// The layers that a layer imports, and what was found in them.
+    struct VImports {
+        std::unordered_map<NODX201::VOdxElement const*, std::size_t> ranks; // the first import is of rank 0
+        std::map<std::pair<VIdIndex::VEntry const*, VExpect>, NODX201::VReferencable*> found;
+    };
+
     static VGroups Sort(VIdIndex::VEntry const& entry);
+    VGroup* GroupOf(VIdIndex::VEntry const& entry, VSearchPlace const& place, std::uint64_t generation);
+    static VImports ImportsOf(NODX201::VOdxElement& layer);
+    static NODX201::VReferencable* FirstImported(VIdIndex::VEntry const& entry, VExpect expect,
+                                                 VImports const& imports);
+    void ForgetOld(std::uint64_t generation);
 
     std::unordered_map<VIdIndex::VEntry const*, VGroups> m_sorted;
+    std::unordered_map<NODX201::VOdxElement const*, VImports> m_imports;
     std::uint64_t m_generation = 0;
 };
 

@@ -38,6 +38,7 @@ private:
 class VMemSdg final : public VMemElement<NODX201::VSdg, Tag::Sdg> {
 public:
     using VMemElement::VMemElement;
+    ~VMemSdg() override; ///< takes no more of the stack however deep SDGs nest
 
     bool HasSdgCaption() const override { return m_sdgCaption != nullptr; }
     VMemSdgCaption& GetSdgCaption() override { return *m_sdgCaption; }

@@ -4,11 +4,13 @@
 // because the answer belongs to the context and not to the link.
 
 #include <algorithm>
+#include <utility>
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/DiagCommLinks.h>
 #include <diagkit/memory/DopLinks.h>
 #include <diagkit/memory/Flash.h>
+#include <diagkit/memory/Importing.h>
 #include <diagkit/model/Layers.h>
 
 namespace NMemory {
@@ -50,15 +52,25 @@ bool VMemDopBaseLink::HasDopBase(NODX201::VDiagLayer& layer) {
     return Remember(canAsk ? resolver->ResolveDopBaseSnref(shortName, layer) : nullptr);
 }
 
-void VMemDopBaseLink::SeverIn(NODX201::VDiagLayer const& layer) {
-    if (m_severedIn == nullptr) {
-        m_severedIn = std::make_unique<std::vector<NODX201::VDiagLayer const*>>();
-    }
-    m_severedIn->push_back(&layer);
+void VSeveredLayers::Add(NODX201::VDiagLayer& layer) {
+    m_numbers.insert(dynamic_cast<IMemLayer&>(layer).GetLayerNumber());
 }
 
-bool VMemDopBaseLink::IsSeveredIn(NODX201::VDiagLayer const& layer) const {
-    return m_severedIn != nullptr && std::find(m_severedIn->begin(), m_severedIn->end(), &layer) != m_severedIn->end();
+bool VSeveredLayers::Holds(NODX201::VDiagLayer& layer) const {
+    auto const* const own = dynamic_cast<IMemLayer*>(&layer);
+    return own != nullptr && m_numbers.count(own->GetLayerNumber()) != 0;
+}
+
+void VMemDopBaseLink::SeverIn(std::shared_ptr<VSeveredLayers const> layers) {
+    if (m_severedIn == nullptr) {
+        m_severedIn = std::make_unique<std::vector<std::shared_ptr<VSeveredLayers const>>>();
+    }
+    m_severedIn->push_back(std::move(layers));
+}
+
+bool VMemDopBaseLink::IsSeveredIn(NODX201::VDiagLayer& layer) const {
+    return m_severedIn != nullptr && std::any_of(m_severedIn->begin(), m_severedIn->end(),
+                                                 [&layer](auto const& layers) { return layers->Holds(layer); });
 }
 
 bool VMemDataObjectPropLink::HasDataObjectProp(NODX201::VDiagLayer& layer) {

@@ -3,127 +3,160 @@
 
 namespace NReader {
 
-using namespace NMemory;
+using NDIAGKIT::VContained;
 
 namespace {
 
-template <class Link, class Get>
-void AddLink(VEdges& edges, Link& link, Get get) {
-    if (link.ResolvesById()) {
-        edges.push_back({&get(link), &link, [&link] { link.Sever(); }});
-    }
-}
+/// Collects the ways out of one container. Its parameters are no steps of their own.
+class VWaysOut : public NDIAGKIT::VContainment {
+public:
+    explicit VWaysOut(VFollow follow) : m_follow(follow) {}
 
-void AddStructure(VEdges& edges, VMemStructureLink& link) {
-    AddLink(edges, link, [](VMemStructureLink& self) -> NODX201::VDopBase& { return self.GetStructure(); });
-}
-
-void AddValue(VEdges& edges, VMemDopBaseLink& link, VShortNameTargets const& shortNameTargets) {
-    AddLink(edges, link, [](VMemDopBaseLink& self) -> NODX201::VDopBase& { return self.GetDopBase(); });
-    if (dynamic_cast<NODX201::VSnref const*>(&link.GetLink()) == nullptr) {
-        return;
+    /// The references that lead out, and what stands inside.
+    std::vector<VContained> Of(NODX201::VReferencable& container) {
+        if (auto* const params = ParamsOf(container)) {
+            for (NODX201::VParam& param : *params) {
+                param.Accept(*this);
+            }
+        } else if (auto* const dop = dynamic_cast<NODX201::VDopBase*>(&container)) {
+            dop->Accept(*this);
+        } else if (auto* const table = dynamic_cast<NODX201::VTable*>(&container)) {
+            VisitTable(*table);
+        } else if (auto* const row = dynamic_cast<NODX201::VTableRow*>(&container)) {
+            VisitTableRow(*row);
+        }
+        m_ways.insert(m_ways.end(), m_tableWays.begin(), m_tableWays.end());
+        return std::move(m_ways);
     }
-    for (NODX201::VReferencable* const target : shortNameTargets(link)) {
-        edges.push_back({target, &link, {}, &link});
-    }
-}
 
-void AddField(VEdges& edges, NODX201::VField& field) {
-    if (field.HasBasicStructureEnvDataDescChoice()) {
-        NODX201::IBasicStructureEnvDataDescChoice& choice = field.GetBasicStructureEnvDataDescChoice();
-        if (auto* const structure = dynamic_cast<VMemBasicStructureLink*>(&choice)) {
-            AddLink(edges, *structure,
-                    [](VMemBasicStructureLink& self) -> NODX201::VDopBase& { return self.GetBasicStructure(); });
-        } else if (auto* const desc = dynamic_cast<VMemEnvDataDescLink*>(&choice)) {
-            AddLink(edges, *desc,
-                    [](VMemEnvDataDescLink& self) -> NODX201::VDopBase& { return self.GetEnvDataDesc(); });
+protected:
+    void Take(VContained const& part) override {
+        if (part.GetKind() != VContained::VKind::Param) {
+            m_ways.push_back(part);
+        } else if (auto* const key = part.Target(m_none)) { // what a TABLE-STRUCT refers to
+            VisitTableKey(static_cast<NODX201::VTableKey&>(*key));
         }
     }
-    auto* const marked = dynamic_cast<VMemDynamicEndmarkerField*>(&field);
-    if (marked != nullptr && marked->HasDataObjectPropRef()) {
-        AddLink(edges, marked->GetDataObjectPropRef(),
-                [](VMemDynEndDopRef& self) -> NODX201::VDopBase& { return self.GetDopBase(); });
-    }
-}
 
-void AddEnvDatas(VEdges& edges, NODX201::VEnvDataDesc& desc) {
-    for (NODX201::IEnvDataProxy& proxy : desc.EnvDataProxyCollection()) {
-        if (auto* const envData = dynamic_cast<NODX201::VEnvData*>(&proxy)) {
-            edges.push_back({envData});
-        } else if (auto* const link = dynamic_cast<VMemEnvDataLink*>(&proxy)) {
-            AddLink(edges, *link, [](VMemEnvDataLink& self) -> NODX201::VDopBase& { return self.GetEnvData(); });
+    void VisitTableStruct(NODX201::VTableStruct& param) override {
+        if (m_follow == VFollow::Tables) {
+            VContainment::VisitTableStruct(param);
         }
     }
-}
+    void VisitTableKey(NODX201::VTableKey& param) override {
+        TakeTableWays([&] { VContainment::VisitTableKey(param); });
+    }
+    void VisitTableEntry(NODX201::VTableEntry& param) override {
+        TakeTableWays([&] { VContainment::VisitTableEntry(param); });
+    }
 
-void AddMux(VEdges& edges, VMemMux& mux) {
-    if (mux.HasDefaultCase() && mux.GetDefaultCase().HasStructureRef()) {
-        AddStructure(edges, mux.GetDefaultCase().GetStructureRef());
-    }
-    for (NODX201::VCase& muxCase : mux.CaseCollection()) {
-        if (muxCase.HasStructureRef()) {
-            AddStructure(edges, static_cast<VMemCase&>(muxCase).GetStructureRef());
+private:
+    template <class Visit>
+    void TakeTableWays(Visit visit) {
+        if (m_follow != VFollow::Tables) {
+            return;
         }
+        std::size_t const before = m_ways.size();
+        visit();
+        if (m_ways.size() == before) {
+            return;
+        }
+        // A TABLE-STRUCT and its TABLE-KEY lead to the same.
+        if (m_seen.insert(m_ways.back().GetReference()).second) {
+            m_tableWays.push_back(m_ways.back());
+        }
+        m_ways.pop_back();
     }
+
+    VFollow m_follow;
+    VDopsById m_none; // what leads to parameters needs none
+    std::vector<VContained> m_ways;
+    std::vector<VContained> m_tableWays;
+    VLinks m_seen;
+};
+
+bool IsContainer(NODX201::VDopBase const& dop) {
+    return dop.GetOdxTag() != NODX201::VOdxTagEnum::DataObjectProp && dop.GetOdxTag() != NODX201::VOdxTagEnum::DtcDop;
 }
 
 } // namespace
 
-void AddParams(VEdges& edges, NODX201::VParamCollection& params, VShortNameTargets const& shortNameTargets) {
-    for (NODX201::VParam& param : params) {
-        auto* const value = dynamic_cast<VMemValue*>(&param);
-        if (value != nullptr && value->HasDopBaseLink()) {
-            AddValue(edges, value->GetDopBaseLink(), shortNameTargets);
-        }
-    }
+NODX201::VDopBase* VDopsById::Find(NODX201::VDopBaseLink& link) {
+    auto& self = dynamic_cast<NMemory::VMemDopBaseLink&>(link);
+    return self.ResolvesById() ? &self.GetDopBase() : nullptr;
 }
 
-VEdges EdgesOf(NODX201::VDopBase& dop, VShortNameTargets const& shortNameTargets) {
+std::wstring_view ShortNameIn(NODX201::VLink& reference) {
+    auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
+    return snref != nullptr ? snref->GetShortName() : std::wstring_view();
+}
+
+NODX201::VParamCollection* ParamsOf(NODX201::VReferencable& container) {
+    if (auto* const structure = dynamic_cast<NODX201::VBasicStructure*>(&container)) {
+        return &structure->ParamCollection();
+    }
+    if (auto* const request = dynamic_cast<NODX201::VRequest*>(&container)) {
+        return &request->ParamCollection();
+    }
+    auto* const response = dynamic_cast<NODX201::VResponse*>(&container);
+    return response != nullptr ? &response->ParamCollection() : nullptr;
+}
+
+VEdges EdgesOf(NODX201::VReferencable& container, VFollow follow, NDIAGKIT::IDopFinder& dops) {
     VEdges edges;
-    if (auto* const structure = dynamic_cast<NODX201::VBasicStructure*>(&dop)) {
-        AddParams(edges, structure->ParamCollection(), shortNameTargets);
-    } else if (auto* const field = dynamic_cast<NODX201::VField*>(&dop)) {
-        AddField(edges, *field);
-    } else if (auto* const desc = dynamic_cast<NODX201::VEnvDataDesc*>(&dop)) {
-        AddEnvDatas(edges, *desc);
-    } else if (auto* const mux = dynamic_cast<VMemMux*>(&dop)) {
-        AddMux(edges, *mux);
+    for (VContained const& way : VWaysOut(follow).Of(container)) {
+        if (auto* const target = way.Target(dops)) {
+            NODX201::VLink* const reference = way.GetReference();
+            bool const isByShortName = way.MayBeByShortName() && !ShortNameIn(*reference).empty();
+            edges.push_back({static_cast<NODX201::VReferencable*>(target), reference, isByShortName});
+        }
     }
     return edges;
 }
 
-VReferencables NoTargets(VMemDopBaseLink&) { return {}; }
-
-VShortNameTargets TargetsIn(NODX201::VDiagLayer& layer) {
-    return [&layer](VMemDopBaseLink& link) {
-        return link.HasDopBase(layer) ? VReferencables{&link.GetDopBase()} : VReferencables{};
-    };
-}
-
-VDopsByName::VDopsByName(VReferencables const& dops) {
-    for (NODX201::VReferencable* const dop : dops) {
-        m_dops[dop->GetShortName()].push_back(dop);
+VMayLead MayLeadFrom(NODX201::VReferencable& container, VFollow follow, VLinks const& leftOut) {
+    VMayLead mayLead;
+    VDopsById dops;
+    for (VContained const& way : VWaysOut(follow).Of(container)) {
+        if (leftOut.count(way.GetReference()) != 0) {
+            continue;
+        }
+        std::wstring_view const shortName =
+            way.MayBeByShortName() ? ShortNameIn(*way.GetReference()) : std::wstring_view();
+        if (!shortName.empty()) {
+            mayLead.shortNames.push_back(shortName);
+            continue;
+        }
+        auto* const target = way.Target(dops);
+        bool const isDop = way.GetKind() == VContained::VKind::Dop;
+        if (target != nullptr && (!isDop || IsContainer(static_cast<NODX201::VDopBase&>(*target)))) {
+            mayLead.elements.push_back(static_cast<NODX201::VReferencable*>(target));
+        }
     }
+    return mayLead;
 }
 
-VReferencables VDopsByName::operator()(VMemDopBaseLink& link) const {
-    auto const found = m_dops.find(dynamic_cast<NODX201::VSnref const&>(link.GetLink()).GetShortName());
-    return found != m_dops.end() ? found->second : VReferencables{};
-}
-
-VReferencables DopsOf(VDatabase& database) {
-    VReferencables dops;
-    ForEachDictionary(database, [&dops](NODX201::VDiagDataDictionarySpec& dictionary) {
+VReferencables ContainersOf(NMemory::VDatabase& database) {
+    VReferencables containers;
+    ForEachDictionary(database, [&containers](NODX201::VDiagDataDictionarySpec& dictionary) {
         for (NODX201::VDopBase& dop : dictionary.DopBaseCollection()) {
-            dops.push_back(&dop);
+            if (IsContainer(dop)) {
+                containers.push_back(&dop);
+            }
         }
         for (NODX201::IEnvDataProxy& proxy : dictionary.EnvDataProxyCollection()) {
             if (auto* const envData = dynamic_cast<NODX201::VEnvData*>(&proxy)) {
-                dops.push_back(envData);
+                containers.push_back(envData);
             }
         }
     });
-    return dops;
+    return containers;
+}
+
+std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database) {
+    std::vector<NODX201::VDiagLayer*> layers;
+    ForEachLayer(database, [&layers](NODX201::VDiagLayer& layer) { layers.push_back(&layer); });
+    return layers;
 }
 
 } // namespace NReader

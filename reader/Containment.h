@@ -1,48 +1,46 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <functional>
-#include <string_view>
-#include <unordered_map>
-#include <vector>
+#include <unordered_set>
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/reader/CycleSearch.h>
 #include <diagkit/reader/Types.h>
+#include <diagkit/tools/Containment.h>
 
-/// What contains what in data dictionaries.
+/// What contains what in data dictionaries, as ways from DOPs, TABLEs and TABLE-ROWs into others.
 
 namespace NReader {
 
-/// The DOPs that a reference by short name is to be followed to.
-using VShortNameTargets = std::function<VReferencables(NMemory::VMemDopBaseLink& link)>;
-
-/// None: only references by ID are followed.
-VReferencables NoTargets(NMemory::VMemDopBaseLink& link);
-
-/// What a layer means by the name.
-VShortNameTargets TargetsIn(NODX201::VDiagLayer& layer);
-
-/// Every DOP that bears the name. Where this leads into no cycle, no layer needs to be asked what it means by a name.
-class VDopsByName {
+/// Follows references to DOPs by ID alone.
+class VDopsById final : public NDIAGKIT::IDopFinder {
 public:
-    explicit VDopsByName(VReferencables const& dops);
-
-    VReferencables operator()(NMemory::VMemDopBaseLink& link) const;
-
-private:
-    std::unordered_map<std::wstring_view, VReferencables> m_dops;
+    NODX201::VDopBase* Find(NODX201::VDopBaseLink& link) override;
 };
 
-/// Adds the ways out of VALUE parameters.
-void AddParams(VEdges& edges, NODX201::VParamCollection& params, VShortNameTargets const& shortNameTargets);
+/// The short name by which a reference names its target; empty for one by ID.
+std::wstring_view ShortNameIn(NODX201::VLink& reference);
 
-/// The ways out of a DOP through its parameters, fields, multiplexers and environment data, in document order. The
-/// references of VALUE parameters are the only ones among them that may be by short name.
-VEdges EdgesOf(NODX201::VDopBase& dop, VShortNameTargets const& shortNameTargets);
+/// How far containment is followed.
+enum class VFollow {
+    Dops,   ///< through parameters, fields, multiplexers and environment data
+    Tables, ///< also through the tables and rows that table parameters name
+};
 
-/// Every DOP of every dictionary, in document order, those inside of others left out.
-VReferencables DopsOf(NMemory::VDatabase& database);
+/// The ways out of a DOP, a TABLE, a TABLE-ROW, a request or a response, in document order; those through table
+/// parameters come last.
+VEdges EdgesOf(NODX201::VReferencable& container, VFollow follow, NDIAGKIT::IDopFinder& dops);
+
+using VLinks = std::unordered_set<NODX201::VLink const*>;
+
+/// Where the same leads by ID, and the short names that it leads to; but for what these references lead to.
+VMayLead MayLeadFrom(NODX201::VReferencable& container, VFollow follow, VLinks const& leftOut);
+
+/// The parameters of a STRUCTURE, an ENV-DATA, a request or a response; null for anything else.
+NODX201::VParamCollection* ParamsOf(NODX201::VReferencable& container);
+
+/// Every DOP of every dictionary that can contain others, in document order, those inside of others left out.
+VReferencables ContainersOf(NMemory::VDatabase& database);
 
 /// Every layer, in document order.
 template <class Run>
@@ -53,6 +51,8 @@ void ForEachLayer(NMemory::VDatabase& database, Run run) {
         }
     }
 }
+
+std::vector<NODX201::VDiagLayer*> LayersOf(NMemory::VDatabase& database); ///< in document order
 
 /// Every DIAG-DATA-DICTIONARY-SPEC: those of the layers, then those of the MULTIPLE-ECU-JOB-SPECs.
 template <class Run>

@@ -2,14 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include <diagkit/model/Reference.h>
-
-namespace NMemory {
-class VMemDopBaseLink;
-}
 
 /// Finding what leads back to itself, whatever the elements and the ways between them.
 
@@ -20,9 +18,8 @@ using VReferencables = std::vector<NODX201::VReferencable*>;
 /// A way from one element into another: by a reference, or by standing inside it.
 struct VEdge {
     NODX201::VReferencable* target;
-    NODX201::VLink* link = nullptr;                ///< the reference; null where the target stands inside
-    std::function<void()> sever{};                 ///< of a reference by ID, where it can be severed
-    NMemory::VMemDopBaseLink* shortName = nullptr; ///< of a reference by short name
+    NODX201::VLink* link = nullptr; ///< the reference; null where the target stands inside
+    bool isByShortName = false;     ///< what the reference is
 };
 using VEdges = std::vector<VEdge>;
 using VEdgesOf = std::function<VEdges(NODX201::VReferencable& element)>;
@@ -31,43 +28,75 @@ using VEdgesOf = std::function<VEdges(NODX201::VReferencable& element)>;
 using VCanClose = bool (*)(VEdge const& edge);
 
 inline bool IsReference(VEdge const& edge) { return edge.link != nullptr; }
-inline bool IsByShortName(VEdge const& edge) { return edge.shortName != nullptr; }
+inline bool IsByShortName(VEdge const& edge) { return edge.isByShortName; }
 
 /// A depth-first search with a stack of its own: chains may be longer than the machine's stack is deep.
 class VCycleSearch {
 public:
-    /// Told of every way that closes a cycle, with the chain that it closes, from its target on. From then on the edges
-    /// must not have that way any more.
-    using VFound = std::function<void(VEdge const& closing, VReferencables const& chain)>;
+    /// A chain of elements that leads back to its start, as long as the search has not gone on.
+    class VChain {
+    public:
+        std::size_t Count() const { return m_end - m_begin; }
+        NODX201::VReferencable& operator[](std::size_t index) const; ///< 0 is what the closing way leads to
+        bool HasMarked() const; ///< whether the chain has one of the elements that the search marks
 
-    VCycleSearch(VEdgesOf edgesOf, VCanClose canClose, VFound found)
-        : m_edgesOf(std::move(edgesOf)), m_canClose(canClose), m_found(std::move(found)) {}
+    private:
+        friend class VCycleSearch;
+
+        VChain(VCycleSearch const& search, std::size_t begin, std::size_t start)
+            : m_search(search), m_begin(begin), m_end(search.m_path.size()), m_start(start) {}
+
+        VCycleSearch const& m_search;
+        std::size_t m_begin; // in the path
+        std::size_t m_end;
+        std::size_t m_start;
+    };
+
+    /// Told of every way that closes a cycle, with the chain that it closes. From then on the edges must not have that
+    /// way any more.
+    using VFound = std::function<void(VEdge const& closing, VChain const& chain)>;
+    using VMarks = bool (*)(NODX201::VReferencable const& element);
+
+    VCycleSearch(VEdgesOf edgesOf, VCanClose canClose, VFound found, VMarks marks = nullptr)
+        : m_edgesOf(std::move(edgesOf)), m_canClose(canClose), m_found(std::move(found)), m_marks(marks) {}
 
     /// Follows every way out of an element, but none that an earlier call has followed.
     void From(NODX201::VReferencable& root);
 
 private:
-    enum class VState { New, Open, Done };
-
     struct VStep {
         NODX201::VReferencable* element;
         VEdges edges;
-        std::size_t next = 0;
-        VEdge entered{nullptr}; ///< the way by which the search came here
+        std::size_t next;
+        VEdge entered;      ///< the way by which the search came here
+        std::size_t marked; ///< elements up to this one
     };
 
+    // Where an element is in the path, or else whether it has been searched.
+    static constexpr std::size_t kNew = static_cast<std::size_t>(-1);
+    static constexpr std::size_t kDone = static_cast<std::size_t>(-2);
+
+    std::size_t& StateOf(NODX201::VReferencable& element) { return m_states.try_emplace(&element, kNew).first->second; }
     void Enter(NODX201::VReferencable& element, VEdge const& edge);
-    void Close(VEdge const& edge);
-    VReferencables ChainFrom(NODX201::VReferencable const& target) const;
+    void Close(VEdge const& edge, std::size_t target);
 
     VEdgesOf m_edgesOf;
     VCanClose m_canClose;
     VFound m_found;
-    std::unordered_map<NODX201::VReferencable*, VState> m_states;
+    VMarks m_marks;
+    std::unordered_map<NODX201::VReferencable*, std::size_t> m_states;
     std::vector<VStep> m_path;
 };
 
-/// Those of the elements from which a way leads into a cycle, in their order.
-VReferencables LeadingIntoCycles(VReferencables const& elements, VEdgesOf const& edgesOf);
+/// Where an element may lead: to elements, and to whatever bears one of these short names.
+struct VMayLead {
+    VReferencables elements;
+    std::vector<std::wstring_view> shortNames;
+};
+using VMayLeadFrom = std::function<VMayLead(NODX201::VReferencable& element)>;
+
+/// Those of the elements from which a way leads into a cycle, in their order, short names being followed to each of the
+/// elements that bears them. Linear, however many bear one name.
+VReferencables LeadingIntoCycles(VReferencables const& elements, VMayLeadFrom const& mayLeadFrom);
 
 } // namespace NReader

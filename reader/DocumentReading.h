@@ -11,6 +11,7 @@
 
 #include <diagkit/memory/Odx.h>
 #include <diagkit/reader/Findings.h>
+#include <diagkit/reader/LinkQuestions.h>
 #include <diagkit/reader/OdxReader.h>
 
 namespace NReader {
@@ -19,7 +20,7 @@ namespace NReader {
 struct VPendingLink {
     NMemory::VMemNode* node;
     NODX201::VLink* link;
-    bool (*resolves)(NODX201::VLink& link);
+    VLinkQuestions const* questions;
 };
 
 /// A PARENT-REF without xsi:type, which takes its kind from its target when everything is loaded.

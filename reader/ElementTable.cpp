@@ -2,6 +2,7 @@
 #include <diagkit/reader/ElementTable.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include <diagkit/reader/Loader.h>
 
@@ -17,6 +18,12 @@ int VElementType::FindRow(std::string_view name, int from) const {
 }
 
 VElementType Indexed(VElementType type) {
+    bool const hasHighChoice = std::any_of(type.rows.begin(), type.rows.end(), [](VRow const& row) {
+        return row.choice < 0 || static_cast<std::size_t>(row.choice) >= kMostRows;
+    });
+    if (type.rows.size() > kMostRows || hasHighChoice) {
+        throw std::length_error("a table of an element class has too many rows or choices");
+    }
     for (VRow const& row : type.rows) {
         type.names.emplace_back(row.name);
     }
@@ -37,8 +44,8 @@ void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement&
     }
 }
 
-void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link)) {
-    loader.Reading().links.push_back({&node, &link, resolves});
+void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, VLinkQuestions const& questions) {
+    loader.Reading().links.push_back({&node, &link, &questions});
 }
 
 void NoteUntypedParentRef(VLoader& loader, NMemory::IMemParentRef& parentRef,

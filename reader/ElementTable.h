@@ -12,6 +12,7 @@
 #include <vector>
 
 #include <diagkit/reader/Attributes.h>
+#include <diagkit/reader/LinkQuestions.h>
 #include <diagkit/reader/Types.h>
 
 /// What may stand in which element and what it makes, as tables: one `VElementType` an element class, with a row for
@@ -85,7 +86,11 @@ struct VElementType {
     int FindRow(std::string_view name, int from = 0) const;
 };
 
-/// Notes the rows' names; every table goes through it.
+/// The loader keeps what it has seen of an element in one word: a bit a row, and a bit a choice.
+inline constexpr std::size_t kMostRows = 64;
+
+/// Notes the rows' names; every table goes through it. Throws std::length_error for a table with more rows, or with
+/// choices of higher numbers, than the loader can keep apart.
 VElementType Indexed(VElementType type);
 
 // For the rows' functions, which know the loader no further.
@@ -96,17 +101,12 @@ template <class Element>
 void NoteElement(VLoader& loader, Element& element) {
     NoteElement(loader, element, element);
 }
-void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, bool (*resolves)(NODX201::VLink& link));
+void NoteLink(VLoader& loader, NMemory::VMemNode& node, NODX201::VLink& link, VLinkQuestions const& questions);
 void NoteUntypedParentRef(VLoader& loader, NMemory::IMemParentRef& parentRef,
                           NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef,
                                                                 NMemory::VParentRefKind kind));
 NMemory::VReference IdReference(VLoader& loader, VAttributes const& attributes);
 NMemory::VReference ShortNameReference(VLoader& loader, VAttributes const& attributes);
-
-template <class Link>
-bool ResolvesById(NODX201::VLink& link) {
-    return static_cast<Link&>(link).ResolvesById();
-}
 
 /// The rows of an element class `T`.
 template <class T>
@@ -251,7 +251,7 @@ private:
                     NoteElement(loader, made);
                     made.SetOdxTag(row.tag);
                     if constexpr (IsById) {
-                        NoteLink(loader, made, made, &ResolvesById<Made>);
+                        NoteLink(loader, made, made, kQuestionsTo<Made>);
                     }
                     return VOpened{&made, &row.Type()};
                 },

@@ -18,11 +18,10 @@ bool IsBefore(NMemory::VPosition const& a, NMemory::VPosition const& b) {
 } // namespace
 
 std::string Clipped(std::string message) {
-    constexpr std::size_t kLongest = 2000;
-    if (message.size() <= kLongest) {
+    if (message.size() <= kLongestMessage) {
         return message;
     }
-    std::size_t end = kLongest;
+    std::size_t end = kLongestMessage;
     while ((static_cast<unsigned char>(message[end]) & 0xC0) == 0x80) { // inside a character of UTF-8
         --end;
     }

@@ -1,44 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/FinishReading.h>
 
+#include <map>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
+#include <diagkit/reader/Containment.h>
 #include <diagkit/reader/Cycles.h>
-#include <diagkit/reader/ParentTargets.h>
+#include <diagkit/reader/Naming.h>
 #include <diagkit/reader/ReferenceKinds.h>
 #include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NReader {
 namespace {
 
 using NMemory::Tag;
 using NMemory::VParentRefKind;
-
-std::string Quoted(wchar_t const* text) { return "'" + ToUtf8(text) + "'"; }
-
-std::string Quoted(NODX201::VOdxElement const& element) { return Quoted(element.GetShortName()); }
-
-std::string TagOf(NODX201::VOdxElement const& element) { return ToUtf8(NODX201::OdxTagText(element.GetOdxTag())); }
-
-/// The kinds of parent that ODX allows, a row a kind of layer.
-bool IsParentAllowed(Tag layer, Tag parent) {
-    static constexpr struct {
-        Tag layer;
-        Tag parent;
-    } kAllowed[] = {
-        {Tag::Protocol, Tag::EcuSharedData},        {Tag::FunctionalGroup, Tag::Protocol},
-        {Tag::FunctionalGroup, Tag::EcuSharedData}, {Tag::BaseVariant, Tag::Protocol},
-        {Tag::BaseVariant, Tag::FunctionalGroup},   {Tag::BaseVariant, Tag::EcuSharedData},
-        {Tag::EcuVariant, Tag::BaseVariant},        {Tag::EcuVariant, Tag::EcuSharedData},
-    };
-    for (auto const& row : kAllowed) {
-        if (row.layer == layer && row.parent == parent) {
-            return true;
-        }
-    }
-    return false;
-}
 
 std::string Named(NODX201::VOdxLink const& link) {
     std::string text = "the ID " + Quoted(link.GetIdRef());
@@ -71,6 +50,28 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
                              KindWantedBy(reference));
 }
 
+NMemory::VPosition const& PositionOf(NODX201::VReferencable const& element) {
+    return dynamic_cast<NMemory::VMemNode const&>(element).GetPosition();
+}
+
+std::string PlaceOf(VReading const& reading, NODX201::VReferencable const& element) {
+    NMemory::VPosition const& position = PositionOf(element);
+    return reading.database->GetDocumentName(position) + ':' + std::to_string(position.line);
+}
+
+/// Several documents or layers bear the name in the DOCREF of a reference, and more than one has what it refers to.
+void ReportDoubt(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference,
+                 NMemory::VDoubt const& doubt) {
+    if (doubt.other == nullptr) {
+        return;
+    }
+    auto const& link = dynamic_cast<NODX201::VOdxLink const&>(reference.GetLink());
+    reading.findings.Add(node.GetPosition(), VSeverity::Error, "ambiguous-document",
+                         TagOf(reference) + " names " + Named(link) + ", but there are several of that name; the " +
+                             TagOf(*doubt.target) + " at " + PlaceOf(reading, *doubt.target) +
+                             " is taken, and not the " + TagOf(*doubt.other) + " at " + PlaceOf(reading, *doubt.other));
+}
+
 using VReplaced = std::unordered_map<NODX201::VOdxElement*, NODX201::VOdxElement*>;
 
 /// Puts the elements that took the place of others into the list of all.
@@ -89,13 +90,13 @@ void GiveParentRefsTheirKinds(VReading& reading) {
         VParentRefKind const kind =
             untyped.HasDiagLayer() ? NMemory::ParentRefKindOf(untyped.GetDiagLayer()) : VParentRefKind::Unknown;
         if (kind != VParentRefKind::Unknown) {
+            ReportDoubt(reading, untyped, untyped, untyped.FindDoubt());
             replaced[&untyped] = &pending.changeKind(*pending.parentRef, kind).ParentRef();
             continue;
         }
         if (untyped.HasDiagLayer() && &untyped.GetDiagLayer() == untyped.GetOwner()) {
             reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-itself",
-                                 TagOf(untyped.GetDiagLayer()) + ' ' + Quoted(untyped.GetDiagLayer()) +
-                                     " names itself as a parent");
+                                 Titled(untyped.GetDiagLayer()) + " names itself as a parent");
         } else if (untyped.HasDiagLayer()) {
             reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-kind",
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
@@ -109,76 +110,92 @@ void GiveParentRefsTheirKinds(VReading& reading) {
     }
 }
 
-void ReportUnresolvedReferences(VReading& reading) {
+void ReportReferences(VReading& reading) {
     for (VPendingLink const& pending : reading.links) {
-        if (!pending.resolves(*pending.link)) {
+        if (!pending.questions->resolves(*pending.link)) {
             ReportUnresolved(reading, *pending.node, *pending.link);
+        } else {
+            ReportDoubt(reading, *pending.node, *pending.link, pending.questions->doubt(*pending.link));
         }
     }
 }
 
-NMemory::VPosition const& PositionOf(NODX201::VReferencable const& element) {
-    return dynamic_cast<NMemory::VMemNode const&>(element).GetPosition();
+/// References name documents by their short names.
+void ReportRepeatedDocuments(VReading& reading) {
+    std::map<std::pair<NMemory::Tag, std::wstring_view>, NODX201::VReferencable*> firsts;
+    auto const see = [&](auto& documents) {
+        for (NODX201::VReferencable& document : documents) {
+            auto const [first, isFirst] =
+                firsts.try_emplace({document.GetOdxTag(), document.GetShortName()}, &document);
+            if (!isFirst && *document.GetShortName() != L'\0') {
+                reading.findings.Add(PositionOf(document), VSeverity::Warning, "repeated-document",
+                                     Titled(document) + " has the short name of the one at " +
+                                         PlaceOf(reading, *first->second) +
+                                         "; a reference that names the document means what is found in that one first");
+            }
+        }
+    };
+    NMemory::VMemOdx& odx = reading.database->GetMemOdx();
+    see(odx.DiagLayerContainerCollection());
+    see(odx.ComparamSpecCollection());
+    see(odx.FlashCollection());
+    see(odx.MultipleEcuJobSpecCollection());
 }
 
 void ReportRepeatedIds(VReading& reading) {
     reading.database->GetIdIndex().ForEachRepeated([&reading](NMemory::VIdIndex::VEntry const& entry) {
-        std::vector<NODX201::VReferencable*> elements{entry.first};
-        elements.insert(elements.end(), entry.others.begin(), entry.others.end());
         std::unordered_map<std::uint32_t, NODX201::VReferencable*> firstOf; // by document
-        for (NODX201::VReferencable* const element : elements) {
-            NMemory::VPosition const& position = PositionOf(*element);
-            NODX201::VReferencable& first = *firstOf.emplace(position.document, element).first->second;
-            if (&first == element) {
-                continue;
+        entry.ForEach([&](NODX201::VReferencable& element) {
+            NMemory::VPosition const& position = PositionOf(element);
+            NODX201::VReferencable& first = *firstOf.emplace(position.document, &element).first->second;
+            if (&first != &element) {
+                reading.findings.Add(position, VSeverity::Error, "duplicate-id",
+                                     Titled(element) + " has the ID " + Quoted(element.GetId()) + " of the " +
+                                         Titled(first) + " at line " + std::to_string(PositionOf(first).line) +
+                                         "; IDs must differ in a document");
             }
-            reading.findings.Add(position, VSeverity::Error, "duplicate-id",
-                                 TagOf(*element) + ' ' + Quoted(*element) + " has the ID " + Quoted(element->GetId()) +
-                                     " of the " + TagOf(first) + ' ' + Quoted(first) + " at line " +
-                                     std::to_string(PositionOf(first).line) + "; IDs must differ in a document");
-        }
+        });
     });
 }
 
-void CheckParents(VReading& reading, NODX201::VDiagLayer& layer, NODX201::VParentRefCollection& parentRefs) {
-    for (NODX201::VParentRef& parentRef : parentRefs) {
-        NODX201::VDiagLayer* const parent = TargetOf(parentRef);
-        if (parent == nullptr) {
-            continue; // reported as unresolved
-        }
-        NMemory::VPosition const& position = dynamic_cast<NMemory::VMemNode const&>(parentRef).GetPosition();
-        if (parent == &layer) {
-            reading.findings.Add(position, VSeverity::Error, "parent-itself",
-                                 TagOf(layer) + ' ' + Quoted(layer) + " names itself as a parent");
-        } else if (!IsParentAllowed(layer.GetOdxTag(), parent->GetOdxTag())) {
-            reading.findings.Add(position, VSeverity::Error, "parent-kind",
-                                 TagOf(layer) + ' ' + Quoted(layer) + " has the " + TagOf(*parent) + ' ' +
-                                     Quoted(*parent) + " as a parent, which ODX does not allow; nothing is inherited");
-        }
+/// Whether a layer of the kind takes anything from such a parent.
+bool IsParentAllowed(NDIAGKIT::VLayerKinds layer, NDIAGKIT::VLayerKinds parent) {
+    NDIAGKIT::VInheritancePasses const passes = NDIAGKIT::VInheritedDiagComms::kRow.PassesOf(layer);
+    return IsIn(parent, passes.first | passes.second);
+}
+
+void CheckParent(VReading& reading, NDIAGKIT::VLayerOfKind const& layer, NODX201::VParentRef& parentRef) {
+    auto const parent = NDIAGKIT::ParentBy(parentRef);
+    if (!parent.has_value()) {
+        return; // reported as unresolved
+    }
+    NMemory::VPosition const& position = dynamic_cast<NMemory::VMemNode const&>(parentRef).GetPosition();
+    if (parent->layer == layer.layer) {
+        reading.findings.Add(position, VSeverity::Error, "parent-itself",
+                             Titled(*layer.layer) + " names itself as a parent");
+    } else if (!IsParentAllowed(layer.kind, parent->kind)) {
+        reading.findings.Add(position, VSeverity::Error, "parent-kind",
+                             Titled(*layer.layer) + " has the " + Titled(*parent->layer) +
+                                 " as a parent, which ODX does not allow; nothing is inherited");
     }
 }
 
 void CheckParents(VReading& reading) {
-    for (NODX201::VDiagLayerContainer& container : reading.database->GetOdx().DiagLayerContainerCollection()) {
-        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
-            if (auto* const protocol = dynamic_cast<NODX201::VProtocol*>(&layer)) {
-                CheckParents(reading, layer, protocol->ParentRefCollection());
-            } else if (auto* const group = dynamic_cast<NODX201::VFunctionalGroup*>(&layer)) {
-                CheckParents(reading, layer, group->ParentRefCollection());
-            } else if (auto* const base = dynamic_cast<NODX201::VBaseVariant*>(&layer)) {
-                CheckParents(reading, layer, base->ParentRefCollection());
-            } else if (auto* const variant = dynamic_cast<NODX201::VEcuVariant*>(&layer)) {
-                CheckParents(reading, layer, variant->ParentRefCollection());
+    ForEachLayer(*reading.database, [&reading](NDIAGKIT::VLayerOfKind const& layer) {
+        if (NODX201::VParentRefCollection* const parentRefs = NDIAGKIT::ParentRefsOf(layer)) {
+            for (NODX201::VParentRef& parentRef : *parentRefs) {
+                CheckParent(reading, layer, parentRef);
             }
         }
-    }
+    });
 }
 
 } // namespace
 
 void FinishReading(VReading& reading) {
     GiveParentRefsTheirKinds(reading);
-    ReportUnresolvedReferences(reading);
+    ReportReferences(reading);
+    ReportRepeatedDocuments(reading);
     ReportRepeatedIds(reading);
     CheckParents(reading);
     SeverContainmentCycles(reading);

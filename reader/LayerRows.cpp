@@ -188,16 +188,16 @@ VOpened OpenParentRef(VLoader& loader, void* owner, VRow const&, VAttributes con
     Layer& layer = VRows<Layer>::Owner(owner);
     std::string const type = XsiType(loader, attributes);
     VReference const reference = IdReference(loader, attributes);
-    auto const opened = [&loader](auto& made, bool (*resolves)(NODX201::VLink&)) {
+    auto const opened = [&loader](auto& made, VLinkQuestions const& questions) {
         NoteElement(loader, made);
-        NoteLink(loader, made, made, resolves);
+        NoteLink(loader, made, made, questions);
         return VOpened{&made, &TypeOf(&made)};
     };
     auto const add = [&](VParentRefKind kind) -> IMemParentRef& { return layer.AddParentRef(kind, reference); };
-    if (type == "PROTOCOL-REF")         { return opened(dynamic_cast<VMemProtocolRef&>(add(VParentRefKind::Protocol)), &ResolvesById<VMemProtocolRef>); }
-    if (type == "FUNCTIONAL-GROUP-REF") { return opened(dynamic_cast<VMemFunctionalGroupRef&>(add(VParentRefKind::FunctionalGroup)), &ResolvesById<VMemFunctionalGroupRef>); }
-    if (type == "BASE-VARIANT-REF")     { return opened(dynamic_cast<VMemBaseVariantRef&>(add(VParentRefKind::BaseVariant)), &ResolvesById<VMemBaseVariantRef>); }
-    if (type == "ECU-SHARED-DATA-REF")  { return opened(dynamic_cast<VMemEcuSharedDataRef&>(add(VParentRefKind::EcuSharedData)), &ResolvesById<VMemEcuSharedDataRef>); }
+    if (type == "PROTOCOL-REF")         { return opened(dynamic_cast<VMemProtocolRef&>(add(VParentRefKind::Protocol)), kQuestionsTo<VMemProtocolRef>); }
+    if (type == "FUNCTIONAL-GROUP-REF") { return opened(dynamic_cast<VMemFunctionalGroupRef&>(add(VParentRefKind::FunctionalGroup)), kQuestionsTo<VMemFunctionalGroupRef>); }
+    if (type == "BASE-VARIANT-REF")     { return opened(dynamic_cast<VMemBaseVariantRef&>(add(VParentRefKind::BaseVariant)), kQuestionsTo<VMemBaseVariantRef>); }
+    if (type == "ECU-SHARED-DATA-REF")  { return opened(dynamic_cast<VMemEcuSharedDataRef&>(add(VParentRefKind::EcuSharedData)), kQuestionsTo<VMemEcuSharedDataRef>); }
     if (!type.empty()) {
         ReportUnknownType(loader, type);
     }

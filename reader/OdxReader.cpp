@@ -8,7 +8,7 @@
 
 #include <diagkit/reader/FinishReading.h>
 #include <diagkit/reader/ReadSession.h>
-#include <diagkit/tools/OpResolveSnref.h>
+#include <diagkit/tools/RememberingResolver.h>
 
 namespace NReader {
 namespace {
@@ -17,7 +17,10 @@ VReadResult Read(std::vector<std::string> const& files, VReadOptions const& opti
     VReading reading;
     reading.database = std::make_unique<NMemory::VDatabase>();
     reading.findings = VFindings(options.maxDiagnostics);
-    reading.database->SetResolverFactory([] { return std::make_unique<NDIAGKIT::VOpResolveSnref>(); });
+    NMemory::VDatabase const* const database = reading.database.get();
+    reading.database->SetResolverFactory([database] {
+        return std::make_unique<NDIAGKIT::VRememberingResolver>([database] { return database->GetGeneration(); });
+    });
     bool const areRead = VReadSession(reading, options).Read(files);
     VReadResult result;
     result.maxDiagnostics = options.maxDiagnostics;

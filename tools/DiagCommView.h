@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-struct VDiagCommConstruction;
+struct VLayerOfKind;
 
 /// What `VDiagCommView` holds and where it asserts; see `VListView`.
 struct DIAGKIT_EXPORT VDiagCommViewTraits {
@@ -43,7 +43,7 @@ DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
 /// ranks below every other parent, wherever its reference stands. References without a target are skipped.
 ///
 /// The view holds pointers; the model owns the elements and must outlive the view. Each construction reads the model
-/// afresh. Time is linear in the number of entries of the views that the passes build.
+/// afresh, each parent once, whichever ways lead to it. Time is linear in the entries of the views that are merged.
 class DIAGKIT_EXPORT VDiagCommView : public VNamedListView<VDiagCommViewTraits> {
 public:
     explicit VDiagCommView(NODX201::VEcuSharedData& layer);
@@ -54,23 +54,11 @@ public:
     virtual ~VDiagCommView();
 
 private:
-    using Construction = VDiagCommConstruction;
-
     VDiagCommView();
 
-    template <class... Refs, class Layer>
-    void Pass(Layer& layer, Construction& construction);
+    void Inherit(VLayerOfKind const& layer);
 
-    void InheritFromOwn(NODX201::VDiagLayer& layer);
-    void SetNotInheritedList(NODX201::VParentRef& parentRef, Construction& construction);
-    bool IsInNotInheritedList(wchar_t const* shortName, Construction const& construction) const;
-    void InheritFromProtocol(NODX201::VProtocol& layer, Construction& construction);
-    void InheritFromEcuSharedData(NODX201::VEcuSharedData& layer, Construction& construction);
-    void InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer, Construction& construction);
-    void InheritFromBaseVariant(NODX201::VBaseVariant& layer, Construction& construction);
-    void InheritDiagComms(VDiagCommView& source, Construction& construction);
-
-    VStringContainer m_notInherited;
+    VStringContainer m_notInherited; // never filled: the merge keeps the exclusions of the reference it is at by itself
 };
 
 } // namespace NDIAGKIT

@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-class VNameMerge;
+struct VLayerOfKind;
 
 /// What `DiagVariableView` holds and where it asserts; see `VListView`.
 struct DIAGKIT_EXPORT VDiagVariableViewTraits {
@@ -49,15 +49,7 @@ public:
 private:
     VDiagVariableView();
 
-    template <class Layer>
-    void InheritFromOwn(Layer& layer);
-    template <class Ref, class Layer>
-    void Pass(Layer& layer, VNameMerge& merge);
-
-    void InheritFromEcuSharedData(NODX201::VEcuSharedData& layer, VNameMerge& merge);
-    void InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer, VNameMerge& merge);
-    void InheritFromBaseVariant(NODX201::VBaseVariant& layer, VNameMerge& merge);
-    void InheritDiagVariables(VDiagVariableView& source, VNameMerge& merge);
+    void Inherit(VLayerOfKind const& layer);
 
     VStringContainer m_notInherited; // never filled: no exclusion applies to DIAG-VARIABLEs
 };

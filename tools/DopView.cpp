@@ -2,9 +2,12 @@
 #include <diagkit/tools/DopView.h>
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include <diagkit/model/Dops.h>
-#include <diagkit/tools/ParentPass.h>
+#include <diagkit/tools/Inheritance.h>
 #include <diagkit/util/Assertion.h>
 
 namespace NDIAGKIT {
@@ -17,86 +20,30 @@ constexpr NPavonaUtil::VAssertion kDopNotFound{L"false", L"DopView", 344};
 constexpr NPavonaUtil::VAssertion kRemoveAtEnd{L"iter != End()", L"DopView", 352};
 constexpr NPavonaUtil::VAssertion kRemoveStepAtEnd{L"iter != m_collection.end()", L"DopView", 416};
 
-using EcuSharedDataRef = NODX201::VEcuSharedDataRef;
-using ProtocolRef = NODX201::VProtocolRef;
-using FunctionalGroupRef = NODX201::VFunctionalGroupRef;
-using BaseVariantRef = NODX201::VBaseVariantRef;
-
 } // namespace
 
 VDopView::VDopView() = default;
 
 VDopView::~VDopView() = default;
 
-VDopView::VDopView(NODX201::VEcuSharedData& layer) : VDopView() { InheritFromOwn(layer); }
+// clang-format off
+VDopView::VDopView(NODX201::VEcuSharedData& layer)   : VDopView() { Inherit(layer); }
+VDopView::VDopView(NODX201::VProtocol& layer)        : VDopView() { Inherit(layer); }
+VDopView::VDopView(NODX201::VFunctionalGroup& layer) : VDopView() { Inherit(layer); }
+VDopView::VDopView(NODX201::VBaseVariant& layer)     : VDopView() { Inherit(layer); }
+VDopView::VDopView(NODX201::VEcuVariant& layer)      : VDopView() { Inherit(layer); }
+// clang-format on
 
-VDopView::VDopView(NODX201::VProtocol& layer) : VDopView() {
-    InheritFromOwn(layer);
-    Pass<EcuSharedDataRef>(layer);
-}
-
-VDopView::VDopView(NODX201::VFunctionalGroup& layer) : VDopView() {
-    InheritFromOwn(layer);
-    Pass<ProtocolRef>(layer);
-    Pass<EcuSharedDataRef>(layer);
-}
-
-VDopView::VDopView(NODX201::VBaseVariant& layer) : VDopView() {
-    InheritFromOwn(layer);
-    Pass<ProtocolRef, FunctionalGroupRef>(layer);
-    Pass<EcuSharedDataRef>(layer);
-}
-
-VDopView::VDopView(NODX201::VEcuVariant& layer) : VDopView() {
-    InheritFromOwn(layer);
-    Pass<BaseVariantRef>(layer);
-    Pass<EcuSharedDataRef>(layer);
-}
-
-template <class... Refs, class Layer>
-void VDopView::Pass(Layer& layer) {
-    struct VInherit {
-        VDopView& view;
-        void operator()(NODX201::VProtocol& parent) { view.InheritFromProtocol(parent); }
-        void operator()(NODX201::VFunctionalGroup& parent) { view.InheritFromFunctionalGroup(parent); }
-        void operator()(NODX201::VBaseVariant& parent) { view.InheritFromBaseVariant(parent); }
-        void operator()(NODX201::VEcuSharedData& parent) { view.InheritFromEcuSharedData(parent); }
-    };
-    ParentPass<Refs...>(layer.ParentRefCollection(), VInherit{*this});
-}
-
-void VDopView::InheritFromOwn(NODX201::VDiagLayer& layer) {
-    if (!layer.HasDiagDataDictionarySpec()) {
-        return;
+void VDopView::Inherit(VLayerOfKind const& layer) {
+    std::vector<std::pair<std::wstring_view, NODX201::VDopBase*>> dops;
+    for (NODX201::VDopBase* const dop : VInheritance<VInheritedDops>().EntriesOf(layer)) {
+        dops.emplace_back(dop->GetShortName(), dop);
     }
-    for (NODX201::VDopBase& dop : layer.GetDiagDataDictionarySpec().DopBaseCollection()) {
-        Append(dop);
+    // In the order of the map each finds its place at once.
+    std::sort(dops.begin(), dops.end());
+    for (auto const& [shortName, dop] : dops) {
+        m_collection.emplace_hint(m_collection.end(), shortName, dop);
     }
-}
-
-void VDopView::InheritFromProtocol(NODX201::VProtocol& layer) {
-    VDopView parent(layer);
-    InheritDops(parent);
-}
-
-void VDopView::InheritFromEcuSharedData(NODX201::VEcuSharedData& layer) {
-    VDopView parent(layer);
-    InheritDops(parent);
-}
-
-void VDopView::InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer) {
-    VDopView parent(layer);
-    InheritDops(parent);
-}
-
-void VDopView::InheritFromBaseVariant(NODX201::VBaseVariant& layer) {
-    VDopView parent(layer);
-    InheritDops(parent);
-}
-
-void VDopView::InheritDops(VDopView& source) {
-    // The source is a temporary that is discarded afterwards: its entries move over, those whose name is taken stay.
-    m_collection.merge(source.m_collection);
 }
 
 unsigned long long VDopView::Count() const { return m_collection.size(); }

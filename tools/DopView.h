@@ -11,6 +11,8 @@
 
 namespace NDIAGKIT {
 
+struct VLayerOfKind;
+
 DIAGKIT_TEMPLATE_DECLARATION(
     VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*>::iterator, NODX201::VDopBase&>);
 
@@ -74,15 +76,7 @@ protected:
 private:
     VDopView();
 
-    template <class... Refs, class Layer>
-    void Pass(Layer& layer);
-
-    void InheritFromOwn(NODX201::VDiagLayer& layer);
-    void InheritFromProtocol(NODX201::VProtocol& layer);
-    void InheritFromEcuSharedData(NODX201::VEcuSharedData& layer);
-    void InheritFromFunctionalGroup(NODX201::VFunctionalGroup& layer);
-    void InheritFromBaseVariant(NODX201::VBaseVariant& layer);
-    void InheritDops(VDopView& source);
+    void Inherit(VLayerOfKind const& layer);
 
     Map m_collection;
     VStringContainer m_notInherited; // never filled: no exclusion applies to DOPs

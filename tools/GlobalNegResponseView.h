@@ -9,7 +9,7 @@
 
 namespace NDIAGKIT {
 
-class VNameMerge;
+struct VLayerOfKind;
 
 /// What `GlobalNegResponseView` holds and where it asserts; see `VListView`.
 struct DIAGKIT_EXPORT VGlobalNegResponseViewTraits {
@@ -53,12 +53,7 @@ protected:
 private:
     VGlobalNegResponseView();
 
-    template <class... Refs, class Layer>
-    void Pass(Layer& layer, VNameMerge& merge);
-
-    void InheritFromOwn(NODX201::VDiagLayer& layer);
-    void InheritFromParent(NODX201::VDiagLayer& layer, VNameMerge& merge); ///< of whichever kind
-    void InheritGlobalNegResponses(VGlobalNegResponseView& source, VNameMerge& merge);
+    void Inherit(VLayerOfKind const& layer);
 };
 
 } // namespace NDIAGKIT

@@ -67,10 +67,10 @@ VOutParamIfView::Iterator VOutParamIfView::Find(wchar_t const* shortName, NODX20
         found = *named;
         return Iterator(named);
     }
+    VParamRecursivSearchVisitor visitor(shortName, layer);
     for (NODX201::VParam* const root : m_searchRoots) {
-        VParamRecursivSearchVisitor visitor(shortName, layer);
-        root->Accept(visitor);
-        if (NODX201::VValue* const value = visitor.GetResult()) {
+        if (visitor.Walk(*root)) {
+            NODX201::VValue* const value = visitor.GetResult();
             // Deliberate: the view grows by what a search finds (NestedMatchGrowsTheView).
             Append(*value);
             found = value;

@@ -43,8 +43,8 @@ DIAGKIT_TEMPLATE_DECLARATION(VListView<VOutParamIfViewTraits>);
 /// selected request and responses: through the DOPs of VALUE parameters, structures, fields, multiplexers,
 /// environment data and the tables of TABLE-STRUCT parameters. DOP references resolve in the layer given. Only VALUE
 /// parameters match, by exact short name. A match below is appended to the view, so the view GROWS by a search that
-/// finds something new, and finds it among its entries the next time. There is no guard against cycles: the data must
-/// not make a structure contain itself.
+/// finds something new, and finds it among its entries the next time. It ends on every database, whatever contains
+/// itself there and however deep.
 class DIAGKIT_EXPORT VOutParamIfView : public VListView<VOutParamIfViewTraits> {
 public:
     VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearchRange range);

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/ProtocolView.h>
 
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/ParentRefs.h>
+#include <diagkit/tools/Inheritance.h>
 #include <diagkit/tools/ListViewImpl.h>
-#include <diagkit/tools/ParentPass.h>
 
 namespace NDIAGKIT {
 
@@ -22,14 +24,17 @@ VProtocolView::VProtocolView(NODX201::VBaseVariant& baseVariant) : VProtocolView
     if (!baseVariant.HasParentRefCollection()) {
         return;
     }
-    struct VAttach {
-        VProtocolView& view;
-        void operator()(NODX201::VProtocol& protocol) { view.Append(protocol); }
-        void operator()(NODX201::VFunctionalGroup& group) {
-            view.EvaluateAndAddProtocolsFrom(group.ParentRefCollection());
+    for (NODX201::VParentRef& parentRef : baseVariant.ParentRefCollection()) {
+        auto const parent = ParentBy(parentRef, VLayerKinds::Protocol | VLayerKinds::FunctionalGroup);
+        if (!parent.has_value()) {
+            continue;
         }
-    };
-    ParentPass<NODX201::VProtocolRef, NODX201::VFunctionalGroupRef>(baseVariant.ParentRefCollection(), VAttach{*this});
+        if (parent->kind == VLayerKinds::Protocol) {
+            Append(static_cast<NODX201::VProtocol&>(*parent->layer));
+        } else {
+            EvaluateAndAddProtocolsFrom(static_cast<NODX201::VFunctionalGroup&>(*parent->layer).ParentRefCollection());
+        }
+    }
 }
 
 // clang-format off
@@ -42,7 +47,11 @@ void VProtocolView::VisitEcuSharedData  (NODX201::VEcuSharedData&)   {}
 
 void VProtocolView::EvaluateAndAddProtocolsFrom(NODX201::VParentRefCollection& parentRefs) {
     // Deliberate: no duplicate test (ProtocolReferencedTwiceIsInTheViewTwice).
-    ParentPass<NODX201::VProtocolRef>(parentRefs, [this](NODX201::VProtocol& protocol) { Append(protocol); });
+    for (NODX201::VParentRef& parentRef : parentRefs) {
+        if (auto const parent = ParentBy(parentRef, VLayerKinds::Protocol)) {
+            Append(static_cast<NODX201::VProtocol&>(*parent->layer));
+        }
+    }
 }
 
 } // namespace NDIAGKIT

@@ -95,6 +95,16 @@ TEST_F(VAmbiguousNamesTest, OneElementThroughTwoParentsIsNone) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
+TEST_F(VAmbiguousNamesTest, ParentNamedTwiceIsOneParent) {
+    Check(LayerXml("BASE-VARIANT", "A", ServiceX("1")) + LayerXml("BASE-VARIANT", "B", ServiceX("2")) +
+          LayerXml("ECU-VARIANT", "V",
+                   ParentRefs({{"BASE-VARIANT", "A"}, {"BASE-VARIANT", "A"}, {"BASE-VARIANT", "B"}})));
+    EXPECT_EQ(Diagnostics(), "test.odx:9:1 warning repeated-parent\ntest.odx:10:1 warning ambiguous-name");
+    Check(LayerXml("BASE-VARIANT", "A", ServiceX("1")) +
+          LayerXml("ECU-VARIANT", "V", ParentRefs({{"BASE-VARIANT", "A"}, {"BASE-VARIANT", "A"}})));
+    EXPECT_EQ(Diagnostics(), "test.odx:7:1 warning repeated-parent");
+}
+
 TEST_F(VAmbiguousNamesTest, ParentsOfDifferentRankAreNone) {
     Check(LayerXml("ECU-SHARED-DATA", "S", ServiceX("1")) + LayerXml("BASE-VARIANT", "B", ServiceX("2")) +
           LayerXml("ECU-VARIANT", "V", ParentRefs({{"ECU-SHARED-DATA", "S"}, {"BASE-VARIANT", "B"}})));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <random>
 #include <set>
 
@@ -31,7 +32,19 @@ std::wstring Names(NCheck::VCycle const& cycle) {
     for (NODX201::VReferencable const* const element : cycle.elements) {
         names += std::wstring(names.empty() ? L"" : L" ") + element->GetShortName();
     }
-    return names + (cycle.layer != nullptr ? std::wstring(L" in ") + cycle.layer->GetShortName() : L"");
+    if (cycle.layers == nullptr) {
+        return names;
+    }
+    names += L" in";
+    for (NODX201::VDiagLayer const* const layer : *cycle.layers) {
+        names += std::wstring(L" ") + layer->GetShortName();
+    }
+    return names;
+}
+
+bool IsIn(NCheck::VCycle const& cycle, NODX201::VDiagLayer const* layer) {
+    return cycle.layers == nullptr ||
+           std::find(cycle.layers->begin(), cycle.layers->end(), layer) != cycle.layers->end();
 }
 
 using VCycleFindingsTest = VCheckTest;
@@ -134,11 +147,11 @@ TEST_F(VFindCyclesTest, ContainmentById) {
     EXPECT_EQ(cycles[0].kind, NCheck::VCycleKind::Containment);
     EXPECT_EQ(Names(cycles[0]), L"Outer Inner");
     EXPECT_EQ(cycles[0].reference, &back);
-    EXPECT_EQ(cycles[0].layer, nullptr);
+    EXPECT_EQ(cycles[0].layers, nullptr);
     EXPECT_TRUE(back.ResolvesById()) << "asking changes nothing";
 }
 
-TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenForEveryLayerWithIt) {
+TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenOnceForTheLayersWithIt) {
     auto& base = m_container.AddBaseVariant(L"B");
     auto& structure = base.MakeDiagDataDictionarySpec().AddStructure(L"S");
     structure.AddValue(L"P").SetDopBaseLink(NMemory::VReference::ByShortName(L"S"));
@@ -147,9 +160,8 @@ TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenForEveryLayerWithIt) {
     other.AddParentRef(base);
     other.MakeDiagDataDictionarySpec().AddStructure(L"S"); // what the name means there
     std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(m_database);
-    ASSERT_EQ(cycles.size(), 2U);
-    EXPECT_EQ(Names(cycles[0]), L"S in B");
-    EXPECT_EQ(Names(cycles[1]), L"S in V1");
+    ASSERT_EQ(cycles.size(), 1U);
+    EXPECT_EQ(Names(cycles[0]), L"S in B V1");
 }
 
 /// Whether a walk from a structure that leaves out these references comes back to where it is.
@@ -194,7 +206,7 @@ TEST(FindCycles, WalksThatFollowNoneOfThemComeToTheirEnd) {
         for (NODX201::VDiagLayer* const layer : std::initializer_list<NODX201::VDiagLayer*>{&base, &variant}) {
             std::set<NODX201::VLink const*> leftOut;
             for (NCheck::VCycle const& cycle : cycles) {
-                if (cycle.layer == nullptr || cycle.layer == layer) {
+                if (IsIn(cycle, layer)) {
                     leftOut.insert(cycle.reference);
                 }
             }

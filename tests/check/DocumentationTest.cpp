@@ -57,6 +57,13 @@ std::string Wrapped(VEntry const& entry) {
     return entry.place == "ODX" ? entry.example : wrappers.at(entry.place)(entry.example, "2.0.1");
 }
 
+/// A document with the BASE-VARIANT "B" in a container of this name.
+std::string BaseVariantIn(std::string const& container) {
+    return "<ODX MODEL-VERSION=\"2.0.1\">" +
+           Xml("DIAG-LAYER-CONTAINER", container, "<BASE-VARIANTS>" + Xml("BASE-VARIANT", "B") + "</BASE-VARIANTS>") +
+           "</ODX>";
+}
+
 class VDocumentationTest : public VCheckTest {
 protected:
     /// The codes of what is found, with their severities.
@@ -90,6 +97,16 @@ protected:
         } else if (code == "too-many-diagnostics") {
             m_options.maxDiagnostics = 0;
             Read(Layer("<NEW/>"));
+        } else if (code == "repeated-document") {
+            ReadFiles({Write("this-year.odx-d", Container("")), Write("last-year.odx-d", Container(""))});
+        } else if (code == "ambiguous-document") {
+            std::string const reference = "<PARENT-REF xsi:type=\"BASE-VARIANT-REF\" ID-REF=\"B\" DOCREF=\"B\" "
+                                          "DOCTYPE=\"LAYER\"/>";
+            ReadFiles({Write("this-year.odx-d", BaseVariantIn("C1")), Write("last-year.odx-d", BaseVariantIn("C2")),
+                       Write("variant.odx-d",
+                             Container("<ECU-VARIANTS>" +
+                                       Xml("ECU-VARIANT", "V", "<PARENT-REFS>" + reference + "</PARENT-REFS>") +
+                                       "</ECU-VARIANTS>"))});
         } else if (code == "repeated-file") {
             std::string const path = Write("seat.odx-d", good);
             ReadFiles({path, path});

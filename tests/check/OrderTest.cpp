@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include <diagkit/check/Findings.h>
+
 #include "check/CheckTest.h"
 
 namespace NTest {
@@ -74,6 +76,33 @@ TEST_F(VOrderTest, FindingsBeyondTheLimitAreCounted) {
                              "test.odx:4:1 warning short-name-characters\ntest.odx:4:1 error duplicate-short-name\n"
                              "test.odx:5:1 error duplicate-id\ntest.odx:5:1 error duplicate-short-name\n"
                              "test.odx:5:1 error too-many-diagnostics\ntest.odx:6:1 error too-many-diagnostics");
+}
+
+TEST_F(VOrderTest, FindingsBeyondTheLimitAreTheLastOnesOfTheDocument) {
+    // Many lists, so that whatever walks over them by address comes by in another order.
+    constexpr int kLists = 200;
+    std::string services;
+    for (int index = 0; index < kLists; ++index) {
+        std::string const number = std::to_string(index);
+        std::string const job = "<SINGLE-ECU-JOB ID=\"J" + number + "\"><SHORT-NAME>J" + number + "</SHORT-NAME>";
+        std::string const param = "<INPUT-PARAM><SHORT-NAME>P</SHORT-NAME></INPUT-PARAM>";
+        services += job + "<INPUT-PARAMS>" + param + "\n" + param + "</INPUT-PARAMS></SINGLE-ECU-JOB>";
+    }
+    m_options.maxDiagnostics = 3;
+    Check(LayerXml("BASE-VARIANT", "L", DiagComms(services)));
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error duplicate-short-name\ntest.odx:5:1 error duplicate-short-name\n"
+                             "test.odx:6:1 error duplicate-short-name\ntest.odx:7:1 error too-many-diagnostics");
+}
+
+TEST_F(VOrderTest, ACodeThatIsInNoTableIsAnError) {
+    Check("");
+    NCheck::VFindings findings(1);
+    findings.Add({"no-such-code", {}, "a text"});
+    std::vector<NReader::VDiagnostic> const diagnostics = findings.Sorted(Database());
+    ASSERT_EQ(diagnostics.size(), 1U);
+    EXPECT_EQ(diagnostics[0].code, "no-such-code");
+    EXPECT_EQ(diagnostics[0].severity, NReader::VSeverity::Error);
+    EXPECT_EQ(diagnostics[0].message, "a text");
 }
 
 TEST_F(VOrderTest, WithoutADatabaseTheReadersDiagnosticsAreAll) {

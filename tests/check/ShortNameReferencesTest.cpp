@@ -320,6 +320,92 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsToAParameterOfWhatLeadsThere) {
                          "to it has an output parameter of that name in the layer 'B'");
 }
 
+std::string Structures(std::vector<std::pair<std::string, std::string>> const& structures) {
+    std::string text;
+    for (auto const& [id, params] : structures) {
+        text += Xml("STRUCTURE", id, "<PARAMS>" + params + "</PARAMS>");
+    }
+    return "<STRUCTURES>" + text + "</STRUCTURES>";
+}
+
+/// Services "S1", "S2" and so on, one for each DOP: the request of each has a parameter "P1", "P2" and so on, and one
+/// of the DOP.
+std::string Leading(std::vector<std::string> const& dops) {
+    std::string diagComms;
+    std::string requests;
+    for (std::size_t index = 0; index < dops.size(); ++index) {
+        std::string const number = std::to_string(index + 1);
+        diagComms += Service("S" + number, "<REQUEST-REF ID-REF=\"RQ" + number + "\"/>");
+        requests += Xml("REQUEST", "RQ" + number,
+                        "<PARAMS>" + Value("P" + number, "") +
+                            Value("In", "<DOP-REF ID-REF=\"" + dops[index] + "\"/>") + "</PARAMS>");
+    }
+    return DiagComms(diagComms) + "<REQUESTS>" + requests + "</REQUESTS>";
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsToAParameterOfAnyServiceThatLeadsThere) {
+    // Two services lead there through one structure, the third does not.
+    std::string const structures =
+        Structures({{"T", Value("Env", "<DOP-REF ID-REF=\"E\"/>")}, {"U", Value("None", "")}});
+    auto const layer = [&](std::string const& param) {
+        return LayerXml("BASE-VARIANT", "B", InDictionary(EnvDataDesc(param) + structures) + Leading({"T", "T", "U"}));
+    };
+    for (char const* const param : {"P1", "P2", "Env", "In"}) {
+        Check(layer(param));
+        EXPECT_EQ(Diagnostics(), "") << param;
+    }
+    for (char const* const param : {"P3", "None"}) {
+        Check(layer(param));
+        EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name") << param;
+    }
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsThatDifferentServicesLeadTo) {
+    // "E" is in both structures, "E1" and "E2" in one each.
+    auto const envDataDesc = [](std::string const& id, std::string const& param) {
+        return Xml("ENV-DATA-DESC", id, "\n<PARAM-SNREF SHORT-NAME=\"" + param + "\"/><ENV-DATAS/>");
+    };
+    auto const to = [](std::string const& id) { return Value("To" + id, "<DOP-REF ID-REF=\"" + id + "\"/>"); };
+    auto const layer = [&](std::string const& param) {
+        return LayerXml("BASE-VARIANT", "B",
+                        InDictionary("<ENV-DATA-DESCS>" + envDataDesc("E", param) + envDataDesc("E1", param) +
+                                     envDataDesc("E2", param) + "</ENV-DATA-DESCS>" +
+                                     Structures({{"T1", to("E1") + to("E")}, {"T2", to("E2") + to("E")}})) +
+                            Leading({"T1", "T2"}));
+    };
+    Check(layer("P1"));
+    EXPECT_EQ(Diagnostics(), "test.odx:6:1 error unresolved-short-name");
+    Check(layer("P2"));
+    EXPECT_EQ(Diagnostics(), "test.odx:5:1 error unresolved-short-name");
+    Check(layer("ToE"));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsInsideATableThatLeadsBackToItself) {
+    std::string const table = "<TABLES>" +
+                              Xml("TABLE", "TB", Xml("TABLE-ROW", "R", "<KEY>1</KEY>\n<STRUCTURE-REF ID-REF=\"T\"/>")) +
+                              "</TABLES>";
+    std::string const key = "<PARAM xsi:type=\"TABLE-KEY\" ID=\"K\"><SHORT-NAME>K</SHORT-NAME>\n<TABLE-REF "
+                            "ID-REF=\"TB\"/></PARAM>";
+    auto const layer = [&](std::string const& param) {
+        return LayerXml(
+            "BASE-VARIANT", "B",
+            InDictionary(EnvDataDesc(param) +
+                         Structures({{"T", key + Value("Env", "<DOP-REF ID-REF=\"E\"/>")}, {"U", Value("None", "")}}) +
+                         table) +
+                Leading({"T", "U"}));
+    };
+    for (char const* const param : {"P1", "Env"}) {
+        Check(layer(param));
+        EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle") << param;
+    }
+    for (char const* const param : {"P2", "None"}) {
+        Check(layer(param));
+        EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name\ntest.odx:5:1 warning table-row-cycle")
+            << param;
+    }
+}
+
 TEST_F(VShortNameReferencesTest, OfEnvDataDescsToWhichNothingLeadsAreLeftAlone) {
     Check(LayerXml("ECU-VARIANT", "V", InDictionary(EnvDataDesc("X"))));
     EXPECT_EQ(Diagnostics(), "");

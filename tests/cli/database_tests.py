@@ -131,10 +131,11 @@ class DeepNesting(unittest.TestCase):
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertRegex(done.stdout, r"\AP499 .* > STRUCTURE S499\n\Z")
 
-    def test_an_endless_depth_is_refused(self):
-        done = self.ask(50000)
-        self.assertEqual((done.returncode, done.stdout), (1, ""))
-        self.assertIn("which contains itself or nests without end; its parameters are not searched", done.stderr)
+    def test_a_parameter_deeper_than_any_stack_is_found(self):
+        depth = 50000
+        done = self.ask(depth)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertRegex(done.stdout, rf"\AP{depth - 1} .* > STRUCTURE S{depth - 1}\n\Z")
 
 
 class NestedParameters(unittest.TestCase):

@@ -197,6 +197,12 @@ class Hostile(unittest.TestCase):
         self.expect(Call(path), 3, [": error: elements are nested deeper than 1000; --max-depth allows more "
                                     "[too-deep]"])
 
+    def test_elements_nested_very_deep_are_taken_apart_again(self):
+        depth = 500000
+        path = self.write("a.odx", HEAD, b"<SDGS>", *[b"<SDG>" * 1000] * (depth // 1000),
+                          *[b"</SDG>" * 1000] * (depth // 1000), b"</SDGS>", TAIL)
+        self.expect(Call(path, "--max-depth", "3000000"), 0, [], 512 * MEBIBYTE)
+
     def test_a_text_without_end_is_refused(self):
         path = self.write("a.odx", HEAD, b"<LONG-NAME>", *[b"x" * MEBIBYTE] * 128)
         self.expect(Call(path, "--max-text-size", "4M"), 3,

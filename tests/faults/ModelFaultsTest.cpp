@@ -66,5 +66,55 @@ TEST(ModelFaultsTest, RemovingTakesNoMemory) {
     EXPECT_EQ(database.Count(Tag::DiagService), 0u);
 }
 
+TEST(ModelFaultsTest, ALinkNamesWhatItNamedBeforeWhenItCannotBeGivenAnotherReference) {
+    NMemory::VDatabase database;
+    NMemory::VMemProtocol& protocol = database.AddDiagLayerContainer(L"Doors").AddProtocol(L"Protocol");
+    NMemory::VMemRequest& request = protocol.AddRequest(L"Request");
+    NMemory::VMemRequestLink& link = protocol.AddDiagService(L"Read").SetRequestRef(request);
+    ASSERT_TRUE(link.HasRequest());
+    bool isDone = false;
+    for (std::size_t after = 0; !isDone; ++after) {
+        std::wstring const unknown(20'000 + after, L'x'); // more than what a pool has left
+        try {
+            VFailingAllocations const failing(after);
+            link.SetReference(NMemory::VReference::ById(unknown.c_str()));
+            isDone = true;
+        } catch (std::bad_alloc const&) {
+            ASSERT_TRUE(link.HasRequest()) << after;
+            ASSERT_STREQ(dynamic_cast<NODX201::VOdxLink&>(link.GetLink()).GetIdRef(), request.GetId()) << after;
+        }
+    }
+    EXPECT_FALSE(link.HasRequest());
+}
+
+TEST(ModelFaultsTest, AnAnswerThatFailsForLackOfMemoryIsNotRemembered) {
+    NMemory::VDatabase database;
+    NMemory::VMemDiagLayerContainer& container = database.AddDiagLayerContainer(L"Doors");
+    NMemory::VMemProtocol& last = container.AddProtocol(L"Last");
+    for (int number = 0; number < 20; ++number) { // so many that they are sorted by place
+        container.AddProtocol(L"Library").AddRequest(L"Request").SetId(L"Same");
+    }
+    NMemory::VMemRequest& wanted = last.AddRequest(L"Request");
+    wanted.SetId(L"Same");
+    NMemory::VMemRequestLink& link = last.AddDiagService(L"Read").SetRequestRef(NMemory::VReference::ById(L"Same"));
+    std::size_t failures = 0;
+    for (std::size_t after = 0;; ++after) {
+        database.NoteChange();
+        bool isDone = false;
+        try {
+            VFailingAllocations const failing(after);
+            isDone = link.HasRequest();
+        } catch (std::bad_alloc const&) {
+            ++failures;
+        }
+        ASSERT_TRUE(link.HasRequest()) << "after " << after;
+        ASSERT_EQ(&link.GetRequest(), &wanted) << "after " << after;
+        if (isDone) {
+            break;
+        }
+    }
+    EXPECT_GT(failures, 10u);
+}
+
 } // namespace
 } // namespace NTest

@@ -316,7 +316,7 @@ TEST_F(BuildingTest, AReferenceToAnElementWithoutAnIdGivesItOne) {
 TEST_F(BuildingTest, AMadeIdIsOneThatNoElementHas) {
     auto& protocol = m_container.AddProtocol(L"UDS");
     std::wstring const made = protocol.AddRequest(L"One").EnsureId();
-    EXPECT_EQ(m_database.GetIdIndex().Find(made)->others.size(), 0u);
+    EXPECT_FALSE(m_database.GetIdIndex().Find(made)->IsRepeated());
     NMemory::VDatabase other;
     auto& layer = other.AddDiagLayerContainer(L"Doors").AddProtocol(L"UDS");
     layer.AddRequest(L"Taken").SetId(made.c_str());

@@ -17,8 +17,8 @@ protected:
         if (entry == nullptr) {
             return {};
         }
-        VElements elements{entry->first};
-        elements.insert(elements.end(), entry->others.begin(), entry->others.end());
+        VElements elements;
+        entry->ForEach([&elements](NODX201::VReferencable& element) { elements.push_back(&element); });
         return elements;
     }
 

@@ -2,7 +2,11 @@
 
 // Elements that move within their collection, to another element, to another document.
 
+#include <memory>
+#include <stdexcept>
+
 #include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/Odx.h>
 
 #include "support/GraphTest.h"
 #include "support/VerifyModel.h"
@@ -165,6 +169,45 @@ TEST_F(MovingTest, AMovedLayerOutlivesItsOldContainer) {
     other.DiagLayerCollection().Adopt(Protocol(L"Uds"));
     delete &m_graph->Container();
     EXPECT_EQ(DiagComms(L"Uds"), L"Read@Uds Start@Uds Reset@Uds");
+}
+
+TEST_F(MovingTest, AnElementOfAnotherDatabaseDoesNotMove) {
+    NMemory::VDatabase other;
+    auto& protocol = other.AddDiagLayerContainer(L"Other").AddProtocol(L"P");
+    EXPECT_THROW(protocol.MakeDiagCommProxyCollection().Adopt(protocol, Service(L"Uds.Read")), std::invalid_argument);
+    EXPECT_THROW(dynamic_cast<NMemory::VMemDiagLayerContainer&>(*other.GetOdx().DiagLayerContainerCollection().Begin())
+                     .DiagLayerCollection()
+                     .Adopt(Protocol(L"Uds")),
+                 std::invalid_argument);
+    EXPECT_EQ(DiagComms(L"Uds"), L"Read@Uds Start@Uds Reset@Uds");
+    EXPECT_EQ(protocol.DiagCommProxyCollection().Count(), 0u);
+}
+
+TEST_F(MovingTest, AnElementDoesNotMoveIntoWhatStandsInIt) {
+    auto& outer = Service(L"Uds.Read").AddSdg();
+    auto& inner = outer.AddSdg();
+    EXPECT_THROW(inner.MakeSdgSdChoiceCollection().Adopt(inner, outer), std::invalid_argument);
+    EXPECT_THROW(outer.MakeSdgSdChoiceCollection().Adopt(outer, outer), std::invalid_argument);
+    EXPECT_EQ(outer.SdgSdChoiceCollection().Count(), 1u);
+    EXPECT_EQ(inner.SdgSdChoiceCollection().Count(), 0u);
+}
+
+TEST_F(MovingTest, AnElementDoesNotMoveBeforeOneOfAnotherCollection) {
+    auto& uds = Protocol(L"Uds");
+    EXPECT_THROW(uds.MakeDiagCommProxyCollection().Adopt(uds, Service(L"Uds.Start"), &Service(L"Kwp.Stop")),
+                 std::invalid_argument);
+    EXPECT_EQ(DiagComms(L"Uds"), L"Read@Uds Start@Uds Reset@Uds");
+}
+
+TEST_F(MovingTest, AnElementOfADetachedPartDoesNotMoveOutOfIt) {
+    NMemory::VDatabase& database = m_graph->Database();
+    auto part = std::make_unique<NMemory::VPart>(database);
+    auto detached = database.GetMemOdx().MakeDetached<NMemory::VMemDiagLayerContainer>(*part);
+    auto& uds = Protocol(L"Uds");
+    auto& made = detached->AddProtocol(L"Made").AddDiagService(L"Made");
+    EXPECT_THROW(uds.MakeDiagCommProxyCollection().Adopt(uds, made), std::invalid_argument);
+    EXPECT_EQ(DiagComms(L"Uds"), L"Read@Uds Start@Uds Reset@Uds");
+    part->Close();
 }
 
 } // namespace

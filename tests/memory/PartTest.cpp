@@ -97,5 +97,16 @@ TEST_F(VPartTest, TextsOutliveTheReading) {
     EXPECT_NE(m_database.GetIdIndex().Find(L"Added"), nullptr);
 }
 
+TEST(PartAdoptionTest, ADatabaseAdoptsDetachedPartsOfItsOwnAlone) {
+    NMemory::VDatabase database;
+    NMemory::VDatabase other;
+    auto foreign = std::make_unique<NMemory::VPart>(other);
+    EXPECT_THROW(database.Adopt(std::move(foreign)), std::invalid_argument);
+    EXPECT_THROW(database.Adopt(nullptr), std::invalid_argument);
+    auto document = other.GetMemOdx().MakeDetached<NMemory::VMemDiagLayerContainer>(*foreign);
+    EXPECT_THROW(database.GetMemOdx().Adopt(std::move(document)), std::invalid_argument);
+    EXPECT_EQ(database.GetOdx().DiagLayerContainerCollection().Count(), 0u);
+}
+
 } // namespace
 } // namespace NTest

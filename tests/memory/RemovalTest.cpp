@@ -3,6 +3,8 @@
 // What is destroyed is gone from the model: from its collection, from the index, from every link that names it; and
 // nothing is destroyed twice, which the sanitizers see. The database ends with every test.
 
+#include <vector>
+
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/MultipleEcuJobs.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
@@ -275,6 +277,58 @@ TEST_F(RemovalTest, ShortNameLinksAskAgainAfterARemoval) {
     EXPECT_FALSE(link.HasDiagComm(ecu));
     EXPECT_EQ(names.started, 2);
     database.SetResolverFactory(nullptr);
+}
+
+TEST_F(RemovalTest, ElementsLeaveTheirCollectionInAnyOrder) {
+    auto& lib = LayerAs<NMemory::VMemEcuSharedData>(L"Lib");
+    std::vector<NMemory::VMemDiagService*> added;
+    for (wchar_t const* const name : {L"A", L"B", L"C", L"D", L"E"}) {
+        added.push_back(&lib.AddDiagService(name));
+    }
+    for (std::size_t const index : {4, 1, 2, 0}) {
+        delete added[index];
+    }
+    EXPECT_EQ(DiagComms(L"Lib"), L"Ident@Lib Reset@Lib D@Lib");
+}
+
+TEST_F(RemovalTest, ElementsOfOneIdLeaveTheIndexInAnyOrder) {
+    auto& lib = LayerAs<NMemory::VMemEcuSharedData>(L"Lib");
+    std::vector<NMemory::VMemDiagService*> added;
+    for (wchar_t const* const name : {L"A", L"B", L"C", L"D", L"E"}) {
+        added.push_back(&lib.AddDiagService(name));
+        added.back()->SetId(L"Same");
+    }
+    auto& link = LayerAs<NMemory::VMemEcuVariant>(L"Ecu").AddDiagCommRef(VReference::ById(L"Same"));
+    auto const found = [&] { return link.HasDiagComm(Layer(L"Ecu")) ? link.GetDiagComm().GetShortName() : L"none"; };
+    EXPECT_STREQ(found(), L"A");
+    delete added[4];
+    delete added[0];
+    EXPECT_STREQ(found(), L"B");
+    delete added[2];
+    delete added[1];
+    EXPECT_STREQ(found(), L"D");
+    delete added[3];
+    EXPECT_STREQ(found(), L"none");
+}
+
+TEST_F(RemovalTest, GroupsInsideOneAnotherAreDestroyedHoweverDeep) {
+    auto& service = dynamic_cast<NMemory::VMemDiagService&>(DiagComm(L"Ecu.Stop"));
+    NMemory::VMemSdg* group = &service.AddSdg();
+    for (int depth = 0; depth < 500'000; ++depth) {
+        group = &group->AddSdg();
+    }
+    group->AddSd(L"deep");
+    delete &*service.SdgCollection().Begin();
+    EXPECT_EQ(Count(VOdxTagEnum::Sdg), 0u);
+    EXPECT_EQ(Count(VOdxTagEnum::Sd), 0u);
+}
+
+TEST_F(RemovalTest, TextsOfARemovedElementLiveAsLongAsTheDatabase) {
+    auto& uds = LayerAs<NMemory::VMemProtocol>(L"Uds");
+    uds.AddAutMethod(L"a text that is too long to be kept inside a string object");
+    std::wstring const& text = *uds.AutMethodCollection().Begin();
+    delete &uds;
+    EXPECT_EQ(text, L"a text that is too long to be kept inside a string object");
 }
 
 } // namespace

@@ -52,7 +52,8 @@ public:
     NODX201::VReferencable* Found(VLayer const& from, NMemory::VExpect expect, std::wstring const& docref,
                                   std::wstring const& doctype) {
         NMemory::VPart texts(m_database);
-        NMemory::VMemOdxLink const link(texts, VReference::ById(L"X", docref.c_str(), doctype.c_str()));
+        NMemory::VMemOdxLink const link(
+            NMemory::StoredIn(texts, VReference::ById(L"X", docref.c_str(), doctype.c_str())));
         return NMemory::ResolveId(m_database, link, *from.layer, expect);
     }
 
@@ -173,7 +174,7 @@ int AskedFrom(NMemory::VDatabase& database, NMemory::VExpect expect,
     s_asked = 0;
     for (NMemory::VMemBaseVariant* const layer : layers) {
         NMemory::VPart texts(database);
-        NMemory::VMemOdxLink const link(texts, VReference::ById(L"X"));
+        NMemory::VMemOdxLink const link(NMemory::StoredIn(texts, VReference::ById(L"X")));
         EXPECT_EQ(NMemory::ResolveId(database, link, *layer, expect) != nullptr, isThere);
     }
     return s_asked;
@@ -216,7 +217,7 @@ TEST(RepeatedIdsTest, AnswersFollowWhatIsAddedRenamedAndRemovedAmongMany) {
     }
     auto const resolved = [&](wchar_t const* docref) {
         NMemory::VPart texts(database);
-        NMemory::VMemOdxLink const link(texts, VReference::ById(L"X", docref));
+        NMemory::VMemOdxLink const link(NMemory::StoredIn(texts, VReference::ById(L"X", docref)));
         return NMemory::ResolveId(database, link, from, &NMemory::IsOfClass<NODX201::VDiagService>);
     };
     EXPECT_EQ(resolved(L""), services[0]);

@@ -2,6 +2,8 @@
 
 // Links by short name: answered by the database's resolver, in the context they are read in.
 
+#include <memory>
+
 #include <gtest/gtest.h>
 
 #include <diagkit/memory/Comparams.h>
@@ -276,6 +278,82 @@ TEST_F(ShortNameLinksTest, TheResolverEndsBeforeTheElementsDo) {
         EXPECT_EQ(names.alive, 1);
     }
     EXPECT_EQ(names.alive, 0);
+}
+
+TEST_F(ShortNameLinksTest, AskingWhetherAnIdResolvesLeavesTheAnswerToTheName) {
+    auto& service = m_one.AddDiagService(L"Name");
+    m_names.diagComms = {{{L"Name", &m_one}, &service}};
+    UseFakeResolver();
+    auto& link = AddDiagCommSnref();
+    ASSERT_TRUE(link.HasDiagComm(m_one));
+    EXPECT_FALSE(link.ResolvesById());
+    EXPECT_EQ(&link.GetDiagComm(), &service);
+}
+
+TEST_F(ShortNameLinksTest, RenamingAnElementStartsANewResolver) {
+    auto& service = m_one.AddDiagService(L"Name");
+    UseFakeResolver();
+    m_database.GetResolver();
+    EXPECT_EQ(m_names.started, 1);
+    m_one.AddDiagService(L"Added");
+    m_database.GetResolver();
+    EXPECT_EQ(m_names.started, 1) << "adding does not";
+    service.SetShortName(L"Renamed");
+    m_database.GetResolver();
+    EXPECT_EQ(m_names.started, 2);
+}
+
+TEST_F(ShortNameLinksTest, DirectingAParentRefAtAnotherLayerStartsANewResolver) {
+    auto& first = m_container.AddBaseVariant(L"First");
+    auto& second = m_container.AddBaseVariant(L"Second");
+    auto& parentRef = dynamic_cast<NMemory::VMemBaseVariantRef&>(m_one.AddParentRef(first).ParentRef());
+    UseFakeResolver();
+    m_database.GetResolver();
+    parentRef.SetReference(second);
+    m_database.GetResolver();
+    EXPECT_EQ(m_names.started, 2);
+    ASSERT_TRUE(parentRef.HasBaseVariant());
+    EXPECT_EQ(&parentRef.GetBaseVariant(), &second);
+}
+
+class SeveredLinksTest : public ShortNameLinksTest {
+protected:
+    SeveredLinksTest() {
+        auto& dop = m_one.MakeDiagDataDictionarySpec().AddStructure(L"Name");
+        m_names.dops = {{{L"Name", &m_one}, &dop}, {{L"Name", &m_two}, &dop}};
+        UseFakeResolver();
+    }
+
+    void SeverIn(NODX201::VDiagLayer& layer) {
+        auto const layers = std::make_shared<NMemory::VSeveredLayers>();
+        layers->Add(layer);
+        m_link.SeverIn(layers);
+    }
+
+    NMemory::VMemDopBaseLink& m_link = m_one.AddRequest(L"Request").AddValue(L"Value").SetDopBaseLink(kByName);
+};
+
+TEST_F(SeveredLinksTest, ALinkResolvesToNothingWhereItIsSevered) {
+    SeverIn(m_one);
+    EXPECT_FALSE(m_link.HasDopBase(m_one));
+    EXPECT_TRUE(m_link.HasDopBase(m_two));
+}
+
+TEST_F(SeveredLinksTest, AnotherReferenceIsNotSevered) {
+    SeverIn(m_one);
+    m_link.SetReference(kByName);
+    EXPECT_TRUE(m_link.HasDopBase(m_one));
+}
+
+TEST_F(SeveredLinksTest, ALayerInThePlaceOfADestroyedOneIsAnother) {
+    NMemory::VSeveredLayers severed;
+    for (int round = 0; round < 100; ++round) { // sooner or later one comes to stand where another was
+        auto& layer = m_container.AddEcuVariant(L"Brief");
+        ASSERT_FALSE(severed.Holds(layer));
+        severed.Add(layer);
+        ASSERT_TRUE(severed.Holds(layer));
+        delete &layer;
+    }
 }
 
 } // namespace

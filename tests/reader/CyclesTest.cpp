@@ -227,11 +227,9 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) 
     std::string const nested = variant("V2", "<STRUCTURES><STRUCTURE ID=\"N\"><SHORT-NAME>Payload</SHORT-NAME>" +
                                                  Params({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>");
     auto const document = [](std::string const& content) { return Container(content, kVersion); };
-
     Read({document(shared), document(simple)});
     EXPECT_EQ(Diagnostics(), "");
-    for (auto const& documents : {std::vector{document(shared), document(simple), document(nested)},
-                                  std::vector{document(nested), document(simple), document(shared)}}) {
+    for (auto const& documents : {std::vector{first, second, third}, std::vector{third, second, first}}) {
         Read(documents);
         ASSERT_EQ(m_result.diagnostics.size(), 1U);
         EXPECT_EQ(m_result.diagnostics[0].code, "containment-cycle");
@@ -243,6 +241,34 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) 
         EXPECT_TRUE(inner.HasDopBase(Get<NODX201::VDiagLayer>(L"V2"))); // an ID is the same in all layers
         Walk();
     }
+}
+
+TEST_F(VCyclesTest, ShortNameThatClosesACycleInSeveralLayersIsReportedOnceWithAllOfThem) {
+    // The name means the base variant's structure there and in two variants; a third has another one.
+    std::string const parentRef = "<PARENT-REFS><PARENT-REF xsi:type=\"BASE-VARIANT-REF\" ID-REF=\"B\"/></PARENT-REFS>";
+    auto const dictionary = [](std::string const& content) {
+        return "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(content) + "</DIAG-DATA-DICTIONARY-SPEC>";
+    };
+    Read(Container(
+        "<BASE-VARIANTS>" + Xml("BASE-VARIANT", "B", dictionary(Structure("S", {DopSnref("S"), DopSnref("T")}))) +
+            "</BASE-VARIANTS><ECU-VARIANTS>" +
+            Xml("ECU-VARIANT", "V1", dictionary(Structure("T", {Dop("S")})) + parentRef) +
+            Xml("ECU-VARIANT", "V2",
+                dictionary("<STRUCTURE ID=\"S2\"><SHORT-NAME>S</SHORT-NAME></STRUCTURE>") + parentRef) +
+            Xml("ECU-VARIANT", "V3",
+                dictionary("<STRUCTURE ID=\"T3\"><SHORT-NAME>T</SHORT-NAME>" + Params({Dop("S")}) + "</STRUCTURE>") +
+                    parentRef) +
+            "</ECU-VARIANTS>",
+        kVersion));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle\ntest.odx:4:1 error containment-cycle\n"
+                             "test.odx:4:1 error containment-cycle");
+    EXPECT_EQ(Message(0), "STRUCTURE 'S' contains itself through this reference in the layers 'B', 'V1', 'V3', which "
+                          "is left unresolved there");
+    EXPECT_EQ(Message(1), "STRUCTURE 'T' contains itself through this reference in the layer 'V1', which is left "
+                          "unresolved there");
+    EXPECT_EQ(Message(2), "STRUCTURE 'T' contains itself through this reference in the layer 'V3', which is left "
+                          "unresolved there");
+    Walk();
 }
 
 TEST_F(VCyclesTest, EveryEnvDataInsideADescriptionIsSearched) {

@@ -160,10 +160,10 @@ TEST_F(VLimitsTest, NumberOfDiagnosticsOfEachSeverity) {
 
 TEST_F(VLimitsTest, NumberOfDiagnosticsHoldsForAllDocumentsTogether) {
     m_options.maxDiagnostics = 3;
-    std::string const document = Container("<A/>\n<A/>");
+    auto const document = [](char const* name) { return Container("<A/>\n<A/>", "2.0.1", name); };
     for (std::uint32_t const threads : {1U, 3U}) {
         m_options.threads = threads;
-        Read({document, document, document});
+        Read({document("C1"), document("C2"), document("C3")});
         EXPECT_EQ(Diagnostics(), "1.odx:2:1 warning unknown-child\n1.odx:3:1 warning unknown-child\n"
                                  "2.odx:2:1 warning unknown-child\n2.odx:3:1 warning too-many-diagnostics");
         EXPECT_EQ(Message(3).find("left out are 3 diagnostics"), 0U) << Message(3);

@@ -16,11 +16,11 @@ std::string Document(std::string_view categories, std::string_view version) {
            "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">\n" + std::string(categories) + "</ODX>";
 }
 
-std::string Container(std::string_view content, std::string_view version) {
+std::string Container(std::string_view content, std::string_view version, std::string_view name) {
     return "<ODX MODEL-VERSION=\"" + std::string(version) +
-           "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"><DIAG-LAYER-CONTAINER ID=\"C\">"
-           "<SHORT-NAME>C</SHORT-NAME>\n" +
-           std::string(content) + "</DIAG-LAYER-CONTAINER></ODX>";
+           "\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"><DIAG-LAYER-CONTAINER ID=\"" +
+           std::string(name) + "\"><SHORT-NAME>" + std::string(name) + "</SHORT-NAME>\n" + std::string(content) +
+           "</DIAG-LAYER-CONTAINER></ODX>";
 }
 
 namespace {

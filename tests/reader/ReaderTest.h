@@ -18,7 +18,8 @@ namespace NTest {
 // Documents. The text given begins at line 2, column 1.
 
 std::string Document(std::string_view categories, std::string_view version = "2.0.1");
-std::string Container(std::string_view content, std::string_view version = "2.0.1"); ///< ID and short name "C"
+/// A container whose ID and short name are the name.
+std::string Container(std::string_view content, std::string_view version = "2.0.1", std::string_view name = "C");
 /// A BASE-VARIANT with ID and short name "L" in such a container.
 std::string Layer(std::string_view content, std::string_view version = "2.0.1");
 std::string Dictionary(std::string_view content, std::string_view version = "2.0.1"); ///< of such a layer

@@ -274,7 +274,7 @@ TEST_F(VReferencesTest, IdTwiceInOneDocumentIsAnErrorAtTheSecond) {
 }
 
 TEST_F(VReferencesTest, IdInTwoDocumentsIsNone) {
-    Read({Exported("C1", "L1"), Exported("C1", "L1")});
+    Read({Exported("C1", "L1"), Exported("C2", "L1")});
     EXPECT_EQ(Diagnostics(), "");
 }
 

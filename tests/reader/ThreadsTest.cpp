@@ -84,7 +84,7 @@ private:
     void AddRepeatedIds() {
         std::map<std::wstring, std::size_t> counts;
         m_result.database->GetIdIndex().ForEachRepeated(
-            [&counts](NMemory::VIdIndex::VEntry const& entry) { counts[entry.first->GetId()] = entry.others.size(); });
+            [&counts](NMemory::VIdIndex::VEntry const& entry) { counts[entry.first->GetId()] = entry.Count() - 1; });
         for (auto const& [id, count] : counts) {
             m_text << ToUtf8(id) << ' ' << count << '\n';
         }

@@ -1,0 +1,403 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <diagkit/tools/Inheritance.h>
+
+#include <algorithm>
+#include <optional>
+
+#include <diagkit/model/DiagComms.h>
+#include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Dops.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/model/ParentRefs.h>
+#include <diagkit/model/Responses.h>
+#include <diagkit/model/Visitors.h>
+
+namespace NDIAGKIT {
+namespace {
+
+using Kinds = VLayerKinds;
+
+constexpr Kinds kNone = Kinds::None;
+constexpr Kinds kProtocol = Kinds::Protocol;
+constexpr Kinds kGroup = Kinds::FunctionalGroup;
+constexpr Kinds kBase = Kinds::BaseVariant;
+constexpr Kinds kShared = Kinds::EcuSharedData;
+constexpr Kinds kAll = kProtocol | kGroup | kBase | Kinds::EcuVariant | kShared;
+constexpr Kinds kAllButProtocol = kGroup | kBase | Kinds::EcuVariant | kShared;
+
+} // namespace
+
+// clang-format off
+//                                                       owners           PROTOCOL          FUNCTIONAL-GROUP      BASE-VARIANT                  ECU-VARIANT       exclusions  own doubles
+VInheritanceRow const VInheritedDiagComms::kRow         {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, true,       true};
+VInheritanceRow const VInheritedDiagVariables::kRow     {kAllButProtocol, {kNone, kNone},   {kShared, kNone},     {kGroup, kShared},             {kBase, kShared}, false,      true};
+VInheritanceRow const VInheritedGlobalNegResponses::kRow{kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      true};
+VInheritanceRow const VInheritedDops::kRow              {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      false};
+// clang-format on
+
+VInheritancePasses VInheritanceRow::PassesOf(VLayerKinds layer) const {
+    switch (layer) {
+    case VLayerKinds::Protocol:
+        return protocol;
+    case VLayerKinds::FunctionalGroup:
+        return functionalGroup;
+    case VLayerKinds::BaseVariant:
+        return baseVariant;
+    case VLayerKinds::EcuVariant:
+        return ecuVariant;
+    default:
+        return {};
+    }
+}
+
+// clang-format off
+VLayerOfKind::VLayerOfKind(NODX201::VProtocol& protocol)               : layer(&protocol),        kind(Kinds::Protocol) {}
+VLayerOfKind::VLayerOfKind(NODX201::VFunctionalGroup& functionalGroup) : layer(&functionalGroup), kind(Kinds::FunctionalGroup) {}
+VLayerOfKind::VLayerOfKind(NODX201::VBaseVariant& baseVariant)         : layer(&baseVariant),     kind(Kinds::BaseVariant) {}
+VLayerOfKind::VLayerOfKind(NODX201::VEcuVariant& ecuVariant)           : layer(&ecuVariant),      kind(Kinds::EcuVariant) {}
+VLayerOfKind::VLayerOfKind(NODX201::VEcuSharedData& ecuSharedData)     : layer(&ecuSharedData),   kind(Kinds::EcuSharedData) {}
+// clang-format on
+
+namespace {
+
+struct VKindFinder : NODX201::VDiagLayerVisitor {
+    Kinds kind = Kinds::None;
+
+    // clang-format off
+    void VisitBaseVariant    (NODX201::VBaseVariant&)     override { kind = Kinds::BaseVariant; }
+    void VisitProtocol       (NODX201::VProtocol&)        override { kind = Kinds::Protocol; }
+    void VisitFunctionalGroup(NODX201::VFunctionalGroup&) override { kind = Kinds::FunctionalGroup; }
+    void VisitEcuVariant     (NODX201::VEcuVariant&)      override { kind = Kinds::EcuVariant; }
+    void VisitEcuSharedData  (NODX201::VEcuSharedData&)   override { kind = Kinds::EcuSharedData; }
+    // clang-format on
+};
+
+} // namespace
+
+VLayerOfKind::VLayerOfKind(NODX201::VDiagLayer& anyLayer) : layer(&anyLayer) {
+    VKindFinder finder;
+    anyLayer.Accept(finder);
+    kind = finder.kind;
+}
+
+namespace {
+
+template <class Layer>
+NODX201::VParentRefCollection* ParentRefsIn(NODX201::VDiagLayer& layer) {
+    auto& self = static_cast<Layer&>(layer);
+    return self.HasParentRefCollection() ? &self.ParentRefCollection() : nullptr;
+}
+
+} // namespace
+
+NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer) {
+    switch (layer.kind) {
+    case Kinds::Protocol:
+        return ParentRefsIn<NODX201::VProtocol>(*layer.layer);
+    case Kinds::FunctionalGroup:
+        return ParentRefsIn<NODX201::VFunctionalGroup>(*layer.layer);
+    case Kinds::BaseVariant:
+        return ParentRefsIn<NODX201::VBaseVariant>(*layer.layer);
+    case Kinds::EcuVariant:
+        return ParentRefsIn<NODX201::VEcuVariant>(*layer.layer);
+    default:
+        return nullptr;
+    }
+}
+
+namespace {
+
+// The target of a parent reference, or null when it has none.
+// clang-format off
+NODX201::VProtocol*        TargetOf(NODX201::VProtocolRef& ref)        { return ref.HasProtocol()        ? &ref.GetProtocol()        : nullptr; }
+NODX201::VFunctionalGroup* TargetOf(NODX201::VFunctionalGroupRef& ref) { return ref.HasFunctionalGroup() ? &ref.GetFunctionalGroup() : nullptr; }
+NODX201::VBaseVariant*     TargetOf(NODX201::VBaseVariantRef& ref)     { return ref.HasBaseVariant()     ? &ref.GetBaseVariant()     : nullptr; }
+NODX201::VEcuSharedData*   TargetOf(NODX201::VEcuSharedDataRef& ref)   { return ref.HasEcuSharedData()   ? &ref.GetEcuSharedData()   : nullptr; }
+// clang-format on
+
+/// The target, when the reference is of this kind and has one.
+template <class Ref>
+std::optional<VLayerOfKind> TargetIfKind(NODX201::VParentRef& parentRef) {
+    auto* const ref = dynamic_cast<Ref*>(&parentRef);
+    auto* const target = ref != nullptr ? TargetOf(*ref) : nullptr;
+    return target != nullptr ? std::optional<VLayerOfKind>(*target) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<VLayerOfKind> ParentBy(NODX201::VParentRef& parentRef, VLayerKinds kinds) {
+    static constexpr struct {
+        Kinds kind;
+        std::optional<VLayerOfKind> (*target)(NODX201::VParentRef& parentRef);
+    } kRows[] = {
+        {Kinds::Protocol, &TargetIfKind<NODX201::VProtocolRef>},
+        {Kinds::FunctionalGroup, &TargetIfKind<NODX201::VFunctionalGroupRef>},
+        {Kinds::BaseVariant, &TargetIfKind<NODX201::VBaseVariantRef>},
+        {Kinds::EcuSharedData, &TargetIfKind<NODX201::VEcuSharedDataRef>},
+    };
+    for (auto const& row : kRows) {
+        if (!IsIn(row.kind, kinds)) {
+            continue;
+        }
+        if (auto const target = row.target(parentRef)) {
+            return target;
+        }
+    }
+    return std::nullopt;
+}
+
+namespace {
+
+// What a layer has of its own, by kind of element.
+
+void AddOwn(std::vector<NODX201::VDiagComm*>& own, VLayerOfKind const& layer) {
+    if (!layer.layer->HasDiagCommProxyCollection()) {
+        return;
+    }
+    NODX201::VDiagCommProxyCollection& proxies = layer.layer->DiagCommProxyCollection();
+    own.reserve(proxies.Count());
+    for (NODX201::IDiagCommProxy& proxy : proxies) {
+        if (proxy.IsDiagService() || proxy.IsSingleEcuJob()) {
+            if (auto* const diagComm = dynamic_cast<NODX201::VDiagComm*>(&proxy)) {
+                own.push_back(diagComm);
+            }
+        } else if (proxy.IsDiagCommLink()) {
+            auto* const link = dynamic_cast<NODX201::VDiagCommLink*>(&proxy);
+            if (link != nullptr && link->HasDiagComm(*layer.layer)) {
+                own.push_back(&link->GetDiagComm());
+            }
+        }
+    }
+}
+
+NODX201::VDiagVariableProxyCollection& DiagVariablesOf(VLayerOfKind const& layer) {
+    switch (layer.kind) {
+    case Kinds::FunctionalGroup:
+        return static_cast<NODX201::VFunctionalGroup&>(*layer.layer).DiagVariableProxyCollection();
+    case Kinds::BaseVariant:
+        return static_cast<NODX201::VBaseVariant&>(*layer.layer).DiagVariableProxyCollection();
+    case Kinds::EcuVariant:
+        return static_cast<NODX201::VEcuVariant&>(*layer.layer).DiagVariableProxyCollection();
+    default:
+        return static_cast<NODX201::VEcuSharedData&>(*layer.layer).DiagVariableProxyCollection();
+    }
+}
+
+void AddOwn(std::vector<NODX201::VDiagVariable*>& own, VLayerOfKind const& layer) {
+    NODX201::VDiagVariableProxyCollection& proxies = DiagVariablesOf(layer);
+    own.reserve(proxies.Count());
+    for (NODX201::IDiagVariableProxy& proxy : proxies) {
+        if (proxy.IsDiagVariable()) {
+            if (auto* const diagVariable = dynamic_cast<NODX201::VDiagVariable*>(&proxy)) {
+                own.push_back(diagVariable);
+            }
+        } else {
+            auto* const link = dynamic_cast<NODX201::VDiagVariableLink*>(&proxy);
+            if (link != nullptr && link->HasDiagVariable(*layer.layer)) {
+                own.push_back(&link->GetDiagVariable());
+            }
+        }
+    }
+}
+
+void AddOwn(std::vector<NODX201::VGlobalNegResponse*>& own, VLayerOfKind const& layer) {
+    NODX201::VResponseCollection& responses = layer.layer->ResponseCollection();
+    if (responses.Count() == 0) {
+        return;
+    }
+    for (NODX201::VResponse& response : responses) {
+        if (response.GetOdxTag() != NODX201::VOdxTagEnum::GlobalNegResponse) {
+            continue;
+        }
+        if (auto* const globalNegResponse = dynamic_cast<NODX201::VGlobalNegResponse*>(&response)) {
+            own.push_back(globalNegResponse);
+        }
+    }
+}
+
+void AddOwn(std::vector<NODX201::VDopBase*>& own, VLayerOfKind const& layer) {
+    if (!layer.layer->HasDiagDataDictionarySpec()) {
+        return;
+    }
+    NODX201::VDopBaseCollection& dops = layer.layer->GetDiagDataDictionarySpec().DopBaseCollection();
+    own.reserve(dops.Count());
+    for (NODX201::VDopBase& dop : dops) {
+        own.push_back(&dop);
+    }
+}
+
+} // namespace
+
+/// Adds to the own elements of a layer what its parents offer.
+template <class Kind>
+class VInheritance<Kind>::VMerge {
+public:
+    VMerge(VInheritance& inheritance, VLevel& level, VList& list)
+        : m_inheritance(inheritance), m_level(level), m_list(list) {
+        ++m_level.merge;
+    }
+
+    void TakeOwn() {
+        m_inheritance.NumberNames(m_list);
+        std::size_t kept = 0;
+        for (std::size_t index = 0; index < m_list.elements.size(); ++index) {
+            if (Hold(m_list.names[index]) || Kind::kRow.showsOwnDoubles) {
+                m_list.elements[kept] = m_list.elements[index];
+                m_list.names[kept] = m_list.names[index];
+                ++kept;
+            }
+        }
+        m_list.elements.resize(kept);
+        m_list.names.resize(kept);
+    }
+
+    /// In force until the next call.
+    void SetNotInheritedList(NODX201::VParentRef& parentRef) {
+        ++m_level.reference;
+        if (!parentRef.HasNotInheritedDiagCommCollection()) {
+            return;
+        }
+        for (NODX201::VNotInheritedDiagComm& notInherited : parentRef.NotInheritedDiagCommCollection()) {
+            NODX201::ILink& link = notInherited.GetDiagCommSnref().GetLink();
+            if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&link)) {
+                At(m_level.excludedBy, m_inheritance.NumberOf(snref->GetShortName())) = m_level.reference;
+            }
+        }
+    }
+
+    void Inherit(VList const& offered) {
+        auto const [seen, isFirst] = m_excluded.try_emplace(&offered);
+        // Named once more, a parent can only bring what was excluded before.
+        VList const again = std::move(seen->second);
+        seen->second = {};
+        VList const& candidates = isFirst ? offered : again;
+        for (std::size_t index = 0; index < candidates.elements.size(); ++index) {
+            std::uint32_t const name = candidates.names[index];
+            if (IsHeld(name)) {
+                continue;
+            }
+            bool const isExcluded = IsInNotInheritedList(name);
+            VList& into = isExcluded ? seen->second : m_list;
+            into.elements.push_back(candidates.elements[index]);
+            into.names.push_back(name);
+            if (!isExcluded) {
+                Hold(name);
+            }
+        }
+    }
+
+private:
+    /// The mark of a name, which may be a new one.
+    std::uint32_t& At(std::vector<std::uint32_t>& marks, std::uint32_t name) {
+        if (name >= marks.size()) {
+            marks.resize(std::max<std::size_t>(m_inheritance.m_numbers.size(), 2 * marks.size()));
+        }
+        return marks[name];
+    }
+
+    bool IsHeld(std::uint32_t name) { return At(m_level.heldBy, name) == m_level.merge; }
+    bool IsInNotInheritedList(std::uint32_t name) { return At(m_level.excludedBy, name) == m_level.reference; }
+
+    /// Whether the name is new.
+    bool Hold(std::uint32_t name) {
+        std::uint32_t& mark = At(m_level.heldBy, name);
+        bool const isNew = mark != m_level.merge;
+        mark = m_level.merge;
+        return isNew;
+    }
+
+    VInheritance& m_inheritance;
+    VLevel& m_level;
+    VList& m_list;
+    std::unordered_map<VList const*, VList> m_excluded; // of each parent seen
+};
+
+template <class Kind>
+VInheritance<Kind>::VInheritance() = default;
+
+template <class Kind>
+VInheritance<Kind>::~VInheritance() = default;
+
+template <class Kind>
+typename VInheritance<Kind>::VElements VInheritance<Kind>::EntriesOf(VLayerOfKind layer) {
+    auto const kept = m_kept.find(layer.layer);
+    return kept != m_kept.end() ? kept->second.elements : Make(layer, 0).elements;
+}
+
+template <class Kind>
+typename VInheritance<Kind>::VElements const& VInheritance<Kind>::EntriesOfParent(VLayerOfKind layer) {
+    return Kept(layer, 0).elements;
+}
+
+template <class Kind>
+typename VInheritance<Kind>::VElements VInheritance<Kind>::OwnOf(VLayerOfKind layer) {
+    VElements own;
+    if (IsIn(layer.kind, Kind::kRow.owners)) {
+        AddOwn(own, layer);
+    }
+    return own;
+}
+
+template <class Kind>
+typename VInheritance<Kind>::VList const& VInheritance<Kind>::Kept(VLayerOfKind layer, std::size_t level) {
+    auto const kept = m_kept.find(layer.layer);
+    if (kept != m_kept.end()) {
+        return kept->second;
+    }
+    VList list = Make(layer, level);
+    NumberNames(list);
+    return m_kept.emplace(layer.layer, std::move(list)).first->second;
+}
+
+template <class Kind>
+typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, std::size_t level) {
+    VInheritancePasses const passes = Kind::kRow.PassesOf(layer.kind);
+    VList list{OwnOf(layer), {}};
+    NODX201::VParentRefCollection* const parentRefs = passes.first != VLayerKinds::None ? ParentRefsOf(layer) : nullptr;
+    if (parentRefs == nullptr && Kind::kRow.showsOwnDoubles) {
+        return list;
+    }
+    VMerge merge(*this, m_levels[level], list);
+    merge.TakeOwn();
+    for (VLayerKinds const pass : {passes.first, passes.second}) {
+        if (parentRefs == nullptr || pass == VLayerKinds::None) {
+            continue;
+        }
+        for (NODX201::VParentRef& parentRef : *parentRefs) {
+            // The exclusions first, whatever the reference leads to: none is in force for the next one.
+            if (Kind::kRow.appliesExclusions) {
+                merge.SetNotInheritedList(parentRef);
+            }
+            if (auto const parent = ParentBy(parentRef, pass)) {
+                merge.Inherit(Kept(*parent, level + 1));
+            }
+        }
+    }
+    return list;
+}
+
+template <class Kind>
+void VInheritance<Kind>::NumberNames(VList& list) {
+    std::size_t const more = list.elements.size() - list.names.size();
+    if (static_cast<float>(m_numbers.size() + more) >
+        m_numbers.max_load_factor() * static_cast<float>(m_numbers.bucket_count())) {
+        m_numbers.reserve(m_numbers.size() + std::max(more, m_numbers.size()));
+    }
+    list.names.reserve(list.elements.size());
+    for (std::size_t index = list.names.size(); index < list.elements.size(); ++index) {
+        list.names.push_back(NumberOf(list.elements[index]->GetShortName()));
+    }
+}
+
+template <class Kind>
+std::uint32_t VInheritance<Kind>::NumberOf(std::wstring_view shortName) {
+    auto const next = static_cast<std::uint32_t>(m_numbers.size());
+    return m_numbers.try_emplace(shortName, next).first->second;
+}
+
+template class VInheritance<VInheritedDiagComms>;
+template class VInheritance<VInheritedDiagVariables>;
+template class VInheritance<VInheritedGlobalNegResponses>;
+template class VInheritance<VInheritedDops>;
+
+} // namespace NDIAGKIT

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Collections.h>
+
+/// What layers inherit: one table, and the one merge that works along it.
+
+namespace NDIAGKIT {
+
+/// A kind of layer; together a set of them.
+enum class VLayerKinds : unsigned {
+    None = 0,
+    Protocol = 1,
+    FunctionalGroup = 2,
+    BaseVariant = 4,
+    EcuVariant = 8,
+    EcuSharedData = 16,
+};
+
+constexpr VLayerKinds operator|(VLayerKinds a, VLayerKinds b) {
+    return static_cast<VLayerKinds>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+}
+/// Whether the kind is one of the set.
+constexpr bool IsIn(VLayerKinds kind, VLayerKinds set) {
+    return (static_cast<unsigned>(kind) & static_cast<unsigned>(set)) != 0;
+}
+
+/// The kinds of layer that a PARENT-REF can name.
+inline constexpr VLayerKinds kAllParents =
+    VLayerKinds::Protocol | VLayerKinds::FunctionalGroup | VLayerKinds::BaseVariant | VLayerKinds::EcuSharedData;
+
+/// A layer and which of the five kinds it is of. It converts from any layer; from a `VDiagLayer` it finds out the kind
+/// by the layer's `Accept`, and is of no kind when that calls back nothing.
+struct DIAGKIT_EXPORT VLayerOfKind {
+    VLayerOfKind(NODX201::VProtocol& protocol);
+    VLayerOfKind(NODX201::VFunctionalGroup& functionalGroup);
+    VLayerOfKind(NODX201::VBaseVariant& baseVariant);
+    VLayerOfKind(NODX201::VEcuVariant& ecuVariant);
+    VLayerOfKind(NODX201::VEcuSharedData& ecuSharedData);
+    VLayerOfKind(NODX201::VDiagLayer& anyLayer);
+
+    NODX201::VDiagLayer* layer;
+    VLayerKinds kind; ///< one kind, or none
+};
+
+/// The PARENT-REFS of a layer; null for one without, and so for every ECU-SHARED-DATA.
+DIAGKIT_EXPORT NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer);
+
+/// The layer that a PARENT-REF names, where the reference is of one of these kinds and has a target. References of no
+/// known kind name none.
+DIAGKIT_EXPORT std::optional<VLayerOfKind> ParentBy(NODX201::VParentRef& parentRef, VLayerKinds kinds = kAllParents);
+
+/// The kinds of parent from which a layer takes elements: first from all parents of the first pass, in the order of its
+/// PARENT-REFs, then from those of the second.
+struct VInheritancePasses {
+    VLayerKinds first = VLayerKinds::None;
+    VLayerKinds second = VLayerKinds::None;
+};
+
+/// A row of the table of inheritance: how elements of one kind are inherited.
+struct DIAGKIT_EXPORT VInheritanceRow {
+    VLayerKinds owners; ///< the kinds of layer that have elements of their own
+    VInheritancePasses protocol;
+    VInheritancePasses functionalGroup;
+    VInheritancePasses baseVariant;
+    VInheritancePasses ecuVariant;
+    bool appliesExclusions; ///< whether the NOT-INHERITED-DIAG-COMMS of a PARENT-REF hold for what comes by it
+    bool showsOwnDoubles;   ///< whether all own elements of one short name are visible, or the first alone
+
+    VInheritancePasses PassesOf(VLayerKinds layer) const; ///< none for an ECU-SHARED-DATA
+};
+
+/// DIAG-COMMs: what the DIAG-COMMS of a layer hold or refer to.
+struct DIAGKIT_EXPORT VInheritedDiagComms {
+    using Element = NODX201::VDiagComm;
+    static VInheritanceRow const kRow;
+};
+
+/// DIAG-VARIABLEs: what the DIAG-VARIABLES of a layer hold or refer to.
+struct DIAGKIT_EXPORT VInheritedDiagVariables {
+    using Element = NODX201::VDiagVariable;
+    static VInheritanceRow const kRow;
+};
+
+/// GLOBAL-NEG-RESPONSEs: those among the responses of a layer.
+struct DIAGKIT_EXPORT VInheritedGlobalNegResponses {
+    using Element = NODX201::VGlobalNegResponse;
+    static VInheritanceRow const kRow;
+};
+
+/// DOPs: what the DIAG-DATA-DICTIONARY-SPEC of a layer lists.
+struct DIAGKIT_EXPORT VInheritedDops {
+    using Element = NODX201::VDopBase;
+    static VInheritanceRow const kRow;
+};
+
+/// What is visible of one kind in layers: the own elements in document order, then what the parents offer, pass by pass
+/// along the row of the table. What a parent offers is what is visible in it. Of a short name that is taken already,
+/// nothing is inherited.
+///
+/// What is visible in a parent is made once, whichever ways lead to it, and kept. So an object serves any number of
+/// layers, for as long as nothing in the model changes. It owns no element.
+template <class Kind>
+class DIAGKIT_EXPORT VInheritance {
+public:
+    using Element = typename Kind::Element;
+    using VElements = std::vector<Element*>;
+
+    VInheritance();
+    ~VInheritance();
+    VInheritance(VInheritance const&) = delete;
+    VInheritance& operator=(VInheritance const&) = delete;
+
+    /// What is visible in a layer. Not kept; what is visible in its parents is.
+    VElements EntriesOf(VLayerOfKind layer);
+
+    /// What is visible in a parent; valid as long as this object lives.
+    VElements const& EntriesOfParent(VLayerOfKind layer);
+
+    /// What a layer has of its own, doubles included.
+    static VElements OwnOf(VLayerOfKind layer);
+
+private:
+    struct VList {
+        VElements elements;
+        std::vector<std::uint32_t> names; // of the elements, by number
+    };
+    /// What is held and excluded on one level of the way up: while a layer is being merged, its parents are, each a
+    /// level above. By the number of the name, the latest merge that holds it and the latest reference that excludes
+    /// it.
+    struct VLevel {
+        std::vector<std::uint32_t> heldBy;
+        std::vector<std::uint32_t> excludedBy;
+        std::uint32_t merge = 1;
+        std::uint32_t reference = 1;
+    };
+    class VMerge;
+
+    static constexpr std::size_t kLevels = 5; // each kind of layer inherits from others alone
+
+    VList Make(VLayerOfKind layer, std::size_t level);
+    VList const& Kept(VLayerOfKind layer, std::size_t level);
+    std::uint32_t NumberOf(std::wstring_view shortName);
+    void NumberNames(VList& list);
+
+    std::unordered_map<NODX201::VDiagLayer const*, VList> m_kept;   // parents
+    std::unordered_map<std::wstring_view, std::uint32_t> m_numbers; // of short names, whose texts are the model's
+    std::array<VLevel, kLevels> m_levels;
+};
+
+} // namespace NDIAGKIT

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include <diagkit/model/Collections.h>
+#include <diagkit/tools/Containment.h>
+#include <diagkit/tools/PointerSet.h>
+
+namespace NDIAGKIT {
+
+/// Walks parameters and all that they contain, depth first in document order: through the DOPs of VALUE parameters,
+/// structures, fields, multiplexers, environment data, and the tables that TABLE-STRUCT parameters name. TABLE-KEYs and
+/// TABLE-ENTRYs that stand in a message lead nowhere by themselves.
+///
+/// It ends on every database and takes no more of the machine's stack on a deep one: whatever contains something is
+/// entered once, which changes nothing about what is met first. Derive from it and override `VisitValue`.
+class DIAGKIT_EXPORT VParamWalk : public VContainment {
+public:
+    ~VParamWalk() override;
+
+    /// Walks on below one more parameter; true when it has been ended. What was entered by the walk before is
+    /// not entered again.
+    bool Walk(NODX201::VParam& root);
+
+    /// The same below a DOP to which no parameter leads.
+    bool WalkIn(NODX201::VDopBase& root);
+
+    /// What leads from the root to the parameter that has been met last, both included: parameters, DOPs, the cases of
+    /// a MUX, TABLEs and TABLE-ROWs. To be asked in `VisitValue`, or when the walk has been ended there.
+    std::vector<NODX201::VOdxElement*> Path() const;
+
+protected:
+    explicit VParamWalk(IDopFinder& dops); ///< the finder must outlive this object
+
+    /// Called with every VALUE parameter; an override calls `WalkBelow` or ends the walk with `End`.
+    void VisitValue(NODX201::VValue& param) override = 0;
+    void WalkBelow(NODX201::VValue& param); ///< goes on with what the parameter contains
+    void End() { m_isEnded = true; }        ///< the walk is over
+    /// Called with everything that contains something and is entered: DOPs, TABLEs and TABLE-ROWs. Does nothing here.
+    virtual void Enter(NODX201::VOdxElement& container);
+
+private:
+    /// What the walk is inside of: first its parts that are pending are walked, then its parameters.
+    struct VInside {
+        NODX201::VOdxElement* container;
+        NODX201::VOdxElement* leader; ///< the parameter, or the case of a MUX, that led here; null where none did
+        std::size_t parts;            ///< how many parts were pending before
+        NODX201::VParamCollection::Iterator next;
+        NODX201::VParamCollection::Iterator end;
+    };
+
+    void Take(VContained const& part) override;
+    void VisitTableStruct(NODX201::VTableStruct& param) override;
+    void VisitTableKey(NODX201::VTableKey& param) override;
+    void VisitTableEntry(NODX201::VTableEntry& param) override;
+    void VisitEnvData(NODX201::VEnvData& dop) override;
+    void VisitStructure(NODX201::VStructure& dop) override;
+    void VisitEnvDataDesc(NODX201::VEnvDataDesc& dop) override;
+    void VisitStaticField(NODX201::VStaticField& dop) override;
+    void VisitDynamicLengthField(NODX201::VDynamicLengthField& dop) override;
+    void VisitDynamicEndmarkerField(NODX201::VDynamicEndmarkerField& dop) override;
+    void VisitEndOfPduField(NODX201::VEndOfPduField& dop) override;
+    void VisitMux(NODX201::VMux& dop) override;
+    void VisitTable(NODX201::VTable& table) override;
+    void VisitTableRow(NODX201::VTableRow& row) override;
+    bool WalkOn();
+    void WalkPart();
+    void WalkParams();
+    void TakeParams(NODX201::VBasicStructure& structure);
+    template <class Container, class Visit>
+    void EnterOnce(Container& container, Visit visit);
+
+    IDopFinder& m_dops;
+    std::vector<VInside> m_inside;            ///< the innermost last
+    std::vector<VContained> m_parts;          ///< that are pending, the next one last
+    NODX201::VOdxElement* m_leader = nullptr; ///< the parameter or case that the walk is at; null where it is at none
+    VPointerSet m_entered;
+    bool m_isEnded = false;
+};
+
+} // namespace NDIAGKIT
