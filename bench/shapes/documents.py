@@ -1,0 +1,108 @@
+# SPDX-License-Identifier: Apache-2.0
+"""Shapes of documents: flash data, jobs, many of them, and what is odd in XML."""
+
+from shapes.odx import (by_id, by_name, container, dictionary, document, dop, ident, layer, many, message, service,
+                        value, wrap)
+
+
+def flash_sessions(count):
+    """Sessions and idents, and as many references by their short names."""
+    session = lambda index: ident(
+        "SESSION",
+        f"S{index}",
+        wrap(
+            "EXPECTED-IDENTS",
+            ident("EXPECTED-IDENT", f"I{index}", '<IDENT-VALUES><IDENT-VALUE TYPE="A_UINT32">1</IDENT-VALUE></IDENT-VALUES>'),
+        )
+        + '<DATABLOCK-REFS><DATABLOCK-REF ID-REF="Block"/></DATABLOCK-REFS>',
+    )
+    block = '<DATABLOCK ID="Block" TYPE="CODE"><SHORT-NAME>Block</SHORT-NAME><FLASHDATA-REF ID-REF="Data"/></DATABLOCK>'
+    data = ident("FLASHDATA", "Data", '<DATAFORMAT SELECTION="BINARY"/><DATA>00</DATA>', attributes=' xsi:type="INTERN-FLASHDATA"')
+    mem = ident(
+        "ECU-MEM",
+        "Mem",
+        f"<MEM><SESSIONS>{many(count, session)}</SESSIONS><DATABLOCKS>{block}</DATABLOCKS><FLASHDATAS>{data}</FLASHDATAS></MEM>",
+    )
+    desc = lambda index: (
+        f'<SESSION-DESC DIRECTION="DOWNLOAD"><SHORT-NAME>D{index}</SHORT-NAME>'
+        + by_name(f"S{index}", "SESSION-SNREF") + by_name("Service", "DIAG-COMM-SNREF") + "</SESSION-DESC>"
+    )
+    ident_desc = lambda index: (
+        "<IDENT-DESC>" + by_name("Service", "DIAG-COMM-SNREF") + by_name(f"I{index}", "IDENT-IF-SNREF")
+        + by_name("P", "OUT-PARAM-IF-SNREF") + "</IDENT-DESC>"
+    )
+    connector = ident(
+        "ECU-MEM-CONNECTOR",
+        "Connector",
+        wrap("SESSION-DESCS", many(count, desc)) + wrap("IDENT-DESCS", many(count, ident_desc))
+        + by_id("Mem", "ECU-MEM-REF") + wrap("LAYER-REFS", by_id("V0", "LAYER-REF")),
+    )
+    flash = ident("FLASH", "Flash", wrap("ECU-MEMS", mem) + wrap("ECU-MEM-CONNECTORS", connector))
+    base = layer(
+        "BASE-VARIANT",
+        "V0",
+        DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop")),
+        DIAG_COMMS=service("Service", response="Response"),
+        POS_RESPONSES=message("POS-RESPONSE", "Response", value("P", by_id("Dop"))),
+    )
+    return {"c.odx-d": container({"BASE-VARIANTS": base}), "f.odx-f": document(flash)}
+
+
+def connectors(count):
+    """ECU-MEM-CONNECTORs that all name the same layers."""
+    base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("Service"))
+    mem = ident("ECU-MEM", "Mem", "<MEM><SESSIONS/><DATABLOCKS/><FLASHDATAS/></MEM>")
+    one = lambda index: ident(
+        "ECU-MEM-CONNECTOR",
+        f"C{index}",
+        f'<SESSION-DESCS><SESSION-DESC DIRECTION="DOWNLOAD"><SHORT-NAME>D</SHORT-NAME>{by_name("Gone", "SESSION-SNREF")}'
+        f'{by_name("Service", "DIAG-COMM-SNREF")}</SESSION-DESC></SESSION-DESCS>'
+        + by_id("Mem", "ECU-MEM-REF") + wrap("LAYER-REFS", by_id("V0", "LAYER-REF")),
+    )
+    flash = ident("FLASH", "Flash", wrap("ECU-MEMS", mem) + wrap("ECU-MEM-CONNECTORS", many(count, one)))
+    return {"c.odx-d": container({"BASE-VARIANTS": base}), "f.odx-f": document(flash)}
+
+
+def multiple_ecu_jobs(count):
+    """Jobs whose parameters name DOPs of the layers that they run in by short name."""
+    code = "<PROG-CODES><PROG-CODE><CODE-FILE>a.jar</CODE-FILE><SYNTAX>JAR</SYNTAX><REVISION>1</REVISION></PROG-CODE></PROG-CODES>"
+    job = lambda index: ident(
+        "MULTIPLE-ECU-JOB",
+        f"J{index}",
+        code
+        + wrap("INPUT-PARAMS", f"<INPUT-PARAM><SHORT-NAME>P</SHORT-NAME>{by_name(f'Dop{index}', 'DOP-BASE-SNREF')}</INPUT-PARAM>")
+        + wrap("DIAG-LAYER-REFS", by_id("V0", "DIAG-LAYER-REF")) + "<AUDIENCE/>",
+    )
+    spec = ident("MULTIPLE-ECU-JOB-SPEC", "Jobs", wrap("MULTIPLE-ECU-JOBS", many(count, job)))
+    base = layer("BASE-VARIANT", "V0", DIAG_DATA_DICTIONARY_SPEC=dictionary(many(count, lambda index: dop(f"Dop{index}"))))
+    return {"c.odx-d": container({"BASE-VARIANTS": base}), "j.odx-m": document(spec)}
+
+
+def many_documents(count):
+    return {f"d{index}.odx-d": container({"BASE-VARIANTS": layer("BASE-VARIANT", f"V{index}")}, f"C{index}") for index in range(count)}
+
+
+def documents_of_one_name(count):
+    return {f"d{index}.odx-d": container({"BASE-VARIANTS": layer("BASE-VARIANT", f"V{index}")}, "C") for index in range(count)}
+
+
+def unknown_elements(count):
+    base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("S"))
+    return {"c.odx-d": container({"BASE-VARIANTS": base}).replace("</DIAG-COMMS>", many(count, lambda i: f"<X{i}/>") + "</DIAG-COMMS>")}
+
+
+def nested_groups(count):
+    """SDGs inside one another."""
+    groups = "<SDG>" * count + "<SD>x</SD>" + "</SDG>" * count
+    base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("S").replace("<AUDIENCE/>", wrap("SDGS", groups) + "<AUDIENCE/>"))
+    return {"c.odx-d": container({"BASE-VARIANTS": base})}
+
+
+def team_members(count):
+    """What detection of the manufacturer looks at: companies, team members, texts."""
+    member = lambda index: ident("TEAM-MEMBER", f"T{index}", f"<DEPARTMENT>D{index}</DEPARTMENT>")
+    company = ident("COMPANY-DATA", "Company", wrap("TEAM-MEMBERS", many(count, member)))
+    base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("S")).replace(
+        "<DIAG-COMMS>", f"<COMPANY-DATAS>{company}</COMPANY-DATAS><DIAG-COMMS>", 1
+    )
+    return {"c.odx-d": container({"BASE-VARIANTS": base})}
