@@ -81,7 +81,7 @@ std::string ValueMessage(CLI::ParseError const& error) {
     if (isAboutCount && text.find("At Most 1") != std::string::npos) {
         return option + " may be given once";
     }
-    return text;
+    return Shown(std::string_view(text));
 }
 
 /// What is wrong with a call that could not be understood, with near names for what may be misspelt in it.
@@ -131,7 +131,7 @@ int Main(int count, char** words) {
         PreparePlatform();
         status = Run(ArgumentsInUtf8(count, words), output);
     } catch (std::exception const& exception) {
-        output.Complain(exception.what());
+        output.Complain(Shown(std::string_view(exception.what())));
     }
     if (!output.Finish()) {
         status = VStatus::Unreadable;

@@ -254,6 +254,47 @@ class Writing(unittest.TestCase):
         self.assertNotIn("\x1b", done.stdout + done.stderr)
 
 
+class Steering(unittest.TestCase):
+    """Characters that steer a terminal or turn the direction of text."""
+
+    TURNING = "\u061c\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069"
+    CONTROLS = "\x1b\x7f\x80\x85\x9b\x9f"
+    SEPARATORS = "\u2028\u2029"
+    ALL = CONTROLS + SEPARATORS + TURNING
+
+    def test_messages_about_the_call_replace_them(self):
+        calls = (
+            ["view", "out-params", "x", "--range"],
+            ["check", "x", "--format"],
+            ["layers", "x", "--max-depth"],
+            ["layers", "x", "--max-file-size"],
+            ["traverse", "x", "--layer", "L", "--max-visits"],
+            ["view"],
+            ["enums", "Radix", "HEX"],
+            [],
+        )
+        for call in calls:
+            with self.subTest(call):
+                done = run(*call, f"7{self.ALL}m")
+                self.assertEqual((done.returncode, done.stdout), (2, ""))
+                self.assertIn("7" + "\ufffd" * len(self.ALL) + "m", done.stderr)
+                self.assertFalse(set(self.ALL) & set(done.stderr))
+
+    def test_text_answers_and_diagnostics_replace_them(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "layers.odx-d"
+            path.write_text(
+                '<ODX MODEL-VERSION="2.0.1"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS><PROTOCOL '
+                f'ID="P"><SHORT-NAME>P{self.TURNING}Q</SHORT-NAME></PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>',
+                encoding="utf-8",
+            )
+            for call in (["layers"], ["traverse", "--layer", "P"], ["check"]):
+                done = run(*call, path)
+                written = done.stdout + done.stderr
+                self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)
+                self.assertFalse(set(self.TURNING) & set(written))
+
+
 class OemOfEach(unittest.TestCase):
     def test_a_folder_stands_for_the_odx_files_in_it(self):
         databases = pathlib.Path(__file__).resolve().parents[1] / "oem" / "databases"
