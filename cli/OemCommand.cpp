@@ -5,10 +5,10 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Ascii.h>
@@ -50,36 +50,32 @@ int CodeOf(VManufacturer manufacturer) { return static_cast<int>(manufacturer); 
 
 // JSON
 
-nlohmann::ordered_json JsonOf(VOemRuleReport const& rule, bool isListNamed) {
-    nlohmann::ordered_json entry;
-    entry["name"] = NReader::ToUtf8(rule.name);
-    entry["matches"] = rule.matches;
-    if (isListNamed) {
-        entry["list"] = rule.list;
-    }
-    return entry;
+void WriteRule(VJsonWriter& json, VOemRuleReport const& rule, bool isListNamed) {
+    json.Object([&] {
+        json.Member("name", rule.name);
+        json.Member("matches", rule.matches);
+        if (isListNamed) {
+            json.Member("list", rule.list);
+        }
+    });
 }
 
-nlohmann::ordered_json JsonOf(VOemHeuristicReport const& heuristic) {
-    nlohmann::ordered_json entry;
-    entry["name"] = NReader::ToUtf8(heuristic.name);
-    entry["code"] = CodeOf(heuristic.manufacturer);
-    entry["matches"] = heuristic.matches;
-    entry["rules"] = nlohmann::ordered_json::array();
-    for (VOemRuleReport const& rule : heuristic.rules) {
-        entry["rules"].push_back(JsonOf(rule, heuristic.lists > 1));
-    }
-    return entry;
+void WriteHeuristic(VJsonWriter& json, VOemHeuristicReport const& heuristic) {
+    json.Object([&] {
+        json.Member("name", heuristic.name);
+        json.Member("code", CodeOf(heuristic.manufacturer));
+        json.Member("matches", heuristic.matches);
+        json.ArrayOf("rules", heuristic.rules,
+                     [&](VOemRuleReport const& rule) { WriteRule(json, rule, heuristic.lists > 1); });
+    });
 }
 
-/// Adds the members of the report to what the document holds.
-void AddReport(VOemReport const& report, nlohmann::ordered_json& document) {
-    document["manufacturer"] = NameOf(report.manufacturer);
-    document["code"] = CodeOf(report.manufacturer);
-    document["heuristics"] = nlohmann::ordered_json::array();
-    for (VOemHeuristicReport const& heuristic : report.heuristics) {
-        document["heuristics"].push_back(JsonOf(heuristic));
-    }
+/// The members of a report, behind those that an object holds already.
+void WriteReport(VJsonWriter& json, VOemReport const& report) {
+    json.Member("manufacturer", NameOf(report.manufacturer));
+    json.Member("code", CodeOf(report.manufacturer));
+    json.ArrayOf("heuristics", report.heuristics,
+                 [&json](VOemHeuristicReport const& heuristic) { WriteHeuristic(json, heuristic); });
 }
 
 // Text
@@ -139,10 +135,12 @@ std::string ReasonOf(NReader::VReadResult const& result) {
 
 void WriteAnswer(std::string const& file, VOemReport const& report, bool isJson, VOutput& output) {
     if (isJson) {
-        nlohmann::ordered_json line;
-        line["file"] = file;
-        AddReport(report, line);
-        output.WriteJsonLine(line);
+        WriteJsonLine(output, [&](VJsonWriter& json) {
+            json.Object([&] {
+                json.Member("file", file);
+                WriteReport(json, report);
+            });
+        });
     } else {
         output.Write(fmt::format("{}: {}\n", Shown(file), AnswerOf(report)));
     }
@@ -150,10 +148,12 @@ void WriteAnswer(std::string const& file, VOemReport const& report, bool isJson,
 
 void WriteError(std::string const& file, std::string const& reason, bool isJson, VOutput& output) {
     if (isJson) {
-        nlohmann::ordered_json line;
-        line["file"] = file;
-        line["error"] = reason;
-        output.WriteJsonLine(line);
+        WriteJsonLine(output, [&](VJsonWriter& json) {
+            json.Object([&] {
+                json.Member("file", file);
+                json.Member("error", reason);
+            });
+        });
     } else {
         output.Write(fmt::format("{}: not answered for: {}\n", Shown(file), reason));
     }
@@ -224,9 +224,7 @@ VStatus RunOem(VArguments const& arguments, VOutput& output) {
     }
     VOemReport const report = ReportOf(result);
     if (arguments.isJson) {
-        nlohmann::ordered_json document;
-        AddReport(report, document);
-        output.WriteJson(document);
+        WriteJson(output, [&](VJsonWriter& json) { json.Object([&] { WriteReport(json, report); }); });
     } else {
         WriteText(report, output);
     }

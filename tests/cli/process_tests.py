@@ -262,6 +262,12 @@ class Steering(unittest.TestCase):
     SEPARATORS = "\u2028\u2029"
     ALL = CONTROLS + SEPARATORS + TURNING
 
+    def ask_for(self, name):
+        """The raw name of an answer that nothing of the name is there, and the whole answer."""
+        done = run("resolve", "dop", name, "signals.odx-d", "--layer", "LampLeft", "--json", "--quiet")
+        self.assertEqual(done.returncode, 1)
+        return re.search(r'"name": "(.*)"', done.stdout)[1], json.loads(done.stdout)
+
     def test_messages_about_the_call_replace_them(self):
         calls = (
             ["view", "out-params", "x", "--range"],
@@ -293,6 +299,31 @@ class Steering(unittest.TestCase):
                 written = done.stdout + done.stderr
                 self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)
                 self.assertFalse(set(self.TURNING) & set(written))
+
+    def test_json_escapes_them(self):
+        raw, answer = self.ask_for(f"A{self.ALL}Z")
+        self.assertEqual(raw, "A" + "".join(f"\\u{ord(character):04x}" for character in self.ALL) + "Z")
+        self.assertEqual(answer["name"], f"A{self.ALL}Z")
+
+    def test_json_writes_all_other_characters_as_they_are(self):
+        name = "A\xa0\xad\xdf\u0430\u200d\u2027\u202f\u2030\u2065\u206a\u20ac\uffff\U0001f600Z"
+        self.assertEqual(self.ask_for(name)[0], name)
+
+    @unittest.skipUnless(IS_POSIX, "needs arguments of any bytes")
+    def test_json_replaces_bytes_that_are_not_utf8(self):
+        if is_for_windows():
+            self.skipTest("arguments are UTF-16")
+        # Lone and missing continuations, too long spellings, surrogates, values beyond Unicode.
+        pieces = (b"\x80", b"\xbf\xbf", b"\xc3", b"\xe2\x82", b"\xe2\x28\xa1", b"\xf0\x9f\x98", b"\xf0\x28\x8c\xbc",
+                  b"\xc0\xaf", b"\xc1\xbf", b"\xe0\x9f\x80", b"\xf0\x8f\xbf\xbf", b"\xed\xa0\x80", b"\xf4\x90\x80\x80",
+                  b"\xf5\x80", b"\xff")
+        for piece in pieces:
+            for text in (piece, b"A" + piece + b"\xc3\xa4", piece + piece):
+                self.assertEqual(self.ask_for(os.fsdecode(text))[0], text.decode("utf-8", "replace"))
+
+    def test_json_escapes_what_json_itself_wants(self):
+        raw, answer = self.ask_for('q"b\\t\t.')
+        self.assertEqual((raw, answer["name"]), (r"q\"b\\t\t.", 'q"b\\t\t.'))
 
 
 class OemOfEach(unittest.TestCase):
