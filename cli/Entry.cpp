@@ -22,4 +22,13 @@ void WriteEntry(VJsonWriter& json, NODX201::VOdxElement const& element) {
     });
 }
 
+void WriteEntryOrNull(VJsonWriter& json, std::string_view name, NODX201::VOdxElement const* element) {
+    json.Name(name);
+    if (element != nullptr) {
+        WriteEntry(json, *element);
+    } else {
+        json.Value(nullptr);
+    }
+}
+
 } // namespace NCli

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
-#include <array>
 #include <filesystem>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/Load.h>
+#include <diagkit/cli/OemAnswer.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Ascii.h>
-#include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
 namespace NCli {
@@ -20,100 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using NDIAGKIT::VManufacturer;
-using NDIAGKIT::VOemHeuristicReport;
 using NDIAGKIT::VOemReport;
-using NDIAGKIT::VOemRuleReport;
-
-struct VManufacturerName {
-    VManufacturer manufacturer;
-    char const* name;
-};
-
-constexpr std::array kNames{
-    VManufacturerName{VManufacturer::Daimler, "Daimler"}, VManufacturerName{VManufacturer::Claas, "Claas"},
-    VManufacturerName{VManufacturer::Pag, "Pag"},         VManufacturerName{VManufacturer::AudiVw, "AudiVw"},
-    VManufacturerName{VManufacturer::Bmw, "Bmw"},         VManufacturerName{VManufacturer::Fiat, "Fiat"},
-    VManufacturerName{VManufacturer::Gm, "Gm"},           VManufacturerName{VManufacturer::Psa, "Psa"},
-};
-
-char const* NameOf(VManufacturer manufacturer) {
-    for (VManufacturerName const& row : kNames) {
-        if (row.manufacturer == manufacturer) {
-            return row.name;
-        }
-    }
-    return "Unknown";
-}
-
-int CodeOf(VManufacturer manufacturer) { return static_cast<int>(manufacturer); }
-
-// JSON
-
-void WriteRule(VJsonWriter& json, VOemRuleReport const& rule, bool isListNamed) {
-    json.Object([&] {
-        json.Member("name", rule.name);
-        json.Member("matches", rule.matches);
-        if (isListNamed) {
-            json.Member("list", rule.list);
-        }
-    });
-}
-
-void WriteHeuristic(VJsonWriter& json, VOemHeuristicReport const& heuristic) {
-    json.Object([&] {
-        json.Member("name", heuristic.name);
-        json.Member("code", CodeOf(heuristic.manufacturer));
-        json.Member("matches", heuristic.matches);
-        json.ArrayOf("rules", heuristic.rules,
-                     [&](VOemRuleReport const& rule) { WriteRule(json, rule, heuristic.lists > 1); });
-    });
-}
-
-/// The members of a report, behind those that an object holds already.
-void WriteReport(VJsonWriter& json, VOemReport const& report) {
-    json.Member("manufacturer", NameOf(report.manufacturer));
-    json.Member("code", CodeOf(report.manufacturer));
-    json.ArrayOf("heuristics", report.heuristics,
-                 [&json](VOemHeuristicReport const& heuristic) { WriteHeuristic(json, heuristic); });
-}
-
-// Text
-
-/// "Daimler (1)", or why nobody can be named.
-std::string AnswerOf(VOemReport const& report) {
-    std::string const answer = fmt::format("{} ({})", NameOf(report.manufacturer), CodeOf(report.manufacturer));
-    if (report.manufacturer != VManufacturer::Unknown) {
-        return answer;
-    }
-    std::string matching;
-    for (VOemHeuristicReport const& heuristic : report.heuristics) {
-        if (heuristic.matches) {
-            matching += (matching.empty() ? "" : ", ") + NReader::ToUtf8(heuristic.name);
-        }
-    }
-    return answer + (matching.empty() ? ": no heuristic matches" : ": several match, " + matching);
-}
-
-void WriteHeuristic(VOemHeuristicReport const& heuristic, VOutput& output) {
-    std::string const heading = fmt::format("{}, {} ({})", NReader::ToUtf8(heuristic.name),
-                                            NameOf(heuristic.manufacturer), CodeOf(heuristic.manufacturer));
-    output.Write(fmt::format("\n{}: {}\n", output.Heading(heading), heuristic.matches ? "matches" : "does not match"));
-    VColumns columns;
-    for (VOemRuleReport const& rule : heuristic.rules) {
-        bool const isMarked = rule.isDecisive && !heuristic.matches;
-        columns.Add({heuristic.lists > 1 ? fmt::format("list {}", rule.list) : "", NReader::ToUtf8(rule.name),
-                     rule.matches ? "yes" : "no", isMarked ? "<- decides" : ""});
-    }
-    output.Write(columns.Format());
-}
-
-void WriteText(VOemReport const& report, VOutput& output) {
-    output.Write(output.Heading(AnswerOf(report)) + "\n");
-    for (VOemHeuristicReport const& heuristic : report.heuristics) {
-        WriteHeuristic(heuristic, output);
-    }
-}
 
 VOemReport ReportOf(NReader::VReadResult const& result) {
     return NDIAGKIT::VOemChecker().Report(result.database->GetOdx());
@@ -138,11 +43,11 @@ void WriteAnswer(std::string const& file, VOemReport const& report, bool isJson,
         WriteJsonLine(output, [&](VJsonWriter& json) {
             json.Object([&] {
                 json.Member("file", file);
-                WriteReport(json, report);
+                WriteReportMembers(json, report);
             });
         });
     } else {
-        output.Write(fmt::format("{}: {}\n", Shown(file), AnswerOf(report)));
+        output.Write(fmt::format("{}: {}\n", Shown(file), LineOf(report)));
     }
 }
 
@@ -165,42 +70,51 @@ bool IsNamedLikeOdx(fs::path const& path) {
     return extension == ".pdx" || extension == ".zip" || extension == ".xml" || extension.rfind(".odx", 0) == 0;
 }
 
-/// The files, and in place of a folder those in it that are named like ODX, by name.
-std::vector<std::string> FilesOf(std::vector<std::string> const& named) {
-    std::vector<std::string> files;
-    for (std::string const& name : named) {
-        std::error_code error;
-        fs::directory_iterator const folder(fs::u8path(name), error);
-        if (error) {
-            files.push_back(name); // a file, or something whose reading says why it is none
-            continue;
-        }
-        std::size_t const first = files.size();
-        for (fs::directory_entry const& entry : folder) {
-            if (IsNamedLikeOdx(entry.path())) {
-                files.push_back(entry.path().generic_u8string());
-            }
-        }
-        std::sort(files.begin() + static_cast<std::ptrdiff_t>(first), files.end());
+/// The files that a name stands for: those in a folder that are named like ODX, by name; otherwise itself.
+std::vector<std::string> FilesOf(std::string const& name) {
+    std::error_code error;
+    fs::directory_iterator const folder(fs::u8path(name), error);
+    if (error) {
+        return {name}; // a file, or something whose reading says why it is none
     }
+    std::vector<std::string> files;
+    for (fs::directory_entry const& entry : folder) {
+        if (IsNamedLikeOdx(entry.path())) {
+            files.push_back(entry.path().generic_u8string());
+        }
+    }
+    std::sort(files.begin(), files.end());
     return files;
 }
 
-/// Every file as a database of its own.
+/// A file as a database of its own.
+VStatus RunOne(std::string const& file, VArguments const& arguments, VOutput& output) {
+    VArguments one = arguments;
+    one.files = {file};
+    NReader::VReadResult result;
+    VStatus const status = Load(one, output, result);
+    if (status == VStatus::Done) {
+        WriteAnswer(file, ReportOf(result), arguments.isJson, output);
+    } else {
+        WriteError(file, ReasonOf(result), arguments.isJson, output);
+    }
+    return status;
+}
+
+/// Every file as a database of its own; what is worst about one is the status of all.
 VStatus RunEach(VArguments const& arguments, VOutput& output) {
     VStatus status = VStatus::Done;
-    VArguments one = arguments;
-    for (std::string const& file : FilesOf(arguments.files)) {
-        if (output.HasFailed()) {
-            break;
+    for (std::string const& name : arguments.files) {
+        std::vector<std::string> const files = FilesOf(name);
+        if (files.empty()) {
+            output.Complain(fmt::format("{}: the folder holds no ODX document or package", Shown(name)));
+            status = std::max(status, VStatus::NotThere);
         }
-        one.files = {file};
-        NReader::VReadResult result;
-        if (VStatus const loaded = Load(one, output, result); loaded == VStatus::Done) {
-            WriteAnswer(file, ReportOf(result), arguments.isJson, output);
-        } else {
-            WriteError(file, ReasonOf(result), arguments.isJson, output);
-            status = loaded;
+        for (std::string const& file : files) {
+            if (output.HasFailed()) {
+                return status;
+            }
+            status = std::max(status, RunOne(file, arguments, output));
         }
     }
     return status;
@@ -224,9 +138,9 @@ VStatus RunOem(VArguments const& arguments, VOutput& output) {
     }
     VOemReport const report = ReportOf(result);
     if (arguments.isJson) {
-        WriteJson(output, [&](VJsonWriter& json) { json.Object([&] { WriteReport(json, report); }); });
+        WriteJson(output, [&](VJsonWriter& json) { json.Object([&] { WriteReportMembers(json, report); }); });
     } else {
-        WriteText(report, output);
+        WriteReport(report, output);
     }
     return VStatus::Done;
 }

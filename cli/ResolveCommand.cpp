@@ -253,12 +253,7 @@ void WriteAsJson(VJsonWriter& json, VQuestion const& question, VAnswer const& an
         json.Member("kind", question.arguments.kind);
         json.Member("name", question.arguments.name);
         json.Member("found", answer.found != nullptr);
-        json.Name("entry");
-        if (answer.found != nullptr) {
-            WriteEntry(json, *answer.found);
-        } else {
-            json.Value(nullptr);
-        }
+        WriteEntryOrNull(json, "entry", answer.found);
     });
 }
 

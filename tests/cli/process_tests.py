@@ -353,10 +353,17 @@ class OemOfEach(unittest.TestCase):
         alone = run("oem", "--strict", "doors.odx-d")
         self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not pass$")
 
-    def test_an_empty_folder_gives_nothing(self):
+    def test_a_folder_without_odx_is_named(self):
         with tempfile.TemporaryDirectory() as folder:
-            done = run("oem", "--each", "--json", folder)
-        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+            (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
+            message = f"diagkit: {folder}: the folder holds no ODX document or package\n"
+            for options in ([], ["--json"], ["--quiet"]):
+                done = run("oem", "--each", folder, *options)
+                self.assertEqual((done.returncode, done.stdout, done.stderr), (1, "", message))
+            beside = run("oem", "--each", folder, "gates.odx-d")
+            self.assertEqual((beside.returncode, beside.stderr), (1, message))
+            self.assertEqual(beside.stdout, "gates.odx-d: Unknown (36): no heuristic matches\n")
+            self.assertEqual(run("oem", "--each", "absent.odx", folder).returncode, 3)
 
 
 @unittest.skipUnless(IS_POSIX, "needs pseudo terminals")
