@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/check/Check.h>
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Platform.h>
 #include <diagkit/cli/ProgressBar.h>
@@ -16,27 +16,25 @@ namespace {
 
 using VDiagnostics = std::vector<NReader::VDiagnostic>;
 
-nlohmann::ordered_json JsonOf(NReader::VDiagnostic const& diagnostic) {
-    nlohmann::ordered_json entry;
-    entry["file"] = diagnostic.file;
-    entry["line"] = diagnostic.line;
-    entry["column"] = diagnostic.column;
-    entry["severity"] = SeverityText(diagnostic.severity);
-    entry["code"] = diagnostic.code;
-    entry["message"] = diagnostic.message;
-    return entry;
+void WriteDiagnostic(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) {
+    json.Object([&] {
+        json.Member("file", diagnostic.file);
+        json.Member("line", diagnostic.line);
+        json.Member("column", diagnostic.column);
+        json.Member("severity", SeverityText(diagnostic.severity));
+        json.Member("code", diagnostic.code);
+        json.Member("message", diagnostic.message);
+    });
 }
 
-nlohmann::ordered_json JsonOf(VDiagnostics const& diagnostics) {
+void WriteAsJson(VJsonWriter& json, VDiagnostics const& diagnostics) {
     std::size_t const errors = CountErrors(diagnostics);
-    nlohmann::ordered_json answer;
-    answer["errors"] = errors;
-    answer["warnings"] = diagnostics.size() - errors;
-    answer["diagnostics"] = nlohmann::ordered_json::array();
-    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        answer["diagnostics"].push_back(JsonOf(diagnostic));
-    }
-    return answer;
+    json.Object([&] {
+        json.Member("errors", errors);
+        json.Member("warnings", diagnostics.size() - errors);
+        json.ArrayOf("diagnostics", diagnostics,
+                     [&json](NReader::VDiagnostic const& diagnostic) { WriteDiagnostic(json, diagnostic); });
+    });
 }
 
 void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
@@ -77,9 +75,9 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output) {
     }
     VDiagnostics const diagnostics = Check(arguments, result);
     if (arguments.format == "sarif") {
-        output.WriteJson(SarifOf(diagnostics));
+        WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteSarif(json, diagnostics); });
     } else if (isJson) {
-        output.WriteJson(JsonOf(diagnostics));
+        WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteAsJson(json, diagnostics); });
     } else {
         WriteText(diagnostics, output);
     }

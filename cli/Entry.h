@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
+#include <string_view>
 
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/model/OdxElement.h>
 
 namespace NCli {
 
-/// The entry object of an element, with its members in their fixed order; what the element lacks is null.
-nlohmann::ordered_json EntryOf(NODX201::VOdxElement const& element);
+/// Writes the entry object of an element, with its members in their fixed order; what the element lacks is null.
+void WriteEntry(VJsonWriter& json, NODX201::VOdxElement const& element);
 
-/// A text of the model; null for an absent one.
-nlohmann::ordered_json TextOrNull(wchar_t const* text);
+/// The same as a member; null without an element.
+void WriteEntryOrNull(VJsonWriter& json, std::string_view name, NODX201::VOdxElement const* element);
 
 } // namespace NCli

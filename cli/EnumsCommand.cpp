@@ -6,10 +6,10 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/NearNames.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Utf8.h>
@@ -74,14 +74,17 @@ std::vector<VLiteral> LiteralsOf(VTable const& table) {
     }
 }
 
-nlohmann::ordered_json JsonOf(VTable const& table) {
-    nlohmann::ordered_json document;
-    document["name"] = table.name;
-    document["literals"] = nlohmann::ordered_json::array();
-    for (VLiteral const& literal : LiteralsOf(table)) {
-        document["literals"].push_back({{"literal", literal.text}, {"value", literal.value}});
-    }
-    return document;
+void WriteLiteralMembers(VJsonWriter& json, VLiteral const& literal) {
+    json.Member("literal", literal.text);
+    json.Member("value", literal.value);
+}
+
+void WriteTableObject(VJsonWriter& json, VTable const& table) {
+    json.Object([&] {
+        json.Member("name", table.name);
+        json.ArrayOf("literals", LiteralsOf(table),
+                     [&json](VLiteral const& literal) { json.Object([&] { WriteLiteralMembers(json, literal); }); });
+    });
 }
 
 void WriteText(VTable const& table, VOutput& output) {
@@ -94,12 +97,11 @@ void WriteText(VTable const& table, VOutput& output) {
 
 VStatus WriteAll(VArguments const& arguments, VOutput& output) {
     if (arguments.isJson) {
-        nlohmann::ordered_json document;
-        document["tables"] = nlohmann::ordered_json::array();
-        for (VTable const& table : kTables) {
-            document["tables"].push_back(JsonOf(table));
-        }
-        output.WriteJson(document);
+        WriteJson(output, [](VJsonWriter& json) {
+            json.Object([&] {
+                json.ArrayOf("tables", kTables, [&json](VTable const& table) { WriteTableObject(json, table); });
+            });
+        });
         return VStatus::Done;
     }
     for (VTable const& table : kTables) {
@@ -110,7 +112,7 @@ VStatus WriteAll(VArguments const& arguments, VOutput& output) {
 
 VStatus WriteTable(VTable const& table, VArguments const& arguments, VOutput& output) {
     if (arguments.isJson) {
-        output.WriteJson(JsonOf(table));
+        WriteJson(output, [&table](VJsonWriter& json) { WriteTableObject(json, table); });
     } else {
         WriteText(table, output);
     }
@@ -137,11 +139,12 @@ VStatus WriteLiteral(VTable const& table, VArguments const& arguments, VOutput& 
         return VStatus::NotThere;
     }
     if (arguments.isJson) {
-        nlohmann::ordered_json document;
-        document["table"] = table.name;
-        document["literal"] = literal->text;
-        document["value"] = literal->value;
-        output.WriteJson(document);
+        WriteJson(output, [&](VJsonWriter& json) {
+            json.Object([&] {
+                json.Member("table", table.name);
+                WriteLiteralMembers(json, *literal);
+            });
+        });
     } else {
         output.Write(fmt::format("{} {} = {}\n", table.name, literal->text, literal->value));
     }

@@ -4,11 +4,10 @@
 #include <map>
 
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
-#include <diagkit/cli/Entry.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Utf8.h>
@@ -87,22 +86,25 @@ std::vector<std::string> ModelVersionsOf(VDocuments& documents) {
     return versions;
 }
 
-nlohmann::ordered_json JsonOf(VDocuments& documents, NMemory::VDatabase const& database) {
-    nlohmann::ordered_json answer;
-    answer["model_versions"] = ModelVersionsOf(documents);
-    answer["documents"] = nlohmann::ordered_json::array();
-    documents.ForEach([&answer](VDocument const& document) {
-        nlohmann::ordered_json entry;
-        entry["file"] = NReader::ToUtf8(document.GetFileName());
-        entry["category"] = document.GetCategory();
-        entry["short_name"] = TextOrNull(document.GetShortName());
-        answer["documents"].push_back(std::move(entry));
+void WriteAsJson(VJsonWriter& json, VDocuments& documents, NMemory::VDatabase const& database) {
+    json.Object([&] {
+        json.ArrayOf("model_versions", ModelVersionsOf(documents),
+                     [&json](std::string const& version) { json.Value(version); });
+        json.Array("documents", [&] {
+            documents.ForEach([&json](VDocument const& document) {
+                json.Object([&] {
+                    json.Member("file", document.GetFileName());
+                    json.Member("category", document.GetCategory());
+                    json.TextOrNull("short_name", document.GetShortName());
+                });
+            });
+        });
+        json.Object("counts", [&] {
+            for (auto const& [tag, count] : CountsOf(database)) {
+                json.Member(tag, count);
+            }
+        });
     });
-    answer["counts"] = nlohmann::ordered_json::object();
-    for (auto const& [tag, count] : CountsOf(database)) {
-        answer["counts"][tag] = count;
-    }
-    return answer;
 }
 
 void WriteDocuments(VDocuments& documents, VOutput& output) {
@@ -148,7 +150,7 @@ VStatus RunInfo(VArguments const& arguments, VOutput& output) {
     }
     VDocuments documents(result.documents);
     if (arguments.isJson) {
-        output.WriteJson(JsonOf(documents, *result.database));
+        WriteJson(output, [&](VJsonWriter& json) { WriteAsJson(json, documents, *result.database); });
     } else {
         WriteText(documents, result, output);
     }

@@ -1,46 +1,32 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <nlohmann/json.hpp>
-
 #include <diagkit/cli/Commands.h>
-#include <diagkit/cli/Entry.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/LayerTree.h>
 #include <diagkit/cli/Layers.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Parents.h>
 #include <diagkit/cli/Text.h>
-#include <diagkit/reader/Utf8.h>
 
 namespace NCli {
 namespace {
 
-nlohmann::ordered_json JsonOf(VParent const& parent) {
-    nlohmann::ordered_json entry;
-    entry["short_name"] = TextOrNull(parent.name.c_str());
-    entry["kind"] = parent.kind.empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(parent.kind);
-    entry["resolved"] = parent.layer != nullptr;
-    return entry;
+void WriteParent(VJsonWriter& json, VParent const& parent) {
+    json.Object([&] {
+        json.TextOrNull("short_name", parent.name);
+        json.TextOrNull("kind", parent.kind);
+        json.Member("resolved", parent.layer != nullptr);
+    });
 }
 
-nlohmann::ordered_json JsonOf(VPlacedLayer const& placed) {
-    nlohmann::ordered_json entry;
-    entry["short_name"] = TextOrNull(placed.layer->GetShortName());
-    entry["kind"] = TagTextOf(*placed.layer);
-    entry["id"] = TextOrNull(placed.layer->GetId());
-    entry["container"] = TextOrNull(placed.container->GetShortName());
-    entry["parents"] = nlohmann::ordered_json::array();
-    for (VParent const& parent : ParentsOf(*placed.layer)) {
-        entry["parents"].push_back(JsonOf(parent));
-    }
-    return entry;
-}
-
-nlohmann::ordered_json JsonOf(std::vector<VPlacedLayer> const& layers) {
-    nlohmann::ordered_json answer;
-    answer["layers"] = nlohmann::ordered_json::array();
-    for (VPlacedLayer const& placed : layers) {
-        answer["layers"].push_back(JsonOf(placed));
-    }
-    return answer;
+void WriteLayer(VJsonWriter& json, VPlacedLayer const& placed) {
+    json.Object([&] {
+        json.TextOrNull("short_name", placed.layer->GetShortName());
+        json.Member("kind", TagTextOf(*placed.layer));
+        json.TextOrNull("id", placed.layer->GetId());
+        json.TextOrNull("container", placed.container->GetShortName());
+        json.ArrayOf("parents", ParentsOf(*placed.layer),
+                     [&json](VParent const& parent) { WriteParent(json, parent); });
+    });
 }
 
 } // namespace
@@ -52,7 +38,11 @@ VStatus RunLayers(VArguments const& arguments, VOutput& output) {
     }
     std::vector<VPlacedLayer> const layers = LayersOf(*result.database);
     if (arguments.isJson) {
-        output.WriteJson(JsonOf(layers));
+        WriteJson(output, [&layers](VJsonWriter& json) {
+            json.Object([&] {
+                json.ArrayOf("layers", layers, [&json](VPlacedLayer const& placed) { WriteLayer(json, placed); });
+            });
+        });
     } else {
         WriteLayerTree(layers, output);
     }

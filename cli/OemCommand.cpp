@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
-#include <array>
 #include <filesystem>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
-#include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/Load.h>
+#include <diagkit/cli/OemAnswer.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/reader/Ascii.h>
-#include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
 namespace NCli {
@@ -20,104 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using NDIAGKIT::VManufacturer;
-using NDIAGKIT::VOemHeuristicReport;
 using NDIAGKIT::VOemReport;
-using NDIAGKIT::VOemRuleReport;
-
-struct VManufacturerName {
-    VManufacturer manufacturer;
-    char const* name;
-};
-
-constexpr std::array kNames{
-    VManufacturerName{VManufacturer::Daimler, "Daimler"}, VManufacturerName{VManufacturer::Claas, "Claas"},
-    VManufacturerName{VManufacturer::Pag, "Pag"},         VManufacturerName{VManufacturer::AudiVw, "AudiVw"},
-    VManufacturerName{VManufacturer::Bmw, "Bmw"},         VManufacturerName{VManufacturer::Fiat, "Fiat"},
-    VManufacturerName{VManufacturer::Gm, "Gm"},           VManufacturerName{VManufacturer::Psa, "Psa"},
-};
-
-char const* NameOf(VManufacturer manufacturer) {
-    for (VManufacturerName const& row : kNames) {
-        if (row.manufacturer == manufacturer) {
-            return row.name;
-        }
-    }
-    return "Unknown";
-}
-
-int CodeOf(VManufacturer manufacturer) { return static_cast<int>(manufacturer); }
-
-// JSON
-
-nlohmann::ordered_json JsonOf(VOemRuleReport const& rule, bool isListNamed) {
-    nlohmann::ordered_json entry;
-    entry["name"] = NReader::ToUtf8(rule.name);
-    entry["matches"] = rule.matches;
-    if (isListNamed) {
-        entry["list"] = rule.list;
-    }
-    return entry;
-}
-
-nlohmann::ordered_json JsonOf(VOemHeuristicReport const& heuristic) {
-    nlohmann::ordered_json entry;
-    entry["name"] = NReader::ToUtf8(heuristic.name);
-    entry["code"] = CodeOf(heuristic.manufacturer);
-    entry["matches"] = heuristic.matches;
-    entry["rules"] = nlohmann::ordered_json::array();
-    for (VOemRuleReport const& rule : heuristic.rules) {
-        entry["rules"].push_back(JsonOf(rule, heuristic.lists > 1));
-    }
-    return entry;
-}
-
-/// Adds the members of the report to what the document holds.
-void AddReport(VOemReport const& report, nlohmann::ordered_json& document) {
-    document["manufacturer"] = NameOf(report.manufacturer);
-    document["code"] = CodeOf(report.manufacturer);
-    document["heuristics"] = nlohmann::ordered_json::array();
-    for (VOemHeuristicReport const& heuristic : report.heuristics) {
-        document["heuristics"].push_back(JsonOf(heuristic));
-    }
-}
-
-// Text
-
-/// "Daimler (1)", or why nobody can be named.
-std::string AnswerOf(VOemReport const& report) {
-    std::string const answer = fmt::format("{} ({})", NameOf(report.manufacturer), CodeOf(report.manufacturer));
-    if (report.manufacturer != VManufacturer::Unknown) {
-        return answer;
-    }
-    std::string matching;
-    for (VOemHeuristicReport const& heuristic : report.heuristics) {
-        if (heuristic.matches) {
-            matching += (matching.empty() ? "" : ", ") + NReader::ToUtf8(heuristic.name);
-        }
-    }
-    return answer + (matching.empty() ? ": no heuristic matches" : ": several match, " + matching);
-}
-
-void WriteHeuristic(VOemHeuristicReport const& heuristic, VOutput& output) {
-    std::string const heading = fmt::format("{}, {} ({})", NReader::ToUtf8(heuristic.name),
-                                            NameOf(heuristic.manufacturer), CodeOf(heuristic.manufacturer));
-    output.Write(fmt::format("\n{}: {}\n", output.Heading(heading), heuristic.matches ? "matches" : "does not match"));
-    VColumns columns;
-    for (VOemRuleReport const& rule : heuristic.rules) {
-        bool const isMarked = rule.isDecisive && !heuristic.matches;
-        columns.Add({heuristic.lists > 1 ? fmt::format("list {}", rule.list) : "", NReader::ToUtf8(rule.name),
-                     rule.matches ? "yes" : "no", isMarked ? "<- decides" : ""});
-    }
-    output.Write(columns.Format());
-}
-
-void WriteText(VOemReport const& report, VOutput& output) {
-    output.Write(output.Heading(AnswerOf(report)) + "\n");
-    for (VOemHeuristicReport const& heuristic : report.heuristics) {
-        WriteHeuristic(heuristic, output);
-    }
-}
 
 VOemReport ReportOf(NReader::VReadResult const& result) {
     return NDIAGKIT::VOemChecker().Report(result.database->GetOdx());
@@ -139,21 +40,25 @@ std::string ReasonOf(NReader::VReadResult const& result) {
 
 void WriteAnswer(std::string const& file, VOemReport const& report, bool isJson, VOutput& output) {
     if (isJson) {
-        nlohmann::ordered_json line;
-        line["file"] = file;
-        AddReport(report, line);
-        output.WriteJsonLine(line);
+        WriteJsonLine(output, [&](VJsonWriter& json) {
+            json.Object([&] {
+                json.Member("file", file);
+                WriteReportMembers(json, report);
+            });
+        });
     } else {
-        output.Write(fmt::format("{}: {}\n", Shown(file), AnswerOf(report)));
+        output.Write(fmt::format("{}: {}\n", Shown(file), LineOf(report)));
     }
 }
 
 void WriteError(std::string const& file, std::string const& reason, bool isJson, VOutput& output) {
     if (isJson) {
-        nlohmann::ordered_json line;
-        line["file"] = file;
-        line["error"] = reason;
-        output.WriteJsonLine(line);
+        WriteJsonLine(output, [&](VJsonWriter& json) {
+            json.Object([&] {
+                json.Member("file", file);
+                json.Member("error", reason);
+            });
+        });
     } else {
         output.Write(fmt::format("{}: not answered for: {}\n", Shown(file), reason));
     }
@@ -165,42 +70,51 @@ bool IsNamedLikeOdx(fs::path const& path) {
     return extension == ".pdx" || extension == ".zip" || extension == ".xml" || extension.rfind(".odx", 0) == 0;
 }
 
-/// The files, and in place of a folder those in it that are named like ODX, by name.
-std::vector<std::string> FilesOf(std::vector<std::string> const& named) {
-    std::vector<std::string> files;
-    for (std::string const& name : named) {
-        std::error_code error;
-        fs::directory_iterator const folder(fs::u8path(name), error);
-        if (error) {
-            files.push_back(name); // a file, or something whose reading says why it is none
-            continue;
-        }
-        std::size_t const first = files.size();
-        for (fs::directory_entry const& entry : folder) {
-            if (IsNamedLikeOdx(entry.path())) {
-                files.push_back(entry.path().generic_u8string());
-            }
-        }
-        std::sort(files.begin() + static_cast<std::ptrdiff_t>(first), files.end());
+/// The files that a name stands for: those in a folder that are named like ODX, by name; otherwise itself.
+std::vector<std::string> FilesOf(std::string const& name) {
+    std::error_code error;
+    fs::directory_iterator const folder(fs::u8path(name), error);
+    if (error) {
+        return {name}; // a file, or something whose reading says why it is none
     }
+    std::vector<std::string> files;
+    for (fs::directory_entry const& entry : folder) {
+        if (IsNamedLikeOdx(entry.path())) {
+            files.push_back(entry.path().generic_u8string());
+        }
+    }
+    std::sort(files.begin(), files.end());
     return files;
 }
 
-/// Every file as a database of its own.
+/// A file as a database of its own.
+VStatus RunOne(std::string const& file, VArguments const& arguments, VOutput& output) {
+    VArguments one = arguments;
+    one.files = {file};
+    NReader::VReadResult result;
+    VStatus const status = Load(one, output, result);
+    if (status == VStatus::Done) {
+        WriteAnswer(file, ReportOf(result), arguments.isJson, output);
+    } else {
+        WriteError(file, ReasonOf(result), arguments.isJson, output);
+    }
+    return status;
+}
+
+/// Every file as a database of its own; what is worst about one is the status of all.
 VStatus RunEach(VArguments const& arguments, VOutput& output) {
     VStatus status = VStatus::Done;
-    VArguments one = arguments;
-    for (std::string const& file : FilesOf(arguments.files)) {
-        if (output.HasFailed()) {
-            break;
+    for (std::string const& name : arguments.files) {
+        std::vector<std::string> const files = FilesOf(name);
+        if (files.empty()) {
+            output.Complain(fmt::format("{}: the folder holds no ODX document or package", Shown(name)));
+            status = std::max(status, VStatus::NotThere);
         }
-        one.files = {file};
-        NReader::VReadResult result;
-        if (VStatus const loaded = Load(one, output, result); loaded == VStatus::Done) {
-            WriteAnswer(file, ReportOf(result), arguments.isJson, output);
-        } else {
-            WriteError(file, ReasonOf(result), arguments.isJson, output);
-            status = loaded;
+        for (std::string const& file : files) {
+            if (output.HasFailed()) {
+                return status;
+            }
+            status = std::max(status, RunOne(file, arguments, output));
         }
     }
     return status;
@@ -224,11 +138,9 @@ VStatus RunOem(VArguments const& arguments, VOutput& output) {
     }
     VOemReport const report = ReportOf(result);
     if (arguments.isJson) {
-        nlohmann::ordered_json document;
-        AddReport(report, document);
-        output.WriteJson(document);
+        WriteJson(output, [&](VJsonWriter& json) { json.Object([&] { WriteReportMembers(json, report); }); });
     } else {
-        WriteText(report, output);
+        WriteReport(report, output);
     }
     return VStatus::Done;
 }

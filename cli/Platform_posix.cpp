@@ -1,9 +1,52 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/cli/Platform.h>
 
+#include <cstddef>
+#include <cstdio>
+
+#include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <diagkit/cli/Output.h>
+#include <diagkit/cli/Status.h>
+
 namespace NCli {
+namespace {
+
+constexpr std::size_t kStack = 1U << 20U;    // several times what walks and searches take at their deepest
+constexpr std::size_t kMessages = 1U << 20U; // several times what the longest help takes
+
+bool IsAvailable(std::size_t size) {
+    void* const room = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    return room != MAP_FAILED && ::munmap(room, size) == 0;
+}
+
+bool MayStackGrow() {
+    rlimit limit{};
+    return ::getrlimit(RLIMIT_STACK, &limit) == 0 && (limit.rlim_cur == RLIM_INFINITY || limit.rlim_cur >= 2 * kStack);
+}
+
+/// A stack that has to grow when memory has run out ends the program by a signal. So it takes its addresses at once.
+[[gnu::noinline]] void GrowStack() {
+    [[maybe_unused]] char volatile room[kStack];
+    room[0] = '\0'; // the far end
+}
+
+/// Comes before the objects of the program are made, some of which take memory. Without enough of it the program ends
+/// as any call does whose memory runs out later; text streams, which write the help, would take that for the end of a
+/// text.
+[[gnu::constructor(101)]] void TakeRoom() {
+    if (!IsAvailable(kStack + kMessages)) {
+        std::fputs(kOutOfMemory, stderr);
+        ::_exit(static_cast<int>(VStatus::Unreadable));
+    }
+    if (MayStackGrow()) {
+        GrowStack();
+    }
+}
+
+} // namespace
 
 void PreparePlatform() {}
 

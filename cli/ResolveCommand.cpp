@@ -6,7 +6,6 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Columns.h>
 #include <diagkit/cli/Commands.h>
@@ -242,14 +241,18 @@ void WriteText(VAnswer const& answer, VOutput& output) {
     output.Write(columns.Format(""));
 }
 
+void WriteAsJson(VJsonWriter& json, VQuestion const& question, VAnswer const& answer) {
+    json.Object([&] {
+        json.Member("kind", question.arguments.kind);
+        json.Member("name", question.arguments.name);
+        json.Member("found", answer.found != nullptr);
+        WriteEntryOrNull(json, "entry", answer.found);
+    });
+}
+
 VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output) {
     if (question.arguments.isJson) {
-        nlohmann::ordered_json document;
-        document["kind"] = question.arguments.kind;
-        document["name"] = question.arguments.name;
-        document["found"] = answer.found != nullptr;
-        document["entry"] = answer.found != nullptr ? EntryOf(*answer.found) : nlohmann::ordered_json();
-        output.WriteJson(document);
+        WriteJson(output, [&](VJsonWriter& json) { WriteAsJson(json, question, answer); });
     } else if (answer.found != nullptr) {
         WriteText(answer, output);
     }

@@ -6,15 +6,12 @@
 #include <string_view>
 
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/Version.h>
 #include <diagkit/check/Codes.h>
 
 namespace NCli {
 namespace {
-
-using VJson = nlohmann::ordered_json;
 
 bool StaysInUri(char character) {
     constexpr std::string_view kPlain = "-._~/!";
@@ -45,62 +42,63 @@ std::string MessageOf(std::string const& text) {
     return message;
 }
 
-VJson RuleOf(NCheck::VCode const& code) {
-    VJson rule;
-    rule["id"] = code.code;
-    rule["shortDescription"]["text"] = code.title;
-    rule["defaultConfiguration"]["level"] = SeverityText(code.severity);
-    return rule;
+void WriteRule(VJsonWriter& json, NCheck::VCode const& code) {
+    json.Object([&] {
+        json.Member("id", code.code);
+        json.Object("shortDescription", [&] { json.Member("text", code.title); });
+        json.Object("defaultConfiguration", [&] { json.Member("level", SeverityText(code.severity)); });
+    });
 }
 
-VJson DriverOf() {
-    VJson driver;
-    driver["name"] = "diagkit";
-    driver["version"] = DIAGKIT_VERSION;
-    driver["rules"] = VJson::array();
-    for (NCheck::VCode const& code : NCheck::Codes()) {
-        driver["rules"].push_back(RuleOf(code));
-    }
-    return driver;
+void WriteDriver(VJsonWriter& json) {
+    json.Object("driver", [&] {
+        json.Member("name", "diagkit");
+        json.Member("version", DIAGKIT_VERSION);
+        json.ArrayOf("rules", NCheck::Codes(), [&json](NCheck::VCode const& code) { WriteRule(json, code); });
+    });
 }
 
-VJson LocationOf(NReader::VDiagnostic const& diagnostic) {
-    VJson location;
-    location["artifactLocation"]["uri"] = UriOf(diagnostic.file);
-    if (diagnostic.line != 0) {
-        location["region"]["startLine"] = diagnostic.line;
-        location["region"]["startColumn"] = std::max(diagnostic.column, 1U);
-    }
-    return {{"physicalLocation", std::move(location)}};
+void WriteLocation(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) {
+    json.Object("physicalLocation", [&] {
+        json.Object("artifactLocation", [&] { json.Member("uri", UriOf(diagnostic.file)); });
+        if (diagnostic.line != 0) {
+            json.Object("region", [&] {
+                json.Member("startLine", diagnostic.line);
+                json.Member("startColumn", std::max(diagnostic.column, 1U));
+            });
+        }
+    });
 }
 
-VJson ResultOf(NReader::VDiagnostic const& diagnostic) {
-    VJson result;
-    result["ruleId"] = diagnostic.code;
-    if (NCheck::VCode const* const code = NCheck::FindCode(diagnostic.code)) {
-        result["ruleIndex"] = code - NCheck::Codes().data();
-    }
-    result["level"] = SeverityText(diagnostic.severity);
-    result["message"]["text"] = MessageOf(diagnostic.message);
-    result["locations"] = VJson::array({LocationOf(diagnostic)});
-    return result;
+void WriteResult(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) {
+    json.Object([&] {
+        json.Member("ruleId", diagnostic.code);
+        if (NCheck::VCode const* const code = NCheck::FindCode(diagnostic.code)) {
+            json.Member("ruleIndex", code - NCheck::Codes().data());
+        }
+        json.Member("level", SeverityText(diagnostic.severity));
+        json.Object("message", [&] { json.Member("text", MessageOf(diagnostic.message)); });
+        json.Array("locations", [&] { json.Object([&] { WriteLocation(json, diagnostic); }); });
+    });
+}
+
+void WriteRun(VJsonWriter& json, std::vector<NReader::VDiagnostic> const& diagnostics) {
+    json.Object([&] {
+        json.Object("tool", [&] { WriteDriver(json); });
+        json.Member("columnKind", "unicodeCodePoints");
+        json.ArrayOf("results", diagnostics,
+                     [&json](NReader::VDiagnostic const& diagnostic) { WriteResult(json, diagnostic); });
+    });
 }
 
 } // namespace
 
-VJson SarifOf(std::vector<NReader::VDiagnostic> const& diagnostics) {
-    VJson run;
-    run["tool"]["driver"] = DriverOf();
-    run["columnKind"] = "unicodeCodePoints";
-    run["results"] = VJson::array();
-    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        run["results"].push_back(ResultOf(diagnostic));
-    }
-    VJson log;
-    log["$schema"] = "https://json.schemastore.org/sarif-2.1.0.json";
-    log["version"] = "2.1.0";
-    log["runs"] = VJson::array({std::move(run)});
-    return log;
+void WriteSarif(VJsonWriter& json, std::vector<NReader::VDiagnostic> const& diagnostics) {
+    json.Object([&] {
+        json.Member("$schema", "https://json.schemastore.org/sarif-2.1.0.json");
+        json.Member("version", "2.1.0");
+        json.Array("runs", [&] { WriteRun(json, diagnostics); });
+    });
 }
 
 } // namespace NCli

@@ -8,18 +8,21 @@
 #include <diagkit/reader/Utf8.h>
 
 namespace NCli {
-namespace {
 
-bool IsControl(wchar_t character) {
-    return character < L' ' || (character >= L'\x7F' && character < L'\xA0') || character == L'\x2028' ||
-           character == L'\x2029';
+bool IsSteering(char32_t character) {
+    bool const isControl = character < U' ' || (character >= U'\x7F' && character < U'\xA0');
+    bool const isSeparator = character == U'\x2028' || character == U'\x2029';
+    bool const isMark = character == U'\x200E' || character == U'\x200F' || character == U'\x061C';
+    bool const isEmbedding = character >= U'\x202A' && character <= U'\x202E';
+    bool const isIsolate = character >= U'\x2066' && character <= U'\x2069';
+    return isControl || isSeparator || isMark || isEmbedding || isIsolate;
 }
-
-} // namespace
 
 std::string Shown(std::wstring_view text) {
     std::wstring shown(text);
-    std::replace_if(shown.begin(), shown.end(), &IsControl, L'\xFFFD');
+    std::replace_if(
+        shown.begin(), shown.end(), [](wchar_t character) { return IsSteering(static_cast<char32_t>(character)); },
+        L'\xFFFD');
     return NReader::ToUtf8(shown);
 }
 

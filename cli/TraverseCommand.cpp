@@ -3,16 +3,14 @@
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/Entry.h>
+#include <diagkit/cli/JsonWriter.h>
 #include <diagkit/cli/Layers.h>
 #include <diagkit/cli/Load.h>
 #include <diagkit/cli/Text.h>
 #include <diagkit/cli/ViewText.h>
-#include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
 #include <diagkit/tools/TraverserKinds.h>
 
@@ -89,12 +87,14 @@ public:
 
 protected:
     void Take(VCall const& call) override {
-        nlohmann::ordered_json line;
-        line["event"] = call.event;
-        line["kind"] = NReader::ToUtf8(call.kind);
-        line["short_name"] = TextOrNull(call.name);
-        line["depth"] = call.depth;
-        m_output.WriteJsonLine(line);
+        WriteJsonLine(m_output, [&call](VJsonWriter& json) {
+            json.Object([&] {
+                json.Member("event", call.event);
+                json.Member("kind", call.kind);
+                json.TextOrNull("short_name", call.name);
+                json.Member("depth", call.depth);
+            });
+        });
     }
 };
 

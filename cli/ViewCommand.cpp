@@ -2,7 +2,6 @@
 #include <array>
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <diagkit/cli/Commands.h>
 #include <diagkit/cli/Entry.h>
@@ -37,15 +36,15 @@ constexpr std::array kKinds{
 
 void WriteViewAsJson(std::string_view kind, NODX201::VOdxElement const& context,
                      std::vector<NODX201::VOdxElement const*> const& entries, VOutput& output) {
-    nlohmann::ordered_json answer;
-    answer["view"] = kind;
-    answer["context"] = EntryOf(context);
-    answer["count"] = entries.size();
-    answer["entries"] = nlohmann::ordered_json::array();
-    for (NODX201::VOdxElement const* const entry : entries) {
-        answer["entries"].push_back(EntryOf(*entry));
-    }
-    output.WriteJson(answer);
+    WriteJson(output, [&](VJsonWriter& json) {
+        json.Object([&] {
+            json.Member("view", kind);
+            json.Name("context");
+            WriteEntry(json, context);
+            json.Member("count", entries.size());
+            json.ArrayOf("entries", entries, [&json](NODX201::VOdxElement const* entry) { WriteEntry(json, *entry); });
+        });
+    });
 }
 
 void DeclareView(CLI::App& command, VArguments& arguments) {

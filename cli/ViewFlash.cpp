@@ -19,16 +19,13 @@ VStatus ViewFlash(VArguments const& arguments, NMemory::VDatabase& database, VOu
     }
     View view(*flash);
     std::vector<NODX201::VOdxElement const*> entries;
-    std::vector<std::string> notes;
     for (auto& entry : view) {
-        auto const& element = dynamic_cast<NODX201::VOdxElement const&>(entry);
-        entries.push_back(&element);
-        notes.push_back("in " + PathTo(element));
+        entries.push_back(&dynamic_cast<NODX201::VOdxElement const&>(entry));
     }
     if (arguments.isJson) {
         WriteViewAsJson(arguments.kind, *flash, entries, output);
     } else {
-        WriteEntries(fmt::format("{} of FLASH {}", title, ShownName(*flash)), entries, notes, output);
+        WriteEntries(fmt::format("{} of FLASH {}", title, ShownName(*flash)), entries, &PlaceOf, output);
     }
     return VStatus::Done;
 }

@@ -16,16 +16,14 @@ template <class View>
 VStatus Answer(VArguments const& arguments, char const* title, NODX201::VDiagComm& context, View view,
                VOutput& output) {
     std::vector<NODX201::VOdxElement const*> entries;
-    std::vector<std::string> notes;
     for (auto& param : *view) {
-        auto const& element = dynamic_cast<NODX201::VOdxElement const&>(param);
-        entries.push_back(&element);
-        notes.push_back("in " + PathTo(element));
+        entries.push_back(&dynamic_cast<NODX201::VOdxElement const&>(param));
     }
     if (arguments.isJson) {
         WriteViewAsJson(arguments.kind, context, entries, output);
     } else {
-        WriteEntries(fmt::format("{} of {} {}", title, TagTextOf(context), ShownName(context)), entries, notes, output);
+        WriteEntries(fmt::format("{} of {} {}", title, TagTextOf(context), ShownName(context)), entries, &PlaceOf,
+                     output);
     }
     return VStatus::Done;
 }

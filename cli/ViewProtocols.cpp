@@ -11,18 +11,19 @@
 namespace NCli {
 namespace {
 
+std::string NoNote(NODX201::VOdxElement const&) { return {}; }
+
 VStatus Answer(VArguments const& arguments, NODX201::VOdxElement const& context, NDIAGKIT::VProtocolView& view,
                VOutput& output) {
     std::vector<NODX201::VOdxElement const*> entries;
-    std::vector<std::string> notes;
     for (NODX201::VProtocol& protocol : view) {
         entries.push_back(&protocol);
-        notes.emplace_back();
     }
     if (arguments.isJson) {
         WriteViewAsJson(arguments.kind, context, entries, output);
     } else {
-        WriteEntries(fmt::format("PROTOCOLs of {} {}", TagTextOf(context), ShownName(context)), entries, notes, output);
+        WriteEntries(fmt::format("PROTOCOLs of {} {}", TagTextOf(context), ShownName(context)), entries, &NoNote,
+                     output);
     }
     return VStatus::Done;
 }

@@ -31,6 +31,8 @@ std::string PathTo(NODX201::VOdxElement const& element) {
     return path;
 }
 
+std::string PlaceOf(NODX201::VOdxElement const& element) { return "in " + PathTo(element); }
+
 void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& layer,
                           std::vector<NODX201::VOdxElement const*> const& entries, VReferencedEntries const& referenced,
                           VOutput& output) {
@@ -70,10 +72,10 @@ void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& lay
 }
 
 void WriteEntries(std::string_view title, std::vector<NODX201::VOdxElement const*> const& entries,
-                  std::vector<std::string> const& notes, VOutput& output) {
+                  std::string (*noteOf)(NODX201::VOdxElement const& entry), VOutput& output) {
     VColumns columns;
-    for (std::size_t index = 0; index < entries.size(); ++index) {
-        columns.Add({ShownName(*entries[index]), KindOf(*entries[index]), ShownId(*entries[index]), notes[index]});
+    for (NODX201::VOdxElement const* const entry : entries) {
+        columns.Add({ShownName(*entry), KindOf(*entry), ShownId(*entry), noteOf(*entry)});
     }
     output.Write(fmt::format("{}\n\n", output.Heading(title)));
     output.Write(columns.Format());

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -81,7 +82,7 @@ std::string ValueMessage(CLI::ParseError const& error) {
     if (isAboutCount && text.find("At Most 1") != std::string::npos) {
         return option + " may be given once";
     }
-    return text;
+    return Shown(std::string_view(text));
 }
 
 /// What is wrong with a call that could not be understood, with near names for what may be misspelt in it.
@@ -124,16 +125,27 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
     return RunCommand(program, arguments, output);
 }
 
+/// The call with a message for whatever ends it before its time, but for a lack of memory.
+VStatus RunAndTell(int count, char** words, VOutput& output) {
+    try {
+        PreparePlatform();
+        return Run(ArgumentsInUtf8(count, words), output);
+    } catch (std::bad_alloc const&) {
+        throw;
+    } catch (std::exception const& exception) {
+        output.Complain(Shown(std::string_view(exception.what())));
+        return VStatus::Unreadable;
+    }
+}
+
 int Main(int count, char** words) {
     VOutput output;
     VStatus status = VStatus::Unreadable;
     try {
-        PreparePlatform();
-        status = Run(ArgumentsInUtf8(count, words), output);
-    } catch (std::exception const& exception) {
-        output.Complain(exception.what());
-    }
-    if (!output.Finish()) {
+        status = RunAndTell(count, words, output);
+        status = output.Finish() ? status : VStatus::Unreadable;
+    } catch (std::bad_alloc const&) { // messages may take memory, too
+        output.ComplainOfNoMemory();
         status = VStatus::Unreadable;
     }
     return static_cast<int>(status);

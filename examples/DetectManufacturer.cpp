@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Tells whose tools wrote a database, and for each manufacturer what speaks against it:
+// Tells whose tools wrote a database, and what speaks against each other manufacturer:
 //
 //     detect_manufacturer FILE...
 
@@ -13,6 +13,20 @@
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
+namespace {
+
+void PrintReason(NDIAGKIT::VOemRuleReport const& rule) {
+    NDIAGKIT::VOemReason const& reason = rule.reason;
+    std::cout << "  " << NReader::ToUtf8(rule.name) << ": expected " << NReader::ToUtf8(reason.expected) << ", found "
+              << NReader::ToUtf8(reason.found);
+    if (reason.where != nullptr) {
+        std::cout << " at " << NReader::ToUtf8(reason.where->GetShortName());
+    }
+    std::cout << '\n';
+}
+
+} // namespace
+
 int main(int count, char** words) {
     NReader::VReadResult const result = NReader::ReadOdx(std::vector<std::string>(words + 1, words + count));
     if (result.database == nullptr) {
@@ -24,10 +38,10 @@ int main(int count, char** words) {
     bool const isKnown = report.manufacturer != NDIAGKIT::VManufacturer::Unknown;
     std::cout << (isKnown ? "manufacturer " : "unknown: ") << static_cast<int>(report.manufacturer) << '\n';
     for (NDIAGKIT::VOemHeuristicReport const& heuristic : report.heuristics) {
-        std::cout << NReader::ToUtf8(heuristic.name) << (heuristic.matches ? " matches\n" : "\n");
+        std::cout << NReader::ToUtf8(heuristic.name) << (heuristic.matches ? " matches\n" : " does not match\n");
         for (NDIAGKIT::VOemRuleReport const& rule : heuristic.rules) {
             if (rule.isDecisive) {
-                std::cout << "  not, because of " << NReader::ToUtf8(rule.name) << '\n';
+                PrintReason(rule);
             }
         }
     }

@@ -254,6 +254,78 @@ class Writing(unittest.TestCase):
         self.assertNotIn("\x1b", done.stdout + done.stderr)
 
 
+class Steering(unittest.TestCase):
+    """Characters that steer a terminal or turn the direction of text."""
+
+    TURNING = "\u061c\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069"
+    CONTROLS = "\x1b\x7f\x80\x85\x9b\x9f"
+    SEPARATORS = "\u2028\u2029"
+    ALL = CONTROLS + SEPARATORS + TURNING
+
+    def ask_for(self, name):
+        """The raw name of an answer that nothing of the name is there, and the whole answer."""
+        done = run("resolve", "dop", name, "signals.odx-d", "--layer", "LampLeft", "--json", "--quiet")
+        self.assertEqual(done.returncode, 1)
+        return re.search(r'"name": "(.*)"', done.stdout)[1], json.loads(done.stdout)
+
+    def test_messages_about_the_call_replace_them(self):
+        calls = (
+            ["view", "out-params", "x", "--range"],
+            ["check", "x", "--format"],
+            ["layers", "x", "--max-depth"],
+            ["layers", "x", "--max-file-size"],
+            ["traverse", "x", "--layer", "L", "--max-visits"],
+            ["view"],
+            ["enums", "Radix", "HEX"],
+            [],
+        )
+        for call in calls:
+            with self.subTest(call):
+                done = run(*call, f"7{self.ALL}m")
+                self.assertEqual((done.returncode, done.stdout), (2, ""))
+                self.assertIn("7" + "\ufffd" * len(self.ALL) + "m", done.stderr)
+                self.assertFalse(set(self.ALL) & set(done.stderr))
+
+    def test_text_answers_and_diagnostics_replace_them(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "layers.odx-d"
+            path.write_text(
+                '<ODX MODEL-VERSION="2.0.1"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS><PROTOCOL '
+                f'ID="P"><SHORT-NAME>P{self.TURNING}Q</SHORT-NAME></PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>',
+                encoding="utf-8",
+            )
+            for call in (["layers"], ["traverse", "--layer", "P"], ["check"]):
+                done = run(*call, path)
+                written = done.stdout + done.stderr
+                self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)
+                self.assertFalse(set(self.TURNING) & set(written))
+
+    def test_json_escapes_them(self):
+        raw, answer = self.ask_for(f"A{self.ALL}Z")
+        self.assertEqual(raw, "A" + "".join(f"\\u{ord(character):04x}" for character in self.ALL) + "Z")
+        self.assertEqual(answer["name"], f"A{self.ALL}Z")
+
+    def test_json_writes_all_other_characters_as_they_are(self):
+        name = "A\xa0\xad\xdf\u0430\u200d\u2027\u202f\u2030\u2065\u206a\u20ac\uffff\U0001f600Z"
+        self.assertEqual(self.ask_for(name)[0], name)
+
+    @unittest.skipUnless(IS_POSIX, "needs arguments of any bytes")
+    def test_json_replaces_bytes_that_are_not_utf8(self):
+        if is_for_windows():
+            self.skipTest("arguments are UTF-16")
+        # Lone and missing continuations, too long spellings, surrogates, values beyond Unicode.
+        pieces = (b"\x80", b"\xbf\xbf", b"\xc3", b"\xe2\x82", b"\xe2\x28\xa1", b"\xf0\x9f\x98", b"\xf0\x28\x8c\xbc",
+                  b"\xc0\xaf", b"\xc1\xbf", b"\xe0\x9f\x80", b"\xf0\x8f\xbf\xbf", b"\xed\xa0\x80", b"\xf4\x90\x80\x80",
+                  b"\xf5\x80", b"\xff")
+        for piece in pieces:
+            for text in (piece, b"A" + piece + b"\xc3\xa4", piece + piece):
+                self.assertEqual(self.ask_for(os.fsdecode(text))[0], text.decode("utf-8", "replace"))
+
+    def test_json_escapes_what_json_itself_wants(self):
+        raw, answer = self.ask_for('q"b\\t\t.')
+        self.assertEqual((raw, answer["name"]), (r"q\"b\\t\t.", 'q"b\\t\t.'))
+
+
 class OemOfEach(unittest.TestCase):
     def test_a_folder_stands_for_the_odx_files_in_it(self):
         databases = pathlib.Path(__file__).resolve().parents[1] / "oem" / "databases"
@@ -281,10 +353,17 @@ class OemOfEach(unittest.TestCase):
         alone = run("oem", "--strict", "doors.odx-d")
         self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not pass$")
 
-    def test_an_empty_folder_gives_nothing(self):
+    def test_a_folder_without_odx_is_named(self):
         with tempfile.TemporaryDirectory() as folder:
-            done = run("oem", "--each", "--json", folder)
-        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+            (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
+            message = f"diagkit: {folder}: the folder holds no ODX document or package\n"
+            for options in ([], ["--json"], ["--quiet"]):
+                done = run("oem", "--each", folder, *options)
+                self.assertEqual((done.returncode, done.stdout, done.stderr), (1, "", message))
+            beside = run("oem", "--each", folder, "gates.odx-d")
+            self.assertEqual((beside.returncode, beside.stderr), (1, message))
+            self.assertEqual(beside.stdout, "gates.odx-d: Unknown (36): no heuristic matches\n")
+            self.assertEqual(run("oem", "--each", "absent.odx", folder).returncode, 3)
 
 
 @unittest.skipUnless(IS_POSIX, "needs pseudo terminals")

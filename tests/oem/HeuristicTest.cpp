@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/oem/Heuristic.h>
 
+#include <diagkit/tools/oem/Reasons.h>
+
 #include "oem/OemTest.h"
 #include "support/Slots.h"
 
@@ -95,8 +97,48 @@ TEST_F(HeuristicTest, AReportAsksEveryRule) {
         EXPECT_EQ(report.rules[index].matches, answer);
         EXPECT_STREQ(report.rules[index].name, answer ? L"Yes" : L"No");
         EXPECT_EQ(report.rules[index].list, 1);
-        EXPECT_EQ(report.rules[index].isDecisive, index == 1) << "the first that fails decides";
+        EXPECT_EQ(report.rules[index].isDecisive, !answer) << "each that says no rules the manufacturer out";
     }
+}
+
+/// Says in a report that there was nothing to look at, or why not.
+class VTellingRule final : public VHeuristicRule {
+public:
+    VTellingRule(VOemCheckContext* context, bool answer) : VHeuristicRule(context), m_answer(answer) {}
+
+    bool Matches() override {
+        auto const why = [this] {
+            ++m_made;
+            return NDIAGKIT::VOemReason{L"this", L"that", &mpContext->m_odx};
+        };
+        return m_answer ? NDIAGKIT::Yes(*mpContext, false) : NDIAGKIT::No(*mpContext, why);
+    }
+    wchar_t const* GetName() const override { return L"Telling"; }
+
+    int m_made = 0;
+
+private:
+    bool m_answer;
+};
+
+TEST_F(HeuristicTest, AReasonIsMadeForAReportAlone) {
+    VTellingRule rule(&m_context, false);
+    EXPECT_FALSE(rule.Matches());
+    EXPECT_EQ(rule.m_made, 0);
+    NDIAGKIT::VOemRuleReport const report = ReportOf(rule, m_context);
+    EXPECT_EQ(rule.m_made, 1);
+    EXPECT_EQ(report.reason.expected, L"this");
+    EXPECT_EQ(report.reason.found, L"that");
+    EXPECT_EQ(report.reason.where, &Odx());
+    EXPECT_FALSE(report.isVacuous);
+}
+
+TEST_F(HeuristicTest, AYesToNothingIsToldFromOthers) {
+    VTellingRule rule(&m_context, true);
+    EXPECT_TRUE(rule.Matches());
+    EXPECT_TRUE(ReportOf(rule, m_context).isVacuous);
+    VKnownRule known(&m_context, 'y');
+    EXPECT_FALSE(ReportOf(known, m_context).isVacuous);
 }
 
 TEST_F(HeuristicTest, AReportDoesNotChangeWhatIsAskedAfterwards) {
@@ -117,8 +159,16 @@ TEST_F(HeuristicTest, AReportOfTwoLists) {
         text += std::to_string(rule.list) + (rule.matches ? "y" : "n") + (rule.isDecisive ? "! " : " ");
     }
     EXPECT_EQ(text, "1y 1n! 2n! 2y ");
-    EXPECT_TRUE(VKnownHeuristic(&m_context, "n", "y").Report().matches);
-    EXPECT_TRUE(VKnownHeuristic(&m_context, "y", "n").Report().matches);
+}
+
+TEST_F(HeuristicTest, InAHeuristicThatMatchesNoRuleDecidesAgainstIt) {
+    for (auto const& [first, second] : {std::pair{"n", "y"}, std::pair{"y", "n"}}) {
+        NDIAGKIT::VOemHeuristicReport const report = VKnownHeuristic(&m_context, first, second).Report();
+        EXPECT_TRUE(report.matches);
+        for (NDIAGKIT::VOemRuleReport const& rule : report.rules) {
+            EXPECT_FALSE(rule.isDecisive);
+        }
+    }
 }
 
 #ifdef DIAGKIT_TEST_SLOTS

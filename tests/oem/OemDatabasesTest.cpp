@@ -129,8 +129,8 @@ constexpr VDatabaseRow kDatabases[] = {
     {"Psa",     19, L"VPSAHeuristic",     "19"},
 };
 
-/// A habit taken away: a replacement in a document, and the rules that then decide against the heuristic. Nobody else
-/// matches.
+/// A habit taken away: a replacement in a document, and the rules that then decide against the heuristic, for Porsche
+/// those of both lists. Nobody else matches.
 struct VHabitRow {
     char const* name;
     char const* file;
@@ -152,16 +152,16 @@ constexpr VHabitRow kHabits[] = {
     {"Claas",   "Claas.odx-d",   "POS-RESPONSE",           "NEG-RESPONSE",      L"VClaasProcessingInstructionRule "},
     {"Claas",   "Claas.odx-d",   "BASE-VARIANT",           "ECU-VARIANT",       L"VClaasProcessingInstructionRule "},
 
-    {"Pag",     "Pag.odx-d",     " OID=\"7001\"",          "",                  L"VPagOidRule VPagComparamSpecRule "},
-    {"Pag",     "Pag.odx-d",     " OID=\"7002\"",          "",                  L"VPagOidRule VPagComparamSpecRule "},
-    {"Pag",     "Pag.odx-d",     "BASE-VARIANT",           "ECU-VARIANT",       L"VPagModelRule VPagComparamSpecRule "},
-    {"Pag",     "Pag.odx-d",     "FunctionalGroupUDS",     "FunctionalGroup",   L"VPagFunctionalGroupRule VPagComparamSpecRule "},
+    {"Pag",     "Pag.odx-d",     " OID=\"7001\"",          "",                  L"VPagOidRule VPagComparamSpecRule VPagDopRule "},
+    {"Pag",     "Pag.odx-d",     " OID=\"7002\"",          "",                  L"VPagOidRule VPagComparamSpecRule VPagDopRule "},
+    {"Pag",     "Pag.odx-d",     "BASE-VARIANT",           "ECU-VARIANT",       L"VPagModelRule VPagComparamSpecRule VPagDopRule "},
+    {"Pag",     "Pag.odx-d",     "FunctionalGroupUDS",     "FunctionalGroup",   L"VPagFunctionalGroupRule VPagComparamSpecRule VPagDopRule "},
     {"Pag",     "Pag.odx-d",     "</FUNCTIONAL-GROUPS>",   "<FUNCTIONAL-GROUP ID=\"FG.2\"><SHORT-NAME>FunctionalGroupUDS</SHORT-NAME></FUNCTIONAL-GROUP></FUNCTIONAL-GROUPS>",
-                                                                                L"VPagFunctionalGroupRule VPagComparamSpecRule "},
+                                                                                L"VPagFunctionalGroupRule VPagComparamSpecRule VPagDopRule "},
 
-    {"PagTp20", "PagTp20.odx-c", "VW2000_on_TP20",         "VW2000",            L"VPagOidRule VPagComparamSpecRule "},
-    {"PagTp20", "PagTp20.odx-d", "_26_Temperatur_C",       "_26_temperatur_c",  L"VPagOidRule VPagDopRule "},
-    {"PagTp20", "PagTp20.odx-d", "_21_Spannung_V",         "_21_Spannung",      L"VPagOidRule VPagDopRule "},
+    {"PagTp20", "PagTp20.odx-c", "VW2000_on_TP20",         "VW2000",            L"VPagOidRule VPagModelRule VPagFunctionalGroupRule VPagComparamSpecRule "},
+    {"PagTp20", "PagTp20.odx-d", "_26_Temperatur_C",       "_26_temperatur_c",  L"VPagOidRule VPagModelRule VPagFunctionalGroupRule VPagDopRule "},
+    {"PagTp20", "PagTp20.odx-d", "_21_Spannung_V",         "_21_Spannung",      L"VPagOidRule VPagModelRule VPagFunctionalGroupRule VPagDopRule "},
 
     {"AudiVw",  "AudiVw.odx-d",  "PR_UDSOnCAN_Ext",        "UDSOnCAN",          L"VAudiVwProtocolRule "},
     {"AudiVw",  "AudiVw.odx-d",  "DIAG-COMMS",             "NO-DIAG-COMMS",     L"VAudiVwProtocolRule "},

@@ -49,14 +49,34 @@ class VOemTest : public testing::Test {
 protected:
     NODX201::VOdx& Odx() { return m_database.GetOdx(); }
 
-    /// A rule's answer about the database, which is the same each time it is asked.
+    /// A rule's answer about the database, which is the same each time it is asked, with a report and without; a "no",
+    /// and no "yes", comes with a reason.
     template <class Rule, class... Arguments>
     bool Matches(Arguments... arguments) {
         NDIAGKIT::VOemCheckContext context(Odx());
         Rule rule(&context, arguments...);
         bool const answer = rule.Matches();
         EXPECT_EQ(rule.Matches(), answer) << "a rule keeps no state";
+        NDIAGKIT::VOemRuleReport const report = ReportOf(rule, context);
+        EXPECT_EQ(report.matches, answer);
+        EXPECT_EQ(report.reason.expected.empty(), answer);
+        EXPECT_EQ(report.reason.found.empty(), answer);
+        EXPECT_FALSE(report.isVacuous && !answer);
         return answer;
+    }
+
+    /// A rule's answer in a report: "yes", "vacuous", or "EXPECTED | FOUND | SHORT-NAME of where".
+    template <class Rule, class... Arguments>
+    std::wstring Told(Arguments... arguments) {
+        NDIAGKIT::VOemCheckContext context(Odx());
+        Rule rule(&context, arguments...);
+        NDIAGKIT::VOemRuleReport const report = ReportOf(rule, context);
+        if (report.matches) {
+            return report.isVacuous ? L"vacuous" : L"yes";
+        }
+        NODX201::VOdxElement const* const where = report.reason.where;
+        return report.reason.expected + L" | " + report.reason.found +
+               (where != nullptr ? std::wstring(L" | ") + where->GetShortName() : L"");
     }
 
     /// Whether a heuristic matches; its report says the same.
@@ -89,6 +109,14 @@ protected:
         heuristic.CreateRules();
         heuristic.Matches();
         return observed.m_asked;
+    }
+
+    static NDIAGKIT::VOemRuleReport ReportOf(NDIAGKIT::VHeuristicRule& rule, NDIAGKIT::VOemCheckContext& context) {
+        NDIAGKIT::VOemRuleReport report{rule.GetName(), false, 1};
+        context.m_report = &report;
+        report.matches = rule.Matches();
+        context.m_report = nullptr;
+        return report;
     }
 
     template <class Element>

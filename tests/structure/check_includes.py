@@ -25,7 +25,7 @@ ROOMS = {
     "conformance": (["tools", "model"], []),
     "cli": (
         ["check", "reader", "memory", "tools/oem", "tools", "util", "logging", "model"],
-        [r"CLI/\S+", r"nlohmann/\S+", r"fmt/\S+"],
+        [r"CLI/\S+", r"fmt/\S+"],
     ),
     "fuzz": (["check", "reader", "memory", "tools/oem", "tools", "model"], []),
 }

@@ -5,6 +5,7 @@
 #include <diagkit/tools/oem/ElementTexts.h>
 #include <diagkit/tools/oem/OwnDiagComms.h>
 #include <diagkit/tools/oem/ProcessingInstructionRule.h>
+#include <diagkit/tools/oem/Reasons.h>
 #include <diagkit/util/TextConv.h>
 
 namespace NDIAGKIT {
@@ -17,23 +18,35 @@ bool IsNamedAsByVolkswagen(NODX201::VProtocol const& protocol) {
 
 constexpr std::wstring_view kCompanies[] = {L"audi", L"audi ag", L"volkswagen ag", L"volkswagen", L"vag"};
 
-bool IsOfVolkswagen(NODX201::VTeamMember const& member) {
+/// The long name of the company that a person works for; "" for nobody's.
+std::wstring_view CompanyOf(NODX201::VTeamMember const& member) {
     auto* const company = dynamic_cast<NODX201::VCompanyData*>(member.GetOwner());
-    return company != nullptr && AnyOf(kCompanies, [name = LongNameOf(*company)](std::wstring_view wanted) {
-               return EqualsIgnoringCase(name, wanted);
-           });
+    return company != nullptr ? LongNameOf(*company) : L"";
+}
+
+bool IsOfVolkswagen(NODX201::VTeamMember const& member) {
+    return AnyOf(kCompanies,
+                 [name = CompanyOf(member)](std::wstring_view wanted) { return EqualsIgnoringCase(name, wanted); });
 }
 
 bool IsContactPerson(NODX201::VTeamMember& member) {
-    return AnyOf(member.RoleCollection(), [&member](std::wstring const& role) {
-        return EqualsIgnoringCase(role, L"contact person oem") && IsOfVolkswagen(member);
-    });
+    return AnyOf(member.RoleCollection(),
+                 [](std::wstring const& role) { return EqualsIgnoringCase(role, L"contact person oem"); });
 }
 
-bool IsStaffed(NODX201::VEcuSharedData* layer) {
-    NODX201::VCompanyDataCollection& companies = layer->CompanyDataCollection();
-    return companies.Count() != 0 &&
-           AllOf(companies, [](NODX201::VCompanyData& company) { return company.TeamMemberCollection().Count() != 0; });
+bool IsStaffed(VOemCheckContext const& context, NODX201::VEcuSharedData& layer) {
+    NODX201::VCompanyDataCollection& companies = layer.CompanyDataCollection();
+    if (companies.Count() == 0) {
+        return No(context, [&layer] { return VOemReason{L"COMPANY-DATAs in every ECU-SHARED-DATA", L"none", &layer}; });
+    }
+    return AllOf(companies, [&context](NODX201::VCompanyData& company) {
+        if (company.TeamMemberCollection().Count() != 0) {
+            return true;
+        }
+        return No(context, [&company] {
+            return VOemReason{L"TEAM-MEMBERs in every COMPANY-DATA of an ECU-SHARED-DATA", L"none", &company};
+        });
+    });
 }
 
 constexpr std::wstring_view kServicePrefix = L"DiagnServi_";
@@ -50,21 +63,42 @@ void VAudiVwHeuristic::CreateRules() {
 
 bool VAudiVwProtocolRule::Matches() {
     bool isFound = false;
-    for (NODX201::VProtocol* const protocol : mpContext->m_protocols) {
+    auto const& protocols = mpContext->m_protocols;
+    for (NODX201::VProtocol* const protocol : protocols) {
         isFound = isFound || IsNamedAsByVolkswagen(*protocol);
         if (!HasOwnDiagComms(*protocol)) {
-            return false;
+            return No(*mpContext, [=] { return VOemReason{L"DIAG-COMMs in every PROTOCOL", L"none", protocol}; });
         }
     }
-    return isFound;
+    if (isFound) {
+        return true;
+    }
+    return No(*mpContext, [&protocols] {
+        return VOemReason{L"a PROTOCOL whose short name begins with 'PR_OBDOnCAN' or 'PR_UDSOnCAN'",
+                          Named(protocols, L"PROTOCOL")};
+    });
 }
 
 bool VAudiVwTeamMembersRule::Matches() {
-    bool isContactFound = false;
-    for (NODX201::VTeamMember* const member : mpContext->m_teamMembers) {
-        isContactFound = IsContactPerson(*member) || isContactFound;
+    VOemCheckContext const& context = *mpContext;
+    bool isFound = false;
+    NODX201::VTeamMember* other = nullptr; // the first contact person of another company
+    for (NODX201::VTeamMember* const member : context.m_teamMembers) {
+        if (IsContactPerson(*member)) {
+            bool const isOfVolkswagen = IsOfVolkswagen(*member);
+            isFound = isFound || isOfVolkswagen;
+            other = isOfVolkswagen || other != nullptr ? other : member;
+        }
     }
-    return isContactFound && AllOf(mpContext->m_ecuSharedDatas, &IsStaffed);
+    if (!isFound) {
+        return No(context, [&] {
+            return VOemReason{L"a TEAM-MEMBER of Audi or Volkswagen with the role 'contact person oem'",
+                              other != nullptr ? L"one of " + Stated(L"company", CompanyOf(*other))
+                                               : LookedAt(L"none", context.m_teamMembers.size(), L"TEAM-MEMBER"),
+                              other};
+        });
+    }
+    return AllOf(context.m_ecuSharedDatas, [&context](auto* layer) { return IsStaffed(context, *layer); });
 }
 
 VAudiVwCharacterRule::VAudiVwCharacterRule(VOemCheckContext* context) : VHeuristicRule(context) {
@@ -154,16 +188,27 @@ bool VAudiVwCharacterRule::IsNamedByConvention(NODX201::VDiagService& service) c
     return isContinued && name.empty();
 }
 
+VOemReason VAudiVwCharacterRule::OtherName(NODX201::VDiagService& service) const {
+    std::wstring const expected = std::wstring(kServicePrefix) + Abbreviate(LongNameOf(service));
+    return {Stated(L"short name", expected),
+            Stated(L"short name", service.GetShortName()) + L" and " + Stated(L"long name", LongNameOf(service)),
+            &service};
+}
+
 bool VAudiVwCharacterRule::Matches() {
-    if (mpContext->m_protocols.empty()) {
+    if (!IsAnyThere(*mpContext, mpContext->m_protocols, L"a PROTOCOL")) {
         return false;
     }
-    return AllOf(mpContext->m_protocols, [this](NODX201::VProtocol* protocol) {
+    bool isAnySeen = false;
+    bool const isConventional = AllOf(mpContext->m_protocols, [&](NODX201::VProtocol* protocol) {
         // Deliberate: asked for and then not used (AudiVwCharacterRuleTest.TheProtocolsLongNameIsAskedForNothing).
         static_cast<void>(Abbreviate(LongNameOf(*protocol)));
-        return AllOwnServices(*protocol,
-                              [this](NODX201::VDiagService& service) { return IsNamedByConvention(service); });
+        return AllOwnServices(*protocol, [&](NODX201::VDiagService& service) {
+            isAnySeen = true;
+            return IsNamedByConvention(service) || No(*mpContext, [&] { return OtherName(service); });
+        });
     });
+    return isConventional && Yes(*mpContext, isAnySeen);
 }
 
 } // namespace NDIAGKIT

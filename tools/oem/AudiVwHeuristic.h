@@ -56,6 +56,7 @@ private:
     bool Abbreviate(std::wstring_view text, Take take) const;
     bool IsSeparator(wchar_t character) const;
     bool IsNamedByConvention(NODX201::VDiagService& service) const;
+    VOemReason OtherName(NODX201::VDiagService& service) const;
     void AddCodes(unsigned char first, unsigned char last);
     void AddCharacters(wchar_t first, wchar_t last);
 

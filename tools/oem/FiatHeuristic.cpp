@@ -11,6 +11,7 @@
 #include <diagkit/tools/oem/ElementTexts.h>
 #include <diagkit/tools/oem/OwnDiagComms.h>
 #include <diagkit/tools/oem/ProcessingInstructionRule.h>
+#include <diagkit/tools/oem/Reasons.h>
 
 namespace NDIAGKIT {
 namespace {
@@ -29,9 +30,12 @@ bool HasStateModel(NODX201::VDiagService& service) {
     return false;
 }
 
-template <class Layer>
-bool HaveServicesStateModels(Layer* layer) {
-    return AllOwnServices(*layer, &HasStateModel);
+std::wstring SdgsOf(NODX201::VDiagService& service) {
+    VListing captions;
+    for (NODX201::VSdg& sdg : service.SdgCollection()) {
+        captions.Add(sdg.HasSdgCaption() ? Quoted(sdg.GetSdgCaption().GetShortName()) : L"without caption");
+    }
+    return captions.As(L"SDG");
 }
 
 using VComparamIds = std::array<std::wstring_view, 6>;
@@ -63,6 +67,17 @@ void Note(std::wstring_view id, VComparamIds const& wanted, VFoundIds& found) {
     }
 }
 
+std::wstring Missing(wchar_t const* protocol, VComparamIds const& wanted, VFoundIds const& found) {
+    VListing missing;
+    for (std::size_t index = 0; index < wanted.size(); ++index) {
+        if (!found[index]) {
+            missing.Add(Quoted(wanted[index]));
+        }
+    }
+    return (found.none() ? L"none for " : L"for ") + std::wstring(protocol) +
+           (found.none() ? L"" : L" all but " + missing.Text());
+}
+
 } // namespace
 
 void VFiatHeuristic::CreateRules() {
@@ -72,8 +87,21 @@ void VFiatHeuristic::CreateRules() {
 }
 
 bool VFiatStateSdgRule::Matches() {
-    return AllOf(mpContext->m_baseVariants, &HaveServicesStateModels<NODX201::VBaseVariant>) &&
-           AllOf(mpContext->m_ecuVariants, &HaveServicesStateModels<NODX201::VEcuVariant>);
+    VOemCheckContext const& context = *mpContext;
+    bool isAnySeen = false;
+    auto const haveServicesStateModels = [&](NODX201::VDiagLayer* layer) {
+        return AllOwnServices(*layer, [&](NODX201::VDiagService& service) {
+            isAnySeen = true;
+            if (HasStateModel(service)) {
+                return true;
+            }
+            return No(context, [&service] {
+                return VOemReason{L"an SDG 'State_Model' before any without caption", SdgsOf(service), &service};
+            });
+        });
+    };
+    return AllOf(context.m_baseVariants, haveServicesStateModels) &&
+           AllOf(context.m_ecuVariants, haveServicesStateModels) && Yes(context, isAnySeen);
 }
 
 bool VFiatAdditionalComparamsRule::Matches() {
@@ -88,7 +116,10 @@ bool VFiatAdditionalComparamsRule::Matches() {
             return true;
         }
     }
-    return false;
+    return No(*mpContext, [&] {
+        return VOemReason{L"the six additional COMPARAMs for KWP on CAN, or the six for UDS",
+                          Missing(L"KWP on CAN", kKwpOnCan, kwpOnCan) + L", " + Missing(L"UDS", kUds, uds)};
+    });
 }
 
 } // namespace NDIAGKIT

@@ -6,22 +6,31 @@
 #include <diagkit/tools/oem/ElementTexts.h>
 #include <diagkit/tools/oem/OwnDiagComms.h>
 #include <diagkit/tools/oem/ProcessingInstructionRule.h>
+#include <diagkit/tools/oem/Reasons.h>
 
 namespace NDIAGKIT {
 namespace {
 
 constexpr int kCheckedComparams = 6;
 
-bool IsIdMadeOfOid(std::wstring_view id, std::wstring_view oid) { return IsJoined(id, L"ID", oid); }
+bool IsIdMadeOfOid(VOemCheckContext const& context, NODX201::VReferencable& element, std::wstring_view oid) {
+    if (IsJoined(element.GetId(), L"ID", oid)) {
+        return true;
+    }
+    return No(context, [&] {
+        return VOemReason{L"an ID of 'ID' and the OID", Stated(L"ID", element.GetId()) + L" and " + Stated(L"OID", oid),
+                          &element};
+    });
+}
 
 /// Deliberate: further COMPARAMs are not looked at (GmHeuristicTest.ASeventhComparamIsNotLookedAt).
-bool AreFirstComparamsMadeOfOids(NODX201::VComparamCollection& comparams) {
+bool AreFirstComparamsMadeOfOids(VOemCheckContext const& context, NODX201::VComparamCollection& comparams) {
     int checked = 0;
     for (NODX201::VComparam& comparam : comparams) {
         if (checked++ == kCheckedComparams) {
             return true;
         }
-        if (!IsIdMadeOfOid(comparam.GetId(), comparam.GetOid())) {
+        if (!IsIdMadeOfOid(context, comparam, comparam.GetOid())) {
             return false;
         }
     }
@@ -41,23 +50,29 @@ void VGmHeuristic::CreateRules() {
 
 bool VGmProtocolRule::Matches() {
     auto const& protocols = mpContext->m_protocols;
-    return !protocols.empty() &&
-           AllOf(protocols, [](NODX201::VProtocol* protocol) { return !HasOwnDiagComms(*protocol); });
+    return IsAnyThere(*mpContext, protocols, L"a PROTOCOL") &&
+           AllOf(protocols, [this](NODX201::VProtocol* protocol) { return HasNoOwnDiagComms(*mpContext, *protocol); });
 }
 
-bool VGmFunctionalGroupRule::Matches() { return mpContext->m_functionalGroups.empty(); }
+bool VGmFunctionalGroupRule::Matches() {
+    auto const& groups = mpContext->m_functionalGroups;
+    if (groups.empty()) {
+        return true;
+    }
+    return No(*mpContext, [&] {
+        return VOemReason{L"no FUNCTIONAL-GROUP", Named(groups, L"FUNCTIONAL-GROUP"), groups.front()};
+    });
+}
 
 bool VGmComparamSpecRule::Matches() {
     NODX201::VComparamSpecCollection& specs = mpContext->m_odx.ComparamSpecCollection();
     if (specs.Count() == 0) {
-        return false;
+        return No(*mpContext, [] { return VOemReason{L"a COMPARAM-SPEC", L"none"}; });
     }
-    for (NODX201::VComparamSpec& spec : specs) {
-        if (!IsIdMadeOfOid(spec.GetId(), OidOf(spec)) || !AreFirstComparamsMadeOfOids(spec.ComparamCollection())) {
-            return false;
-        }
-    }
-    return true;
+    return AllOf(specs, [this](NODX201::VComparamSpec& spec) {
+        return IsIdMadeOfOid(*mpContext, spec, OidOf(spec)) &&
+               AreFirstComparamsMadeOfOids(*mpContext, spec.ComparamCollection());
+    });
 }
 
 } // namespace NDIAGKIT

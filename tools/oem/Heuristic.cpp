@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/oem/Heuristic.h>
 
+#include <diagkit/tools/oem/Conditions.h>
+
 namespace NDIAGKIT {
 
 VHeuristicRule::~VHeuristicRule() = default;
@@ -14,20 +16,28 @@ VOemHeuristicReport VHeuristic::Report() {
     mpReport = &report;
     report.matches = Matches();
     mpReport = nullptr;
+    for (VOemRuleReport& rule : report.rules) {
+        rule.isDecisive = !rule.matches && !report.matches;
+    }
     return report;
 }
 
 bool VHeuristic::AllMatch(VRules const& rules) {
-    int const list = mpReport != nullptr ? ++mpReport->lists : 0;
+    if (mpReport != nullptr) {
+        return ReportAll(rules);
+    }
+    return AllOf(rules, [](auto const& rule) { return rule->Matches(); });
+}
+
+bool VHeuristic::ReportAll(VRules const& rules) {
+    int const list = ++mpReport->lists;
     bool allMatch = true;
     for (auto const& rule : rules) {
-        bool const matches = rule->Matches();
-        if (mpReport != nullptr) {
-            mpReport->rules.push_back({rule->GetName(), matches, list, allMatch && !matches});
-        } else if (!matches) {
-            return false;
-        }
-        allMatch = allMatch && matches;
+        VOemRuleReport& report = mpReport->rules.emplace_back(VOemRuleReport{rule->GetName(), false, list});
+        mpContext->m_report = &report;
+        report.matches = rule->Matches();
+        mpContext->m_report = nullptr;
+        allMatch = allMatch && report.matches;
     }
     return allMatch;
 }

@@ -45,6 +45,8 @@ protected:
     VRules m_rules;
 
 private:
+    bool ReportAll(VRules const& rules);
+
     VOemHeuristicReport* mpReport = nullptr; // while one is being made
 };
 

@@ -5,7 +5,8 @@
 
 namespace NDIAGKIT {
 
-/// One habit of a manufacturer. Rules keep nothing from one evaluation to the next.
+/// One habit of a manufacturer. Rules keep nothing from one evaluation to the next. One that does not match says why
+/// where it finds that out, one that had nothing to look at says so (`Reasons.h`).
 class VHeuristicRule {
 public:
     explicit VHeuristicRule(VOemCheckContext* context) : mpContext(context) {}

@@ -6,6 +6,7 @@
 #include <diagkit/model/AdminData.h>
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/Odx.h>
+#include <diagkit/tools/oem/OemReport.h>
 
 namespace NDIAGKIT {
 
@@ -24,6 +25,7 @@ public:
     std::list<NODX201::VEcuVariant*> m_ecuVariants;
     std::list<NODX201::VEcuSharedData*> m_ecuSharedDatas;
     std::list<NODX201::VTeamMember*> m_teamMembers; ///< of all layers' COMPANY-DATAs
+    VOemRuleReport* m_report = nullptr; ///< of the rule that is being asked; null when no report is being made
 };
 
 } // namespace NDIAGKIT

@@ -37,7 +37,7 @@ public:
     /// second one that matches.
     VManufacturer GetManufacturer(NODX201::VOdx& odx);
 
-    /// The same answer with its reasons: asks every rule of every heuristic.
+    /// The same answer with its reasons: asks every rule of every heuristic. It points at elements of the model.
     VOemReport Report(NODX201::VOdx& odx);
 
 private:

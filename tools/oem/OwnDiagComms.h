@@ -3,12 +3,24 @@
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Layers.h>
+#include <diagkit/tools/oem/Reasons.h>
 
 namespace NDIAGKIT {
 
 /// Whether a layer has DIAG-COMMs of its own, of whatever kind.
 inline bool HasOwnDiagComms(NODX201::VDiagLayer& layer) {
     return layer.HasDiagCommProxyCollection() && layer.DiagCommProxyCollection().Count() != 0;
+}
+
+/// Whether a PROTOCOL has none, as manufacturers have it who keep services elsewhere.
+inline bool HasNoOwnDiagComms(VOemCheckContext const& context, NODX201::VProtocol& protocol) {
+    if (!HasOwnDiagComms(protocol)) {
+        return true;
+    }
+    return No(context, [&protocol] {
+        auto const count = static_cast<std::size_t>(protocol.DiagCommProxyCollection().Count());
+        return VOemReason{L"no DIAG-COMMs in a PROTOCOL", Counted(count, L"DIAG-COMM"), &protocol};
+    });
 }
 
 /// Whether all DIAG-SERVICEs among a layer's own DIAG-COMMs fulfil a condition; asked in order up to the first that

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include <diagkit/tools/oem/ProcessingInstructionRule.h>
+#include <diagkit/tools/oem/Reasons.h>
 
 namespace NDIAGKIT {
 namespace {
@@ -11,6 +12,18 @@ namespace {
 bool IsOfPsa(NODX201::VFunctClass& functClass) {
     std::wstring_view const name = functClass.GetShortName();
     return name == L"DIAGNOSTIC_CONSTRUCTEUR" || name == L"DIAGNOSTIC_REGLEMENTAIRE";
+}
+
+/// Why the layers, which have one ECU-SHARED-DATA, are not PSA's.
+VOemReason OtherFunctClasses(NODX201::VDiagLayerCollection& layers) {
+    VOemReason reason{L"two FUNCT-CLASSes named 'DIAGNOSTIC_CONSTRUCTEUR' or 'DIAGNOSTIC_REGLEMENTAIRE'", L""};
+    for (NODX201::VDiagLayer& layer : layers) {
+        if (dynamic_cast<NODX201::VEcuSharedData*>(&layer) != nullptr) {
+            reason.found = Named(layer.FunctClassCollection(), L"FUNCT-CLASS");
+            reason.where = &layer;
+        }
+    }
+    return reason;
 }
 
 } // namespace
@@ -31,19 +44,25 @@ void VPSAEcuSharedDataRule::VFindEcuSharedDataVisitor::VisitEcuSharedData(NODX20
 }
 
 bool VPSAEcuSharedDataRule::Matches() {
-    if (mpContext->m_baseVariants.empty()) {
+    if (!IsAnyThere(*mpContext, mpContext->m_baseVariants, L"a BASE-VARIANT")) {
         return false;
     }
     NODX201::VBaseVariant& first = *mpContext->m_baseVariants.front();
     auto* const layers = dynamic_cast<NODX201::VDiagLayerCollection*>(first.GetOwner());
     if (layers == nullptr) {
-        return false;
+        return No(*mpContext, [&first] { return VOemReason{L"a container around the BASE-VARIANT", L"none", &first}; });
     }
     VFindEcuSharedDataVisitor visitor;
     for (NODX201::VDiagLayer& layer : *layers) {
         layer.Accept(visitor);
     }
-    return visitor.GetCount() == 1 && visitor.IsFound();
+    if (visitor.GetCount() != 1) {
+        return No(*mpContext, [&] {
+            return VOemReason{L"one ECU-SHARED-DATA beside the first BASE-VARIANT",
+                              Counted(static_cast<std::size_t>(visitor.GetCount()), L"ECU-SHARED-DATA"), &first};
+        });
+    }
+    return visitor.IsFound() || No(*mpContext, [layers] { return OtherFunctClasses(*layers); });
 }
 
 } // namespace NDIAGKIT

@@ -3,18 +3,33 @@
 
 #include <string_view>
 
+#include <diagkit/tools/oem/Reasons.h>
+
 namespace NDIAGKIT {
 namespace {
 
+constexpr std::wstring_view kName = L"PavonaTemplateManufacturer";
+
 bool IsTemplateManufacturer(NODX201::VProcessingInstruction const& instruction) {
-    return std::wstring_view(instruction.GetName()) == L"PavonaTemplateManufacturer";
+    return instruction.GetName() == kName;
+}
+
+std::wstring ContentsIn(NODX201::VProcessingInstructionCollection& instructions) {
+    VListing contents;
+    for (NODX201::VProcessingInstruction& instruction : instructions) {
+        if (IsTemplateManufacturer(instruction)) {
+            contents.Add(Quoted(instruction.GetContent()));
+        }
+    }
+    return contents.As(L"content");
 }
 
 } // namespace
 
 bool VProcessingInstructionRule::Matches() {
     bool isDeclared = false;
-    for (NODX201::VProcessingInstruction& instruction : mpContext->m_odx.ProcessingInstructionCollection()) {
+    NODX201::VProcessingInstructionCollection& instructions = mpContext->m_odx.ProcessingInstructionCollection();
+    for (NODX201::VProcessingInstruction& instruction : instructions) {
         if (!IsTemplateManufacturer(instruction)) {
             continue;
         }
@@ -23,7 +38,13 @@ bool VProcessingInstructionRule::Matches() {
             return true;
         }
     }
-    return !isDeclared;
+    if (!isDeclared) {
+        return Yes(*mpContext, false);
+    }
+    return No(*mpContext, [&] {
+        return VOemReason{L"the processing instruction " + std::wstring(kName) + L' ' + Quoted(mpExpected),
+                          ContentsIn(instructions)};
+    });
 }
 
 } // namespace NDIAGKIT
