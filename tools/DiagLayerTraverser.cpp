@@ -18,6 +18,25 @@ namespace NDIAGKIT {
 
 using Traverser = VDiagLayerTraverser;
 
+namespace {
+
+/// The current DIAG-COMM for as long as it is being visited, none afterwards. By an exception too: the element may be
+/// gone before the next walk.
+class VCurrentDiagComm {
+public:
+    VCurrentDiagComm(NODX201::VDiagComm*& current, NODX201::VDiagComm& diagComm) : m_current(current) {
+        m_current = &diagComm;
+    }
+    ~VCurrentDiagComm() { m_current = nullptr; }
+    VCurrentDiagComm(VCurrentDiagComm const&) = delete;
+    VCurrentDiagComm& operator=(VCurrentDiagComm const&) = delete;
+
+private:
+    NODX201::VDiagComm*& m_current;
+};
+
+} // namespace
+
 Traverser::VDiagLayerTraverser(NODX201::VDiagLayer& layer) : VDiagDataDictionarySpecTraverser(layer) {}
 
 Traverser::~VDiagLayerTraverser() = default;
@@ -56,30 +75,27 @@ void Traverser::VisitComparamRef(NODX201::VComparamRef& x)             { PreProc
 // Deliberate: it is null afterwards and not restored (CurrentDiagCommIsNullAfterANestedDiagComm).
 
 void Traverser::VisitDiagComm(NODX201::VDiagComm& x) {
-    m_currentDiagComm = &x;
+    VCurrentDiagComm const current(m_currentDiagComm, x);
     PreProcessDiagComm(x);
     DefaultVisit(x);
     DescendDiagComm(x);
     PostProcessDiagComm(x);
-    m_currentDiagComm = nullptr;
 }
 
 void Traverser::VisitDiagService(NODX201::VDiagService& x) {
-    m_currentDiagComm = &x;
+    VCurrentDiagComm const current(m_currentDiagComm, x);
     PreProcessDiagService(x);
     DefaultVisit(x);
     DescendDiagService(x);
     PostProcessDiagService(x);
-    m_currentDiagComm = nullptr;
 }
 
 void Traverser::VisitSingleEcuJob(NODX201::VSingleEcuJob& x) {
-    m_currentDiagComm = &x;
+    VCurrentDiagComm const current(m_currentDiagComm, x);
     PreProcessSingleEcuJob(x);
     DefaultVisit(x);
     DescendSingleEcuJob(x);
     PostProcessSingleEcuJob(x);
-    m_currentDiagComm = nullptr;
 }
 
 // Children, in the order in which they are visited.

@@ -19,8 +19,8 @@ namespace NDIAGKIT {
 /// resolves against the layer given to the constructor, never against the layer that owns it.
 ///
 /// While a DIAG-COMM is being visited it is the current one, in whose context an ENV-DATA-DESC reads its PARAM-SNREF.
-/// Leaving a DIAG-COMM sets the current one to null; it is not restored, so after a nested DIAG-COMM there is none for
-/// the rest of the outer one.
+/// Leaving a DIAG-COMM, be it by an exception, sets the current one to null; it is not restored, so after a nested
+/// DIAG-COMM there is none for the rest of the outer one.
 ///
 /// There is no guard: related DIAG-COMMs that name each other recurse without end. `VGuardedDiagLayerTraverser` is the
 /// same walk with one.
