@@ -26,7 +26,7 @@ public:
     void VisitEcuSharedData(NODX201::VEcuSharedData& layer) override;
 
     /// The layer's view. Null only when the layer's `Accept` calls back nothing on a builder that never made a view;
-    /// that is logged and asserted.
+    /// that is logged and, unless the listener has this builder make a view, asserted.
     VDiagCommView* CreateDiagCommView(NODX201::VDiagLayer& layer);
 
     /// Destroys a view that a builder made.
