@@ -105,13 +105,15 @@ void Traverser::DescendDiagLayer(NODX201::VDiagLayer& x) {
     for (NODX201::VCompanyData& company : x.CompanyDataCollection())  { VisitCompanyData(company); }
     for (NODX201::VFunctClass& functClass : x.FunctClassCollection()) { VisitFunctClass(functClass); }
     if (x.HasDiagDataDictionarySpec())                                { TraverseDiagDataDictionarySpec(x.GetDiagDataDictionarySpec()); }
-    for (NODX201::IDiagCommProxy& proxy : x.DiagCommProxyCollection()) {
-        auto* const service = As<NODX201::VDiagService>(proxy.IsDiagService(), proxy);
-        auto* const job = As<NODX201::VSingleEcuJob>(proxy.IsSingleEcuJob(), proxy);
-        auto* const link = As<NODX201::VDiagCommLink>(proxy.IsDiagCommLink(), proxy);
-        if (service != nullptr)                               { VisitDiagService(*service); }
-        if (job != nullptr)                                   { VisitSingleEcuJob(*job); }
-        if (link != nullptr && link->HasDiagComm(m_layer))    { VisitDiagComm(link->GetDiagComm()); }
+    if (x.HasDiagCommProxyCollection()) {
+        for (NODX201::IDiagCommProxy& proxy : x.DiagCommProxyCollection()) {
+            auto* const service = As<NODX201::VDiagService>(proxy.IsDiagService(), proxy);
+            auto* const job = As<NODX201::VSingleEcuJob>(proxy.IsSingleEcuJob(), proxy);
+            auto* const link = As<NODX201::VDiagCommLink>(proxy.IsDiagCommLink(), proxy);
+            if (service != nullptr)                            { VisitDiagService(*service); }
+            if (job != nullptr)                                { VisitSingleEcuJob(*job); }
+            if (link != nullptr && link->HasDiagComm(m_layer)) { VisitDiagComm(link->GetDiagComm()); }
+        }
     }
     for (NODX201::VRequest& request : x.RequestCollection())          { VisitRequest(request); }
     for (NODX201::VResponse& response : x.ResponseCollection())       { VisitResponse(response); }
