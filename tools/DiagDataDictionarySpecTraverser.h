@@ -2,10 +2,12 @@
 #pragma once
 
 #include <string>
+#include <tuple>
 
 #include <diagkit/Export.h>
 #include <diagkit/model/Collections.h>
 #include <diagkit/model/Visitors.h>
+#include <diagkit/util/CheckedCast.h>
 
 namespace NDIAGKIT {
 
@@ -302,6 +304,31 @@ protected:
     /// The DIAG-COMM in whose context the PARAM-SNREF of an ENV-DATA-DESC is read; null in a dictionary walk, which
     /// therefore never follows one.
     NODX201::VDiagComm* m_currentDiagComm = nullptr;
+
+private:
+    // clang-format off
+    /// The casts behind type tests; to search each time would cost as much as half a visit.
+    std::tuple<
+        NPavonaUtil::VCheckedCast<NODX201::VAllValue,             NODX201::IAllValueDtcValuesChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VBasicStructureLink,   NODX201::IBasicStructureEnvDataDescChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VEnvDataDescLink,      NODX201::IBasicStructureEnvDataDescChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VCompuConst,           NODX201::ICompuConstCompuRationalCoeffsChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VCompuRationalCoeffs,  NODX201::ICompuConstCompuRationalCoeffsChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VCompuScaleCollection, NODX201::ICompuScalesProgCodeChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VProgCode,             NODX201::ICompuScalesProgCodeChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VDtc,                  NODX201::IDtcProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VDtcLink,              NODX201::IDtcProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VEnvData,              NODX201::IEnvDataProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VEnvDataLink,          NODX201::IEnvDataProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VOutputParam,          NODX201::IOutParamIf>,
+        NPavonaUtil::VCheckedCast<NODX201::VValue,                NODX201::IOutParamIf>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableRow,             NODX201::IRowWrapper>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableRowLink,         NODX201::IRowWrapper>,
+        NPavonaUtil::VCheckedCast<NODX201::VSd,                   NODX201::ISdgSdChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VSdg,                  NODX201::ISdgSdChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableLink,            NODX201::ITableRefTableRowRefChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableRowLink,         NODX201::ITableRefTableRowRefChoice>> m_casts;
+    // clang-format on
 };
 
 } // namespace NDIAGKIT

@@ -106,10 +106,13 @@ void Traverser::DescendDiagLayer(NODX201::VDiagLayer& x) {
     for (NODX201::VFunctClass& functClass : x.FunctClassCollection()) { VisitFunctClass(functClass); }
     if (x.HasDiagDataDictionarySpec())                                { TraverseDiagDataDictionarySpec(x.GetDiagDataDictionarySpec()); }
     if (x.HasDiagCommProxyCollection()) {
+        std::tuple<NPavonaUtil::VCheckedCast<NODX201::VDiagService, NODX201::IDiagCommProxy>,
+                   NPavonaUtil::VCheckedCast<NODX201::VSingleEcuJob, NODX201::IDiagCommProxy>,
+                   NPavonaUtil::VCheckedCast<NODX201::VDiagCommLink, NODX201::IDiagCommProxy>> casts;
         for (NODX201::IDiagCommProxy& proxy : x.DiagCommProxyCollection()) {
-            auto* const service = As<NODX201::VDiagService>(proxy.IsDiagService(), proxy);
-            auto* const job = As<NODX201::VSingleEcuJob>(proxy.IsSingleEcuJob(), proxy);
-            auto* const link = As<NODX201::VDiagCommLink>(proxy.IsDiagCommLink(), proxy);
+            auto* const service = As<NODX201::VDiagService>(casts, proxy.IsDiagService(), proxy);
+            auto* const job = As<NODX201::VSingleEcuJob>(casts, proxy.IsSingleEcuJob(), proxy);
+            auto* const link = As<NODX201::VDiagCommLink>(casts, proxy.IsDiagCommLink(), proxy);
             if (service != nullptr)                            { VisitDiagService(*service); }
             if (job != nullptr)                                { VisitSingleEcuJob(*job); }
             if (link != nullptr && link->HasDiagComm(m_layer)) { VisitDiagComm(link->GetDiagComm()); }
