@@ -26,6 +26,7 @@ set(public_headers
     tools/oem/OemReport.h
     util/Assertion.h
     util/CheckedCast.h
+    util/Utf16.h
 )
 foreach(folder model logging tools memory)
     file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h

@@ -2,6 +2,7 @@
 #include <diagkit/tools/DopView.h>
 
 #include <algorithm>
+#include <string_view>
 
 #include <diagkit/model/Dops.h>
 #include <diagkit/tools/ParentPass.h>
@@ -107,7 +108,9 @@ VDopView::Iterator VDopView::Begin() { return Iterator(m_collection.begin()); }
 
 VDopView::Iterator VDopView::End() { return Iterator(m_collection.end()); }
 
-VDopView::Iterator VDopView::Find(wchar_t const* shortName) { return Iterator(m_collection.find(shortName)); }
+VDopView::Iterator VDopView::Find(wchar_t const* shortName) {
+    return Iterator(m_collection.find(std::wstring_view(shortName)));
+}
 
 VDopView::Iterator VDopView::Find(NODX201::VDopBase& dop) { return Iterator(_Find(dop)); }
 

@@ -3,6 +3,9 @@
 
 #include <map>
 #include <string>
+#include <string_view>
+
+#include <diagkit/util/Utf16.h>
 
 namespace NDIAGKIT {
 
@@ -20,13 +23,14 @@ public:
 
     T Get(wchar_t const* literal) const; ///< the default when unknown
 
-    /// The first literal, in the order of the literals, that has the value; it stays valid as long as the table.
+    /// The first literal, in the order of code units of UTF-16, that has the value; it stays valid as long as the
+    /// table.
     wchar_t const* GetStr(T value) const;
 
-    std::map<std::wstring, T> m_map; ///< values by literal
-    std::wstring m_name;             ///< of the enumeration
-    T m_default = T();               ///< of the first pair added
-    bool m_isDefaultSet = false;     ///< whether a pair was added
+    std::map<std::wstring, T, NPavonaUtil::VUtf16Less> m_map; ///< values by literal
+    std::wstring m_name;                                      ///< of the enumeration
+    T m_default = T();                                        ///< of the first pair added
+    bool m_isDefaultSet = false;                              ///< whether a pair was added
 };
 
 template <class T>
@@ -43,7 +47,7 @@ void EnumMapImpl<T>::Add(wchar_t const* literal, T value) {
 
 template <class T>
 T EnumMapImpl<T>::Get(wchar_t const* literal) const {
-    auto const found = m_map.find(literal);
+    auto const found = m_map.find(std::wstring_view(literal));
     return found != m_map.end() ? found->second : m_default;
 }
 

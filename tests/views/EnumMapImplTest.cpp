@@ -78,6 +78,14 @@ TEST(EnumMapImplTest, OfTwoLiteralsOfOneValueTheAlphabeticallySmallerIsAnswered)
     EXPECT_EQ(table.GetStr(VColour::Red), std::wstring(L"RED"));
 }
 
+TEST(EnumMapImplTest, TheOrderOfLiteralsIsThatOfCodeUnitsOfUtf16) {
+    VTable table(L"Colour");
+    table.Add(L"\uFF5E", VColour::Red);
+    table.Add(L"\U0001F600", VColour::Red);
+    EXPECT_EQ(table.GetStr(VColour::Red), std::wstring(L"\U0001F600"));
+    EXPECT_EQ(table.Get(L"\uFF5E"), VColour::Red);
+}
+
 TEST(EnumMapImplTest, LiteralsAreCopiedAndStayWhereTheyAre) {
     VTable table(L"Colour");
     wchar_t literal[] = L"RED";
