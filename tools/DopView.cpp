@@ -109,7 +109,7 @@ VDopView::Iterator VDopView::Begin() { return Iterator(m_collection.begin()); }
 VDopView::Iterator VDopView::End() { return Iterator(m_collection.end()); }
 
 VDopView::Iterator VDopView::Find(wchar_t const* shortName) {
-    return Iterator(m_collection.find(std::wstring_view(shortName)));
+    return shortName != nullptr ? Iterator(m_collection.find(std::wstring_view(shortName))) : End();
 }
 
 VDopView::Iterator VDopView::Find(NODX201::VDopBase& dop) { return Iterator(_Find(dop)); }

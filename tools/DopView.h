@@ -52,7 +52,7 @@ public:
     Iterator begin() { return Begin(); }
     Iterator end() { return End(); }
 
-    Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none
+    Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none, and for null
     Iterator Find(NODX201::VDopBase& dop);   ///< this very object; `End()` when there is none
 
     void Append(NODX201::VDopBase& dop); ///< under its short name; no effect when that is taken

@@ -76,7 +76,8 @@ public:
     using typename VListView<Traits>::Iterator;
     using VListView<Traits>::Find;
 
-    /// The first entry of exactly this short name (case-sensitive, no trimming); `End()` when there is none. Linear.
+    /// The first entry of exactly this short name (case-sensitive, no trimming); `End()` when there is none, and for
+    /// null. Linear.
     Iterator Find(wchar_t const* shortName);
 
 protected:

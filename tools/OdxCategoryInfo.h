@@ -20,10 +20,10 @@ public:
     static VOdxCategoryInfo& CreateFromFileAndShortName(wchar_t const* fileName, wchar_t const* shortName);
     VOdxCategoryInfo& Clone() const; ///< a new copy that the caller owns
 
-    virtual wchar_t const* GetFileName() const; ///< valid until the next set or destruction; "" at first
-    virtual void SetFileName(wchar_t const* fileName);
-    virtual wchar_t const* GetShortName() const; ///< valid until the next set or destruction; "" at first
-    virtual void SetShortName(wchar_t const* shortName);
+    virtual wchar_t const* GetFileName() const;          ///< valid until the next set or destruction; "" at first
+    virtual void SetFileName(wchar_t const* fileName);   ///< null as ""
+    virtual wchar_t const* GetShortName() const;         ///< valid until the next set or destruction; "" at first
+    virtual void SetShortName(wchar_t const* shortName); ///< null as ""
 
 private:
     std::wstring m_fileName;

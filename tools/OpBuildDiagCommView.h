@@ -29,7 +29,7 @@ public:
     /// that is logged and, unless the listener has this builder make a view, asserted.
     VDiagCommView* CreateDiagCommView(NODX201::VDiagLayer& layer);
 
-    /// Destroys a view that a builder made.
+    /// Destroys a view that a builder made; nothing happens for a reference behind which there is none (null).
     void DestroyDiagCommView(VDiagCommView& view);
 
 private:

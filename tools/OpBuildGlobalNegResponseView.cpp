@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildGlobalNegResponseView.h>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/tools/ViewBuilder.h>
 
 namespace NDIAGKIT {
@@ -23,6 +24,8 @@ VGlobalNegResponseView* VOpBuildGlobalNegResponseView::CreateGlobalNegResponseVi
     return CreateViewSilently(mpGlobalNegResponseView, [&] { layer.Accept(*this); });
 }
 
-void VOpBuildGlobalNegResponseView::DestroyGlobalNegResponseView(VGlobalNegResponseView& view) { delete &view; }
+void VOpBuildGlobalNegResponseView::DestroyGlobalNegResponseView(VGlobalNegResponseView& view) {
+    DestroyIfThere(&view);
+}
 
 } // namespace NDIAGKIT

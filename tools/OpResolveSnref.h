@@ -11,7 +11,7 @@ namespace NDIAGKIT {
 
 /// Resolves short names against what is visible in a context once inheritance has been applied: it builds the matching
 /// view, looks the name up, exactly, and discards the view. Results belong to the model; null when nothing of that name
-/// is visible. Where several visible elements bear the name, the first in view order wins.
+/// is visible, and for a name that is null. Where several visible elements bear the name, the first in view order wins.
 ///
 /// Only DOP views are kept, one a layer for the life of the resolver, and never refreshed: DOPs that are added to or
 /// removed from a layer or its parents after the first DOP resolution there are not seen, and removed ones must not be

@@ -53,7 +53,7 @@ public:
     virtual ~VOutParamIfView();
 
     using VListView<VOutParamIfViewTraits>::Find;
-    Iterator Find(wchar_t const* shortName, NODX201::VDiagLayer& layer); ///< `End()` when nothing matches
+    Iterator Find(wchar_t const* shortName, NODX201::VDiagLayer& layer); ///< `End()` when nothing matches, and for null
     /// The same, with the match, or null, in `found`.
     Iterator Find(wchar_t const* shortName, NODX201::IOutParamIf*& found, NODX201::VDiagLayer& layer);
     NODX201::IOutParamIf* FindParam(wchar_t const* shortName,
