@@ -18,7 +18,7 @@ namespace NDIAGKIT {
 /// - `Visit<Kind>(x)` calls `PreProcess<Kind>(x)`, `DefaultVisit(x)`, `Descend<Kind>(x)`, `PostProcess<Kind>(x)`. Kinds
 ///   without children have no Descend. A Visit that is overridden without calling the base skips the element.
 /// - `Descend<Kind>(x)` visits the children, in the order in which its body lists them.
-/// - `PreProcess<Kind>`, `PostProcess<Kind>` and `DefaultVisit` do nothing; they are the hooks. ROLE texts get no
+/// - The hooks, `PreProcess<Kind>`, `PostProcess<Kind>` and `DefaultVisit`, are empty. ROLE texts get no
 ///   `DefaultVisit`, because a text is no element; the hooks receive a copy of it, whose changes go nowhere.
 ///
 /// References to DOPs, structures, tables and rows, units, companies and team members are followed into their targets,
@@ -301,7 +301,7 @@ protected:
     void VisitDtcDop(NODX201::VDtcDop& x) override;
 
     NODX201::VDiagLayer& m_layer; ///< what references resolve against
-    /// The DIAG-COMM in whose context the PARAM-SNREF of an ENV-DATA-DESC is read; null in a dictionary walk, which
+    /// The DIAG-COMM in whose context an ENV-DATA-DESC reads its PARAM-SNREF; null in a dictionary walk, which
     /// therefore never follows one.
     NODX201::VDiagComm* m_currentDiagComm = nullptr;
 

@@ -71,7 +71,7 @@ void Traverser::VisitMatchingParameter(NODX201::VMatchingParameter& x) { PreProc
 void Traverser::VisitSupportedDynId(NODX201::VByteStream& x)           { PreProcessSupportedDynId(x);    DefaultVisit(x);                              PostProcessSupportedDynId(x);    }
 void Traverser::VisitComparamRef(NODX201::VComparamRef& x)             { PreProcessComparamRef(x);       DefaultVisit(x);                              PostProcessComparamRef(x);       }
 
-// The current DIAG-COMM is set on entering.
+// Entering a DIAG-COMM makes it the current one.
 // Deliberate: it is null afterwards and not restored (CurrentDiagCommIsNullAfterANestedDiagComm).
 
 void Traverser::VisitDiagComm(NODX201::VDiagComm& x) {

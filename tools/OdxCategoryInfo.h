@@ -7,7 +7,7 @@
 
 namespace NDIAGKIT {
 
-/// One ODX category (a document such as a container, comparam spec or flash): the file that holds it and its short
+/// A document of one of ODX's categories (DIAG-LAYER-CONTAINER, COMPARAM-SPEC, FLASH and so on): its file and its short
 /// name.
 class DIAGKIT_EXPORT VOdxCategoryInfo {
 public:
@@ -16,7 +16,7 @@ public:
     virtual ~VOdxCategoryInfo();
     VOdxCategoryInfo& operator=(VOdxCategoryInfo const&) = delete;
 
-    /// A new record; the caller owns it, typically by appending it to a collection.
+    /// A new record. It belongs to the caller, or to the collection that the caller appends it to.
     static VOdxCategoryInfo& CreateFromFileAndShortName(wchar_t const* fileName, wchar_t const* shortName);
     VOdxCategoryInfo& Clone() const; ///< a new copy that the caller owns
 

@@ -20,7 +20,7 @@ void VOpBuildGlobalNegResponseView::VisitEcuSharedData(NODX201::VEcuSharedData& 
 // clang-format on
 
 VGlobalNegResponseView* VOpBuildGlobalNegResponseView::CreateGlobalNegResponseView(NODX201::VDiagLayer& layer) {
-    // Deliberate: this builder neither logs nor asserts when no view resulted (BuilderWithoutViewIsSilent).
+    // Deliberate: no message and no assertion where there is no view (BuilderWithoutViewIsSilent).
     return CreateViewSilently(mpGlobalNegResponseView, [&] { layer.Accept(*this); });
 }
 

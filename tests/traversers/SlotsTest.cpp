@@ -122,7 +122,7 @@ VSlots const kPostProcess = {
 
 TEST(TraverserSlotsTest, PreProcess) {
     VSlots layers = Row(49, kLayerKinds);
-    std::swap(layers[0], layers[1]); // Protocol comes before BaseVariant here, and only here
+    std::swap(layers[0], layers[1]); // in no other list does Protocol come first
     EXPECT_EQ(kPreProcess, Joined(Row(109, kDictionaryKinds), layers));
 }
 
