@@ -33,8 +33,8 @@ set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/DebianFiles.cmake)
 set(CPACK_DIAGKIT_CHANGELOG ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
 set(CPACK_DIAGKIT_COPYRIGHT ${PROJECT_SOURCE_DIR}/packaging/copyright)
 
-set(about "diagkit answers questions about ODX 2.0.1 diagnostic data (ASAM MCD-2D, ISO
-22901): what is visible in a layer once inheritance has been applied, where it
+set(about "diagkit answers questions about diagnostic data in ODX 2.0.1 (ISO 22901, ASAM
+MCD-2D): what is visible in a layer once inheritance has been applied, where it
 comes from, and what a short name means there.")
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})

@@ -4,6 +4,7 @@ set(internal_headers
     memory/NewImpl.h
     memory/PlaceIndex.h
     tools/Alternative.h
+    tools/DestroyIfThere.h
     tools/ListViewImpl.h
     tools/ParamRecursivSearchVisitor.h
     tools/PointerSet.h
@@ -24,6 +25,8 @@ set(public_headers
     tools/oem/OemChecker.h
     tools/oem/OemReport.h
     util/Assertion.h
+    util/CheckedCast.h
+    util/Utf16.h
 )
 foreach(folder model logging tools memory)
     file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h

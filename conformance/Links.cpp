@@ -33,6 +33,7 @@ std::vector<VQuestion> QuestionsFor(VOutParamIfLink& link, VDiagLayer& layer) {
 
 } // namespace
 
+std::vector<VQuestion> QuestionsFor(VLink& link, VDiagLayer* layer) {
 #define LINK(link_class, target)                                                                                       \
     if (auto* const x = dynamic_cast<link_class*>(&link); x != nullptr) {                                              \
         return {{[x] { return x->Has##target(); }, [x] { return ChildOf(x->Get##target()); }}};                        \
@@ -41,46 +42,12 @@ std::vector<VQuestion> QuestionsFor(VOutParamIfLink& link, VDiagLayer& layer) {
     if (auto* const x = dynamic_cast<link_class*>(&link); x != nullptr && layer != nullptr) {                          \
         return {{[x, layer] { return x->Has##target(*layer); }, [x] { return ChildOf(x->Get##target()); }}};           \
     }
-
-std::vector<VQuestion> QuestionsFor(VLink& link, VDiagLayer* layer) {
-    // clang-format off
-    LINK_IN_LAYER(VDataObjectPropLink, DataObjectProp)
-    LINK_IN_LAYER(VDiagCommLink,       DiagComm)
-    LINK_IN_LAYER(VDiagVariableLink,   DiagVariable)
-    LINK_IN_LAYER(VDopBaseLink,        DopBase)
-    LINK(VBaseVariantRef,        BaseVariant)
-    LINK(VBasicStructureLink,    BasicStructure)
-    LINK(VCompanyDataLink,       CompanyData)
-    LINK(VComparamSpecLink,      ComparamSpec)
-    LINK(VDtcLink,               Dtc)
-    LINK(VDynEndDopRef,          DopBase)
-    LINK(VEcuSharedDataRef,      EcuSharedData)
-    LINK(VEnvDataDescLink,       EnvDataDesc)
-    LINK(VEnvDataLink,           EnvData)
-    LINK(VFunctClassLink,        FunctClass)
-    LINK(VFunctionalGroupRef,    FunctionalGroup)
-    LINK(VNegResponseLink,       NegResponse)
-    LINK(VPhysicalDimensionLink, PhysicalDimension)
-    LINK(VPosResponseLink,       PosResponse)
-    LINK(VProtocolRef,           Protocol)
-    LINK(VRelatedDiagCommRef,    DiagComm)
-    LINK(VRequestLink,           Request)
-    LINK(VStructureLink,         Structure)
-    LINK(VTableKeyLink,          TableKey)
-    LINK(VTableLink,             Table)
-    LINK(VTableRowLink,          TableRow)
-    LINK(VTeamMemberLink,        TeamMember)
-    LINK(VUnitLink,              Unit)
-    LINK(VVariableGroupLink,     VariableGroup)
-    // clang-format on
+#include <diagkit/conformance/Links.def>
     if (auto* const x = dynamic_cast<VOutParamIfLink*>(&link); x != nullptr && layer != nullptr) {
         return QuestionsFor(*x, *layer);
     }
     return {};
 }
-
-#undef LINK
-#undef LINK_IN_LAYER
 
 bool IsAskedForLayer(VLink& link) {
     return dynamic_cast<VDataObjectPropLink*>(&link) != nullptr || dynamic_cast<VDiagCommLink*>(&link) != nullptr ||

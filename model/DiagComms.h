@@ -179,7 +179,7 @@ public:
     virtual VDopBaseLink& GetDopBaseRef() = 0;
 };
 
-/// OUT-PARAM-IF-SNREF, and the PARAM-SNREF of an ENV-DATA-DESC.
+/// OUT-PARAM-IF-SNREF, and an ENV-DATA-DESC's PARAM-SNREF.
 class DIAGKIT_EXPORT VOutParamIfLink : public VLink {
 public:
     ~VOutParamIfLink() override;

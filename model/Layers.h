@@ -4,8 +4,8 @@
 #include <diagkit/model/Collections.h>
 #include <diagkit/model/Reference.h>
 
-/// Diagnostic layers and their parts. The model does not flatten inheritance: each layer returns its own contents, and
-/// the toolkit's views compute what is visible in it.
+/// Diagnostic layers and their parts. Nothing that is inherited is in them: a layer has its own contents alone, and the
+/// toolkit's views compute what is visible in it.
 
 namespace NODX201 {
 

@@ -9,8 +9,8 @@ namespace NODX201 {
 /// Turns short names into elements on behalf of a model. A model calls it for its SNREF links; what a short name means
 /// depends on the context it is read in, usually a layer with all that it inherits.
 ///
-/// Every operation takes a short name that is not null and returns an element of the model, or null when nothing of
-/// that name is visible. Names compare exactly.
+/// Every operation takes a short name that is not null and returns an element of the model. It returns null where none
+/// of that name is visible. Names compare exactly.
 class DIAGKIT_EXPORT VAbstractSnrefResolver {
 public:
     virtual ~VAbstractSnrefResolver();

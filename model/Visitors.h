@@ -4,8 +4,8 @@
 #include <diagkit/Export.h>
 #include <diagkit/model/Forward.h>
 
-/// Double dispatch over the four families of elements that come in kinds. An element's `Accept` calls back the Visit
-/// operation of its concrete kind, exactly once; `Dispatch...` is the same from the visitor's side. Visit operations
+/// Double dispatch over the four families of elements that come in kinds. An element's `Accept` calls one Visit
+/// operation, that for its kind, and calls it once; `Dispatch...` is the same from the visitor's side. Visit operations
 /// are pure: a visitor says what it does with every kind.
 
 namespace NODX201 {

@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <tuple>
+
+#include <diagkit/util/CheckedCast.h>
+
 namespace NDIAGKIT {
 
-/// The alternative behind an interface when its type test says so and it is one; null otherwise.
+/// The alternative behind an interface when its type test says so and it is one; null otherwise. A test alone proves
+/// nothing: interfaces are open to classes that are no alternative.
 template <class Alternative, class Interface>
 Alternative* As(bool isAlternative, Interface& choice) {
     return isAlternative ? dynamic_cast<Alternative*>(&choice) : nullptr;
 }
 
-/// The same for type tests that are final in the contract's own classes, so that no model can answer otherwise: the
-/// answer is trusted. Finding the type once more would cost as much as half a visit.
-template <class Alternative, class Interface>
-Alternative* TrustedAs(bool isAlternative, Interface& choice) {
-    return isAlternative ? static_cast<Alternative*>(&choice) : nullptr;
+/// The same by a cast of `casts`, a tuple with a `VCheckedCast` from the interface to the alternative.
+template <class Alternative, class Casts, class Interface>
+Alternative* As(Casts& casts, bool isAlternative, Interface& choice) {
+    return isAlternative ? std::get<NPavonaUtil::VCheckedCast<Alternative, Interface>>(casts)(choice) : nullptr;
 }
 
 } // namespace NDIAGKIT

@@ -99,7 +99,7 @@ void Traverser::TraverseDiagDataDictionarySpec(NODX201::VDiagDataDictionarySpec&
     if (spec.HasAdminData())                                             { VisitAdminData(spec.GetAdminData()); }
     for (NODX201::VDopBase& dop : spec.DopBaseCollection())              { DispatchDopBase(dop); }
     for (NODX201::IEnvDataProxy& proxy : spec.EnvDataProxyCollection()) {
-        if (auto* const envData = TrustedAs<NODX201::VEnvData>(proxy.IsEnvData(), proxy)) { VisitEnvData(*envData); }
+        if (auto* const envData = As<NODX201::VEnvData>(m_casts, proxy.IsEnvData(), proxy)) { VisitEnvData(*envData); }
     }
     if (spec.HasUnitSpec())                                              { VisitUnitSpec(spec.GetUnitSpec()); }
     for (NODX201::VTable& table : spec.TableCollection())                { VisitTable(table); }
@@ -117,7 +117,7 @@ void Traverser::DescendEnvData(NODX201::VEnvData& x) {
     DescendBasicStructure(x);
     if (x.HasAllValueDtcValuesChoice()) {
         NODX201::IAllValueDtcValuesChoice& choice = x.GetAllValueDtcValuesChoice();
-        if (auto* const all = TrustedAs<NODX201::VAllValue>(choice.IsAllValue(), choice)) { VisitAllValue(*all); }
+        if (auto* const all = As<NODX201::VAllValue>(m_casts, choice.IsAllValue(), choice)) { VisitAllValue(*all); }
     }
 }
 
@@ -130,12 +130,12 @@ void Traverser::DescendEnvDataDesc(NODX201::VEnvDataDesc& x) {
     if (x.HasParamSnref() && m_currentDiagComm != nullptr &&
         x.GetParamSnref().HasOutParamIf(*m_currentDiagComm, m_layer, NODX201::VSearchRange::Responses)) {
         NODX201::IOutParamIf& param = x.GetParamSnref().GetOutParamIf();
-        if (auto* const output = TrustedAs<NODX201::VOutputParam>(param.IsOutputParam(), param)) { VisitOutputParam(*output); }
-        if (auto* const value = TrustedAs<NODX201::VValue>(param.IsValue(), param))              { VisitValue(*value); }
+        if (auto* const output = As<NODX201::VOutputParam>(m_casts, param.IsOutputParam(), param)) { VisitOutputParam(*output); }
+        if (auto* const value = As<NODX201::VValue>(m_casts, param.IsValue(), param))              { VisitValue(*value); }
     }
     for (NODX201::IEnvDataProxy& proxy : x.EnvDataProxyCollection()) {
-        if (auto* const envData = TrustedAs<NODX201::VEnvData>(proxy.IsEnvData(), proxy)) { VisitEnvData(*envData); }
-        auto* const link = TrustedAs<NODX201::VEnvDataLink>(proxy.IsEnvDataLink(), proxy);
+        if (auto* const envData = As<NODX201::VEnvData>(m_casts, proxy.IsEnvData(), proxy)) { VisitEnvData(*envData); }
+        auto* const link = As<NODX201::VEnvDataLink>(m_casts, proxy.IsEnvDataLink(), proxy);
         if (link != nullptr && link->HasEnvData())                                 { VisitEnvData(link->GetEnvData()); }
     }
 }
@@ -180,8 +180,8 @@ void Traverser::DescendDtcDop(NODX201::VDtcDop& x) {
     if (x.HasPhysicalType())  { VisitPhysicalType(x.GetPhysicalType()); }
     if (x.HasCompuMethod())   { VisitCompuMethod(x.GetCompuMethod()); }
     for (NODX201::IDtcProxy& proxy : x.DtcProxyCollection()) {
-        if (auto* const dtc = TrustedAs<NODX201::VDtc>(proxy.IsDtc(), proxy)) { VisitDtc(*dtc); }
-        auto* const link = TrustedAs<NODX201::VDtcLink>(proxy.IsDtcLink(), proxy);
+        if (auto* const dtc = As<NODX201::VDtc>(m_casts, proxy.IsDtc(), proxy)) { VisitDtc(*dtc); }
+        auto* const link = As<NODX201::VDtcLink>(m_casts, proxy.IsDtcLink(), proxy);
         if (link != nullptr && link->HasDtc())                         { VisitDtc(link->GetDtc()); }
     }
 }
@@ -237,8 +237,8 @@ void Traverser::DescendSystem(NODX201::VSystem& x) {
 void Traverser::DescendTableKey(NODX201::VTableKey& x) {
     if (x.HasTableRefTableRowRefChoice()) {
         NODX201::ITableRefTableRowRefChoice& choice = x.GetTableRefTableRowRefChoice();
-        auto* const table = TrustedAs<NODX201::VTableLink>(choice.IsTableLink(), choice);
-        auto* const row = TrustedAs<NODX201::VTableRowLink>(choice.IsTableRowLink(), choice);
+        auto* const table = As<NODX201::VTableLink>(m_casts, choice.IsTableLink(), choice);
+        auto* const row = As<NODX201::VTableRowLink>(m_casts, choice.IsTableRowLink(), choice);
         if (table != nullptr && table->HasTable()) { VisitTable(table->GetTable()); }
         if (row != nullptr && row->HasTableRow())  { VisitTableRow(row->GetTableRow()); }
     }
@@ -284,18 +284,18 @@ void Traverser::DescendInternalConstr(NODX201::VInternalConstr& x) {
 void Traverser::DescendSdg(NODX201::VSdg& x) {
     if (x.HasSdgCaption()) { VisitSdgCaption(x.GetSdgCaption()); }
     for (NODX201::ISdgSdChoice& choice : x.SdgSdChoiceCollection()) {
-        if (auto* const sd = TrustedAs<NODX201::VSd>(choice.IsSd(), choice))    { VisitSd(*sd); }
-        if (auto* const sdg = TrustedAs<NODX201::VSdg>(choice.IsSdg(), choice)) { VisitSdg(*sdg); }
+        if (auto* const sd = As<NODX201::VSd>(m_casts, choice.IsSd(), choice))    { VisitSd(*sd); }
+        if (auto* const sdg = As<NODX201::VSdg>(m_casts, choice.IsSdg(), choice)) { VisitSdg(*sdg); }
     }
 }
 
 void Traverser::DescendCompuInternalToPhys(NODX201::VCompuInternalToPhys& x) {
     if (x.HasCompuScalesProgCodeChoice()) {
         NODX201::ICompuScalesProgCodeChoice& choice = x.GetCompuScalesProgCodeChoice();
-        if (auto* const scales = TrustedAs<NODX201::VCompuScaleCollection>(choice.IsCompuScales(), choice)) {
+        if (auto* const scales = As<NODX201::VCompuScaleCollection>(m_casts, choice.IsCompuScales(), choice)) {
             for (NODX201::VCompuScale& scale : *scales)                                { VisitCompuScale(scale); }
         }
-        if (auto* const progCode = TrustedAs<NODX201::VProgCode>(choice.IsProgCode(), choice)) { VisitProgCode(*progCode); }
+        if (auto* const progCode = As<NODX201::VProgCode>(m_casts, choice.IsProgCode(), choice)) { VisitProgCode(*progCode); }
     }
     if (x.HasCompuDefaultValue()) { VisitCompuDefaultValue(x.GetCompuDefaultValue()); }
 }
@@ -319,8 +319,8 @@ void Traverser::DescendCompuScale(NODX201::VCompuScale& x) {
     if (x.HasCompuInverseValue()) { VisitCompuInverseValue(x.GetCompuInverseValue()); }
     if (x.HasCompuConstCompuRationalCoeffsChoice()) {
         NODX201::ICompuConstCompuRationalCoeffsChoice& choice = x.GetCompuConstCompuRationalCoeffsChoice();
-        auto* const constant = TrustedAs<NODX201::VCompuConst>(choice.IsCompuConst(), choice);
-        auto* const coeffs = TrustedAs<NODX201::VCompuRationalCoeffs>(choice.IsCompuRationalCoeffs(), choice);
+        auto* const constant = As<NODX201::VCompuConst>(m_casts, choice.IsCompuConst(), choice);
+        auto* const coeffs = As<NODX201::VCompuRationalCoeffs>(m_casts, choice.IsCompuRationalCoeffs(), choice);
         if (constant != nullptr) { VisitCompuConst(*constant); }
         if (coeffs != nullptr)   { VisitCompuRationalCoeffs(*coeffs); }
     }
@@ -334,8 +334,8 @@ void Traverser::DescendField(NODX201::VField& x) {
     DescendComplexDop(x);
     if (x.HasBasicStructureEnvDataDescChoice()) {
         NODX201::IBasicStructureEnvDataDescChoice& choice = x.GetBasicStructureEnvDataDescChoice();
-        auto* const structure = TrustedAs<NODX201::VBasicStructureLink>(choice.IsBasicStructureLink(), choice);
-        auto* const desc = TrustedAs<NODX201::VEnvDataDescLink>(choice.IsEnvDataDescLink(), choice);
+        auto* const structure = As<NODX201::VBasicStructureLink>(m_casts, choice.IsBasicStructureLink(), choice);
+        auto* const desc = As<NODX201::VEnvDataDescLink>(m_casts, choice.IsEnvDataDescLink(), choice);
         if (structure != nullptr && structure->HasBasicStructure()) { VisitBasicStructure(structure->GetBasicStructure()); }
         if (desc != nullptr && desc->HasEnvDataDesc())              { VisitEnvDataDesc(desc->GetEnvDataDesc()); }
     }
@@ -358,8 +358,8 @@ void Traverser::DescendTable(NODX201::VTable& x) {
     if (x.HasAdminData())                                                { VisitAdminData(x.GetAdminData()); }
     if (x.HasKeyDopRef() && x.GetKeyDopRef().HasDataObjectProp(m_layer)) { DispatchDopBase(x.GetKeyDopRef().GetDataObjectProp()); }
     for (NODX201::IRowWrapper& wrapper : x.RowWrapperCollection()) {
-        if (auto* const row = TrustedAs<NODX201::VTableRow>(wrapper.IsTableRow(), wrapper)) { VisitTableRow(*row); }
-        auto* const link = TrustedAs<NODX201::VTableRowLink>(wrapper.IsTableRowLink(), wrapper);
+        if (auto* const row = As<NODX201::VTableRow>(m_casts, wrapper.IsTableRow(), wrapper)) { VisitTableRow(*row); }
+        auto* const link = As<NODX201::VTableRowLink>(m_casts, wrapper.IsTableRowLink(), wrapper);
         if (link != nullptr && link->HasTableRow())                                  { VisitTableRow(link->GetTableRow()); }
     }
 }

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <string>
+#include <tuple>
 
 #include <diagkit/Export.h>
 #include <diagkit/model/Collections.h>
 #include <diagkit/model/Visitors.h>
+#include <diagkit/util/CheckedCast.h>
 
 namespace NDIAGKIT {
 
@@ -16,7 +18,7 @@ namespace NDIAGKIT {
 /// - `Visit<Kind>(x)` calls `PreProcess<Kind>(x)`, `DefaultVisit(x)`, `Descend<Kind>(x)`, `PostProcess<Kind>(x)`. Kinds
 ///   without children have no Descend. A Visit that is overridden without calling the base skips the element.
 /// - `Descend<Kind>(x)` visits the children, in the order in which its body lists them.
-/// - `PreProcess<Kind>`, `PostProcess<Kind>` and `DefaultVisit` do nothing; they are the hooks. ROLE texts get no
+/// - The hooks, `PreProcess<Kind>`, `PostProcess<Kind>` and `DefaultVisit`, are empty. ROLE texts get no
 ///   `DefaultVisit`, because a text is no element; the hooks receive a copy of it, whose changes go nowhere.
 ///
 /// References to DOPs, structures, tables and rows, units, companies and team members are followed into their targets,
@@ -299,9 +301,34 @@ protected:
     void VisitDtcDop(NODX201::VDtcDop& x) override;
 
     NODX201::VDiagLayer& m_layer; ///< what references resolve against
-    /// The DIAG-COMM in whose context the PARAM-SNREF of an ENV-DATA-DESC is read; null in a dictionary walk, which
+    /// The DIAG-COMM in whose context an ENV-DATA-DESC reads its PARAM-SNREF; null in a dictionary walk, which
     /// therefore never follows one.
     NODX201::VDiagComm* m_currentDiagComm = nullptr;
+
+private:
+    // clang-format off
+    /// The casts behind type tests; to search each time would cost as much as half a visit.
+    std::tuple<
+        NPavonaUtil::VCheckedCast<NODX201::VAllValue,             NODX201::IAllValueDtcValuesChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VBasicStructureLink,   NODX201::IBasicStructureEnvDataDescChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VEnvDataDescLink,      NODX201::IBasicStructureEnvDataDescChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VCompuConst,           NODX201::ICompuConstCompuRationalCoeffsChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VCompuRationalCoeffs,  NODX201::ICompuConstCompuRationalCoeffsChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VCompuScaleCollection, NODX201::ICompuScalesProgCodeChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VProgCode,             NODX201::ICompuScalesProgCodeChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VDtc,                  NODX201::IDtcProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VDtcLink,              NODX201::IDtcProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VEnvData,              NODX201::IEnvDataProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VEnvDataLink,          NODX201::IEnvDataProxy>,
+        NPavonaUtil::VCheckedCast<NODX201::VOutputParam,          NODX201::IOutParamIf>,
+        NPavonaUtil::VCheckedCast<NODX201::VValue,                NODX201::IOutParamIf>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableRow,             NODX201::IRowWrapper>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableRowLink,         NODX201::IRowWrapper>,
+        NPavonaUtil::VCheckedCast<NODX201::VSd,                   NODX201::ISdgSdChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VSdg,                  NODX201::ISdgSdChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableLink,            NODX201::ITableRefTableRowRefChoice>,
+        NPavonaUtil::VCheckedCast<NODX201::VTableRowLink,         NODX201::ITableRefTableRowRefChoice>> m_casts;
+    // clang-format on
 };
 
 } // namespace NDIAGKIT

@@ -18,6 +18,25 @@ namespace NDIAGKIT {
 
 using Traverser = VDiagLayerTraverser;
 
+namespace {
+
+/// The current DIAG-COMM for as long as it is being visited, none afterwards. By an exception too: the element may be
+/// gone before the next walk.
+class VCurrentDiagComm {
+public:
+    VCurrentDiagComm(NODX201::VDiagComm*& current, NODX201::VDiagComm& diagComm) : m_current(current) {
+        m_current = &diagComm;
+    }
+    ~VCurrentDiagComm() { m_current = nullptr; }
+    VCurrentDiagComm(VCurrentDiagComm const&) = delete;
+    VCurrentDiagComm& operator=(VCurrentDiagComm const&) = delete;
+
+private:
+    NODX201::VDiagComm*& m_current;
+};
+
+} // namespace
+
 Traverser::VDiagLayerTraverser(NODX201::VDiagLayer& layer) : VDiagDataDictionarySpecTraverser(layer) {}
 
 Traverser::~VDiagLayerTraverser() = default;
@@ -52,34 +71,31 @@ void Traverser::VisitMatchingParameter(NODX201::VMatchingParameter& x) { PreProc
 void Traverser::VisitSupportedDynId(NODX201::VByteStream& x)           { PreProcessSupportedDynId(x);    DefaultVisit(x);                              PostProcessSupportedDynId(x);    }
 void Traverser::VisitComparamRef(NODX201::VComparamRef& x)             { PreProcessComparamRef(x);       DefaultVisit(x);                              PostProcessComparamRef(x);       }
 
-// The current DIAG-COMM is set on entering.
+// Entering a DIAG-COMM makes it the current one.
 // Deliberate: it is null afterwards and not restored (CurrentDiagCommIsNullAfterANestedDiagComm).
 
 void Traverser::VisitDiagComm(NODX201::VDiagComm& x) {
-    m_currentDiagComm = &x;
+    VCurrentDiagComm const current(m_currentDiagComm, x);
     PreProcessDiagComm(x);
     DefaultVisit(x);
     DescendDiagComm(x);
     PostProcessDiagComm(x);
-    m_currentDiagComm = nullptr;
 }
 
 void Traverser::VisitDiagService(NODX201::VDiagService& x) {
-    m_currentDiagComm = &x;
+    VCurrentDiagComm const current(m_currentDiagComm, x);
     PreProcessDiagService(x);
     DefaultVisit(x);
     DescendDiagService(x);
     PostProcessDiagService(x);
-    m_currentDiagComm = nullptr;
 }
 
 void Traverser::VisitSingleEcuJob(NODX201::VSingleEcuJob& x) {
-    m_currentDiagComm = &x;
+    VCurrentDiagComm const current(m_currentDiagComm, x);
     PreProcessSingleEcuJob(x);
     DefaultVisit(x);
     DescendSingleEcuJob(x);
     PostProcessSingleEcuJob(x);
-    m_currentDiagComm = nullptr;
 }
 
 // Children, in the order in which they are visited.
@@ -89,13 +105,18 @@ void Traverser::DescendDiagLayer(NODX201::VDiagLayer& x) {
     for (NODX201::VCompanyData& company : x.CompanyDataCollection())  { VisitCompanyData(company); }
     for (NODX201::VFunctClass& functClass : x.FunctClassCollection()) { VisitFunctClass(functClass); }
     if (x.HasDiagDataDictionarySpec())                                { TraverseDiagDataDictionarySpec(x.GetDiagDataDictionarySpec()); }
-    for (NODX201::IDiagCommProxy& proxy : x.DiagCommProxyCollection()) {
-        auto* const service = As<NODX201::VDiagService>(proxy.IsDiagService(), proxy);
-        auto* const job = As<NODX201::VSingleEcuJob>(proxy.IsSingleEcuJob(), proxy);
-        auto* const link = As<NODX201::VDiagCommLink>(proxy.IsDiagCommLink(), proxy);
-        if (service != nullptr)                               { VisitDiagService(*service); }
-        if (job != nullptr)                                   { VisitSingleEcuJob(*job); }
-        if (link != nullptr && link->HasDiagComm(m_layer))    { VisitDiagComm(link->GetDiagComm()); }
+    if (x.HasDiagCommProxyCollection()) {
+        std::tuple<NPavonaUtil::VCheckedCast<NODX201::VDiagService, NODX201::IDiagCommProxy>,
+                   NPavonaUtil::VCheckedCast<NODX201::VSingleEcuJob, NODX201::IDiagCommProxy>,
+                   NPavonaUtil::VCheckedCast<NODX201::VDiagCommLink, NODX201::IDiagCommProxy>> casts;
+        for (NODX201::IDiagCommProxy& proxy : x.DiagCommProxyCollection()) {
+            auto* const service = As<NODX201::VDiagService>(casts, proxy.IsDiagService(), proxy);
+            auto* const job = As<NODX201::VSingleEcuJob>(casts, proxy.IsSingleEcuJob(), proxy);
+            auto* const link = As<NODX201::VDiagCommLink>(casts, proxy.IsDiagCommLink(), proxy);
+            if (service != nullptr)                            { VisitDiagService(*service); }
+            if (job != nullptr)                                { VisitSingleEcuJob(*job); }
+            if (link != nullptr && link->HasDiagComm(m_layer)) { VisitDiagComm(link->GetDiagComm()); }
+        }
     }
     for (NODX201::VRequest& request : x.RequestCollection())          { VisitRequest(request); }
     for (NODX201::VResponse& response : x.ResponseCollection())       { VisitResponse(response); }

@@ -16,11 +16,11 @@ namespace NDIAGKIT {
 /// Followed, every time they are met: references to DIAG-COMMs (from DIAG-COMMS, related DIAG-COMMs, access levels,
 /// comm relations, dynamic definitions, matching parameters), requests and responses, functional classes, DOPs, tables.
 /// Not followed: PARENT-REFs (the walk is over the layer's own contents) and DIAG-VARIABLE-REFs. Every reference
-/// resolves against the layer given to the constructor, never against the layer that owns it.
+/// resolves in the constructor's layer, also one that stands in another.
 ///
 /// While a DIAG-COMM is being visited it is the current one, in whose context an ENV-DATA-DESC reads its PARAM-SNREF.
-/// Leaving a DIAG-COMM sets the current one to null; it is not restored, so after a nested DIAG-COMM there is none for
-/// the rest of the outer one.
+/// Leaving a DIAG-COMM, be it by an exception, sets the current one to null; it is not restored, so after a nested
+/// DIAG-COMM there is none for the rest of the outer one.
 ///
 /// There is no guard: related DIAG-COMMs that name each other recurse without end. `VGuardedDiagLayerTraverser` is the
 /// same walk with one.

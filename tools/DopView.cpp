@@ -40,7 +40,8 @@ void VDopView::Inherit(VLayerOfKind const& layer) {
         dops.emplace_back(dop->GetShortName(), dop);
     }
     // In the order of the map each finds its place at once.
-    std::sort(dops.begin(), dops.end());
+    std::sort(dops.begin(), dops.end(),
+              [](auto const& a, auto const& b) { return NPavonaUtil::VUtf16Less()(a.first, b.first); });
     for (auto const& [shortName, dop] : dops) {
         m_collection.emplace_hint(m_collection.end(), shortName, dop);
     }
@@ -54,7 +55,9 @@ VDopView::Iterator VDopView::Begin() { return Iterator(m_collection.begin()); }
 
 VDopView::Iterator VDopView::End() { return Iterator(m_collection.end()); }
 
-VDopView::Iterator VDopView::Find(wchar_t const* shortName) { return Iterator(m_collection.find(shortName)); }
+VDopView::Iterator VDopView::Find(wchar_t const* shortName) {
+    return shortName != nullptr ? Iterator(m_collection.find(std::wstring_view(shortName))) : End();
+}
 
 VDopView::Iterator VDopView::Find(NODX201::VDopBase& dop) { return Iterator(_Find(dop)); }
 

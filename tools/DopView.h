@@ -8,16 +8,18 @@
 #include <diagkit/model/Forward.h>
 #include <diagkit/tools/ExternalIterator.h>
 #include <diagkit/tools/StringContainer.h>
+#include <diagkit/util/Utf16.h>
 
 namespace NDIAGKIT {
 
 struct VLayerOfKind;
 
 DIAGKIT_TEMPLATE_DECLARATION(
-    VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*>::iterator, NODX201::VDopBase&>);
+    VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*, NPavonaUtil::VUtf16Less>::iterator,
+                         NODX201::VDopBase&>);
 
-/// The DOPs visible in one layer, keyed by short name: its own, then those that it inherits through its PARENT-REFs. A
-/// short name is there once: the one inserted first wins, and the passes insert in the order of priority.
+/// The DOPs visible in one layer, keyed by short name: its own, then what its parents offer. A short name
+/// is there once: the one inserted first wins, and the passes insert in the order of priority.
 ///
 ///     layer               pass 1                            pass 2
 ///     ECU-SHARED-DATA     -                                 -
@@ -28,12 +30,12 @@ DIAGKIT_TEMPLATE_DECLARATION(
 ///
 /// A DOP is whatever the dictionary's DOP collection holds: all kinds but ENV-DATA. No NOT-INHERITED list applies.
 ///
-/// Unlike the other views this one is a map: iteration runs in the order of the short names, compared code unit by code
-/// unit. It holds pointers; the model owns the DOPs and must outlive the view. Finding by name is logarithmic, by
-/// object linear.
+/// Unlike the other views this one is a map: iteration runs in the order of the short names, compared by code units
+/// of UTF-16 on every platform. It holds pointers; the model owns the DOPs and must outlive the view. Finding by name
+/// is logarithmic, by object linear.
 class DIAGKIT_EXPORT VDopView {
 public:
-    using Map = std::map<std::wstring, NODX201::VDopBase*>;
+    using Map = std::map<std::wstring, NODX201::VDopBase*, NPavonaUtil::VUtf16Less>;
     using Iterator = VMapExternalIterator<Map::iterator, NODX201::VDopBase&>;
 
     explicit VDopView(NODX201::VEcuSharedData& layer);
@@ -52,7 +54,7 @@ public:
     Iterator begin() { return Begin(); }
     Iterator end() { return End(); }
 
-    Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none
+    Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none, and for null
     Iterator Find(NODX201::VDopBase& dop);   ///< this very object; `End()` when there is none
 
     void Append(NODX201::VDopBase& dop); ///< under its short name; no effect when that is taken

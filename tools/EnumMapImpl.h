@@ -3,6 +3,9 @@
 
 #include <map>
 #include <string>
+#include <string_view>
+
+#include <diagkit/util/Utf16.h>
 
 namespace NDIAGKIT {
 
@@ -13,27 +16,32 @@ namespace NDIAGKIT {
 template <class T>
 class EnumMapImpl {
 public:
-    explicit EnumMapImpl(wchar_t const* name); ///< empty; the name, copied, is for its users
+    explicit EnumMapImpl(wchar_t const* name); ///< empty; the name, copied, is for its users; null is none
 
-    /// Adds a pair; a literal that is there already keeps its value. Texts are copied.
+    /// Adds a pair; a literal that is there already keeps its value. Texts are copied. Null is no
+    /// literal: nothing is added.
     void Add(wchar_t const* literal, T value);
 
-    T Get(wchar_t const* literal) const; ///< the default when unknown
+    T Get(wchar_t const* literal) const; ///< the default when unknown, and for null
 
-    /// The first literal, in the order of the literals, that has the value; it stays valid as long as the table.
+    /// The first literal, in the order of code units of UTF-16, that has the value; it stays valid as long as the
+    /// table.
     wchar_t const* GetStr(T value) const;
 
-    std::map<std::wstring, T> m_map; ///< values by literal
-    std::wstring m_name;             ///< of the enumeration
-    T m_default = T();               ///< of the first pair added
-    bool m_isDefaultSet = false;     ///< whether a pair was added
+    std::map<std::wstring, T, NPavonaUtil::VUtf16Less> m_map; ///< values by literal
+    std::wstring m_name;                                      ///< of the enumeration
+    T m_default = T();                                        ///< of the first pair added
+    bool m_isDefaultSet = false;                              ///< whether a pair was added
 };
 
 template <class T>
-EnumMapImpl<T>::EnumMapImpl(wchar_t const* name) : m_name(name) {}
+EnumMapImpl<T>::EnumMapImpl(wchar_t const* name) : m_name(name != nullptr ? name : L"") {}
 
 template <class T>
 void EnumMapImpl<T>::Add(wchar_t const* literal, T value) {
+    if (literal == nullptr) {
+        return;
+    }
     m_map.emplace(literal, value);
     if (!m_isDefaultSet) {
         m_isDefaultSet = true;
@@ -43,7 +51,7 @@ void EnumMapImpl<T>::Add(wchar_t const* literal, T value) {
 
 template <class T>
 T EnumMapImpl<T>::Get(wchar_t const* literal) const {
-    auto const found = m_map.find(literal);
+    auto const found = literal != nullptr ? m_map.find(std::wstring_view(literal)) : m_map.end();
     return found != m_map.end() ? found->second : m_default;
 }
 

@@ -147,7 +147,7 @@ private:
     VEnumMapper();
 };
 
-/// The same tables under another name; which of the two a client uses makes no difference to any answer.
+/// The same tables under another name; both mappers answer alike.
 class DIAGKIT_EXPORT VEnumStringMapper : public VEnumTables {
 public:
     static VEnumStringMapper& Instance(); ///< the one of the process

@@ -40,13 +40,13 @@ public:
     Iterator begin() { return Begin(); }
     Iterator end() { return End(); }
 
-    /// The first entry that is this very object; `End()` when there is none.
+    /// The position of the object itself, the first of several; `End()` when it is not there.
     Iterator Find(Element& element);
 
     void Append(Element& element); ///< at the end, without looking for duplicates
 
-    /// Takes the first entry that is this object out of the view; the object lives on. Asserts when the view does not
-    /// hold it, and changes nothing then.
+    /// Takes the object out of the view and lets it live on; of several entries of one object the first goes. Asserts
+    /// when there is none, and changes nothing then.
     void Remove(Element& element);
 
     /// Takes the entry out of the view and DESTROYS the element itself, model and all; use `Remove(element)` to keep
@@ -76,7 +76,8 @@ public:
     using typename VListView<Traits>::Iterator;
     using VListView<Traits>::Find;
 
-    /// The first entry of exactly this short name (case-sensitive, no trimming); `End()` when there is none. Linear.
+    /// The first entry of exactly this short name (case-sensitive, no trimming); `End()` when there is none, and for
+    /// null. Linear.
     Iterator Find(wchar_t const* shortName);
 
 protected:

@@ -106,6 +106,9 @@ VNamedListView<Traits>::~VNamedListView() = default;
 
 template <class Traits>
 typename VNamedListView<Traits>::Iterator VNamedListView<Traits>::Find(wchar_t const* shortName) {
+    if (shortName == nullptr) {
+        return this->End();
+    }
     std::wstring_view const wanted(shortName);
     return Iterator(std::find_if(this->m_collection.begin(), this->m_collection.end(), [wanted](Element* element) {
         wchar_t const* const held = Traits::ShortNameOf(*element);

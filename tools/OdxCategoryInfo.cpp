@@ -22,8 +22,8 @@ VOdxCategoryInfo& VOdxCategoryInfo::CreateFromFileAndShortName(wchar_t const* fi
 VOdxCategoryInfo& VOdxCategoryInfo::Clone() const { return *new VOdxCategoryInfo(*this); }
 
 wchar_t const* VOdxCategoryInfo::GetFileName() const { return m_fileName.c_str(); }
-void VOdxCategoryInfo::SetFileName(wchar_t const* fileName) { m_fileName = fileName; }
+void VOdxCategoryInfo::SetFileName(wchar_t const* fileName) { m_fileName = fileName != nullptr ? fileName : L""; }
 wchar_t const* VOdxCategoryInfo::GetShortName() const { return m_shortName.c_str(); }
-void VOdxCategoryInfo::SetShortName(wchar_t const* shortName) { m_shortName = shortName; }
+void VOdxCategoryInfo::SetShortName(wchar_t const* shortName) { m_shortName = shortName != nullptr ? shortName : L""; }
 
 } // namespace NDIAGKIT

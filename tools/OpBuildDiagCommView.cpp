@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildDiagCommView.h>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/tools/ViewBuilder.h>
 
 namespace NDIAGKIT {
@@ -27,6 +28,6 @@ VDiagCommView* VOpBuildDiagCommView::CreateDiagCommView(NODX201::VDiagLayer& lay
     return CreateView(mpDiagCommView, kSite, [&] { layer.Accept(*this); });
 }
 
-void VOpBuildDiagCommView::DestroyDiagCommView(VDiagCommView& view) { delete &view; }
+void VOpBuildDiagCommView::DestroyDiagCommView(VDiagCommView& view) { DestroyIfThere(&view); }
 
 } // namespace NDIAGKIT

@@ -25,11 +25,11 @@ public:
     void VisitEcuVariant(NODX201::VEcuVariant& layer) override;
     void VisitEcuSharedData(NODX201::VEcuSharedData& layer) override;
 
-    /// The layer's view. Null only when the layer's `Accept` calls back nothing on a builder that never made a view;
-    /// that is logged and asserted.
+    /// The layer's view. Null only when its `Accept` calls back nothing and the builder has no view from before; that
+    /// is logged and, unless the listener has this builder make a view, asserted.
     VDiagCommView* CreateDiagCommView(NODX201::VDiagLayer& layer);
 
-    /// Destroys a view that a builder made.
+    /// Destroys a view that a builder made; nothing happens for a reference behind which there is none (null).
     void DestroyDiagCommView(VDiagCommView& view);
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildDiagVariableView.h>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/tools/ViewBuilder.h>
 
 namespace NDIAGKIT {
@@ -28,6 +29,6 @@ VDiagVariableView* VOpBuildDiagVariableView::CreateDiagVariableView(NODX201::VDi
     return CreateView(mpDiagVariableView, kSite, [&] { layer.Accept(*this); });
 }
 
-void VOpBuildDiagVariableView::DestroyDiagVariableView(VDiagVariableView& view) { delete &view; }
+void VOpBuildDiagVariableView::DestroyDiagVariableView(VDiagVariableView& view) { DestroyIfThere(&view); }
 
 } // namespace NDIAGKIT

@@ -8,8 +8,8 @@ namespace NDIAGKIT {
 
 /// Builds the diag-variable view of a layer whose kind the caller does not know.
 ///
-/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view at its next Create only; a view
-/// handed to `DestroyDiagVariableView` must not be followed by another Create on the same builder.
+/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view when it creates the next, and at
+/// no other time. After `DestroyDiagVariableView` it must not create again.
 class DIAGKIT_EXPORT VOpBuildDiagVariableView : public NODX201::VDiagLayerVisitor {
 public:
     VOpBuildDiagVariableView();

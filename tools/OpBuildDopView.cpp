@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildDopView.h>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/tools/ViewBuilder.h>
 
 namespace NDIAGKIT {
@@ -27,6 +28,6 @@ VDopView* VOpBuildDopView::CreateDopView(NODX201::VDiagLayer& layer) {
     return CreateView(mpDopView, kSite, [&] { layer.Accept(*this); });
 }
 
-void VOpBuildDopView::DestroyDopView(VDopView& view) { delete &view; }
+void VOpBuildDopView::DestroyDopView(VDopView& view) { DestroyIfThere(&view); }
 
 } // namespace NDIAGKIT

@@ -8,8 +8,8 @@ namespace NDIAGKIT {
 
 /// Builds the DOP view of a layer whose kind the caller does not know.
 ///
-/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view at its next Create only; a view
-/// handed to `DestroyDopView` must not be followed by another Create on the same builder.
+/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view when it creates the next, and at
+/// no other time. After `DestroyDopView` it must not create again.
 class DIAGKIT_EXPORT VOpBuildDopView : public NODX201::VDiagLayerVisitor {
 public:
     VOpBuildDopView();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildGlobalNegResponseView.h>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/tools/ViewBuilder.h>
 
 namespace NDIAGKIT {
@@ -19,10 +20,12 @@ void VOpBuildGlobalNegResponseView::VisitEcuSharedData(NODX201::VEcuSharedData& 
 // clang-format on
 
 VGlobalNegResponseView* VOpBuildGlobalNegResponseView::CreateGlobalNegResponseView(NODX201::VDiagLayer& layer) {
-    // Deliberate: this builder neither logs nor asserts when no view resulted (BuilderWithoutViewIsSilent).
+    // Deliberate: no message and no assertion where there is no view (BuilderWithoutViewIsSilent).
     return CreateViewSilently(mpGlobalNegResponseView, [&] { layer.Accept(*this); });
 }
 
-void VOpBuildGlobalNegResponseView::DestroyGlobalNegResponseView(VGlobalNegResponseView& view) { delete &view; }
+void VOpBuildGlobalNegResponseView::DestroyGlobalNegResponseView(VGlobalNegResponseView& view) {
+    DestroyIfThere(&view);
+}
 
 } // namespace NDIAGKIT

@@ -8,9 +8,9 @@ namespace NDIAGKIT {
 
 /// Builds the global negative-response view of a layer.
 ///
-/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view at its next Create only; a view
-/// handed to `DestroyGlobalNegResponseView` must not be followed by another Create on the same builder. Unlike the
-/// other builders it neither logs nor asserts when a layer calls back no Visit operation: it returns what it remembers.
+/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view when it creates the next, and at
+/// no other time. After `DestroyGlobalNegResponseView` it must not create again. Unlike the other builders it is silent
+/// when a layer calls back no Visit operation: it returns what it remembers.
 class DIAGKIT_EXPORT VOpBuildGlobalNegResponseView : public NODX201::VDiagLayerVisitor {
 public:
     VOpBuildGlobalNegResponseView();

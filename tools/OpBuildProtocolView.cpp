@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/tools/OpBuildProtocolView.h>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/tools/ViewBuilder.h>
 
 namespace NDIAGKIT {
@@ -19,6 +20,6 @@ VProtocolView* VOpBuildProtocolView::CreateProtocolView(NODX201::VDiagLayerConta
     return CreateView(mpProtocolView, kSite, [&] { mpProtocolView = new VProtocolView(container); });
 }
 
-void VOpBuildProtocolView::DestroyProtocolView(VProtocolView& view) { delete &view; }
+void VOpBuildProtocolView::DestroyProtocolView(VProtocolView& view) { DestroyIfThere(&view); }
 
 } // namespace NDIAGKIT

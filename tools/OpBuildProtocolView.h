@@ -7,8 +7,8 @@ namespace NDIAGKIT {
 
 /// Builds the protocol view of a container. For the BASE-VARIANT form construct `VProtocolView` directly.
 ///
-/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view at its next Create only; a view
-/// handed to `DestroyProtocolView` must not be followed by another Create on the same builder.
+/// Ownership is as with `VOpBuildDiagCommView`: the builder destroys its latest view when it creates the next, and at
+/// no other time. After `DestroyProtocolView` it must not create again.
 class DIAGKIT_EXPORT VOpBuildProtocolView {
 public:
     VOpBuildProtocolView();

@@ -11,11 +11,11 @@ namespace NDIAGKIT {
 
 /// Resolves short names against what is visible in a context once inheritance has been applied: it builds the matching
 /// view, looks the name up, exactly, and discards the view. Results belong to the model; null when nothing of that name
-/// is visible. Where several visible elements bear the name, the first in view order wins.
+/// is visible, and for a name that is null. Where several visible elements bear the name, the first in view order wins.
 ///
-/// Only DOP views are kept, one a layer for the life of the resolver, and never refreshed: DOPs that are added to or
-/// removed from a layer or its parents after the first DOP resolution there are not seen, and removed ones must not be
-/// asked for. Who edits the model starts a new resolver. Not thread-safe.
+/// Only DOP views are kept, one a layer, as long as the resolver lives. What a layer's DOPs are is settled when the
+/// first is asked for: one that it or a parent gets later is not found, and one that goes later must not be asked for.
+/// Who edits the model starts a new resolver. Not thread-safe.
 class DIAGKIT_EXPORT VOpResolveSnref : public NODX201::VAbstractSnrefResolver {
 public:
     VOpResolveSnref();

@@ -59,6 +59,9 @@ VOutParamIfView::Iterator VOutParamIfView::Find(wchar_t const* shortName, NODX20
 VOutParamIfView::Iterator VOutParamIfView::Find(wchar_t const* shortName, NODX201::IOutParamIf*& found,
                                                 NODX201::VDiagLayer& layer) {
     found = nullptr;
+    if (shortName == nullptr) {
+        return End();
+    }
     std::wstring_view const wanted(shortName);
     auto const named = std::find_if(m_collection.begin(), m_collection.end(), [wanted](NODX201::IOutParamIf* param) {
         return wanted == VOutParamIfViewTraits::ShortNameOf(*param);

@@ -37,7 +37,7 @@ DIAGKIT_TEMPLATE_DECLARATION(VListView<VOutParamIfViewTraits>);
 ///     4       -         yes        -
 ///     5       yes       yes        yes
 ///
-/// Any other value selects nothing. Container operations as in `VListView`.
+/// No other value selects a parameter. Container operations as in `VListView`.
 ///
 /// The search looks at the entries first and then, depth first in document order, below every parameter of the
 /// selected request and responses: through the DOPs of VALUE parameters, structures, fields, multiplexers,
@@ -53,7 +53,7 @@ public:
     virtual ~VOutParamIfView();
 
     using VListView<VOutParamIfViewTraits>::Find;
-    Iterator Find(wchar_t const* shortName, NODX201::VDiagLayer& layer); ///< `End()` when nothing matches
+    Iterator Find(wchar_t const* shortName, NODX201::VDiagLayer& layer); ///< `End()` when nothing matches, and for null
     /// The same, with the match, or null, in `found`.
     Iterator Find(wchar_t const* shortName, NODX201::IOutParamIf*& found, NODX201::VDiagLayer& layer);
     NODX201::IOutParamIf* FindParam(wchar_t const* shortName,

@@ -25,8 +25,8 @@ DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VProtocol*>::i
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VProtocolViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VProtocolViewTraits>);
 
-/// PROTOCOL layers: those of one container in document order, or those that a BASE-VARIANT is attached to, directly or
-/// through its FUNCTIONAL-GROUPs, in the order in which the references are met.
+/// PROTOCOL layers: those of one container, in document order; or those of a BASE-VARIANT's PARENT-REFs, in their
+/// order, where a FUNCTIONAL-GROUP stands for its own PROTOCOLs.
 ///
 /// There is no test for duplicates: a PROTOCOL is in the view once for each reference. A PROTOCOL's own parents are not
 /// followed and no NOT-INHERITED list applies. Otherwise as `VDiagCommView`.

@@ -8,8 +8,8 @@
 
 namespace NDIAGKIT {
 
-/// Calls `take` with every parameter of the service's positive responses: in link order, skipping links without a
-/// response, and in parameter order.
+/// Calls `take` with every parameter of the service's positive responses, response by response in the order of the
+/// links, of which those that lead nowhere are left out.
 template <class Take>
 void ForEachPosResponseParam(NODX201::VDiagService& service, Take& take) {
     if (!service.HasPosResponseLinkCollection()) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string_view>
 
+#include <diagkit/tools/DestroyIfThere.h>
 #include <diagkit/util/Assertion.h>
 
 namespace NDIAGKIT {
@@ -23,7 +24,7 @@ VStringContainer::VStringContainer() = default;
 
 VStringContainer::~VStringContainer() { Clear(); }
 
-void VStringContainer::Destroy() { delete this; }
+void VStringContainer::Destroy() { DestroyIfThere(this); }
 
 std::size_t VStringContainer::Count() const { return m_collection.size(); }
 
@@ -36,6 +37,9 @@ VStringContainer::Iterator VStringContainer::End() const { return Iterator(m_col
 void VStringContainer::AddCopy(wchar_t const* text) { _Insert(m_collection.end(), text); }
 
 VStringContainer::Iterator VStringContainer::Find(wchar_t const* text) const {
+    if (text == nullptr) {
+        return End();
+    }
     std::wstring_view const wanted(text);
     return Iterator(std::find_if(m_collection.begin(), m_collection.end(),
                                  [wanted](std::wstring const* held) { return *held == wanted; }));
@@ -69,6 +73,9 @@ bool VStringContainer::operator==(VStringContainer const& other) const { return 
 bool VStringContainer::operator!=(VStringContainer const& other) const { return !(*this == other); }
 
 void VStringContainer::_Insert(Set::const_iterator position, wchar_t const* text) {
+    if (text == nullptr) {
+        return;
+    }
     auto copy = std::make_unique<std::wstring>(text);
     m_collection.insert(position, copy.get());
     copy.release();

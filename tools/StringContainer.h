@@ -24,7 +24,9 @@ public:
     VStringContainer();
     virtual ~VStringContainer();
 
-    /// Deletes this object, for clients that must free it on the library's side.
+    /// Deletes this object, for clients that must free it on the library's side. Nothing happens for a null one; a call
+    /// that may meet null names the class, `container->VStringContainer::Destroy()`, because finding the operation of
+    /// the object's own class takes an object.
     virtual void Destroy();
 
     VStringContainer(VStringContainer const&) = delete;
@@ -37,9 +39,10 @@ public:
     Iterator begin() const { return Begin(); }
     Iterator end() const { return End(); }
 
-    void AddCopy(wchar_t const* text); ///< `text` is not null
+    void AddCopy(wchar_t const* text); ///< null is no text: nothing is added
 
-    /// The first entry, in the order of iteration, that is exactly this text; `End()` when there is none.
+    /// The first entry, in the order of iteration, that is exactly this text; `End()` when there is none, and for
+    /// null.
     Iterator Find(wchar_t const* text) const;
 
     /// Removes one entry of this text. Asserts when there is none, and changes nothing then.

@@ -12,16 +12,15 @@ namespace NDIAGKIT {
 /// Where and with which texts a builder reports that it made no view.
 struct VBuilderSite {
     wchar_t const* logged;             ///< the text logged before "."
-    NPavonaUtil::VAssertion assertion; ///< raised afterwards
+    NPavonaUtil::VAssertion assertion; ///< raised afterwards, unless there is a view by then
 };
 
-/// Logs, then asserts, that no view was made.
-inline void ReportNoView(VBuilderSite const& site) {
+/// Tells the listener, if there is one, that no view was made.
+inline void LogNoView(VBuilderSite const& site) {
     NLogging::VSharedLogger const& logger = *NLogging::VSharedLogger::Instance();
     if (NLogging::ILogListener* const listener = logger.GetLogger(); listener != nullptr && logger.IsEnabled()) {
         listener->Log(0, std::wstring(site.logged) + L".");
     }
-    NPavonaUtil::ReportAssertion(site.assertion);
 }
 
 /// Destroys the view that the builder remembers, lets `make` put a new one into `view`, returns it.
@@ -39,12 +38,15 @@ View* CreateViewSilently(View*& view, Make make) {
     return view;
 }
 
-/// The same, and reports when there is no view.
+/// The same; logs, then asserts, when there is no view.
 template <class View, class Make>
 View* CreateView(View*& view, VBuilderSite const& site, Make make) {
     CreateViewSilently(view, make);
     if (view == nullptr) {
-        ReportNoView(site);
+        LogNoView(site);
+    }
+    if (view == nullptr) { // still: a listener may let this builder make one
+        NPavonaUtil::ReportAssertion(site.assertion);
     }
     return view;
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
 """Hold the tables of conformance/ against the contract: Parts.def has a row for every operation that hands something
-out, Links.cpp for every link, Kinds.cpp for every class that elements are of; every check has a test of its name, and
+out, Links.def for every link, Kinds.cpp for every class that elements are of; every check has a test of its name, and
 its place in docs/guide/own-model.md."""
 
 import pathlib
@@ -29,13 +29,13 @@ def promised():
 
 
 def tabled():
-    """What Parts.def and Links.cpp do for each class."""
+    """What Parts.def and Links.def do for each class."""
     found = {"VLink": {"Link"}}
     for name, rows in re.findall(r"^PARTS\((\w+)\)\n(.*?)^END", text("conformance/Parts.def"), re.M | re.S):
         found.setdefault(name, set()).update(filter(None, re.findall(r"^ +\w+\((\w*)\)", rows, re.M)))
         if "SCALES_OR_CHILD" in rows:
             found[name].add("CompuScalesProgCodeChoice")
-    for name, target in re.findall(r"LINK(?:_IN_LAYER)?\((V\w+), +(\w+)\)", text("conformance/Links.cpp")):
+    for name, target in re.findall(r"^LINK(?:_IN_LAYER)?\((V\w+), +(\w+)\)", text("conformance/Links.def"), re.M):
         found.setdefault(name, set()).add(target)
     found.setdefault("VOutParamIfLink", set()).add("OutParamIf")
     return found

@@ -6,11 +6,19 @@
 #include <gtest/gtest.h>
 
 #include <diagkit/logging/SharedLogger.h>
+#include <diagkit/model/Collections.h>
+#include <diagkit/model/Compu.h>
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Dops.h>
+#include <diagkit/model/Flash.h>
+#include <diagkit/model/Params.h>
+#include <diagkit/model/Sdgs.h>
+#include <diagkit/model/Tables.h>
 #include <diagkit/model/Visitors.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 #include <diagkit/tools/StringContainer.h>
+#include <diagkit/util/TextConv.h>
 
 #include "support/Slots.h"
 
@@ -18,6 +26,8 @@
 
 namespace NTest {
 namespace {
+
+using VSlots = std::vector<std::ptrdiff_t>;
 
 TEST(SlotsTest, DiagLayerVisitor) {
     using V = NODX201::VDiagLayerVisitor;
@@ -49,13 +59,50 @@ TEST(SlotsTest, ParamVisitor) {
 
 TEST(SlotsTest, DiagCommProxy) {
     using V = NODX201::IDiagCommProxy;
-    EXPECT_EQ(SlotsOf(&V::IsDiagService, &V::IsSingleEcuJob, &V::IsDiagCommLink),
-              (std::vector<std::ptrdiff_t>{0, 1, 2}));
+    EXPECT_EQ(SlotsOf(&V::IsDiagService, &V::IsSingleEcuJob, &V::IsDiagCommLink), (VSlots{0, 1, 2}));
 }
 
-TEST(SlotsTest, DiagVariableProxy) {
-    using V = NODX201::IDiagVariableProxy;
-    EXPECT_EQ(SlotsOf(&V::IsDiagVariable), std::vector<std::ptrdiff_t>{1});
+TEST(SlotsTest, ProxiesOfReferencesAndElementsAskForTheReferenceFirst) {
+    using NODX201::IDiagVariableProxy;
+    using NODX201::IDtcProxy;
+    using NODX201::IEnvDataProxy;
+    using NODX201::IRowWrapper;
+    VSlots const slots = {0, 1};
+    EXPECT_EQ(SlotsOf(&IDiagVariableProxy::IsDiagVariableLink, &IDiagVariableProxy::IsDiagVariable), slots);
+    EXPECT_EQ(SlotsOf(&IDtcProxy::IsDtcLink, &IDtcProxy::IsDtc), slots);
+    EXPECT_EQ(SlotsOf(&IEnvDataProxy::IsEnvDataLink, &IEnvDataProxy::IsEnvData), slots);
+    EXPECT_EQ(SlotsOf(&IRowWrapper::IsTableRowLink, &IRowWrapper::IsTableRow), slots);
+}
+
+TEST(SlotsTest, ChoicesAskInTheOrderOfTheirNames) {
+    using Values = NODX201::IAllValueDtcValuesChoice;
+    using Structures = NODX201::IBasicStructureEnvDataDescChoice;
+    using Functions = NODX201::ICompuConstCompuRationalCoeffsChoice;
+    using Methods = NODX201::ICompuScalesProgCodeChoice;
+    using Groups = NODX201::ISdgSdChoice;
+    using Tables = NODX201::ITableRefTableRowRefChoice;
+    VSlots const slots = {0, 1};
+    EXPECT_EQ(SlotsOf(&Values::IsAllValue, &Values::IsDtcValues), slots);
+    EXPECT_EQ(SlotsOf(&Structures::IsBasicStructureLink, &Structures::IsEnvDataDescLink), slots);
+    EXPECT_EQ(SlotsOf(&Functions::IsCompuConst, &Functions::IsCompuRationalCoeffs), slots);
+    EXPECT_EQ(SlotsOf(&Methods::IsCompuScales, &Methods::IsProgCode), slots);
+    EXPECT_EQ(SlotsOf(&Groups::IsSdg, &Groups::IsSd), slots);
+    EXPECT_EQ(SlotsOf(&Tables::IsTableLink, &Tables::IsTableRowLink), slots);
+}
+
+// Views destroy what is removed from them by position, so these have a destructor.
+TEST(SlotsTest, InterfacesOfViewsHaveADestructorFirst) {
+    using NODX201::IIdentIf;
+    using NODX201::IInParamIf;
+    using NODX201::IOutParamIf;
+    EXPECT_EQ(SlotsOf(&IInParamIf::IsInputParam, &IInParamIf::IsValue), SlotsAfterDestructor(2));
+    EXPECT_EQ(SlotsOf(&IOutParamIf::IsOutputParam, &IOutParamIf::IsValue), SlotsAfterDestructor(2));
+    EXPECT_EQ(SlotsOf(&IIdentIf::IsExpectedIdent, &IIdentIf::IsOwnIdent), SlotsAfterDestructor(2));
+}
+
+TEST(SlotsTest, BuffersHaveTheirDestructorLast) {
+    using NPavonaUtil::IBuffers;
+    EXPECT_EQ(SlotsOf(&IBuffers::CharBuffer, &IBuffers::WideBuffer), (VSlots{0, 1}));
 }
 
 TEST(SlotsTest, StringContainer) {
@@ -70,7 +117,7 @@ TEST(SlotsTest, OpBuildDiagCommView) {
               SlotsAfterDestructor(6));
 }
 
-TEST(SlotsTest, LogListener) { EXPECT_EQ(SlotsOf(&NLogging::ILogListener::Log), std::vector<std::ptrdiff_t>{0}); }
+TEST(SlotsTest, LogListener) { EXPECT_EQ(SlotsOf(&NLogging::ILogListener::Log), VSlots{0}); }
 
 } // namespace
 } // namespace NTest

@@ -268,6 +268,19 @@ TEST_F(AudiVwCharacterRuleTest, AServiceIsNamedByItsAbbreviatedLongNameInAnyCase
     EXPECT_TRUE(Matches<VAudiVwCharacterRule>());
 }
 
+TEST_F(AudiVwCharacterRuleTest, WordsAreCutAfterFiveCodeUnitsOfUtf16) {
+    EXPECT_EQ(Abbreviated(L"\U0001F600abcd \U0001F600\U0001F601 x"), L"\U0001F600abc\U0001F600\U0001F601X")
+        << "two units each";
+    AddService(L"\U0001F600abcd", L"DiagnServi_\U0001F600abc");
+    EXPECT_TRUE(Matches<VAudiVwCharacterRule>());
+}
+
+TEST_F(AudiVwCharacterRuleTest, NoNameIsThatOfAWordWhichIsCutInsideACharacter) {
+    AddService(L"abcd\U0001F600e", L"DiagnServi_abcd\U0001F600");
+    EXPECT_FALSE(Matches<VAudiVwCharacterRule>());
+    EXPECT_EQ(Abbreviated(L"abcd\U0001F600e").size(), 5u) << "the first of its two units is left";
+}
+
 TEST_F(AudiVwCharacterRuleTest, OneServiceOfAnotherNameMakesTheRuleFail) {
     for (wchar_t const* const name :
          {L"DiagnServi_DiagnoseService", L"DiagnServi_DiagnServ", L"DiagnServi_DiagnServix", L"DiagnServi_", L"",

@@ -3,8 +3,8 @@
 
 namespace NTest {
 
-VRecordedLog::VRecordedLog()
-    : m_before(NLogging::VSharedLogger::Instance()->GetLogger()),
+VRecordedLog::VRecordedLog(std::function<void()> action)
+    : m_action(std::move(action)), m_before(NLogging::VSharedLogger::Instance()->GetLogger()),
       m_wasEnabled(NLogging::VSharedLogger::Instance()->IsEnabled()) {
     NLogging::VSharedLogger::Instance()->SetLogger(this);
 }
@@ -15,6 +15,11 @@ VRecordedLog::~VRecordedLog() {
     m_wasEnabled ? logger.Enable() : logger.Disable();
 }
 
-void VRecordedLog::Log(int severity, std::wstring const& message) { m_lines.emplace_back(severity, message); }
+void VRecordedLog::Log(int severity, std::wstring const& message) {
+    m_lines.emplace_back(severity, message);
+    if (m_action) {
+        m_action();
+    }
+}
 
 } // namespace NTest

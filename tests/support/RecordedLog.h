@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,12 +10,13 @@
 
 namespace NTest {
 
-/// As long as it lives, it is the shared logger's listener; afterwards the logger is as before.
+/// As long as it lives, it is the shared logger's listener; afterwards the logger is as before. Each message is
+/// recorded and then answered by an action, if there is one.
 class VRecordedLog : public NLogging::ILogListener {
 public:
     using VLine = std::pair<int, std::wstring>; ///< severity and message
 
-    VRecordedLog();
+    explicit VRecordedLog(std::function<void()> action = {});
     ~VRecordedLog() override;
 
     void Log(int severity, std::wstring const& message) override;
@@ -22,6 +24,7 @@ public:
     std::vector<VLine> const& Lines() const { return m_lines; }
 
 private:
+    std::function<void()> m_action;
     std::vector<VLine> m_lines;
     NLogging::ILogListener* m_before;
     bool m_wasEnabled;

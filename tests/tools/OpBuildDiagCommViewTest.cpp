@@ -209,6 +209,17 @@ TEST_F(OpBuildDiagCommViewTest, TheFailureIsLoggedBeforeItIsAsserted) {
     EXPECT_EQ(events, (std::vector<std::wstring>{L"log mpDiagCommView != NULL.", L"assert (mpDiagCommView != 0)"}));
 }
 
+TEST_F(OpBuildDiagCommViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
+    VOpBuildDiagCommView builder;
+    VRecordedLog log([&] { builder.CreateDiagCommView(Layer(L"Lib")); });
+    VSilentLayer silent;
+    VDiagCommView* const view = builder.CreateDiagCommView(silent);
+    EXPECT_EQ(m_assertions.Take(), VAssertionList{});
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(Print(*view), L"Ident@Lib");
+    builder.DestroyDiagCommView(*view);
+}
+
 TEST_F(OpBuildDiagCommViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();

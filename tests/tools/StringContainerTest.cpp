@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/NullReference.h"
 #include "support/RecordedAssertions.h"
 
 namespace NTest {
@@ -225,6 +226,23 @@ TEST_F(StringContainerTest, DestroyDeletesThroughTheVirtualDestructor) {
     container->AddCopy(L"Read");
     container->Destroy();
     EXPECT_TRUE(isDestroyed);
+}
+
+DIAGKIT_TEST_NULLS void DestroyNull() {
+    VStringContainer* const volatile nothing = nullptr;
+    nothing->VStringContainer::Destroy();
+}
+
+TEST_F(StringContainerTest, DestroyOnANullObjectDoesNothing) { DestroyNull(); }
+
+TEST_F(StringContainerTest, NullIsNoText) {
+    m_container.AddCopy(nullptr);
+    EXPECT_TRUE(m_container.IsEmpty()) << "nothing is added";
+    m_container.AddCopy(L"");
+    EXPECT_TRUE(m_container.Find(nullptr) == m_container.End()) << "not even an empty text is found";
+    m_container.Remove(nullptr);
+    EXPECT_EQ(m_assertions.Take(), (VAssertions{{L"false", L"StringContainer", 94}}));
+    EXPECT_EQ(m_container.Count(), 1u);
 }
 
 } // namespace

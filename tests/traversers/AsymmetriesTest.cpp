@@ -2,6 +2,8 @@
 
 // The choices of the traversers that look like mistakes and are none.
 
+#include <stdexcept>
+
 #include "traversers/TraverserTest.h"
 
 namespace NTest {
@@ -76,6 +78,67 @@ TEST_F(AsymmetriesTest, CurrentDiagCommIsNullAfterANestedDiagComm) {
         -Outer in none
         +Request in none
         )"));
+}
+
+/// Tells its current DIAG-COMM, and leaves a walk by an exception where a hook is told to.
+class VLeaving : public NDIAGKIT::VDiagLayerTraverser {
+public:
+    using VDiagLayerTraverser::VDiagLayerTraverser;
+    using VDiagLayerTraverser::VisitDiagComm;
+    using VDiagLayerTraverser::VisitDiagService;
+    using VDiagLayerTraverser::VisitSingleEcuJob;
+
+    bool HasCurrentDiagComm() const { return m_currentDiagComm != nullptr; }
+    NODX201::VOdxElement* m_leaveAt = nullptr;
+    std::wstring m_seen;
+
+protected:
+    void DefaultVisit(NODX201::VOdxElement& x) override {
+        m_seen += std::wstring(x.GetShortName()) + L' ';
+        if (&x == m_leaveAt) {
+            throw std::runtime_error("enough");
+        }
+    }
+};
+
+TEST_F(AsymmetriesTest, EachVisitOfADiagCommLeavesNoCurrentOneBehind) {
+    NMemory::VMemDiagService& service = m_layer.AddDiagService(L"Service");
+    NMemory::VMemSingleEcuJob& job = m_layer.AddSingleEcuJob(L"Job");
+    VLeaving traverser(m_layer);
+    traverser.VisitDiagComm(service);
+    EXPECT_FALSE(traverser.HasCurrentDiagComm());
+    traverser.VisitDiagService(service);
+    EXPECT_FALSE(traverser.HasCurrentDiagComm());
+    traverser.VisitSingleEcuJob(job);
+    EXPECT_FALSE(traverser.HasCurrentDiagComm());
+}
+
+TEST_F(AsymmetriesTest, EachVisitOfADiagCommThatAnExceptionEndsLeavesNoCurrentOneBehind) {
+    NMemory::VMemDiagService& service = m_layer.AddDiagService(L"Service");
+    NMemory::VMemSingleEcuJob& job = m_layer.AddSingleEcuJob(L"Job");
+    VLeaving traverser(m_layer);
+    traverser.m_leaveAt = &service;
+    EXPECT_THROW(traverser.VisitDiagComm(service), std::runtime_error);
+    EXPECT_FALSE(traverser.HasCurrentDiagComm());
+    EXPECT_THROW(traverser.VisitDiagService(service), std::runtime_error);
+    EXPECT_FALSE(traverser.HasCurrentDiagComm());
+    traverser.m_leaveAt = &job;
+    EXPECT_THROW(traverser.VisitSingleEcuJob(job), std::runtime_error);
+    EXPECT_FALSE(traverser.HasCurrentDiagComm());
+}
+
+TEST_F(AsymmetriesTest, AWalkAfterOneThatAnExceptionEndedHasNoCurrentDiagComm) {
+    NMemory::VMemPosResponse& response = m_layer.AddPosResponse(L"Response");
+    NMemory::VMemDiagService& service = m_layer.AddDiagService(L"Service");
+    service.AddPosResponseRef(response);
+    response.AddValue(L"TroubleCode");
+    m_dictionary.AddEnvDataDesc(L"Environment").SetParamSnref(NMemory::VReference::ByShortName(L"TroubleCode"));
+    VLeaving traverser(m_layer);
+    traverser.m_leaveAt = &response;
+    EXPECT_THROW(traverser.TraverseDiagLayer(), std::runtime_error);
+    traverser.m_seen.clear();
+    traverser.TraverseDiagDataDictionarySpec(m_dictionary);
+    EXPECT_EQ(traverser.m_seen, L"Environment ") << "the PARAM-SNREF has no DIAG-COMM to resolve in";
 }
 
 TEST_F(AsymmetriesTest, ThereIsNoParamSnrefToFollowAfterANestedDiagComm) {

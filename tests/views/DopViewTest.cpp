@@ -67,6 +67,17 @@ TEST_F(DopViewTest, OfTwoDopsOfOneNameInADictionaryOnlyTheFirstIsInTheView) {
     EXPECT_TRUE(view.Find(Dop(L"Ecu.Volt#2")) == view.End());
 }
 
+TEST_F(DopViewTest, TheOrderIsThatOfCodeUnitsOfUtf16) {
+    NMemory::VDatabase database;
+    NMemory::VMemEcuSharedData& layer = database.AddDiagLayerContainer(L"Container").AddEcuSharedData(L"Layer");
+    for (wchar_t const* const name : {L"\uFF5E", L"\U0001F600", L"Volt", L"\uD7FF"}) {
+        layer.MakeDiagDataDictionarySpec().AddDataObjectProp(name);
+    }
+    VDopView view(layer);
+    EXPECT_EQ(PrintEntries(view), L"Volt@Layer \uD7FF@Layer \U0001F600@Layer \uFF5E@Layer");
+    EXPECT_EQ((*view.Find(L"\U0001F600")).GetShortName(), std::wstring(L"\U0001F600"));
+}
+
 TEST_F(DopViewTest, InABaseVariantTheFunctionalGroupOrProtocolReferencedFirstWins) {
     Graph(LR"(
         func F : Volt

@@ -70,12 +70,32 @@ TEST(EnumMapImplTest, LiteralsCompareExactly) {
     }
 }
 
+TEST(EnumMapImplTest, NullIsNoLiteralAndNoName) {
+    VTable table(nullptr);
+    EXPECT_EQ(table.m_name, L"");
+    EXPECT_EQ(table.Get(nullptr), VColour()) << "of a table without literals";
+    table.Add(nullptr, VColour::Blue);
+    EXPECT_TRUE(table.m_map.empty());
+    EXPECT_FALSE(table.m_isDefaultSet);
+    table.Add(L"GREEN", VColour::Green);
+    table.Add(L"", VColour::Red);
+    EXPECT_EQ(table.Get(nullptr), VColour::Green) << "the default";
+}
+
 TEST(EnumMapImplTest, OfTwoLiteralsOfOneValueTheAlphabeticallySmallerIsAnswered) {
     VTable table(L"Colour");
     table.Add(L"ROUGE", VColour::Red);
     table.Add(L"RED", VColour::Red);
     table.Add(L"red", VColour::Red);
     EXPECT_EQ(table.GetStr(VColour::Red), std::wstring(L"RED"));
+}
+
+TEST(EnumMapImplTest, TheOrderOfLiteralsIsThatOfCodeUnitsOfUtf16) {
+    VTable table(L"Colour");
+    table.Add(L"\uFF5E", VColour::Red);
+    table.Add(L"\U0001F600", VColour::Red);
+    EXPECT_EQ(table.GetStr(VColour::Red), std::wstring(L"\U0001F600"));
+    EXPECT_EQ(table.Get(L"\uFF5E"), VColour::Red);
 }
 
 TEST(EnumMapImplTest, LiteralsAreCopiedAndStayWhereTheyAre) {

@@ -135,6 +135,7 @@ TEST_P(EnumMapperTest, AnUnknownLiteralIsTheFirstEnumerator) {
         }
     }
     EXPECT_EQ(m_mapper.GetAddressing(L"unknown"), NODX201::VDiagService::VAddressing::Functional);
+    EXPECT_EQ(m_mapper.GetAddressing(nullptr), NODX201::VDiagService::VAddressing::Functional);
     EXPECT_EQ(m_mapper.GetCompuCategory(L"unknown"), NODX201::VCompuMethod::VCompuCategory::Identical);
 }
 

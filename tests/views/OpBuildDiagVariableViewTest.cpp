@@ -133,6 +133,17 @@ TEST_F(OpBuildDiagVariableViewTest, AcceptThatVisitsNothingLogsAndAssertsOnAFres
     builder.DestroyDiagVariableView(*view);
 }
 
+TEST_F(OpBuildDiagVariableViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
+    VOpBuildDiagVariableView builder;
+    VRecordedLog log([&] { builder.CreateDiagVariableView(Layer(L"Lib")); });
+    VSilentLayer silent;
+    VDiagVariableView* const view = builder.CreateDiagVariableView(silent);
+    EXPECT_EQ(m_assertions.Take(), VAssertionList{});
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(PrintEntries(*view), L"L@Lib");
+    builder.DestroyDiagVariableView(*view);
+}
+
 TEST_F(OpBuildDiagVariableViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();

@@ -130,6 +130,17 @@ TEST_F(OpBuildDopViewTest, AcceptThatVisitsNothingLogsAndAssertsOnAFreshBuilder)
     builder.DestroyDopView(*view);
 }
 
+TEST_F(OpBuildDopViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
+    VOpBuildDopView builder;
+    VRecordedLog log([&] { builder.CreateDopView(Layer(L"Lib")); });
+    VSilentLayer silent;
+    VDopView* const view = builder.CreateDopView(silent);
+    EXPECT_EQ(m_assertions.Take(), VAssertionList{});
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(PrintEntries(*view), L"L@Lib");
+    builder.DestroyDopView(*view);
+}
+
 TEST_F(OpBuildDopViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();

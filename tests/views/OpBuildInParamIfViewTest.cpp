@@ -85,6 +85,15 @@ TEST_F(OpBuildInParamIfViewTest, TheTagDecidesWhatADiagCommIsTakenFor) {
     EXPECT_EQ(m_assertions.Take(), kNoView);
 }
 
+TEST_F(OpBuildInParamIfViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
+    VBuilder builder;
+    VRecordedLog log([&] { builder.CreateInParamIfView(m_service); });
+    std::unique_ptr<VInParamIfView> const view(builder.CreateInParamIfView(MultipleJobAsDiagComm()));
+    EXPECT_EQ(m_assertions.Take(), VAssertionList{});
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(PrintParams(*view), L"OfService");
+}
+
 TEST_F(OpBuildInParamIfViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();

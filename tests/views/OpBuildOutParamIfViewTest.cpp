@@ -91,6 +91,16 @@ TEST_F(OpBuildOutParamIfViewTest, TheTagDecidesWhatADiagCommIsTakenFor) {
     EXPECT_EQ(m_assertions.Take(), kNoView);
 }
 
+TEST_F(OpBuildOutParamIfViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
+    VBuilder builder;
+    VRecordedLog log([&] { builder.CreateOutParamIfView(m_service, VSearchRange::Request); });
+    std::unique_ptr<VOutParamIfView> const view(
+        builder.CreateOutParamIfView(MultipleJobAsDiagComm(), VSearchRange::Request));
+    EXPECT_EQ(m_assertions.Take(), VAssertionList{});
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(PrintParams(*view), L"OfRequest");
+}
+
 TEST_F(OpBuildOutParamIfViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();

@@ -7,6 +7,7 @@
 #include <diagkit/tools/oem/ProcessingInstructionRule.h>
 #include <diagkit/tools/oem/Reasons.h>
 #include <diagkit/util/TextConv.h>
+#include <diagkit/util/Utf16.h>
 
 namespace NDIAGKIT {
 namespace {
@@ -50,7 +51,7 @@ bool IsStaffed(VOemCheckContext const& context, NODX201::VEcuSharedData& layer) 
 }
 
 constexpr std::wstring_view kServicePrefix = L"DiagnServi_";
-constexpr int kLettersOfWord = 5;
+constexpr int kUnitsOfWord = 5;
 
 } // namespace
 
@@ -148,19 +149,22 @@ bool VAudiVwCharacterRule::IsSeparator(wchar_t character) const {
 /// Hands out the abbreviation character by character, as long as they are taken.
 template <class Take>
 bool VAudiVwCharacterRule::Abbreviate(std::wstring_view text, Take take) const {
-    int letters = 0;
+    int units = 0;
     for (wchar_t const character : text) {
         if (IsSeparator(character)) {
-            letters = 0;
+            units = 0;
             continue;
         }
-        if (letters == kLettersOfWord) {
+        if (units == kUnitsOfWord) {
             continue;
         }
-        if (!take(letters == 0 ? ToUpper(character) : character)) {
+        int const length = NPavonaUtil::Utf16Length(character);
+        bool const isCut = units + length > kUnitsOfWord;
+        wchar_t const part = isCut ? NPavonaUtil::FirstUtf16Unit(character) : character;
+        if (!take(units == 0 ? ToUpper(part) : part)) {
             return false;
         }
-        ++letters;
+        units = isCut ? kUnitsOfWord : units + length;
     }
     return true;
 }

@@ -44,8 +44,9 @@ public:
     bool Matches() override;
     wchar_t const* GetName() const override { return L"VAudiVwCharacterRule"; }
 
-    /// The first five characters of every word, the first of them in upper case, without anything between; special
-    /// characters separate words as a space does. "Read (ECU) identification-data" becomes "ReadECUIdentData".
+    /// The first five code units of UTF-16 of every word, the first of them in upper case, without anything between;
+    /// special characters separate words as a space does. "Read (ECU) identification-data" becomes "ReadECUIdentData".
+    /// Of a character that is cut its first unit is left, so no short name agrees.
     std::wstring Abbreviate(std::wstring_view text) const;
 
     /// Each a text of one character.

@@ -4,6 +4,7 @@
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Layers.h>
 #include <diagkit/tools/oem/Reasons.h>
+#include <diagkit/util/CheckedCast.h>
 
 namespace NDIAGKIT {
 
@@ -30,9 +31,13 @@ bool AllOwnServices(NODX201::VDiagLayer& layer, Condition condition) {
     if (!layer.HasDiagCommProxyCollection()) {
         return true;
     }
+    NPavonaUtil::VCheckedCast<NODX201::VDiagService, NODX201::IDiagCommProxy> cast;
     for (NODX201::IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
-        // The contract's own classes answer this finally; to find the type once more would cost more than all the rest.
-        if (proxy.IsDiagService() && !condition(static_cast<NODX201::VDiagService&>(proxy))) {
+        NODX201::VDiagService* service = cast.Again(proxy);
+        if (service == nullptr && proxy.IsDiagService()) {
+            service = cast(proxy);
+        }
+        if (service != nullptr && !condition(*service)) {
             return false;
         }
     }
