@@ -26,8 +26,9 @@ DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VDiagComm*>::i
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VDiagCommViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
 
-/// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then what its parents
-/// offer and neither the NOT-INHERITED-DIAG-COMMS of their PARENT-REF exclude nor an entry of the same short name hides.
+/// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then what its
+/// parents offer and neither the NOT-INHERITED-DIAG-COMMS of their PARENT-REF exclude nor an entry of the same short
+/// name hides.
 ///
 /// Parents are merged in passes over the PARENT-REFs, each in document order:
 ///
