@@ -7,7 +7,7 @@
 #include <diagkit/check/Parents.h>
 #include <diagkit/check/Topics.h>
 #include <diagkit/check/Views.h>
-#include <diagkit/util/Utf16.h>
+#include <diagkit/tools/DopView.h>
 
 namespace NCheck {
 namespace {
@@ -42,7 +42,7 @@ private:
     static std::vector<Element*> InViewOrder(std::vector<Element*> entries) {
         if constexpr (std::is_same_v<Kind, NDIAGKIT::VInheritedDops>) {
             std::sort(entries.begin(), entries.end(), [](Element const* a, Element const* b) {
-                return NPavonaUtil::VUtf16Less()(a->GetShortName(), b->GetShortName());
+                return NDIAGKIT::VDopView::Map::key_compare()(a->GetShortName(), b->GetShortName());
             });
         }
         return entries;

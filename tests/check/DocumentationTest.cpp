@@ -49,7 +49,8 @@ std::map<std::string, VEntry> ReadEntries() {
 /// What the example stands in, by the word that the documentation has for it.
 std::string Wrapped(VEntry const& entry) {
     static std::map<std::string, std::string (*)(std::string_view, std::string_view)> const wrappers{
-        {"DIAG-LAYER-CONTAINER", &Container},
+        {"DIAG-LAYER-CONTAINER",
+         [](std::string_view content, std::string_view version) { return Container(content, version); }},
         {"BASE-VARIANT", &Layer},
         {"DIAG-DATA-DICTIONARY-SPEC", &Dictionary},
         {"PARAMS", &Params},

@@ -154,7 +154,7 @@ TEST_F(VShortNameReferencesTest, ToAnOutputParameterDeepInside) {
                         dictionary + WithRequest(Value("P", "<DOP-SNREF SHORT-NAME=\"T\"/>")) + Pattern("S", param));
     };
     Check(layer("Deep"));
-    EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle");
+    EXPECT_EQ(Diagnostics(), "test.odx:6:1 warning table-row-cycle");
     Check(layer("X"));
     EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle\ntest.odx:7:1 error unresolved-short-name");
 }
@@ -397,11 +397,11 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsInsideATableThatLeadsBackToItself
     };
     for (char const* const param : {"P1", "Env"}) {
         Check(layer(param));
-        EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle") << param;
+        EXPECT_EQ(Diagnostics(), "test.odx:6:1 warning table-row-cycle") << param;
     }
     for (char const* const param : {"P2", "None"}) {
         Check(layer(param));
-        EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name\ntest.odx:5:1 warning table-row-cycle")
+        EXPECT_EQ(Diagnostics(), "test.odx:4:1 error unresolved-short-name\ntest.odx:6:1 warning table-row-cycle")
             << param;
     }
 }

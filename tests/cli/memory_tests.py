@@ -148,7 +148,7 @@ class MemoryThatRunsOut(unittest.TestCase):
                         encoding="utf-8")
         self.addCleanup(path.unlink)
         question = ("resolve", "out-param", "Gone", path, "--quiet", "--layer", "P", "--diag-comm", "Read")
-        self.assertIn("nests without end", run(*question).stderr)
+        self.assertIn("no out-param 'Gone'", run(*question).stderr)
         self.see(*question, steps=4 * STEPS, window=600 * KIBIBYTE)
 
 

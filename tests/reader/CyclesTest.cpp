@@ -226,8 +226,14 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) 
               "</DATA-OBJECT-PROPS>");
     std::string const nested = variant("V2", "<STRUCTURES><STRUCTURE ID=\"N\"><SHORT-NAME>Payload</SHORT-NAME>" +
                                                  Params({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>");
-    auto const document = [](std::string const& content) { return Container(content, kVersion); };
-    Read({document(shared), document(simple)});
+    auto const document = [](std::string const& content, char const* name) {
+        return Container(content, kVersion, name);
+    };
+    std::string const first = document(shared, "C1");
+    std::string const second = document(simple, "C2");
+    std::string const third = document(nested, "C3");
+
+    Read({first, second});
     EXPECT_EQ(Diagnostics(), "");
     for (auto const& documents : {std::vector{first, second, third}, std::vector{third, second, first}}) {
         Read(documents);
