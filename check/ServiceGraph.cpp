@@ -2,6 +2,8 @@
 #include <diagkit/check/ServiceGraph.h>
 
 #include <algorithm>
+#include <tuple>
+#include <unordered_set>
 #include <utility>
 
 #include <diagkit/model/Params.h>
@@ -16,13 +18,13 @@ VServiceGraph::VServiceGraph(std::vector<NODX201::VDiagComm*> const& diagComms, 
     }
     Explore(dops);
     MakeGroups();
+    CollectNames();
 }
 
 void VServiceGraph::AddService(NODX201::VDiagService& service) {
     VNode const node = m_elements.size();
     m_elements.push_back(nullptr);
     m_to.emplace_back();
-    m_from.emplace_back();
     if (service.HasRequestRef() && service.GetRequestRef().HasRequest()) {
         AddWay(node, service.GetRequestRef().GetRequest());
     }
@@ -41,7 +43,6 @@ void VServiceGraph::AddService(NODX201::VDiagService& service) {
 void VServiceGraph::AddWay(VNode from, NODX201::VReferencable& to) {
     VNode const target = NodeOf(to);
     m_to[from].push_back(target);
-    m_from[target].push_back(from);
 }
 
 VServiceGraph::VNode VServiceGraph::NodeOf(NODX201::VReferencable& container) {
@@ -49,7 +50,6 @@ VServiceGraph::VNode VServiceGraph::NodeOf(NODX201::VReferencable& container) {
     if (isNew) {
         m_elements.push_back(&container);
         m_to.emplace_back();
-        m_from.emplace_back();
     }
     return node->second;
 }
@@ -65,31 +65,109 @@ void VServiceGraph::Explore(NDIAGKIT::IDopFinder& dops) {
     }
 }
 
-/// From the services on: what is contained comes after all that contains it.
-void VServiceGraph::MakeGroups() {
-    std::vector<std::size_t> waiting(m_elements.size());
-    std::vector<VNode> ready;
-    for (VNode node = 0; node < m_elements.size(); ++node) {
-        waiting[node] = m_from[node].size();
-        if (waiting[node] == 0) {
-            ready.push_back(node);
+/// Finds the components, what is contained before all that contains it (Tarjan's algorithm, with a list in place of
+/// recursion).
+class VServiceGraph::VComponentSearch {
+public:
+    explicit VComponentSearch(std::vector<std::vector<VNode>> const& to)
+        : m_to(to), m_numbers(to.size()), m_lowest(to.size()), m_components(to.size(), kNone) {}
+
+    /// The component of each node, and how many there are.
+    std::pair<std::vector<VComponent>, std::size_t> Find() {
+        for (VNode node = 0; node < m_to.size(); ++node) {
+            if (m_numbers[node] == 0) {
+                From(node);
+            }
+        }
+        return {std::move(m_components), m_count};
+    }
+
+private:
+    static constexpr VComponent kNone = static_cast<VComponent>(-1);
+
+    struct VStep {
+        VNode node;
+        std::size_t next; // of the ways out of it
+    };
+
+    void From(VNode root) {
+        Enter(root);
+        while (!m_path.empty()) {
+            VStep& step = m_path.back();
+            VNode const node = step.node;
+            if (step.next < m_to[node].size()) {
+                Look(node, m_to[node][step.next++]);
+                continue;
+            }
+            m_path.pop_back();
+            if (!m_path.empty()) {
+                Lower(m_path.back().node, m_lowest[node]);
+            }
+            if (m_lowest[node] == m_numbers[node]) {
+                Close(node);
+            }
         }
     }
-    m_groups.assign(m_elements.size(), kNoGroup);
-    for (std::size_t next = 0; next < ready.size(); ++next) { // grows on the way
-        VNode const node = ready[next];
-        std::vector<VGroup> containers;
-        for (VNode const from : m_from[node]) {
-            containers.push_back(m_groups[from]);
+
+    void Enter(VNode node) {
+        m_numbers[node] = m_lowest[node] = ++m_latest;
+        m_open.push_back(node);
+        m_path.push_back({node, 0});
+    }
+
+    void Look(VNode from, VNode to) {
+        if (m_numbers[to] == 0) {
+            Enter(to);
+        } else if (m_components[to] == kNone) {
+            Lower(from, m_numbers[to]);
         }
-        m_groups[node] = containers.empty() ? m_groupContainers.size() : GroupOf(std::move(containers));
-        if (m_groups[node] == m_groupContainers.size()) {
+    }
+
+    void Lower(VNode node, std::size_t number) { m_lowest[node] = std::min(m_lowest[node], number); }
+
+    void Close(VNode first) {
+        VNode node = 0;
+        do {
+            node = m_open.back();
+            m_open.pop_back();
+            m_components[node] = m_count;
+        } while (node != first);
+        ++m_count;
+    }
+
+    std::vector<std::vector<VNode>> const& m_to;
+    std::vector<std::size_t> m_numbers; // by node, in the order of entering; 0 for none yet
+    std::vector<std::size_t> m_lowest;  // by node, the lowest number to which it leads
+    std::vector<VComponent> m_components;
+    std::vector<VNode> m_open; // that are in no component yet
+    std::vector<VStep> m_path;
+    std::size_t m_latest = 0;
+    std::size_t m_count = 0;
+};
+
+/// From the services on: what is contained comes after all that contains it.
+void VServiceGraph::MakeGroups() {
+    std::size_t count = 0;
+    std::tie(m_components, count) = VComponentSearch(m_to).Find();
+    std::vector<std::vector<VNode>> nodes(count);
+    for (VNode node = 0; node < m_components.size(); ++node) {
+        nodes[m_components[node]].push_back(node);
+    }
+    std::vector<std::vector<VGroup>> containers(count);
+    m_groups.resize(count);
+    for (VComponent component = count; component-- > 0;) {
+        bool const isService = containers[component].empty();
+        VGroup const group = isService ? m_groupContainers.size() : GroupOf(std::move(containers[component]));
+        if (isService) {
             m_groupContainers.emplace_back();
-            m_groupService.push_back(node);
+            m_groupService.push_back(nodes[component].front());
         }
-        for (VNode const to : m_to[node]) {
-            if (--waiting[to] == 0) {
-                ready.push_back(to);
+        m_groups[component] = group;
+        for (VNode const node : nodes[component]) {
+            for (VNode const to : m_to[node]) {
+                if (m_components[to] != component) {
+                    containers[m_components[to]].push_back(group);
+                }
             }
         }
     }
@@ -109,24 +187,22 @@ VServiceGraph::VGroup VServiceGraph::GroupOf(std::vector<VGroup> containers) {
     return group->second;
 }
 
-std::vector<VServiceGraph::VNode> VServiceGraph::ServicesOf(VGroup group, VNode node) const {
-    std::vector<VNode> services;
-    if (group == kNoGroup) { // back from the node itself
-        std::vector<bool> isSeen(m_elements.size());
-        std::vector<VNode> back{node};
-        for (std::size_t next = 0; next < back.size(); ++next) { // grows on the way
-            if (m_elements[back[next]] == nullptr) {
-                services.push_back(back[next]);
-            }
-            for (VNode const from : m_from[back[next]]) {
-                if (!isSeen[from]) {
-                    isSeen[from] = true;
-                    back.push_back(from);
-                }
+void VServiceGraph::CollectNames() {
+    for (VNode node = 0; node < m_elements.size(); ++node) {
+        auto* const params = m_elements[node] != nullptr ? NReader::ParamsOf(*m_elements[node]) : nullptr;
+        if (params == nullptr) {
+            continue;
+        }
+        for (NODX201::VParam& param : *params) {
+            if (dynamic_cast<NODX201::VValue*>(&param) != nullptr) {
+                m_holders[param.GetShortName()].insert(node);
             }
         }
-        return services;
     }
+}
+
+std::vector<VServiceGraph::VNode> VServiceGraph::ServicesOf(VGroup group) const {
+    std::vector<VNode> services;
     std::unordered_set<VGroup> seen{group};
     std::vector<VGroup> groups{group};
     for (std::size_t next = 0; next < groups.size(); ++next) { // grows on the way
@@ -142,27 +218,28 @@ std::vector<VServiceGraph::VNode> VServiceGraph::ServicesOf(VGroup group, VNode 
     return services;
 }
 
-VNames VServiceGraph::NamesBelow(std::vector<VNode> const& services) const {
-    VNames names;
-    std::vector<VNode> nodes = services;
-    std::unordered_set<VNode> seen(nodes.begin(), nodes.end());
-    for (std::size_t next = 0; next < nodes.size(); ++next) { // grows on the way
-        NODX201::VReferencable* const element = m_elements[nodes[next]];
-        auto* const params = element != nullptr ? NReader::ParamsOf(*element) : nullptr;
-        if (params != nullptr) {
-            for (NODX201::VParam& param : *params) {
-                if (dynamic_cast<NODX201::VValue*>(&param) != nullptr) {
-                    names.insert(param.GetShortName());
-                }
-            }
-        }
-        for (VNode const to : m_to[nodes[next]]) {
-            if (seen.insert(to).second) {
-                nodes.push_back(to);
+void VServiceGraph::LookBelow(VGroup group) {
+    if (m_asked == group) {
+        return;
+    }
+    m_asked = group;
+    m_below = ServicesOf(group);
+    m_isBelow.clear();
+    for (std::size_t next = 0; next < m_below.size(); ++next) { // grows on the way
+        for (VNode const to : m_to[m_below[next]]) {
+            if (m_isBelow.insert(to).second) {
+                m_below.push_back(to);
             }
         }
     }
-    return names;
+}
+
+/// Looks at whatever is fewer.
+bool VServiceGraph::HasCommon(std::unordered_set<VNode> const& holders) const {
+    if (holders.size() < m_below.size()) {
+        return std::any_of(holders.begin(), holders.end(), [this](VNode node) { return m_isBelow.count(node) != 0; });
+    }
+    return std::any_of(m_below.begin(), m_below.end(), [&holders](VNode node) { return holders.count(node) != 0; });
 }
 
 std::optional<bool> VServiceGraph::HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName) {
@@ -170,13 +247,16 @@ std::optional<bool> VServiceGraph::HasParamFor(NODX201::VEnvDataDesc& envDataDes
     if (node == m_nodes.end()) {
         return std::nullopt;
     }
-    VGroup const group = m_groups[node->second];
-    std::pair<VGroup, VNode> const key{group, group == kNoGroup ? node->second : 0};
-    auto known = m_names.find(key);
-    if (known == m_names.end()) {
-        known = m_names.emplace(key, NamesBelow(ServicesOf(group, node->second))).first;
+    VGroup const group = m_groups[m_components[node->second]];
+    auto const known = m_answers.find({group, shortName});
+    if (known != m_answers.end()) {
+        return known->second;
     }
-    return known->second.count(shortName) != 0;
+    LookBelow(group);
+    auto const holders = m_holders.find(shortName);
+    bool const hasParam = holders != m_holders.end() && HasCommon(holders->second);
+    m_answers.emplace(std::pair(group, shortName), hasParam);
+    return hasParam;
 }
 
 } // namespace NCheck

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include <diagkit/check/Views.h>
@@ -25,10 +26,12 @@ public:
 
 private:
     using VNode = std::size_t;
-    /// Nodes that the same services lead to are in one group; it is told by the groups of what contains them.
+    /// Nodes that lead to one another, in whatever circles, are one component.
+    using VComponent = std::size_t;
+    /// Components that the same services lead to are in one group; it is told by the groups of what contains them.
     using VGroup = std::size_t;
 
-    static constexpr VGroup kNoGroup = static_cast<VGroup>(-1);
+    class VComponentSearch;
 
     void AddService(NODX201::VDiagService& service);
     void AddWay(VNode from, NODX201::VReferencable& to);
@@ -36,18 +39,24 @@ private:
     void Explore(NDIAGKIT::IDopFinder& dops);
     void MakeGroups();
     VGroup GroupOf(std::vector<VGroup> containers);
-    std::vector<VNode> ServicesOf(VGroup group, VNode node) const;
-    VNames NamesBelow(std::vector<VNode> const& services) const;
+    void CollectNames();
+    std::vector<VNode> ServicesOf(VGroup group) const;
+    void LookBelow(VGroup group);
+    bool HasCommon(std::unordered_set<VNode> const& holders) const;
 
     std::vector<NODX201::VReferencable*> m_elements; // by node; null for a service
     std::vector<std::vector<VNode>> m_to;            // by node
-    std::vector<std::vector<VNode>> m_from;          // by node
     std::unordered_map<NODX201::VReferencable*, VNode> m_nodes;
-    std::vector<VGroup> m_groups;                       // by node; none for what is part of a circle or behind it
-    std::vector<std::vector<VGroup>> m_groupContainers; // by group; empty for that of a service
-    std::vector<VNode> m_groupService;                  // by group; the service where it is that of one
+    std::unordered_map<std::wstring_view, std::unordered_set<VNode>> m_holders; // of VALUE parameters, by short name
+    std::vector<VComponent> m_components;                                       // by node
+    std::vector<VGroup> m_groups;                                               // by component
+    std::vector<std::vector<VGroup>> m_groupContainers;                         // by group; empty for that of a service
+    std::vector<VNode> m_groupService; // by group; the service where it is that of one
     std::map<std::vector<VGroup>, VGroup> m_groupsByContainers;
-    std::map<std::pair<VGroup, VNode>, VNames> m_names; // that have been asked for; by node where there is no group
+    std::map<std::pair<VGroup, std::wstring_view>, bool> m_answers;
+    std::vector<VNode> m_below; // what the services of the group that was asked about last lead to
+    std::unordered_set<VNode> m_isBelow;
+    std::optional<VGroup> m_asked;
 };
 
 } // namespace NCheck

@@ -52,8 +52,9 @@ public:
 
     /// Moves an element of the same database from wherever it stands into this collection of `owner`: before the entry
     /// `before`, or to the end. Links that name it resolve as before, as far as its new place allows. Throws
-    /// std::invalid_argument, and changes nothing, for an element of another database or of a detached part, for one
-    /// that `owner` stands in, and for an entry `before` that this collection does not hold.
+    /// std::invalid_argument, and changes nothing, for an element that stands in no collection, such as the one
+    /// REQUEST-REF of a service, for one of another database or of a detached part, for one that `owner` stands in, and
+    /// for an entry `before` that this collection does not hold.
     template <class Owner, class Element>
     void Adopt(Owner& owner, Element& element, Entry* before = nullptr) {
         VMemNode& node = element;
@@ -63,7 +64,7 @@ public:
         auto const now = this->m_elements.insert(position, static_cast<Entry*>(&element));
         if (old != EndPosition()) {
             this->m_elements.erase(old);
-        } else if (node.m_home != nullptr) {
+        } else {
             node.m_home->Forget(node.m_place);
         }
         SetHome(element, now);

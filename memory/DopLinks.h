@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <unordered_set>
 #include <vector>
 
 #include <diagkit/memory/Children.h>
@@ -13,14 +12,16 @@
 
 namespace NMemory {
 
-/// Layers of the memory model, by their numbers: whatever comes to stand where one was destroyed is not meant.
+/// A group of layers of the memory model in which links are severed. The layers know it by its number, so it need not
+/// outlive them or the links, and whatever comes to stand where a layer was destroyed is not meant.
 class VSeveredLayers {
 public:
+    VSeveredLayers(); ///< empty
     void Add(NODX201::VDiagLayer& layer);
-    bool Holds(NODX201::VDiagLayer& layer) const;
+    std::uint64_t GetNumber() const { return m_number; } ///< no other group of the process ever has it
 
 private:
-    std::unordered_set<std::uint64_t> m_numbers;
+    std::uint64_t m_number;
 };
 
 /// DOP-REF, DOP-BASE-REF and their SNREFs: any kind of DOP.
@@ -36,13 +37,13 @@ public:
         m_severedIn.reset();
     }
 
-    /// From now on the link, if by short name, resolves to nothing in these layers, which many links may share; until
-    /// it is given another reference. See `Sever`.
-    void SeverIn(std::shared_ptr<VSeveredLayers const> layers);
+    /// From now on the link, if by short name, resolves to nothing in these layers and those that are added to them,
+    /// until it is given another reference. See `Sever`.
+    void SeverIn(VSeveredLayers const& layers);
     bool IsSeveredIn(NODX201::VDiagLayer& layer) const;
 
 private:
-    std::unique_ptr<std::vector<std::shared_ptr<VSeveredLayers const>>> m_severedIn; // null nearly always
+    std::unique_ptr<std::vector<std::uint64_t>> m_severedIn; // groups, in ascending order; null nearly always
 };
 
 /// DOP-REF, DATA-OBJECT-PROP-REF, KEY-DOP-REF and their SNREFs: a DATA-OBJECT-PROP.

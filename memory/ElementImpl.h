@@ -36,6 +36,9 @@ void VMemIdent<Contract, Tag>::SetId(wchar_t const* id) {
     this->Part().Index(stored, *this);
     this->Part().Unindex(m_id, *this);
     m_id = stored;
+    if constexpr (std::is_base_of_v<NODX201::VDiagLayer, Contract>) {
+        this->NoteRedirection(); // PARENT-REFs find it, or do not any more
+    }
 }
 
 template <class Contract, NODX201::VOdxTagEnum Tag>

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include <diagkit/memory/Collection.h>
 #include <diagkit/memory/Link.h>
 #include <diagkit/model/Layers.h>
@@ -14,6 +17,12 @@ public:
 
     bool HasDiagLayer() const { return FindById(); }
     NODX201::VDiagLayer& GetDiagLayer() { return Found(); }
+
+    /// Names another layer from now on, in which PARENT-REFs may find theirs.
+    void SetReference(VReference const& reference) {
+        VMemLink::SetReference(reference);
+        NoteRedirection();
+    }
 };
 
 class VImportRefCollection : public NODX201::VElementCollection<VMemImportRef> {};
@@ -22,15 +31,11 @@ class VImportRefCollection : public NODX201::VElementCollection<VMemImportRef> {
 class IMemLayer {
 public:
     virtual VImportRefCollection& ImportRefCollection() = 0;
-    /// A number that no other layer of the process ever has, though layers may come to stand where others were
-    /// destroyed.
-    virtual std::uint64_t GetLayerNumber() const = 0;
+    virtual std::vector<std::uint64_t>& SeveredGroups() = 0; ///< by number; see `VSeveredLayers`
 
 protected:
     IMemLayer() = default;
     ~IMemLayer() = default;
 };
-
-std::uint64_t NextLayerNumber(); ///< for a layer that is being made
 
 } // namespace NMemory

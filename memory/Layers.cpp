@@ -1,14 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/memory/Layers.h>
 
-#include <atomic>
-
 namespace NMemory {
-
-std::uint64_t NextLayerNumber() {
-    static std::atomic<std::uint64_t> latest{0}; // documents are read in several threads
-    return ++latest;
-}
 
 IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRefCollection::List::iterator before,
                                VPlace const& place, VParentRefKind kind, VReference const& reference) {

@@ -59,7 +59,7 @@ public:
         return AddNamed<VMemGlobalNegResponse>(m_response, this->Inside(), shortName);
     }
 
-    std::uint64_t GetLayerNumber() const override { return m_layerNumber; }
+    std::vector<std::uint64_t>& SeveredGroups() override { return m_severedGroups; }
 
     VImportRefCollection& ImportRefCollection() override { return m_importRef.Get(); } ///< IMPORT-REFS
     VMemCollection<VImportRefCollection>& MakeImportRefCollection() { return m_importRef.Make(); }
@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    std::uint64_t m_layerNumber = NextLayerNumber();
+    std::vector<std::uint64_t> m_severedGroups;
     std::unique_ptr<VMemDiagDataDictionarySpec> m_dictionary;
     VMemMany<NODX201::VDiagCommProxyCollection> m_diagCommProxy;
     VMemMany<NODX201::VRequestCollection> m_request;

@@ -23,6 +23,9 @@ void VMemNode::ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to) { m
 
 void VMemNode::RequireMoveTo(VMemNode const& to, NODX201::VOdxObject const& owner,
                              NODX201::VOdxObject const& self) const {
+    if (m_home == nullptr) {
+        throw std::invalid_argument("an element that is the only one of its kind where it stands does not move");
+    }
     if (&to.GetDatabase() != &GetDatabase()) {
         throw std::invalid_argument("an element moves within its database");
     }

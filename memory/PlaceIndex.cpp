@@ -134,12 +134,13 @@ NODX201::VReferencable* VPlaceIndex::FindInImports(VIdIndex::VEntry const& entry
         known = m_imports.emplace(&layer, std::move(imports)).first;
     }
     VImports& imports = known->second;
-    if (imports.ranks.empty()) {
+    if (imports.layers.empty()) {
         return nullptr;
     }
-    auto const [answer, isFirst] = imports.found.try_emplace({&entry, expect}, nullptr);
-    if (isFirst) {
-        answer->second = FirstImported(entry, expect, imports);
+    auto answer = imports.found.find({&entry, expect});
+    if (answer == imports.found.end()) {
+        NODX201::VReferencable* const first = FirstImported(entry, expect, imports, generation);
+        answer = imports.found.emplace(std::pair(&entry, expect), first).first;
     }
     return answer->second;
 }
@@ -151,25 +152,33 @@ VPlaceIndex::VImports VPlaceIndex::ImportsOf(NODX201::VOdxElement& layer) {
         return imports;
     }
     for (VMemImportRef& import : importing->ImportRefCollection()) {
-        if (import.HasDiagLayer()) {
-            imports.ranks.try_emplace(&import.GetDiagLayer(), imports.ranks.size());
+        if (import.HasDiagLayer() && imports.ranks.try_emplace(&import.GetDiagLayer(), imports.ranks.size()).second) {
+            imports.layers.push_back(&import.GetDiagLayer());
         }
     }
     return imports;
 }
 
+/// Looks at whatever is fewer: the layers that are imported, or the elements of the ID.
 NODX201::VReferencable* VPlaceIndex::FirstImported(VIdIndex::VEntry const& entry, VExpect expect,
-                                                   VImports const& imports) {
+                                                   VImports const& imports, std::uint64_t generation) {
+    if (imports.layers.size() <= entry.Count()) {
+        for (NODX201::VOdxElement const* const layer : imports.layers) {
+            if (auto* const found = Find(entry, expect, {VPlaceKind::Element, layer}, generation)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
     NODX201::VReferencable* found = nullptr;
-    std::size_t best = imports.ranks.size();
-    auto const see = [&](NODX201::VReferencable& element) {
+    std::size_t best = imports.layers.size();
+    entry.ForEach([&](NODX201::VReferencable& element) {
         auto const rank = imports.ranks.find(ScopeOf(element).layer);
         if (rank != imports.ranks.end() && rank->second < best && expect(element)) {
             best = rank->second;
             found = &element;
         }
-    };
-    entry.ForEach(see);
+    });
     return found;
 }
 

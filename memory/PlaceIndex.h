@@ -72,17 +72,18 @@ private:
     };
     using VGroups = std::map<VSearchPlace, VGroup>;
 
-    /// The layers that a layer imports, and what was found in them.
+    /// The layers that a layer imports, each once in the order of its IMPORT-REFs, and what was found in them.
     struct VImports {
-        std::unordered_map<NODX201::VOdxElement const*, std::size_t> ranks; // the first import is of rank 0
+        std::vector<NODX201::VOdxElement const*> layers;
+        std::unordered_map<NODX201::VOdxElement const*, std::size_t> ranks; // of the first import 0
         std::map<std::pair<VIdIndex::VEntry const*, VExpect>, NODX201::VReferencable*> found;
     };
 
     static VGroups Sort(VIdIndex::VEntry const& entry);
     VGroup* GroupOf(VIdIndex::VEntry const& entry, VSearchPlace const& place, std::uint64_t generation);
     static VImports ImportsOf(NODX201::VOdxElement& layer);
-    static NODX201::VReferencable* FirstImported(VIdIndex::VEntry const& entry, VExpect expect,
-                                                 VImports const& imports);
+    NODX201::VReferencable* FirstImported(VIdIndex::VEntry const& entry, VExpect expect, VImports const& imports,
+                                          std::uint64_t generation);
     void ForgetOld(std::uint64_t generation);
 
     std::unordered_map<VIdIndex::VEntry const*, VGroups> m_sorted;

@@ -4,6 +4,7 @@
 // because the answer belongs to the context and not to the link.
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 #include <diagkit/memory/Database.h>
@@ -52,25 +53,36 @@ bool VMemDopBaseLink::HasDopBase(NODX201::VDiagLayer& layer) {
     return Remember(canAsk ? resolver->ResolveDopBaseSnref(shortName, layer) : nullptr);
 }
 
+namespace {
+
+std::atomic<std::uint64_t> numberOfGroups{0}; // of all databases, which threads may fill beside one another
+
+} // namespace
+
+VSeveredLayers::VSeveredLayers() : m_number(++numberOfGroups) {}
+
 void VSeveredLayers::Add(NODX201::VDiagLayer& layer) {
-    m_numbers.insert(dynamic_cast<IMemLayer&>(layer).GetLayerNumber());
+    dynamic_cast<IMemLayer&>(layer).SeveredGroups().push_back(m_number);
 }
 
-bool VSeveredLayers::Holds(NODX201::VDiagLayer& layer) const {
-    auto const* const own = dynamic_cast<IMemLayer*>(&layer);
-    return own != nullptr && m_numbers.count(own->GetLayerNumber()) != 0;
-}
-
-void VMemDopBaseLink::SeverIn(std::shared_ptr<VSeveredLayers const> layers) {
+void VMemDopBaseLink::SeverIn(VSeveredLayers const& layers) {
     if (m_severedIn == nullptr) {
-        m_severedIn = std::make_unique<std::vector<std::shared_ptr<VSeveredLayers const>>>();
+        m_severedIn = std::make_unique<std::vector<std::uint64_t>>();
     }
-    m_severedIn->push_back(std::move(layers));
+    // At the end nearly always: links are severed in one group after the other.
+    m_severedIn->insert(std::upper_bound(m_severedIn->begin(), m_severedIn->end(), layers.GetNumber()),
+                        layers.GetNumber());
 }
 
 bool VMemDopBaseLink::IsSeveredIn(NODX201::VDiagLayer& layer) const {
-    return m_severedIn != nullptr && std::any_of(m_severedIn->begin(), m_severedIn->end(),
-                                                 [&layer](auto const& layers) { return layers->Holds(layer); });
+    auto* const own = m_severedIn != nullptr ? dynamic_cast<IMemLayer*>(&layer) : nullptr;
+    if (own == nullptr) {
+        return false;
+    }
+    std::vector<std::uint64_t> const& groups = own->SeveredGroups();
+    return std::any_of(groups.begin(), groups.end(), [this](std::uint64_t group) {
+        return std::binary_search(m_severedIn->begin(), m_severedIn->end(), group);
+    });
 }
 
 bool VMemDataObjectPropLink::HasDataObjectProp(NODX201::VDiagLayer& layer) {

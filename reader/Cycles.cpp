@@ -13,8 +13,6 @@
 namespace NReader {
 namespace {
 
-using NMemory::VSeveredLayers;
-
 VReferencables Suspects(VReferencables const& containers) {
     return LeadingIntoCycles(
         containers, [](NODX201::VReferencable& container) { return MayLeadFrom(container, VFollow::Dops, {}); });
@@ -75,9 +73,9 @@ private:
     };
 
     void SearchIn(VDopMeanings::VClass const& meaning) {
-        auto const layers = std::make_shared<VSeveredLayers>();
+        NMemory::VSeveredLayers layers;
         for (NODX201::VDiagLayer* const layer : meaning.Layers()) {
-            layers->Add(*layer);
+            layers.Add(*layer);
         }
         auto const shared = std::make_shared<std::vector<NODX201::VDiagLayer*> const>(meaning.Layers());
         VDopsOfClass dops(meaning);

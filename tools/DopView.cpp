@@ -39,9 +39,9 @@ void VDopView::Inherit(VLayerOfKind const& layer) {
     for (NODX201::VDopBase* const dop : VInheritance<VInheritedDops>().EntriesOf(layer)) {
         dops.emplace_back(dop->GetShortName(), dop);
     }
-    // In the order of the map each finds its place at once.
-    std::sort(dops.begin(), dops.end(),
-              [](auto const& a, auto const& b) { return NPavonaUtil::VUtf16Less()(a.first, b.first); });
+    // In the order of the map each finds its place at once. Of names that the map takes for one the first stays.
+    std::stable_sort(dops.begin(), dops.end(),
+                     [](auto const& a, auto const& b) { return NPavonaUtil::VUtf16Less()(a.first, b.first); });
     for (auto const& [shortName, dop] : dops) {
         m_collection.emplace_hint(m_collection.end(), shortName, dop);
     }

@@ -28,11 +28,11 @@ constexpr Kinds kAllButProtocol = kGroup | kBase | Kinds::EcuVariant | kShared;
 } // namespace
 
 // clang-format off
-//                                                       owners           PROTOCOL          FUNCTIONAL-GROUP      BASE-VARIANT                  ECU-VARIANT       exclusions  own doubles
-VInheritanceRow const VInheritedDiagComms::kRow         {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, true,       true};
-VInheritanceRow const VInheritedDiagVariables::kRow     {kAllButProtocol, {kNone, kNone},   {kShared, kNone},     {kGroup, kShared},             {kBase, kShared}, false,      true};
-VInheritanceRow const VInheritedGlobalNegResponses::kRow{kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      true};
-VInheritanceRow const VInheritedDops::kRow              {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      false};
+//                                                       owners           PROTOCOL          FUNCTIONAL-GROUP      BASE-VARIANT                  ECU-VARIANT       exclusions  own doubles  asks first
+VInheritanceRow const VInheritedDiagComms::kRow         {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, true,       true,        true};
+VInheritanceRow const VInheritedDiagVariables::kRow     {kAllButProtocol, {kNone, kNone},   {kShared, kNone},     {kGroup, kShared},             {kBase, kShared}, false,      true,        false};
+VInheritanceRow const VInheritedGlobalNegResponses::kRow{kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      true,        true};
+VInheritanceRow const VInheritedDops::kRow              {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      false,       false};
 // clang-format on
 
 VInheritancePasses VInheritanceRow::PassesOf(VLayerKinds layer) const {
@@ -61,45 +61,45 @@ VLayerOfKind::VLayerOfKind(NODX201::VEcuSharedData& ecuSharedData)     : layer(&
 namespace {
 
 struct VKindFinder : NODX201::VDiagLayerVisitor {
-    Kinds kind = Kinds::None;
+    std::optional<VLayerOfKind> found;
 
     // clang-format off
-    void VisitBaseVariant    (NODX201::VBaseVariant&)     override { kind = Kinds::BaseVariant; }
-    void VisitProtocol       (NODX201::VProtocol&)        override { kind = Kinds::Protocol; }
-    void VisitFunctionalGroup(NODX201::VFunctionalGroup&) override { kind = Kinds::FunctionalGroup; }
-    void VisitEcuVariant     (NODX201::VEcuVariant&)      override { kind = Kinds::EcuVariant; }
-    void VisitEcuSharedData  (NODX201::VEcuSharedData&)   override { kind = Kinds::EcuSharedData; }
+    void VisitBaseVariant    (NODX201::VBaseVariant& layer)     override { found = layer; }
+    void VisitProtocol       (NODX201::VProtocol& layer)        override { found = layer; }
+    void VisitFunctionalGroup(NODX201::VFunctionalGroup& layer) override { found = layer; }
+    void VisitEcuVariant     (NODX201::VEcuVariant& layer)      override { found = layer; }
+    void VisitEcuSharedData  (NODX201::VEcuSharedData& layer)   override { found = layer; }
     // clang-format on
 };
 
 } // namespace
 
-VLayerOfKind::VLayerOfKind(NODX201::VDiagLayer& anyLayer) : layer(&anyLayer) {
+VLayerOfKind::VLayerOfKind(NODX201::VDiagLayer& anyLayer) : layer(&anyLayer), kind(Kinds::None) {
     VKindFinder finder;
     anyLayer.Accept(finder);
-    kind = finder.kind;
+    *this = finder.found.value_or(*this);
 }
 
 namespace {
 
 template <class Layer>
-NODX201::VParentRefCollection* ParentRefsIn(NODX201::VDiagLayer& layer) {
+NODX201::VParentRefCollection* ParentRefsIn(NODX201::VDiagLayer& layer, bool asksFirst) {
     auto& self = static_cast<Layer&>(layer);
-    return self.HasParentRefCollection() ? &self.ParentRefCollection() : nullptr;
+    return !asksFirst || self.HasParentRefCollection() ? &self.ParentRefCollection() : nullptr;
 }
 
 } // namespace
 
-NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer) {
+NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer, bool asksFirst) {
     switch (layer.kind) {
     case Kinds::Protocol:
-        return ParentRefsIn<NODX201::VProtocol>(*layer.layer);
+        return ParentRefsIn<NODX201::VProtocol>(*layer.layer, asksFirst);
     case Kinds::FunctionalGroup:
-        return ParentRefsIn<NODX201::VFunctionalGroup>(*layer.layer);
+        return ParentRefsIn<NODX201::VFunctionalGroup>(*layer.layer, asksFirst);
     case Kinds::BaseVariant:
-        return ParentRefsIn<NODX201::VBaseVariant>(*layer.layer);
+        return ParentRefsIn<NODX201::VBaseVariant>(*layer.layer, asksFirst);
     case Kinds::EcuVariant:
-        return ParentRefsIn<NODX201::VEcuVariant>(*layer.layer);
+        return ParentRefsIn<NODX201::VEcuVariant>(*layer.layer, asksFirst);
     default:
         return nullptr;
     }
@@ -353,7 +353,8 @@ template <class Kind>
 typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, std::size_t level) {
     VInheritancePasses const passes = Kind::kRow.PassesOf(layer.kind);
     VList list{OwnOf(layer), {}};
-    NODX201::VParentRefCollection* const parentRefs = passes.first != VLayerKinds::None ? ParentRefsOf(layer) : nullptr;
+    NODX201::VParentRefCollection* const parentRefs =
+        passes.first != VLayerKinds::None ? ParentRefsOf(layer, Kind::kRow.asksForParentRefs) : nullptr;
     if (parentRefs == nullptr && Kind::kRow.showsOwnDoubles) {
         return list;
     }

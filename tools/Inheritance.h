@@ -38,8 +38,8 @@ constexpr bool IsIn(VLayerKinds kind, VLayerKinds set) {
 inline constexpr VLayerKinds kAllParents =
     VLayerKinds::Protocol | VLayerKinds::FunctionalGroup | VLayerKinds::BaseVariant | VLayerKinds::EcuSharedData;
 
-/// A layer and which of the five kinds it is of. It converts from any layer; from a `VDiagLayer` it finds out the kind
-/// by the layer's `Accept`, and is of no kind when that calls back nothing.
+/// A layer and which of the five kinds it is of. It converts from any layer; of a `VDiagLayer` it takes what the
+/// layer's `Accept` calls back with, and is the layer itself, of no kind, when nothing is called back.
 struct DIAGKIT_EXPORT VLayerOfKind {
     VLayerOfKind(NODX201::VProtocol& protocol);
     VLayerOfKind(NODX201::VFunctionalGroup& functionalGroup);
@@ -52,8 +52,9 @@ struct DIAGKIT_EXPORT VLayerOfKind {
     VLayerKinds kind; ///< one kind, or none
 };
 
-/// The PARENT-REFS of a layer; null for one without, and so for every ECU-SHARED-DATA.
-DIAGKIT_EXPORT NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer);
+/// The PARENT-REFS of a layer; null for one that says to have none, unless it is not asked, and for every
+/// ECU-SHARED-DATA.
+DIAGKIT_EXPORT NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer, bool asksFirst = true);
 
 /// The layer that a PARENT-REF names, where the reference is of one of these kinds and has a target. References of no
 /// known kind name none.
@@ -75,6 +76,8 @@ struct DIAGKIT_EXPORT VInheritanceRow {
     VInheritancePasses ecuVariant;
     bool appliesExclusions; ///< whether the NOT-INHERITED-DIAG-COMMS of a PARENT-REF hold for what comes by it
     bool showsOwnDoubles;   ///< whether all own elements of one short name are visible, or the first alone
+    bool
+        asksForParentRefs; ///< whether a layer that says to have no PARENT-REFS is believed, or they are walked at once
 
     VInheritancePasses PassesOf(VLayerKinds layer) const; ///< none for an ECU-SHARED-DATA
 };

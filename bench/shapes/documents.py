@@ -12,16 +12,19 @@ def flash_sessions(count):
         f"S{index}",
         wrap(
             "EXPECTED-IDENTS",
-            ident("EXPECTED-IDENT", f"I{index}", '<IDENT-VALUES><IDENT-VALUE TYPE="A_UINT32">1</IDENT-VALUE></IDENT-VALUES>'),
+            ident(
+                "EXPECTED-IDENT", f"I{index}", wrap("IDENT-VALUES", '<IDENT-VALUE TYPE="A_UINT32">1</IDENT-VALUE>')
+            ),
         )
         + '<DATABLOCK-REFS><DATABLOCK-REF ID-REF="Block"/></DATABLOCK-REFS>',
     )
     block = '<DATABLOCK ID="Block" TYPE="CODE"><SHORT-NAME>Block</SHORT-NAME><FLASHDATA-REF ID-REF="Data"/></DATABLOCK>'
-    data = ident("FLASHDATA", "Data", '<DATAFORMAT SELECTION="BINARY"/><DATA>00</DATA>', attributes=' xsi:type="INTERN-FLASHDATA"')
+    content = '<DATAFORMAT SELECTION="BINARY"/><DATA>00</DATA>'
+    data = ident("FLASHDATA", "Data", content, attributes=' xsi:type="INTERN-FLASHDATA"')
     mem = ident(
         "ECU-MEM",
         "Mem",
-        f"<MEM><SESSIONS>{many(count, session)}</SESSIONS><DATABLOCKS>{block}</DATABLOCKS><FLASHDATAS>{data}</FLASHDATAS></MEM>",
+        wrap("MEM", wrap("SESSIONS", many(count, session)) + wrap("DATABLOCKS", block) + wrap("FLASHDATAS", data)),
     )
     desc = lambda index: (
         f'<SESSION-DESC DIRECTION="DOWNLOAD"><SHORT-NAME>D{index}</SHORT-NAME>'
@@ -55,8 +58,10 @@ def connectors(count):
     one = lambda index: ident(
         "ECU-MEM-CONNECTOR",
         f"C{index}",
-        f'<SESSION-DESCS><SESSION-DESC DIRECTION="DOWNLOAD"><SHORT-NAME>D</SHORT-NAME>{by_name("Gone", "SESSION-SNREF")}'
-        f'{by_name("Service", "DIAG-COMM-SNREF")}</SESSION-DESC></SESSION-DESCS>'
+        '<SESSION-DESCS><SESSION-DESC DIRECTION="DOWNLOAD"><SHORT-NAME>D</SHORT-NAME>'
+        + by_name("Gone", "SESSION-SNREF")
+        + by_name("Service", "DIAG-COMM-SNREF")
+        + "</SESSION-DESC></SESSION-DESCS>"
         + by_id("Mem", "ECU-MEM-REF") + wrap("LAYER-REFS", by_id("V0", "LAYER-REF")),
     )
     flash = ident("FLASH", "Flash", wrap("ECU-MEMS", mem) + wrap("ECU-MEM-CONNECTORS", many(count, one)))
@@ -65,36 +70,43 @@ def connectors(count):
 
 def multiple_ecu_jobs(count):
     """Jobs whose parameters name DOPs of the layers that they run in by short name."""
-    code = "<PROG-CODES><PROG-CODE><CODE-FILE>a.jar</CODE-FILE><SYNTAX>JAR</SYNTAX><REVISION>1</REVISION></PROG-CODE></PROG-CODES>"
+    code = "<PROG-CODE><CODE-FILE>a.jar</CODE-FILE><SYNTAX>JAR</SYNTAX><REVISION>1</REVISION></PROG-CODE>"
+    param = lambda index: "<SHORT-NAME>P</SHORT-NAME>" + by_name(f"Dop{index}", "DOP-BASE-SNREF")
     job = lambda index: ident(
         "MULTIPLE-ECU-JOB",
         f"J{index}",
-        code
-        + wrap("INPUT-PARAMS", f"<INPUT-PARAM><SHORT-NAME>P</SHORT-NAME>{by_name(f'Dop{index}', 'DOP-BASE-SNREF')}</INPUT-PARAM>")
+        wrap("PROG-CODES", code)
+        + wrap("INPUT-PARAMS", wrap("INPUT-PARAM", param(index)))
         + wrap("DIAG-LAYER-REFS", by_id("V0", "DIAG-LAYER-REF")) + "<AUDIENCE/>",
     )
     spec = ident("MULTIPLE-ECU-JOB-SPEC", "Jobs", wrap("MULTIPLE-ECU-JOBS", many(count, job)))
-    base = layer("BASE-VARIANT", "V0", DIAG_DATA_DICTIONARY_SPEC=dictionary(many(count, lambda index: dop(f"Dop{index}"))))
+    dops = many(count, lambda index: dop(f"Dop{index}"))
+    base = layer("BASE-VARIANT", "V0", DIAG_DATA_DICTIONARY_SPEC=dictionary(dops))
     return {"c.odx-d": container({"BASE-VARIANTS": base}), "j.odx-m": document(spec)}
 
 
 def many_documents(count):
-    return {f"d{index}.odx-d": container({"BASE-VARIANTS": layer("BASE-VARIANT", f"V{index}")}, f"C{index}") for index in range(count)}
+    one = lambda index: container({"BASE-VARIANTS": layer("BASE-VARIANT", f"V{index}")}, f"C{index}")
+    return {f"d{index}.odx-d": one(index) for index in range(count)}
 
 
 def documents_of_one_name(count):
-    return {f"d{index}.odx-d": container({"BASE-VARIANTS": layer("BASE-VARIANT", f"V{index}")}, "C") for index in range(count)}
+    one = lambda index: container({"BASE-VARIANTS": layer("BASE-VARIANT", f"V{index}")})
+    return {f"d{index}.odx-d": one(index) for index in range(count)}
 
 
 def unknown_elements(count):
     base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("S"))
-    return {"c.odx-d": container({"BASE-VARIANTS": base}).replace("</DIAG-COMMS>", many(count, lambda i: f"<X{i}/>") + "</DIAG-COMMS>")}
+    text = container({"BASE-VARIANTS": base})
+    unknown = many(count, lambda index: f"<X{index}/>")
+    return {"c.odx-d": text.replace("</DIAG-COMMS>", unknown + "</DIAG-COMMS>")}
 
 
 def nested_groups(count):
     """SDGs inside one another."""
     groups = "<SDG>" * count + "<SD>x</SD>" + "</SDG>" * count
-    base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("S").replace("<AUDIENCE/>", wrap("SDGS", groups) + "<AUDIENCE/>"))
+    holder = service("S").replace("<AUDIENCE/>", wrap("SDGS", groups) + "<AUDIENCE/>")
+    base = layer("BASE-VARIANT", "V0", DIAG_COMMS=holder)
     return {"c.odx-d": container({"BASE-VARIANTS": base})}
 
 

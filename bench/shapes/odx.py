@@ -2,7 +2,8 @@
 """ODX as text, as short as the shapes of databases need it. Short names are IDs where nothing else is said."""
 
 HEAD = (
-    '<?xml version="1.0" encoding="UTF-8"?>\n<ODX MODEL-VERSION="2.0.1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">'
+    '<?xml version="1.0" encoding="UTF-8"?>\n'
+    '<ODX MODEL-VERSION="2.0.1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">'
 )
 
 

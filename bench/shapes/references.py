@@ -45,6 +45,26 @@ def imports(count):
     return {"c.odx-d": container({"ECU-SHARED-DATAS": libraries, "BASE-VARIANTS": last})}
 
 
+def imports_of_each(count):
+    """Libraries with the same IDs; as many layers each import one of them and refer to the IDs."""
+    own = lambda index: dictionary(many(20, lambda number: dop(f"D{number}", f"ID{number}")))
+    libraries = many(
+        count, lambda index: layer("ECU-SHARED-DATA", f"L{index}", DIAG_DATA_DICTIONARY_SPEC=own(index))
+    )
+    params = many(20, lambda number: value(f"P{number}", by_id(f"ID{number}")))
+    importing = many(
+        count,
+        lambda index: layer(
+            "BASE-VARIANT",
+            f"V{index}",
+            DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=structure("S", params, f"S{index}")),
+            IMPORT_REFS=by_id(f"L{index}", "IMPORT-REF"),
+        ),
+    )
+    return {"a.odx-d": container({"ECU-SHARED-DATAS": libraries}, "A"),
+            "b.odx-d": container({"BASE-VARIANTS": importing}, "B")}
+
+
 def imports_of_one_id(count):
     """One ID is that of every layer, and of every IMPORT-REF."""
     libraries = many(count, lambda index: layer("ECU-SHARED-DATA", f"L{index}", "Library"))
@@ -71,6 +91,22 @@ def short_name_cycles(count):
     return {"c.odx-d": container({"BASE-VARIANTS": above, "ECU-VARIANTS": variants})}
 
 
+def cycles_that_each_variant_changes(count):
+    """The same, where each variant has a STRUCTURE of its own in place of one of them."""
+    cycles = many(count, lambda index: structure(f"S{index}", value("P", by_name(f"S{index}"))))
+    above = layer("BASE-VARIANT", "Base", DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=cycles))
+    variants = many(
+        count,
+        lambda index: layer(
+            "ECU-VARIANT",
+            f"V{index}",
+            DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=structure(f"S{index}", "", f"Own{index}")),
+            PARENT_REFS=parent("BASE-VARIANT", "Base"),
+        ),
+    )
+    return {"c.odx-d": container({"BASE-VARIANTS": above, "ECU-VARIANTS": variants})}
+
+
 def short_name_cycles_of_each(count):
     """Layers that each have a STRUCTURE of their own which contains itself by its short name."""
     own = lambda index: dictionary(structures=structure(f"S{index}", value("P", by_name(f"S{index}"))))
@@ -82,8 +118,9 @@ def cycles_of_equal_names(count):
     """Layers that each have two STRUCTUREs of the same names, which contain one another by them."""
 
     def one(index):
-        pair = structure("A", value("P", by_name("B")), f"A{index}") + structure("B", value("P", by_name("A")), f"B{index}")
-        return layer("BASE-VARIANT", f"V{index}", DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=pair))
+        first = structure("A", value("P", by_name("B")), f"A{index}")
+        second = structure("B", value("P", by_name("A")), f"B{index}")
+        return layer("BASE-VARIANT", f"V{index}", DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=first + second))
 
     return {"c.odx-d": container({"BASE-VARIANTS": many(count, one)})}
 
@@ -104,10 +141,8 @@ def chain_of_structures(count):
 
 
 def chain_by_short_names(count):
-    chain = many(
-        count,
-        lambda index: structure(f"S{index}", value(f"P{index}", by_name(f"S{index + 1}" if index + 1 < count else "Dop"))),
-    )
+    target = lambda index: by_name(f"S{index + 1}" if index + 1 < count else "Dop")
+    chain = many(count, lambda index: structure(f"S{index}", value(f"P{index}", target(index))))
     return base(
         DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop"), chain),
         DIAG_COMMS=service("Service", response="Response"),
@@ -115,20 +150,17 @@ def chain_by_short_names(count):
     )
 
 
-def env_data_desc(count, descs=1):
+def described(index, target="Dop"):
+    """An ENV-DATA-DESC that reads the parameter "Code", with an ENV-DATA whose parameter is of the target."""
+    env_data = ident("ENV-DATA", f"Env{index}", wrap("PARAMS", value("E", by_id(target))) + "<ALL-VALUE/>")
+    return ident("ENV-DATA-DESC", f"Desc{index}", by_name("Code", "PARAM-SNREF") + wrap("ENV-DATAS", env_data))
+
+
+def env_data_desc(count, descs=1, structures="", more=""):
     """Services that all lead to an ENV-DATA-DESC, which reads a parameter of theirs."""
-    described = many(
-        descs,
-        lambda index: ident(
-            "ENV-DATA-DESC",
-            f"Desc{index}",
-            by_name("Code", "PARAM-SNREF")
-            + wrap("ENV-DATAS", ident("ENV-DATA", f"Env{index}", "<ALL-VALUE/>").replace("<ALL-VALUE/>", wrap("PARAMS", value("E", by_id("Dop"))) + "<ALL-VALUE/>")),
-        ),
-    )
-    params = lambda index: value("Code", by_id("Dop")) + value(f"P{index}", by_id(f"Desc{index % descs}"))
+    params = lambda index: value("Code", by_id("Dop")) + value(f"P{index}", by_id(f"Desc{index % descs}")) + more
     return base(
-        DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop"), env_data_descs=described),
+        DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop"), structures, env_data_descs=many(descs, described)),
         DIAG_COMMS=many(count, lambda index: service(f"S{index}", response=f"R{index}")),
         POS_RESPONSES=many(count, lambda index: message("POS-RESPONSE", f"R{index}", params(index))),
     )
@@ -138,13 +170,31 @@ def env_data_descs(count):
     return env_data_desc(count, count)
 
 
-def env_data_desc_and_large_structure(count):
+def env_data_desc_and_large_structure(count, descs=1):
     """The same, where each service leads to a STRUCTURE of as many parameters as well."""
     large = structure("Large", many(count, lambda index: value(f"L{index}", by_id("Dop"))))
-    text = env_data_desc(count)["c.odx-d"].replace(
-        "</DATA-OBJECT-PROPS>", f"</DATA-OBJECT-PROPS><STRUCTURES>{large}</STRUCTURES>"
+    return env_data_desc(count, descs, large, value("Q", by_id("Large")))
+
+
+def env_data_descs_and_large_structure(count):
+    return env_data_desc_and_large_structure(count, count)
+
+
+def env_data_descs_in_a_circle(count):
+    """Each leads to the next one, and the last back to the first through a table."""
+    descs = many(count, lambda index: described(index, f"Desc{index + 1}" if index + 1 < count else "Back"))
+    key = '<PARAM xsi:type="TABLE-KEY" ID="Key"><SHORT-NAME>Key</SHORT-NAME><TABLE-REF ID-REF="Table"/></PARAM>'
+    row = ident("TABLE-ROW", "Row", '<KEY>1</KEY><STRUCTURE-REF ID-REF="First"/>')
+    return base(
+        DIAG_DATA_DICTIONARY_SPEC=dictionary(
+            dop("Dop"),
+            structure("Back", key) + structure("First", value("A", by_id("Desc0"))),
+            env_data_descs=descs,
+            tables=ident("TABLE", "Table", '<KEY-DOP-REF ID-REF="Dop"/>' + row),
+        ),
+        DIAG_COMMS=service("S", response="R"),
+        POS_RESPONSES=message("POS-RESPONSE", "R", value("Code", by_id("Dop")) + value("P", by_id("Desc0"))),
     )
-    return {"c.odx-d": text.replace('<DOP-REF ID-REF="Desc0"/></PARAM>', f'<DOP-REF ID-REF="Desc0"/></PARAM>{value("Q", by_id("Large"))}')}
 
 
 def protocol_snrefs(count):
@@ -188,18 +238,20 @@ def comm_relations(count):
         + by_name("P", "OUT-PARAM-IF-SNREF")
         + "</COMM-RELATION>"
     )
+    variable = lambda index: ident(
+        "DIAG-VARIABLE", f"V{index}", wrap("COMM-RELATIONS", relation(index)), f"Var{index}"
+    )
     return base(
         DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop")),
         DIAG_COMMS=many(count, lambda index: service(f"S{index}", response=f"R{index}")),
         POS_RESPONSES=many(count, lambda index: message("POS-RESPONSE", f"R{index}", value("P", by_id("Dop")))),
-        DIAG_VARIABLES=many(
-            count, lambda index: ident("DIAG-VARIABLE", f"V{index}", wrap("COMM-RELATIONS", relation(index)), f"Var{index}")
-        ),
+        DIAG_VARIABLES=many(count, variable),
     )
 
 
 def access_levels(count):
-    level = lambda index: f"<ACCESS-LEVEL><VALUE>1</VALUE><DESC/>{by_name(f'S{index}', 'DIAG-COMM-SNREF')}</ACCESS-LEVEL>"
+    named = lambda index: by_name(f"S{index}", "DIAG-COMM-SNREF")
+    level = lambda index: wrap("ACCESS-LEVEL", "<VALUE>1</VALUE><DESC/>" + named(index))
     return base(
         DIAG_COMMS=many(count, lambda index: service(f"S{index}")),
         ACCESS_LEVELS=many(count, level),
@@ -218,18 +270,23 @@ def related_diag_comms(count):
         "</RELATED-DIAG-COMM-REF></RELATED-DIAG-COMM-REFS>" % ((index + 1) % count)
     )
     return base(
-        DIAG_COMMS=many(count, lambda index: service(f"S{index}").replace("<AUDIENCE/>", "<AUDIENCE/>" + related(index)))
+        DIAG_COMMS=many(
+            count, lambda index: service(f"S{index}").replace("<AUDIENCE/>", "<AUDIENCE/>" + related(index))
+        )
     )
 
 
 def tables(count):
     """A TABLE whose rows lead to as many STRUCTUREs, one of which leads back to it."""
-    rows = many(count, lambda index: ident("TABLE-ROW", f"Row{index}", f"<KEY>{index}</KEY>" + by_id(f"S{index}", "STRUCTURE-REF")))
+    content = lambda index: f"<KEY>{index}</KEY>" + by_id(f"S{index}", "STRUCTURE-REF")
+    rows = many(count, lambda index: ident("TABLE-ROW", f"Row{index}", content(index)))
     key = '<PARAM xsi:type="TABLE-KEY" ID="Key"><SHORT-NAME>Key</SHORT-NAME><TABLE-REF ID-REF="Table"/></PARAM>'
     data = '<PARAM xsi:type="TABLE-STRUCT"><SHORT-NAME>Data</SHORT-NAME><TABLE-KEY-REF ID-REF="Key"/></PARAM>'
-    structures = many(count, lambda index: structure(f"S{index}", key + data if index == 0 else value("P", by_id("Dop"))))
+    params = lambda index: key + data if index == 0 else value("P", by_id("Dop"))
+    structures = many(count, lambda index: structure(f"S{index}", params(index)))
+    table = ident("TABLE", "Table", by_id("Dop", "KEY-DOP-REF") + rows)
     return base(
-        DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop"), structures, tables=ident("TABLE", "Table", by_id("Dop", "KEY-DOP-REF") + rows)),
+        DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop"), structures, tables=table),
         DIAG_COMMS=service("Service", response="Response"),
         POS_RESPONSES=message("POS-RESPONSE", "Response", value("Root", by_id("S0"))),
     )

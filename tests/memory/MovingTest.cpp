@@ -34,6 +34,14 @@ protected:
     }
 };
 
+TEST_F(MovingTest, AnElementThatStandsInNoCollectionDoesNotMove) {
+    auto& uds = Protocol(L"Uds");
+    auto& kwp = Protocol(L"Kwp");
+    auto& link = uds.AddAccessLevel().SetDiagCommSnref(VReference::ById(L"Uds.Read"));
+    EXPECT_THROW(kwp.MakeDiagCommProxyCollection().Adopt(kwp, link), std::invalid_argument);
+    EXPECT_EQ(DiagComms(L"Kwp"), L"Stop@Kwp");
+}
+
 TEST_F(MovingTest, AnElementMovesToTheEndOfItsOwnCollection) {
     auto& uds = Protocol(L"Uds");
     uds.MakeDiagCommProxyCollection().Adopt(uds, Service(L"Uds.Read"));

@@ -316,6 +316,21 @@ TEST_F(ShortNameLinksTest, DirectingAParentRefAtAnotherLayerStartsANewResolver) 
     EXPECT_EQ(&parentRef.GetBaseVariant(), &second);
 }
 
+TEST_F(ShortNameLinksTest, WhateverLeadsAParentRefToAnotherLayerStartsANewResolver) {
+    auto& first = m_container.AddBaseVariant(L"First");
+    auto& second = m_container.AddBaseVariant(L"Second");
+    second.SetId(L"B");
+    auto& import = m_one.AddImportRef(first);
+    UseFakeResolver();
+    m_database.GetResolver();
+    first.SetId(L"Other"); // the ID of a layer
+    m_database.GetResolver();
+    EXPECT_EQ(m_names.started, 2);
+    import.SetReference(second); // where IDs are looked for
+    m_database.GetResolver();
+    EXPECT_EQ(m_names.started, 3);
+}
+
 class SeveredLinksTest : public ShortNameLinksTest {
 protected:
     SeveredLinksTest() {
@@ -325,8 +340,8 @@ protected:
     }
 
     void SeverIn(NODX201::VDiagLayer& layer) {
-        auto const layers = std::make_shared<NMemory::VSeveredLayers>();
-        layers->Add(layer);
+        NMemory::VSeveredLayers layers;
+        layers.Add(layer);
         m_link.SeverIn(layers);
     }
 
@@ -346,14 +361,30 @@ TEST_F(SeveredLinksTest, AnotherReferenceIsNotSevered) {
 }
 
 TEST_F(SeveredLinksTest, ALayerInThePlaceOfADestroyedOneIsAnother) {
-    NMemory::VSeveredLayers severed;
     for (int round = 0; round < 100; ++round) { // sooner or later one comes to stand where another was
         auto& layer = m_container.AddEcuVariant(L"Brief");
-        ASSERT_FALSE(severed.Holds(layer));
-        severed.Add(layer);
-        ASSERT_TRUE(severed.Holds(layer));
+        ASSERT_FALSE(m_link.IsSeveredIn(layer));
+        SeverIn(layer);
+        ASSERT_TRUE(m_link.IsSeveredIn(layer));
         delete &layer;
     }
+}
+
+TEST_F(SeveredLinksTest, ALinkIsSeveredInAllLayersOfItsGroupsAndInNoOthers) {
+    NMemory::VSeveredLayers first;
+    NMemory::VSeveredLayers second;
+    NMemory::VSeveredLayers third;
+    auto& layer = m_container.AddEcuVariant(L"Layer");
+    first.Add(m_one);
+    second.Add(m_two);
+    third.Add(layer);
+    m_link.SeverIn(third);
+    m_link.SeverIn(first);
+    EXPECT_TRUE(m_link.IsSeveredIn(m_one));
+    EXPECT_FALSE(m_link.IsSeveredIn(m_two));
+    EXPECT_TRUE(m_link.IsSeveredIn(layer));
+    first.Add(m_two);
+    EXPECT_TRUE(m_link.IsSeveredIn(m_two));
 }
 
 } // namespace

@@ -113,6 +113,35 @@ TEST_F(VInheritanceTest, ALayerWithoutParentRefsHasNone) {
     EXPECT_EQ(ParentRefsOf(Layer(L"P"))->Count(), 0u);
 }
 
+/// A FUNCTIONAL-GROUP that says to have no PARENT-REFS, and has.
+class VSecretiveGroup final : public NMemory::VWithDiagVariables<
+                                  NMemory::VWithParents<NMemory::VWithLayer<NMemory::VWithComparamRefs<
+                                      NMemory::VWithFunctClasses<NMemory::VWithCompanyDatas<NMemory::VWithAdminData<
+                                          NMemory::VMemIdent<NODX201::VFunctionalGroup,
+                                                             NODX201::VOdxTagEnum::FunctionalGroup>>>>>>>> {
+public:
+    using VWithDiagVariables::VWithDiagVariables;
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitFunctionalGroup(*this); }
+    bool HasParentRefCollection() const override { return false; }
+};
+
+TEST_F(VInheritanceTest, ParentRefsAreAskedForInTheViewsOfDiagCommsAndGlobalNegResponsesAlone) {
+    Graph(L"esd Lib : Read");
+    auto& library = LayerAs<NMemory::VMemEcuSharedData>(L"Lib");
+    library.AddDiagVariable(L"Speed");
+    library.AddGlobalNegResponse(L"Refused");
+    library.MakeDiagDataDictionarySpec().AddStructure(L"Status");
+    VSecretiveGroup group(m_graph->Container().Inside());
+    group.AddParentRef(library);
+    auto const countOf = [&group](auto kind) {
+        return NDIAGKIT::VInheritance<decltype(kind)>().EntriesOf(group).size();
+    };
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedDiagComms()), 0u);
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedGlobalNegResponses()), 0u);
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedDiagVariables()), 1u);
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedDops()), 1u);
+}
+
 TEST_F(VInheritanceTest, AParentIsNamedByAReferenceOfAKindThatIsAskedFor) {
     Graph(L"prot Uds \n base Bv < Uds");
     NODX201::VParentRef& parentRef = *ParentRefsOf(Layer(L"Bv"))->Begin();
