@@ -35,15 +35,19 @@ VDopView::VDopView(NODX201::VEcuVariant& layer)      : VDopView() { Inherit(laye
 // clang-format on
 
 void VDopView::Inherit(VLayerOfKind const& layer) {
-    std::vector<std::pair<std::wstring_view, NODX201::VDopBase*>> dops;
-    for (NODX201::VDopBase* const dop : VInheritance<VInheritedDops>().EntriesOf(layer)) {
-        dops.emplace_back(dop->GetShortName(), dop);
+    auto const dops = VInheritance<VInheritedDops>().EntriesOf(layer);
+    std::vector<std::pair<std::wstring_view, std::size_t>> names; // with places in `dops`
+    names.reserve(dops.size());
+    for (NODX201::VDopBase* const dop : dops) {
+        names.emplace_back(dop->GetShortName(), names.size());
     }
-    // In the order of the map each finds its place at once. Of names that the map takes for one the first stays.
-    std::stable_sort(dops.begin(), dops.end(),
-                     [](auto const& a, auto const& b) { return NPavonaUtil::VUtf16Less()(a.first, b.first); });
-    for (auto const& [shortName, dop] : dops) {
-        m_collection.emplace_hint(m_collection.end(), shortName, dop);
+    // In the order of the map each finds its place at once. Of names that the map takes for one the first goes first.
+    NPavonaUtil::VUtf16Less const isLess;
+    std::sort(names.begin(), names.end(), [isLess](auto const& a, auto const& b) {
+        return isLess(a.first, b.first) || (!isLess(b.first, a.first) && a.second < b.second);
+    });
+    for (auto const& [shortName, index] : names) {
+        m_collection.emplace_hint(m_collection.end(), shortName, dops[index]);
     }
 }
 

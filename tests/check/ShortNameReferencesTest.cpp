@@ -154,7 +154,7 @@ TEST_F(VShortNameReferencesTest, ToAnOutputParameterDeepInside) {
                         dictionary + WithRequest(Value("P", "<DOP-SNREF SHORT-NAME=\"T\"/>")) + Pattern("S", param));
     };
     Check(layer("Deep"));
-    EXPECT_EQ(Diagnostics(), "test.odx:6:1 warning table-row-cycle");
+    EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle");
     Check(layer("X"));
     EXPECT_EQ(Diagnostics(), "test.odx:5:1 warning table-row-cycle\ntest.odx:7:1 error unresolved-short-name");
 }

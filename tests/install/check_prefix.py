@@ -20,7 +20,7 @@ FOLDERS = {"", "model", "logging", "util", "tools", "tools/oem", "memory", "conf
 PUBLIC = {
     "": {"Export.h", "Version.h"},
     "logging": {"SharedLogger.h"},
-    "util": {"Assertion.h"},
+    "util": {"Assertion.h", "CheckedCast.h", "Utf16.h"},
     "tools/oem": {"Manufacturer.h", "OemChecker.h", "OemReport.h"},
     "conformance": {"Conformance.h", "Reference.h"},
     "reader": {"Diagnostic.h", "Limits.h", "OdxReader.h", "Utf8.h"},
