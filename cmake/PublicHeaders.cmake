@@ -7,7 +7,6 @@ set(internal_headers
     tools/DestroyIfThere.h
     tools/ListViewImpl.h
     tools/ParamRecursivSearchVisitor.h
-    tools/PointerSet.h
     tools/ResponseParams.h
     tools/ViewBuilder.h
 )
