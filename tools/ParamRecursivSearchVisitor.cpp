@@ -18,8 +18,11 @@ Visitor::~VParamRecursivSearchVisitor() = default;
 void Visitor::VisitValue(NODX201::VValue& param) {
     if (std::wcscmp(param.GetShortName(), m_shortName.c_str()) != 0) {
         // What `WalkBelow` does, without a call to find the DOP: that would take a tenth of the whole search.
-        if (param.HasDopBaseLink() && param.GetDopBaseLink().HasDopBase(m_layer)) {
-            param.GetDopBaseLink().GetDopBase().Accept(*this);
+        if (param.HasDopBaseLink()) {
+            NODX201::VDopBaseLink& link = param.GetDopBaseLink();
+            if (link.HasDopBase(m_layer)) {
+                link.GetDopBase().Accept(*this);
+            }
         }
         return;
     }

@@ -74,12 +74,6 @@ void VParamWalk::WalkParams() {
 
 void VParamWalk::Take(VContained const& part) { m_parts.push_back(part); }
 
-void VParamWalk::TakeParams(NODX201::VBasicStructure& structure) {
-    NODX201::VParamCollection& params = structure.ParamCollection();
-    m_inside.back().next = params.Begin();
-    m_inside.back().end = params.End();
-}
-
 void VParamWalk::WalkBelow(NODX201::VValue& param) {
     if (!param.HasDopBaseLink()) {
         return;
@@ -99,30 +93,46 @@ void VParamWalk::VisitTableStruct(NODX201::VTableStruct& param) {
 void VParamWalk::VisitTableKey(NODX201::VTableKey&) {}
 void VParamWalk::VisitTableEntry(NODX201::VTableEntry&) {}
 
-/// Enters what contains something, once, and lets `visit` tell its parts.
-template <class Container, class Visit>
-void VParamWalk::EnterOnce(Container& container, Visit visit) {
+/// Whether what contains something is entered for the first time; the walk is inside of it then.
+bool VParamWalk::EnterOnce(NODX201::VOdxElement& container) {
     if (!m_entered.Insert(&container)) {
-        return;
+        return false;
     }
-    std::size_t const parts = m_parts.size();
-    m_inside.push_back({&container, m_leader, parts, {}, {}});
+    m_inside.push_back({&container, m_leader, m_parts.size(), {}, {}});
     Enter(container);
-    visit();
-    std::reverse(m_parts.begin() + static_cast<std::ptrdiff_t>(parts), m_parts.end());
+    return true;
+}
+
+/// Enters a structure, whose parameters are walked where they stand.
+void VParamWalk::EnterStructure(NODX201::VBasicStructure& structure) {
+    if (EnterOnce(structure)) {
+        NODX201::VParamCollection& params = structure.ParamCollection();
+        m_inside.back().next = params.Begin();
+        m_inside.back().end = params.End();
+    }
+}
+
+/// Enters what contains other things, and lets `visit` tell them.
+template <class Container, class Visit>
+void VParamWalk::EnterParts(Container& container, Visit visit) {
+    if (EnterOnce(container)) {
+        std::size_t const parts = m_parts.size();
+        visit();
+        std::reverse(m_parts.begin() + static_cast<std::ptrdiff_t>(parts), m_parts.end());
+    }
 }
 
 // clang-format off
-void VParamWalk::VisitEnvData              (NODX201::VEnvData& dop)               { EnterOnce(dop, [&] { TakeParams(dop); }); }
-void VParamWalk::VisitStructure            (NODX201::VStructure& dop)             { EnterOnce(dop, [&] { TakeParams(dop); }); }
-void VParamWalk::VisitStaticField          (NODX201::VStaticField& dop)           { EnterOnce(dop, [&] { TakeField(dop); }); }
-void VParamWalk::VisitDynamicLengthField   (NODX201::VDynamicLengthField& dop)    { EnterOnce(dop, [&] { TakeField(dop); }); }
-void VParamWalk::VisitDynamicEndmarkerField(NODX201::VDynamicEndmarkerField& dop) { EnterOnce(dop, [&] { TakeField(dop); }); }
-void VParamWalk::VisitEndOfPduField        (NODX201::VEndOfPduField& dop)         { EnterOnce(dop, [&] { TakeField(dop); }); }
-void VParamWalk::VisitEnvDataDesc          (NODX201::VEnvDataDesc& dop)           { EnterOnce(dop, [&] { VContainment::VisitEnvDataDesc(dop); }); }
-void VParamWalk::VisitMux                  (NODX201::VMux& dop)                   { EnterOnce(dop, [&] { VContainment::VisitMux(dop); }); }
-void VParamWalk::VisitTable                (NODX201::VTable& table)               { EnterOnce(table, [&] { VContainment::VisitTable(table); }); }
-void VParamWalk::VisitTableRow             (NODX201::VTableRow& row)              { EnterOnce(row, [&] { VContainment::VisitTableRow(row); }); }
+void VParamWalk::VisitEnvData              (NODX201::VEnvData& dop)               { EnterStructure(dop); }
+void VParamWalk::VisitStructure            (NODX201::VStructure& dop)             { EnterStructure(dop); }
+void VParamWalk::VisitStaticField          (NODX201::VStaticField& dop)           { EnterParts(dop, [&] { TakeField(dop); }); }
+void VParamWalk::VisitDynamicLengthField   (NODX201::VDynamicLengthField& dop)    { EnterParts(dop, [&] { TakeField(dop); }); }
+void VParamWalk::VisitDynamicEndmarkerField(NODX201::VDynamicEndmarkerField& dop) { EnterParts(dop, [&] { TakeField(dop); }); }
+void VParamWalk::VisitEndOfPduField        (NODX201::VEndOfPduField& dop)         { EnterParts(dop, [&] { TakeField(dop); }); }
+void VParamWalk::VisitEnvDataDesc          (NODX201::VEnvDataDesc& dop)           { EnterParts(dop, [&] { VContainment::VisitEnvDataDesc(dop); }); }
+void VParamWalk::VisitMux                  (NODX201::VMux& dop)                   { EnterParts(dop, [&] { VContainment::VisitMux(dop); }); }
+void VParamWalk::VisitTable                (NODX201::VTable& table)               { EnterParts(table, [&] { VContainment::VisitTable(table); }); }
+void VParamWalk::VisitTableRow             (NODX201::VTableRow& row)              { EnterParts(row, [&] { VContainment::VisitTableRow(row); }); }
 // clang-format on
 
 std::vector<NODX201::VOdxElement*> VParamWalk::Path() const {

@@ -68,9 +68,10 @@ private:
     bool WalkOn();
     void WalkPart();
     void WalkParams();
-    void TakeParams(NODX201::VBasicStructure& structure);
+    bool EnterOnce(NODX201::VOdxElement& container);
+    void EnterStructure(NODX201::VBasicStructure& structure);
     template <class Container, class Visit>
-    void EnterOnce(Container& container, Visit visit);
+    void EnterParts(Container& container, Visit visit);
 
     IDopFinder& m_dops;
     std::vector<VInside> m_inside;            ///< the innermost last
