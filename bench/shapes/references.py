@@ -45,6 +45,25 @@ def imports(count):
     return {"c.odx-d": container({"ECU-SHARED-DATAS": libraries, "BASE-VARIANTS": last})}
 
 
+def imports_without_the_id(count):
+    """A layer imports many libraries and refers as often to an ID that other layers have, none of them these."""
+    libraries = many(count, lambda index: layer("ECU-SHARED-DATA", f"L{index}"))
+    own = dictionary(dop("Dop"))
+    others = many(2, lambda index: layer("ECU-SHARED-DATA", f"O{index}", DIAG_DATA_DICTIONARY_SPEC=own))
+    params = many(count, lambda index: value(f"P{index}", by_id("Dop")))
+    importing = layer(
+        "BASE-VARIANT",
+        "V0",
+        DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=structure("S", params)),
+        IMPORT_REFS=many(count, lambda index: by_id(f"L{index}", "IMPORT-REF")),
+    )
+    return {
+        "a.odx-d": container({"ECU-SHARED-DATAS": libraries}, "A"),
+        "b.odx-d": container({"ECU-SHARED-DATAS": others}, "B"),
+        "c.odx-d": container({"BASE-VARIANTS": importing}, "C"),
+    }
+
+
 def imports_of_each(count):
     """Libraries with the same IDs; as many layers each import one of them and refer to the IDs."""
     own = lambda index: dictionary(many(20, lambda number: dop(f"D{number}", f"ID{number}")))
@@ -61,8 +80,10 @@ def imports_of_each(count):
             IMPORT_REFS=by_id(f"L{index}", "IMPORT-REF"),
         ),
     )
-    return {"a.odx-d": container({"ECU-SHARED-DATAS": libraries}, "A"),
-            "b.odx-d": container({"BASE-VARIANTS": importing}, "B")}
+    return {
+        "a.odx-d": container({"ECU-SHARED-DATAS": libraries}, "A"),
+        "b.odx-d": container({"BASE-VARIANTS": importing}, "B"),
+    }
 
 
 def imports_of_one_id(count):
