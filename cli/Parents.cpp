@@ -1,30 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/cli/Parents.h>
 
-#include <array>
 #include <string_view>
 
 #include <diagkit/cli/Text.h>
 #include <diagkit/memory/ParentRefs.h>
-#include <diagkit/model/Visitors.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/Inheritance.h>
 
 namespace NCli {
 namespace {
-
-using NODX201::VOdxTagEnum;
-
-/// Finds the PARENT-REFS of a layer: null for an ECU-SHARED-DATA, which has none.
-struct VParentRefsFinder : NODX201::VDiagLayerVisitor {
-    NODX201::VParentRefCollection* parentRefs = nullptr;
-
-    void VisitProtocol(NODX201::VProtocol& layer) override { parentRefs = &layer.ParentRefCollection(); }
-    void VisitFunctionalGroup(NODX201::VFunctionalGroup& layer) override { parentRefs = &layer.ParentRefCollection(); }
-    void VisitBaseVariant(NODX201::VBaseVariant& layer) override { parentRefs = &layer.ParentRefCollection(); }
-    void VisitEcuVariant(NODX201::VEcuVariant& layer) override { parentRefs = &layer.ParentRefCollection(); }
-    void VisitEcuSharedData(NODX201::VEcuSharedData&) override {}
-};
 
 /// Of a reference without a kind as well.
 NODX201::VDiagLayer* TargetOf(NODX201::VParentRef& parentRef) {
@@ -60,50 +45,25 @@ VParent ParentBy(NODX201::VParentRef& parentRef) {
     return {&parentRef, nullptr, NameIn(parentRef.GetLink()), KindAskedFor(parentRef)};
 }
 
-struct VPassRow {
-    VOdxTagEnum layer;
-    VOdxTagEnum parentRef;
-    int pass;
-};
-
-// clang-format off
-constexpr std::array kPassRows{
-    VPassRow{VOdxTagEnum::Protocol,        VOdxTagEnum::EcuSharedDataRef,   1},
-    VPassRow{VOdxTagEnum::FunctionalGroup, VOdxTagEnum::ProtocolRef,        1},
-    VPassRow{VOdxTagEnum::FunctionalGroup, VOdxTagEnum::EcuSharedDataRef,   2},
-    VPassRow{VOdxTagEnum::BaseVariant,     VOdxTagEnum::ProtocolRef,        1},
-    VPassRow{VOdxTagEnum::BaseVariant,     VOdxTagEnum::FunctionalGroupRef, 1},
-    VPassRow{VOdxTagEnum::BaseVariant,     VOdxTagEnum::EcuSharedDataRef,   2},
-    VPassRow{VOdxTagEnum::EcuVariant,      VOdxTagEnum::BaseVariantRef,     1},
-    VPassRow{VOdxTagEnum::EcuVariant,      VOdxTagEnum::EcuSharedDataRef,   2},
-};
-// clang-format on
-
 } // namespace
 
 std::vector<VParent> ParentsOf(NODX201::VDiagLayer& layer) {
-    VParentRefsFinder finder;
-    layer.Accept(finder);
     std::vector<VParent> parents;
-    if (finder.parentRefs == nullptr) {
-        return parents;
-    }
-    for (NODX201::VParentRef& parentRef : *finder.parentRefs) {
-        parents.push_back(ParentBy(parentRef));
+    if (NODX201::VParentRefCollection* const parentRefs = NDIAGKIT::ParentRefsOf(layer)) {
+        for (NODX201::VParentRef& parentRef : *parentRefs) {
+            parents.push_back(ParentBy(parentRef));
+        }
     }
     return parents;
 }
 
-int PassOf(NODX201::VDiagLayer const& layer, VParent const& parent) {
-    if (parent.layer == nullptr) {
-        return 0;
+int PassOf(NODX201::VDiagLayer& layer, VParent const& parent) {
+    NDIAGKIT::VLayerOfKind const heir(layer);
+    NDIAGKIT::VInheritancePasses const passes = NDIAGKIT::VInheritedDiagComms::kRow.PassesOf(heir.kind);
+    if (NDIAGKIT::ParentBy(*parent.parentRef, passes.first).has_value()) {
+        return 1;
     }
-    for (VPassRow const& row : kPassRows) {
-        if (row.layer == layer.GetOdxTag() && row.parentRef == parent.parentRef->GetOdxTag()) {
-            return row.pass;
-        }
-    }
-    return 0;
+    return NDIAGKIT::ParentBy(*parent.parentRef, passes.second).has_value() ? 2 : 0;
 }
 
 } // namespace NCli

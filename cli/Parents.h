@@ -25,6 +25,6 @@ inline constexpr int kPasses = 2;
 
 /// The pass in which a layer inherits from a parent; 0 when it does not, because the reference is unresolved or ODX
 /// gives such a layer no parents of that kind.
-int PassOf(NODX201::VDiagLayer const& layer, VParent const& parent);
+int PassOf(NODX201::VDiagLayer& layer, VParent const& parent);
 
 } // namespace NCli

@@ -4,6 +4,7 @@ set(internal_headers
     memory/NewImpl.h
     memory/PlaceIndex.h
     tools/Alternative.h
+    tools/DiagCommKinds.h
     tools/DestroyIfThere.h
     tools/ListViewImpl.h
     tools/ParamRecursivSearchVisitor.h

@@ -83,7 +83,6 @@ private:
             return EdgesOf(container, VFollow::Dops, dops);
         };
         VCycleSearch search(edgesOf, &IsByShortName, [&](VEdge const& closing, VCycleSearch::VChain const&) {
-            dops.LeaveOut(*closing.link);
             dynamic_cast<NMemory::VMemDopBaseLink&>(*closing.link).SeverIn(layers);
             Note(closing, shared);
         });

@@ -8,6 +8,7 @@
 #include <diagkit/model/Dops.h>
 #include <diagkit/model/Flash.h>
 #include <diagkit/model/Layers.h>
+#include <diagkit/tools/DiagCommKinds.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/InParamIfView.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
@@ -28,17 +29,6 @@ typename View::Element* FindIn(std::unique_ptr<View> view, wchar_t const* shortN
     }
     auto iter = view->Find(shortName);
     return iter != view->End() ? &*iter : nullptr;
-}
-
-NODX201::VDiagService* ServiceOf(NODX201::VDiagComm& diagComm) {
-    bool const isService = diagComm.GetOdxTag() == NODX201::VOdxTagEnum::DiagService;
-    return isService ? dynamic_cast<NODX201::VDiagService*>(&diagComm) : nullptr;
-}
-
-/// Every DIAG-COMM that is no service is taken for a single-ECU job; null when it is none.
-NODX201::VSingleEcuJob* JobOf(NODX201::VDiagComm& diagComm) {
-    bool const isService = diagComm.GetOdxTag() == NODX201::VOdxTagEnum::DiagService;
-    return isService ? nullptr : dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <diagkit/model/Flash.h>
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/Params.h>
+#include <diagkit/tools/DiagCommKinds.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/InParamIfView.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
@@ -71,8 +72,6 @@ void AddOutParams(VByName<NODX201::IOutParamIf>& elements, NODX201::VDiagService
 /// Stands where a search range does: a multiple-ECU job may also be asked about as a DIAG-COMM, which it is none of the
 /// kinds of, at one address.
 constexpr int kOfMultipleEcuJob = -1;
-
-bool IsService(NODX201::VDiagComm const& diagComm) { return diagComm.GetOdxTag() == NODX201::VOdxTagEnum::DiagService; }
 
 } // namespace
 
@@ -174,10 +173,9 @@ NODX201::IInParamIf* VRememberingResolver::ResolveInParamIfSnref(wchar_t const* 
         m_inParams, {&diagComm, nullptr, 0}, shortName,
         [&] { return VOpResolveSnref::ResolveInParamIfSnref(shortName, diagComm); },
         [&diagComm](auto& elements) {
-            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm); IsService(diagComm)) {
-                AddEntries<VInParamIfViewTraits>(
-                    elements, service != nullptr ? std::make_unique<VInParamIfView>(*service) : nullptr);
-            } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
+            if (auto* const service = ServiceOf(diagComm)) {
+                AddEntries<VInParamIfViewTraits>(elements, std::make_unique<VInParamIfView>(*service));
+            } else if (auto* const job = JobOf(diagComm)) {
                 AddEntries<VInParamIfViewTraits>(elements, std::make_unique<VInParamIfView>(*job));
             }
         });
@@ -202,11 +200,9 @@ NODX201::IOutParamIf* VRememberingResolver::ResolveOutParamIfSnref(wchar_t const
         m_outParams, {&diagComm, &layer, static_cast<int>(range)}, shortName,
         [&] { return VOpResolveSnref::ResolveOutParamIfSnref(shortName, diagComm, layer, range); },
         [&](auto& elements) {
-            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm); IsService(diagComm)) {
-                if (service != nullptr) {
-                    AddOutParams(elements, *service, layer, range);
-                }
-            } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
+            if (auto* const service = ServiceOf(diagComm)) {
+                AddOutParams(elements, *service, layer, range);
+            } else if (auto* const job = JobOf(diagComm)) {
                 AddEntries<VOutParamIfViewTraits>(elements, std::make_unique<VOutParamIfView>(*job));
             }
         });
