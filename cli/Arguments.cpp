@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Arguments.h>
+#include <cli/Arguments.h>
 
 #include <charconv>
 #include <system_error>
@@ -8,7 +8,7 @@
 #include <fmt/format.h>
 
 #include <diagkit/Version.h>
-#include <diagkit/cli/Sizes.h>
+#include <cli/Sizes.h>
 
 namespace NCli {
 namespace {

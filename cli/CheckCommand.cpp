@@ -3,13 +3,13 @@
 #include <fmt/format.h>
 
 #include <diagkit/check/Check.h>
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/Load.h>
-#include <diagkit/cli/Platform.h>
-#include <diagkit/cli/ProgressBar.h>
-#include <diagkit/cli/Sarif.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Commands.h>
+#include <cli/JsonWriter.h>
+#include <cli/Load.h>
+#include <cli/Platform.h>
+#include <cli/ProgressBar.h>
+#include <cli/Sarif.h>
+#include <cli/Text.h>
 
 namespace NCli {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Columns.h>
+#include <cli/Columns.h>
 
 #include <algorithm>
 #include <utility>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/DiagCommOrigins.h>
+#include <cli/DiagCommOrigins.h>
 
 #include <string_view>
 #include <unordered_map>
@@ -7,7 +7,7 @@
 
 #include <diagkit/check/Parents.h>
 #include <diagkit/check/Views.h>
-#include <diagkit/cli/Parents.h>
+#include <cli/Parents.h>
 #include <diagkit/tools/Inheritance.h>
 
 namespace NCli {

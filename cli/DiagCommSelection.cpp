@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/DiagCommSelection.h>
+#include <cli/DiagCommSelection.h>
 
-#include <diagkit/cli/ElementFinder.h>
+#include <cli/ElementFinder.h>
 
 namespace NCli {
 namespace {

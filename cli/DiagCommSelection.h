@@ -3,8 +3,8 @@
 
 #include <memory>
 
-#include <diagkit/cli/Arguments.h>
-#include <diagkit/cli/Output.h>
+#include <cli/Arguments.h>
+#include <cli/Output.h>
 #include <diagkit/memory/Database.h>
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/tools/InParamIfView.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/ElementFinder.h>
+#include <cli/ElementFinder.h>
 
 #include <set>
 #include <string_view>
@@ -8,10 +8,10 @@
 #include <fmt/format.h>
 
 #include <diagkit/check/Views.h>
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/NearNames.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Columns.h>
+#include <cli/Layers.h>
+#include <cli/NearNames.h>
+#include <cli/Text.h>
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Odx.h>
 #include <diagkit/reader/Utf8.h>

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include <diagkit/cli/Output.h>
+#include <cli/Output.h>
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>

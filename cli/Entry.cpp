@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Entry.h>
+#include <cli/Entry.h>
 
 #include <string>
 
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Layers.h>
+#include <cli/Text.h>
 
 namespace NCli {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include <diagkit/cli/JsonWriter.h>
+#include <cli/JsonWriter.h>
 #include <diagkit/model/OdxElement.h>
 
 namespace NCli {

@@ -7,11 +7,11 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/NearNames.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Columns.h>
+#include <cli/Commands.h>
+#include <cli/JsonWriter.h>
+#include <cli/NearNames.h>
+#include <cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/EnumMapper.h>
 

@@ -5,11 +5,11 @@
 
 #include <fmt/format.h>
 
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/Load.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Columns.h>
+#include <cli/Commands.h>
+#include <cli/JsonWriter.h>
+#include <cli/Load.h>
+#include <cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/OdxCategoryInfoCollection.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/JsonWriter.h>
+#include <cli/JsonWriter.h>
 
 #include <array>
 #include <charconv>
 
-#include <diagkit/cli/Text.h>
+#include <cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NCli {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include <diagkit/cli/Output.h>
+#include <cli/Output.h>
 
 namespace NCli {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/LayerTree.h>
+#include <cli/LayerTree.h>
 
 #include <map>
 #include <set>
@@ -9,9 +9,9 @@
 
 #include <fmt/format.h>
 
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Parents.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Columns.h>
+#include <cli/Parents.h>
+#include <cli/Text.h>
 
 namespace NCli {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Output.h>
+#include <cli/Layers.h>
+#include <cli/Output.h>
 
 namespace NCli {
 

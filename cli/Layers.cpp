@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Layers.h>
+#include <cli/Layers.h>
 
-#include <diagkit/cli/Text.h>
+#include <cli/Text.h>
 #include <diagkit/model/Odx.h>
 
 namespace NCli {

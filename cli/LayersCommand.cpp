@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/LayerTree.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Load.h>
-#include <diagkit/cli/Parents.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Commands.h>
+#include <cli/JsonWriter.h>
+#include <cli/LayerTree.h>
+#include <cli/Layers.h>
+#include <cli/Load.h>
+#include <cli/Parents.h>
+#include <cli/Text.h>
 
 namespace NCli {
 namespace {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Load.h>
+#include <cli/Load.h>
 
 #include <algorithm>
 #include <cstdio>
 
 #include <fmt/format.h>
 
-#include <diagkit/cli/Platform.h>
-#include <diagkit/cli/ProgressBar.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Platform.h>
+#include <cli/ProgressBar.h>
+#include <cli/Text.h>
 
 namespace NCli {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/cli/Arguments.h>
-#include <diagkit/cli/Output.h>
-#include <diagkit/cli/Status.h>
+#include <cli/Arguments.h>
+#include <cli/Output.h>
+#include <cli/Status.h>
 
 namespace NCli {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/NearNames.h>
+#include <cli/NearNames.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -9,7 +9,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include <diagkit/cli/Text.h>
+#include <cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NCli {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/OemAnswer.h>
+#include <cli/OemAnswer.h>
 
 #include <algorithm>
 #include <array>
@@ -9,11 +9,11 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Entry.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/ViewText.h>
+#include <cli/Columns.h>
+#include <cli/Entry.h>
+#include <cli/Layers.h>
+#include <cli/Text.h>
+#include <cli/ViewText.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NCli {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/Output.h>
+#include <cli/JsonWriter.h>
+#include <cli/Output.h>
 #include <diagkit/tools/oem/OemReport.h>
 
 /// A report of manufacturer detection, as `oem` gives it.

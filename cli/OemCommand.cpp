@@ -5,11 +5,11 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/Load.h>
-#include <diagkit/cli/OemAnswer.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Commands.h>
+#include <cli/JsonWriter.h>
+#include <cli/Load.h>
+#include <cli/OemAnswer.h>
+#include <cli/Text.h>
 #include <diagkit/reader/Ascii.h>
 #include <diagkit/tools/oem/OemChecker.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/OutParamPath.h>
+#include <cli/OutParamPath.h>
 
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/ViewText.h>
+#include <cli/Text.h>
+#include <cli/ViewText.h>
 #include <diagkit/model/Params.h>
 #include <diagkit/tools/ParamWalk.h>
 #include <diagkit/tools/ResponseParams.h>

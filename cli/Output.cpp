@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Output.h>
+#include <cli/Output.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -8,7 +8,7 @@
 
 #include <fmt/format.h>
 
-#include <diagkit/cli/Platform.h>
+#include <cli/Platform.h>
 
 namespace NCli {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Parents.h>
+#include <cli/Parents.h>
 
 #include <string_view>
 
-#include <diagkit/cli/Text.h>
+#include <cli/Text.h>
 #include <diagkit/memory/ParentRefs.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/Inheritance.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Platform.h>
+#include <cli/Platform.h>
 
 #include <cstddef>
 #include <cstdio>
@@ -8,8 +8,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include <diagkit/cli/Output.h>
-#include <diagkit/cli/Status.h>
+#include <cli/Output.h>
+#include <cli/Status.h>
 
 namespace NCli {
 namespace {

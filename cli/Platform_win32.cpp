@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Platform.h>
+#include <cli/Platform.h>
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/ProgressBar.h>
+#include <cli/ProgressBar.h>
 
 #include <algorithm>
 #include <cstdio>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Sarif.h>
+#include <cli/Sarif.h>
 
 #include <algorithm>
 #include <filesystem>

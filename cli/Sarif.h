@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include <diagkit/cli/JsonWriter.h>
+#include <cli/JsonWriter.h>
 #include <diagkit/reader/Diagnostic.h>
 
 namespace NCli {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Selections.h>
+#include <cli/Selections.h>
 
 #include <array>
 
@@ -7,8 +7,8 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include <diagkit/cli/NearNames.h>
-#include <diagkit/cli/Text.h>
+#include <cli/NearNames.h>
+#include <cli/Text.h>
 
 namespace NCli {
 namespace {

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include <diagkit/cli/Arguments.h>
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Output.h>
+#include <cli/Arguments.h>
+#include <cli/Columns.h>
+#include <cli/Output.h>
 
 /// What the commands with a KIND share: the list of kinds, and what each must be told to look at.
 

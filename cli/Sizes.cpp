@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Sizes.h>
+#include <cli/Sizes.h>
 
 #include <charconv>
 #include <limits>

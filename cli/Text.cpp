@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/Text.h>
+#include <cli/Text.h>
 
 #include <algorithm>
 

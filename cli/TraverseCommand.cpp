@@ -4,13 +4,13 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/JsonWriter.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Load.h>
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/ViewText.h>
+#include <cli/Commands.h>
+#include <cli/ElementFinder.h>
+#include <cli/JsonWriter.h>
+#include <cli/Layers.h>
+#include <cli/Load.h>
+#include <cli/Text.h>
+#include <cli/ViewText.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
 #include <diagkit/tools/TraverserKinds.h>
 

@@ -3,11 +3,11 @@
 
 #include <CLI/CLI.hpp>
 
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/Entry.h>
-#include <diagkit/cli/Load.h>
-#include <diagkit/cli/Selections.h>
-#include <diagkit/cli/Views.h>
+#include <cli/Commands.h>
+#include <cli/Entry.h>
+#include <cli/Load.h>
+#include <cli/Selections.h>
+#include <cli/Views.h>
 
 namespace NCli {
 namespace {

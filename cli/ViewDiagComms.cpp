@@ -5,12 +5,12 @@
 #include <fmt/format.h>
 
 #include <diagkit/check/Views.h>
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/DiagCommOrigins.h>
-#include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/Views.h>
+#include <cli/Columns.h>
+#include <cli/DiagCommOrigins.h>
+#include <cli/ElementFinder.h>
+#include <cli/Layers.h>
+#include <cli/Text.h>
+#include <cli/Views.h>
 
 namespace NCli {
 namespace {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <fmt/format.h>
 
-#include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/ViewText.h>
-#include <diagkit/cli/Views.h>
+#include <cli/ElementFinder.h>
+#include <cli/Text.h>
+#include <cli/ViewText.h>
+#include <cli/Views.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/SessionView.h>
 

@@ -5,10 +5,10 @@
 #include <fmt/format.h>
 
 #include <diagkit/check/Views.h>
-#include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/ViewText.h>
-#include <diagkit/cli/Views.h>
+#include <cli/ElementFinder.h>
+#include <cli/Layers.h>
+#include <cli/ViewText.h>
+#include <cli/Views.h>
 
 namespace NCli {
 namespace {

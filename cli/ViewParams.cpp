@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <fmt/format.h>
 
-#include <diagkit/cli/DiagCommSelection.h>
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/ViewText.h>
-#include <diagkit/cli/Views.h>
+#include <cli/DiagCommSelection.h>
+#include <cli/Text.h>
+#include <cli/ViewText.h>
+#include <cli/Views.h>
 #include <diagkit/model/Params.h>
 #include <diagkit/tools/InParamIfView.h>
 #include <diagkit/tools/OutParamIfView.h>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <fmt/format.h>
 
-#include <diagkit/cli/ElementFinder.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Text.h>
-#include <diagkit/cli/ViewText.h>
-#include <diagkit/cli/Views.h>
+#include <cli/ElementFinder.h>
+#include <cli/Layers.h>
+#include <cli/Text.h>
+#include <cli/ViewText.h>
+#include <cli/Views.h>
 #include <diagkit/tools/ProtocolView.h>
 
 namespace NCli {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/cli/ViewText.h>
+#include <cli/ViewText.h>
 
 #include <map>
 
 #include <fmt/format.h>
 
-#include <diagkit/cli/Columns.h>
-#include <diagkit/cli/Layers.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Columns.h>
+#include <cli/Layers.h>
+#include <cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NCli {

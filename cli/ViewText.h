@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include <diagkit/cli/Output.h>
+#include <cli/Output.h>
 #include <diagkit/model/Layers.h>
 
 /// Views as text for people.

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include <diagkit/cli/Arguments.h>
-#include <diagkit/cli/Output.h>
-#include <diagkit/cli/Status.h>
+#include <cli/Arguments.h>
+#include <cli/Output.h>
+#include <cli/Status.h>
 #include <diagkit/memory/Database.h>
 
 /// The KINDs of `view`, each in the source of its name, and what they share.

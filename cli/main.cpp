@@ -10,11 +10,11 @@
 #include <fmt/format.h>
 
 #include <diagkit/Version.h>
-#include <diagkit/cli/Commands.h>
-#include <diagkit/cli/NearNames.h>
-#include <diagkit/cli/Platform.h>
-#include <diagkit/cli/Selections.h>
-#include <diagkit/cli/Text.h>
+#include <cli/Commands.h>
+#include <cli/NearNames.h>
+#include <cli/Platform.h>
+#include <cli/Selections.h>
+#include <cli/Text.h>
 
 namespace NCli {
 namespace {

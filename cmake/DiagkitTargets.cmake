@@ -1,18 +1,8 @@
 # What every target of the tree shares: the include style, the warnings, the sanitizers.
 
-# Headers are included as <diagkit/FOLDER/Header.h>, in the build tree as in an installed one.
+# Headers are included as <diagkit/FOLDER/Header.h>, which is their path in the tree as in an installed one. The build
+# adds those that it makes.
 set(DIAGKIT_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
-file(MAKE_DIRECTORY ${DIAGKIT_INCLUDE_DIR}/diagkit)
-foreach(folder model logging util tools memory reader check conformance cli fuzz)
-    if(NOT CMAKE_HOST_WIN32)
-        file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} SYMBOLIC)
-    elseif(NOT EXISTS ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder})
-        # A junction, because not everybody may make symbolic links there.
-        file(TO_NATIVE_PATH ${DIAGKIT_INCLUDE_DIR}/diagkit/${folder} link)
-        file(TO_NATIVE_PATH ${PROJECT_SOURCE_DIR}/${folder} target)
-        execute_process(COMMAND cmd /c mklink /J ${link} ${target} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
-    endif()
-endforeach()
 
 # What the sources of a platform are called: CodePages_win32.cpp.
 if(WIN32)
@@ -27,7 +17,8 @@ if(WIN32 AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
 endif()
 
 function(diagkit_settings target)
-    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${DIAGKIT_INCLUDE_DIR}>)
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+                                                $<BUILD_INTERFACE:${DIAGKIT_INCLUDE_DIR}>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     if(MSVC)
         # Not warned about: standard classes inside exported ones, what virtual bases dominate, C functions.

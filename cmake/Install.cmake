@@ -12,7 +12,7 @@ include(PublicHeaders)
 
 foreach(header ${public_headers})
     get_filename_component(folder ${header} DIRECTORY)
-    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/diagkit/${folder} COMPONENT Development)
+    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT Development)
 endforeach()
 install(FILES ${DIAGKIT_INCLUDE_DIR}/diagkit/Export.h ${DIAGKIT_INCLUDE_DIR}/diagkit/Version.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/diagkit COMPONENT Development)
@@ -60,7 +60,7 @@ diagkit_install_pkgconfig(diagkit-memory diagkit_memory "model of ODX data in me
                           "diagkit = ${PROJECT_VERSION}")
 diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "whether a model keeps the promises of the contract"
                           "diagkit = ${PROJECT_VERSION}")
-install(FILES conformance/reference.odx-d conformance/reference.txt
+install(FILES diagkit/conformance/reference.odx-d diagkit/conformance/reference.txt
         DESTINATION ${CMAKE_INSTALL_DATADIR}/diagkit/conformance COMPONENT Development)
 if(TARGET diagkit_reader)
     diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check)

@@ -1,40 +1,39 @@
 # The headers that are installed: what a program over each target may include. In these folders all are public but those
 # named here; of the others only those named here are.
 set(internal_headers
-    memory/NewImpl.h
-    memory/PlaceIndex.h
-    tools/Alternative.h
-    tools/DiagCommKinds.h
-    tools/DestroyIfThere.h
-    tools/ListViewImpl.h
-    tools/ParamRecursivSearchVisitor.h
-    tools/ResponseParams.h
-    tools/ViewBuilder.h
+    diagkit/memory/NewImpl.h
+    diagkit/memory/PlaceIndex.h
+    diagkit/tools/Alternative.h
+    diagkit/tools/DiagCommKinds.h
+    diagkit/tools/DestroyIfThere.h
+    diagkit/tools/ListViewImpl.h
+    diagkit/tools/ParamRecursivSearchVisitor.h
+    diagkit/tools/ViewBuilder.h
 )
 set(public_headers
-    check/Check.h
-    check/Codes.h
-    check/Cycles.h
-    conformance/Conformance.h
-    conformance/Reference.h
-    reader/Diagnostic.h
-    reader/Limits.h
-    reader/OdxReader.h
-    reader/Utf8.h
-    tools/oem/Manufacturer.h
-    tools/oem/OemChecker.h
-    tools/oem/OemReport.h
-    util/Assertion.h
-    util/CheckedCast.h
-    util/Utf16.h
+    diagkit/check/Check.h
+    diagkit/check/Codes.h
+    diagkit/check/Cycles.h
+    diagkit/conformance/Conformance.h
+    diagkit/conformance/Reference.h
+    diagkit/reader/Diagnostic.h
+    diagkit/reader/Limits.h
+    diagkit/reader/OdxReader.h
+    diagkit/reader/Utf8.h
+    diagkit/tools/oem/Manufacturer.h
+    diagkit/tools/oem/OemChecker.h
+    diagkit/tools/oem/OemReport.h
+    diagkit/util/Assertion.h
+    diagkit/util/CheckedCast.h
+    diagkit/util/Utf16.h
 )
 foreach(folder model logging tools memory)
-    file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h
-                                                                       ${PROJECT_SOURCE_DIR}/${folder}/*.def)
+    set(path ${PROJECT_SOURCE_DIR}/diagkit/${folder})
+    file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS ${path}/*.h ${path}/*.def)
     list(APPEND public_headers ${headers})
 endforeach()
 list(REMOVE_ITEM public_headers ${internal_headers})
 
 if(NOT TARGET diagkit_reader)
-    list(FILTER public_headers EXCLUDE REGEX "^(reader|check)/")
+    list(FILTER public_headers EXCLUDE REGEX "^diagkit/(reader|check)/")
 endif()

@@ -10,10 +10,10 @@
 
 #include <diagkit/reader/OdxReader.h>
 
-#include <diagkit/fuzz/Limits.h>
-#include <diagkit/fuzz/ScratchFile.h>
-#include <diagkit/fuzz/Target.h>
-#include <diagkit/fuzz/UseDatabase.h>
+#include <fuzz/Limits.h>
+#include <fuzz/ScratchFile.h>
+#include <fuzz/Target.h>
+#include <fuzz/UseDatabase.h>
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <diagkit/memory/Odx.h>
 #include <diagkit/model/SearchRange.h>
 
-#include <diagkit/fuzz/UseDatabase.h>
+#include <fuzz/UseDatabase.h>
 
 namespace NFuzz {
 namespace {

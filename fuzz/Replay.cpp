@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include <diagkit/fuzz/Target.h>
+#include <fuzz/Target.h>
 
 namespace fs = std::filesystem;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/fuzz/ScratchFile.h>
+#include <fuzz/ScratchFile.h>
 
 #include <filesystem>
 #include <fstream>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/fuzz/UseDatabase.h>
+#include <fuzz/UseDatabase.h>
 
 #include <cstdlib>
 

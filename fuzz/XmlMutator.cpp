@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include <diagkit/fuzz/Target.h>
+#include <fuzz/Target.h>
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,

@@ -4,9 +4,9 @@
 
 #include <diagkit/reader/OdxReader.h>
 
-#include <diagkit/fuzz/Limits.h>
-#include <diagkit/fuzz/ScratchFile.h>
-#include <diagkit/fuzz/Target.h>
+#include <fuzz/Limits.h>
+#include <fuzz/ScratchFile.h>
+#include <fuzz/Target.h>
 
 int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
     static NFuzz::VScratchFile file(".odx");

@@ -12,10 +12,10 @@ import pathlib
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-GOALS = {"tools": 100, "util": 100, "memory": 90, "reader": 90, "cli": 90}
+GOALS = {"diagkit/tools": 100, "diagkit/util": 100, "diagkit/memory": 90, "diagkit/reader": 90, "cli": 90}
 
 # Functions that run in death tests, which end before the counters are written.
-DEADLY = {"util/Assertion.cpp": ["WriteAndAbort"]}
+DEADLY = {"diagkit/util/Assertion.cpp": ["WriteAndAbort"]}
 
 
 def deadly_lines():
@@ -32,9 +32,8 @@ def deadly_lines():
 def main():
     lines, left_out = {}, set(deadly_lines())
     for file in json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))["files"]:
-        # Headers are included by way of links in the build folder.
-        name = file["file"].rpartition("/include/diagkit/")[2]
-        folder = name.split("/")[0]
+        name = file["file"]
+        folder = "/".join(name.split("/")[: 2 if name.startswith("diagkit/") else 1])
         for line in file["lines"]:
             place = (name, line["line_number"])
             if not line.get("gcovr/noncode", False) and place not in left_out:
@@ -47,8 +46,8 @@ def main():
         goal = GOALS.get(folder)
         is_reached = is_reached and (goal is None or percent >= goal)
         told = "" if goal is None else f", goal {goal} %"
-        print(f"{folder:8} {sum(runs.values()):6} of {len(runs):6} lines, {percent:6.2f} %{told}")
-    for folder in ("tools", "util"):
+        print(f"{folder:19} {sum(runs.values()):6} of {len(runs):6} lines, {percent:6.2f} %{told}")
+    for folder in ("diagkit/tools", "diagkit/util"):
         for (name, number), is_run in sorted(lines.get(folder, {}).items()):
             if not is_run:
                 print(f"{name}:{number}: never runs")

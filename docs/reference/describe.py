@@ -108,7 +108,7 @@ WORDS = {
     "TableRefTableRowRefChoice": "TABLE-REF or TABLE-ROW-REF",
     "Text": "text",
 }
-TAGS = (ROOT / "model" / "OdxTags.def").read_text(encoding="utf-8")
+TAGS = (ROOT / "diagkit" / "model" / "OdxTags.def").read_text(encoding="utf-8")
 NAMES = {name: kind or element for name, element, kind in TAG.findall(TAGS)}
 
 

@@ -20,9 +20,9 @@ def text_of(*names):
 
 
 def main():
-    table = ROW.findall(text_of(ROOT / "check/Codes.cpp"))
+    table = ROW.findall(text_of(ROOT / "diagkit/check/Codes.cpp"))
     sources = [
-        path for room in ("reader", "check") for path in sorted((ROOT / room).glob("*.cpp")) if path.name != "Codes.cpp"
+        path for room in ("reader", "check") for path in sorted((ROOT / "diagkit" / room).glob("*.cpp")) if path.name != "Codes.cpp"
     ]
     reported = set(CODE.findall(text_of(*sources))) - NOT_CODES
     described = ENTRY.findall(text_of(ROOT / "docs/diagnostics.md"))

@@ -51,7 +51,7 @@ OF_SAMPLE = (
 def databases():
     """Lists of files, each of which makes one database."""
     names = [SAMPLE]
-    for folder, suffix in (("tests/oem/databases", "*.odx-*"), ("tests/cli/data", "*")):
+    for folder, suffix in (("tests/tools/oem/databases", "*.odx-*"), ("tests/cli/data", "*")):
         names += [path.relative_to(ROOT).as_posix() for path in sorted((ROOT / folder).glob(suffix))]
     shared = ROOT.parent / "shared" / "samples"
     for pattern in ("*.pdx", "*.odx*"):

@@ -21,7 +21,7 @@ def text(name):
 def promised():
     """The operations of each class of the contract that has some."""
     found = {}
-    for header in sorted((ROOT / "model").glob("*.h")):
+    for header in sorted((ROOT / "diagkit/model").glob("*.h")):
         for name, body in CLASS.findall(header.read_text(encoding="utf-8")):
             if not NO_ELEMENTS.search(name) and (operations := set(OPERATION.findall(body))):
                 found[name] = operations
@@ -31,11 +31,11 @@ def promised():
 def tabled():
     """What Parts.def and Links.def do for each class."""
     found = {"VLink": {"Link"}}
-    for name, rows in re.findall(r"^PARTS\((\w+)\)\n(.*?)^END", text("conformance/Parts.def"), re.M | re.S):
+    for name, rows in re.findall(r"^PARTS\((\w+)\)\n(.*?)^END", text("diagkit/conformance/Parts.def"), re.M | re.S):
         found.setdefault(name, set()).update(filter(None, re.findall(r"^ +\w+\((\w*)\)", rows, re.M)))
         if "SCALES_OR_CHILD" in rows:
             found[name].add("CompuScalesProgCodeChoice")
-    for name, target in re.findall(r"^LINK(?:_IN_LAYER)?\((V\w+), +(\w+)\)", text("conformance/Links.def"), re.M):
+    for name, target in re.findall(r"^LINK(?:_IN_LAYER)?\((V\w+), +(\w+)\)", text("diagkit/conformance/Links.def"), re.M):
         found.setdefault(name, set()).add(target)
     found.setdefault("VOutParamIfLink", set()).add("OutParamIf")
     return found
@@ -50,13 +50,13 @@ def faults():
 
     concrete = set(re.findall(r"^CONCRETE\((\w+)", text("tests/memory/ContractClasses.def"), re.M))
     concrete = {name for name in concrete if not NO_ELEMENTS.search(name)}
-    kinds = set(re.findall(r"KIND\((V\w+),", text("conformance/Kinds.cpp"))) - {"VDiagCodedType"}
+    kinds = set(re.findall(r"KIND\((V\w+),", text("diagkit/conformance/Kinds.cpp"))) - {"VDiagCodedType"}
     for name in sorted(concrete ^ kinds):
         yield f"{name}: Kinds.cpp and the classes that elements are of disagree"
 
     tests = "".join(path.read_text(encoding="utf-8") for path in (ROOT / "tests/conformance").glob("*Test.cpp"))
     guide = text("docs/guide/own-model.md")
-    checks = re.findall(r'^CHECK\((\w+), +"([\w-]+)"', text("conformance/Checks.def"), re.M)
+    checks = re.findall(r'^CHECK\((\w+), +"([\w-]+)"', text("diagkit/conformance/Checks.def"), re.M)
     for identifier, name in checks:
         if not re.search(rf"TEST(?:_F)?\(\w+, {identifier}\)", tests):
             yield f"{name}: no test is called {identifier}"

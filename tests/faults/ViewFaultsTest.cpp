@@ -23,7 +23,7 @@
 
 #include "faults/FailEverywhere.h"
 #include "faults/Sample.h"
-#include "views/ParamTest.h"
+#include "tools/ParamTest.h"
 
 namespace NTest {
 namespace {

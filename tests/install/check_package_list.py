@@ -31,7 +31,7 @@ def text(name):
 def searched_for():
     """What the tree's CMake files look for."""
     found = set()
-    for path in [ROOT / "CMakeLists.txt", *ROOT.glob("*/CMakeLists.txt"), *ROOT.glob("tests/*/CMakeLists.txt")]:
+    for path in [ROOT / "CMakeLists.txt", *ROOT.glob("*/CMakeLists.txt"), *ROOT.glob("*/*/CMakeLists.txt")]:
         code = path.read_text(encoding="utf-8")
         found.update(re.findall(r"find_package\((\w+)", code))
         found.update(re.findall(r"pkg_check_modules\(\w+ .*?(\w+)\)", code))

@@ -11,6 +11,8 @@ import re
 import shutil
 import sys
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "structure"))
+from check_includes import internals_told  # noqa: E402
 from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, run_program, version
 
 INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
@@ -59,16 +61,6 @@ def check_files(prefix, build_type):
         expect(soname == f"libdiagkit.so.{soversion}", f"the soname is {soname}")
 
 
-def internals_told(folder):
-    """The headers that the README of a folder calls internal."""
-    readme = ROOT / folder / "README.md"
-    if not readme.exists():
-        return set()
-    text = readme.read_text(encoding="utf-8").replace("\n", " ")
-    told = [part for part in re.split(r";|\.\s", text) if part.rstrip().endswith("internal")]
-    return {name for part in told for name in re.findall(r"`(\w+\.h)`", part)}
-
-
 def check_headers(include):
     headers = {str(path.relative_to(include)): path for path in include.rglob("*") if path.is_file()}
     by_folder = {}
@@ -80,8 +72,8 @@ def check_headers(include):
     for folder in FOLDERS:
         expected = PUBLIC.get(folder)
         if expected is None:
-            expected = {path.name for path in (ROOT / folder).iterdir() if path.suffix in (".h", ".def")}
-            expected -= internals_told(folder)
+            expected = {path.name for path in (ROOT / "diagkit" / folder).iterdir() if path.suffix in (".h", ".def")}
+            expected -= internals_told(ROOT / "diagkit" / folder)
         expect(by_folder[folder] == expected, f"headers of {folder}: {by_folder[folder] ^ expected}")
     for name, path in headers.items():
         for included in INCLUDE.findall(path.read_text(encoding="utf-8")):

@@ -10,8 +10,8 @@
 #include <expat.h>
 #include <gtest/gtest.h>
 
-#include <diagkit/fuzz/ScratchFile.h>
-#include <diagkit/fuzz/UseDatabase.h>
+#include <fuzz/ScratchFile.h>
+#include <fuzz/UseDatabase.h>
 
 #include "mutations/Mutations.h"
 

@@ -14,7 +14,7 @@ NOT_LISTED = re.compile(r"Visitor$|Resolver$")
 
 def main():
     declared = set()
-    for header in (ROOT / "model").glob("*.h"):
+    for header in (ROOT / "diagkit/model").glob("*.h"):
         declared.update(DECLARED.findall(header.read_text(encoding="utf-8")))
     declared = {name for name in declared if not NOT_LISTED.search(name)}
     listed = set(LISTED.findall((ROOT / "tests/memory/ContractClasses.def").read_text(encoding="utf-8")))

@@ -116,7 +116,7 @@ def faults(symbols, meant):
 
 def main():
     listed = listed_names((HERE / "exported.txt").read_text(encoding="utf-8").splitlines())
-    meant = listed | contract_names(sorted((ROOT / "model").glob("*.h")))
+    meant = listed | contract_names(sorted((ROOT / "diagkit/model").glob("*.h")))
     if len(sys.argv) > 2:
         symbols = without_type_information(exported_by_dll(sys.argv[1], sys.argv[2]))
     else:

@@ -30,50 +30,58 @@ class IncludesTest(unittest.TestCase):
         self.assertEqual(self.check({name: f"#include {included}\n"}), (1, expected))
 
     def test_arrows_that_run_down(self):
-        self.allowed("model/A.h", "<diagkit/model/B.h>")
-        self.allowed("model/A.h", "<diagkit/Export.h>")
-        self.allowed("logging/A.h", "<string>")
-        self.allowed("tools/A.cpp", "<diagkit/model/B.h>")
-        self.allowed("tools/A.cpp", "<diagkit/util/B.h>")
-        self.allowed("tools/oem/A.cpp", "<diagkit/tools/oem/B.h>")
-        self.allowed("tools/oem/A.cpp", "<diagkit/util/B.h>")
-        self.allowed("memory/A.cpp", "<diagkit/model/B.h>")
-        self.allowed("reader/A.cpp", "<expat.h>")
-        self.allowed("check/A.cpp", "<diagkit/reader/B.h>")
+        self.allowed("diagkit/model/A.h", "<diagkit/model/B.h>")
+        self.allowed("diagkit/model/A.h", "<diagkit/Export.h>")
+        self.allowed("diagkit/logging/A.h", "<string>")
+        self.allowed("diagkit/tools/A.cpp", "<diagkit/model/B.h>")
+        self.allowed("diagkit/tools/A.cpp", "<diagkit/util/B.h>")
+        self.allowed("diagkit/tools/oem/A.cpp", "<diagkit/tools/oem/B.h>")
+        self.allowed("diagkit/tools/oem/A.cpp", "<diagkit/util/B.h>")
+        self.allowed("diagkit/memory/A.cpp", "<diagkit/model/B.h>")
+        self.allowed("diagkit/reader/A.cpp", "<expat.h>")
+        self.allowed("diagkit/check/A.cpp", "<diagkit/reader/B.h>")
         self.allowed("cli/A.cpp", "<diagkit/reader/B.h>")
         self.allowed("cli/A.cpp", "<diagkit/check/B.h>")
         self.allowed("cli/A.cpp", "<fmt/format.h>")
 
     def test_arrows_that_run_back(self):
-        self.refused("model/A.h", "<diagkit/logging/B.h>")
-        self.refused("model/A.h", "<diagkit/memory/B.h>")
-        self.refused("logging/A.h", "<diagkit/model/B.h>")
-        self.refused("util/A.h", "<diagkit/tools/B.h>")
-        self.refused("tools/A.cpp", "<diagkit/memory/B.h>")
-        self.refused("tools/A.cpp", "<diagkit/tools/oem/B.h>")
-        self.refused("tools/oem/A.cpp", "<diagkit/tools/B.h>")
-        self.refused("tools/oem/A.cpp", "<diagkit/reader/B.h>")
-        self.refused("memory/A.cpp", "<diagkit/tools/B.h>")
-        self.refused("reader/A.cpp", "<diagkit/cli/B.h>")
-        self.refused("reader/A.cpp", "<diagkit/check/B.h>")
-        self.refused("check/A.cpp", "<diagkit/cli/B.h>")
+        self.refused("diagkit/model/A.h", "<diagkit/logging/B.h>")
+        self.refused("diagkit/model/A.h", "<diagkit/memory/B.h>")
+        self.refused("diagkit/logging/A.h", "<diagkit/model/B.h>")
+        self.refused("diagkit/util/A.h", "<diagkit/tools/B.h>")
+        self.refused("diagkit/tools/A.cpp", "<diagkit/memory/B.h>")
+        self.refused("diagkit/tools/A.cpp", "<diagkit/tools/oem/B.h>")
+        self.refused("diagkit/tools/oem/A.cpp", "<diagkit/tools/B.h>")
+        self.refused("diagkit/tools/oem/A.cpp", "<diagkit/reader/B.h>")
+        self.refused("diagkit/memory/A.cpp", "<diagkit/tools/B.h>")
+        self.refused("diagkit/reader/A.cpp", "<cli/B.h>")
+        self.refused("diagkit/reader/A.cpp", "<diagkit/check/B.h>")
+        self.refused("diagkit/check/A.cpp", "<cli/B.h>")
 
     def test_libraries_and_quotes(self):
-        self.refused("tools/A.cpp", "<expat.h>")
-        self.refused("tools/A.cpp", "<fmt/format.h>")
-        self.refused("memory/A.cpp", '"Database.h"')
-        self.refused("util/A.cpp", "<unistd.h>")
+        self.refused("diagkit/tools/A.cpp", "<expat.h>")
+        self.refused("diagkit/tools/A.cpp", "<fmt/format.h>")
+        self.refused("diagkit/memory/A.cpp", '"Database.h"')
+        self.refused("diagkit/util/A.cpp", "<unistd.h>")
 
     def test_the_platform(self):
-        self.allowed("util/A_win32.cpp", "<windows.h>")
+        self.allowed("diagkit/util/A_win32.cpp", "<windows.h>")
         self.allowed("cli/A_posix.cpp", "<sys/stat.h>")
         self.refused("cli/A.cpp", "<windows.h>")
-        self.refused("tools/A_win32.cpp", "<windows.h>")
+        self.refused("diagkit/tools/A_win32.cpp", "<windows.h>")
         self.refused("cli/A_posix.cpp", "<diagkit/nowhere/A.h>")
 
+    def test_internal_headers(self):
+        readme = "The toolkit. `A.h` holds all; `B.h` and\n`C.h` are internal. More.\n"
+        for header, others in (("A", 0), ("B", 1), ("C", 1)):
+            line = f"#include <diagkit/tools/{header}.h>\n"
+            files = {"diagkit/tools/README.md": readme, "diagkit/tools/D.cpp": line}
+            self.assertEqual(self.check(files)[0], 0)
+            self.assertEqual(self.check({"diagkit/tools/README.md": readme, "cli/D.cpp": line})[0], others)
+
     def test_where_includes_hide(self):
-        self.assertEqual(self.check({"model/A.def": "x\n  #  include <diagkit/tools/B.h> // why\n"})[0], 1)
-        self.assertEqual(self.check({"tools/deep/A.inc": "#include <diagkit/memory/B.h>\n"})[0], 1)
+        self.assertEqual(self.check({"diagkit/model/A.def": "x\n  #  include <diagkit/tools/B.h> // why\n"})[0], 1)
+        self.assertEqual(self.check({"diagkit/tools/deep/A.inc": "#include <diagkit/memory/B.h>\n"})[0], 1)
         self.assertEqual(self.check({"tests/A.h": "#include <diagkit/memory/B.h>\n"})[0], 1, "no file looked at")
 
 

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <diagkit/memory/IdIndex.h>
+#include <diagkit/memory/Node.h>
+#include <diagkit/memory/Part.h>
+#include <diagkit/model/Odx.h>
+#include <diagkit/model/SnrefResolver.h>
+
+namespace NMemory {
+
+class VMemComparamSpec;
+class VMemDiagLayerContainer;
+class VMemFlash;
+class VMemMultipleEcuJobSpec;
+class VMemOdx;
+class VPlaceIndex;
+
+/// The FLASH documents of a database.
+class VFlashCollection : public NODX201::VElementCollection<VMemFlash> {};
+/// The MULTIPLE-ECU-JOB-SPEC documents of a database.
+class VMultipleEcuJobSpecCollection : public NODX201::VElementCollection<VMemMultipleEcuJobSpec> {};
+
+/// An ODX database in memory: owns the root and, through it, every element. This is how programs build a database by
+/// hand, and what the reader fills. With `diagkit/memory/Layers.h`:
+///
+///     NMemory::VDatabase database;
+///     auto& container = database.AddDiagLayerContainer(L"Doors");
+///     auto& protocol = container.AddProtocol(L"UDS");
+///     auto& read = protocol.AddDiagService(L"ReadIdent");
+///     auto& door = container.AddBaseVariant(L"Door");
+///     door.AddParentRef(protocol).ExcludeDiagComm(L"ReadIdent");
+///
+/// Adding. `AddX(...)` puts a new element at the end of the collection it belongs to, `MakeX()` returns the one
+/// optional child and makes it when it is absent. Texts given to the model are copied and stay valid until the database
+/// is destroyed.
+///
+/// Removing. Destroy any element of a collection with `delete &element`, or through a view's `Remove(iterator)`: it
+/// leaves its collection and the ID index, and links that name it do not resolve any more. Iterators at the element
+/// become invalid, all others stay valid. Never destroy an optional child directly; its owner has `RemoveX()`.
+///
+/// Links find their target when asked: by ID through the index, by short name through the resolver of the database in
+/// the layer that the link is asked for. An answer is remembered until the database changes.
+///
+/// Not thread-safe, reading included, because links remember their answers.
+class VDatabase {
+public:
+    /// Makes a resolver that knows nothing yet.
+    using VResolverFactory = std::function<std::unique_ptr<NODX201::VAbstractSnrefResolver>()>;
+
+    VDatabase();
+    ~VDatabase();
+    VDatabase(VDatabase const&) = delete;
+    VDatabase& operator=(VDatabase const&) = delete;
+
+    NODX201::VOdx& GetOdx();
+    VMemOdx& GetMemOdx() { return *m_odx; } ///< the same
+
+    VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName);    ///< DIAG-LAYER-CONTAINER
+    VMemComparamSpec& AddComparamSpec(wchar_t const* shortName);                ///< COMPARAM-SPEC
+    VMemFlash& AddFlash(wchar_t const* shortName);                              ///< FLASH
+    VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName);    ///< MULTIPLE-ECU-JOB-SPEC
+    void AddProcessingInstruction(wchar_t const* name, wchar_t const* content); ///< of the root, at the end
+
+    VFlashCollection& FlashCollection();                           ///< in load order
+    VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection(); ///< in load order
+
+    /// Says how to make the resolver that answers short-name links. Without one they do not resolve.
+    void SetResolverFactory(VResolverFactory factory);
+    /// Forgets the resolver; the next short-name link starts a new one, which sees the database as it is then.
+    /// Removing, moving or renaming an element and directing a PARENT-REF at another layer do the same by themselves,
+    /// because a resolver may remember what was there before. Adding does not.
+    void StartNewResolver();
+    NODX201::VAbstractSnrefResolver* GetResolver(); ///< null without a factory
+
+    /// Names a file for positions; the number is what `VPosition::document` holds.
+    std::uint32_t AddDocumentName(std::string name);
+    std::string const& GetDocumentName(VPosition const& position) const; ///< UTF-8; "" when not known
+
+    /// Takes in what was made detached: the IDs and the count of its elements, or nothing when memory runs out. The
+    /// part lives as long as the database, unless the pointer still holds it afterwards. Throws std::invalid_argument
+    /// for a part that is not a detached one of this database.
+    void Adopt(std::unique_ptr<VPart>&& part);
+
+    /// How many elements of a kind the database holds.
+    std::size_t Count(NODX201::VOdxTagEnum tag) const;
+
+    // For the elements and links of the database.
+
+    void Index(wchar_t const* id, NODX201::VReferencable& element);         ///< from now on references find it
+    void Unindex(wchar_t const* id, NODX201::VReferencable const& element); ///< no effect when not indexed
+    VIdIndex const& GetIdIndex() const { return m_ids; }                    ///< of all adopted elements
+    VPlaceIndex& GetPlaceIndex() { return *m_places; }                      ///< of elements that share an ID
+    std::wstring MakeId();                                                  ///< an ID that no element has
+    void NoteChange() { ++m_generation; }                        ///< what links remember may not hold any more
+    void NoteRedirection();                                      ///< nor what the resolver remembers
+    std::uint64_t GetGeneration() const { return m_generation; } ///< grows with every change
+
+private:
+    void AddIds(VPart const& part);
+
+    friend class VPart;
+
+    std::vector<std::unique_ptr<VPart>> m_parts; // first the database's own
+    VIdIndex m_ids;
+    std::unique_ptr<VPlaceIndex> m_places;
+    std::vector<std::size_t> m_counts; // by tag value
+    std::vector<std::string> m_documentNames;
+    std::uint64_t m_generation = 1;
+    std::uint64_t m_madeIds = 0;
+    bool m_isClosing = false;
+    bool m_isResolverStale = false;
+    VResolverFactory m_resolverFactory;
+    std::unique_ptr<NODX201::VAbstractSnrefResolver> m_resolver;
+    std::unique_ptr<VMemOdx> m_odx;
+};
+
+} // namespace NMemory

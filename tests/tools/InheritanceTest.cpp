@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: Apache-2.0
+
+// One object asked about many layers, against the naive reading of the rules, and what it says of parents.
+
+#include <diagkit/tools/Inheritance.h>
+
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <diagkit/model/DiagVariables.h>
+#include <diagkit/model/Dops.h>
+#include <diagkit/model/Responses.h>
+
+#include "support/GraphText.h"
+#include "support/NaiveInheritance.h"
+#include "support/RandomGraph.h"
+#include "tools/ContentGraph.h"
+
+namespace NTest {
+namespace {
+
+using NDIAGKIT::ParentBy;
+using NDIAGKIT::ParentRefsOf;
+using NDIAGKIT::VInheritance;
+using NDIAGKIT::VLayerKinds;
+
+template <class Element>
+std::wstring PrintElements(std::vector<Element*> const& elements) {
+    std::wstring text;
+    for (Element const* const element : elements) {
+        text += (text.empty() ? L"" : L" ") + std::wstring(element->GetShortName()) + L"@" + LayerOf(*element);
+    }
+    return text;
+}
+
+/// Compares what one object says of all layers of graphs at random, each asked twice and once as a parent.
+template <class Kind, class MakeGraph, class Expected>
+void CompareRandomGraphs(MakeGraph makeGraph, Expected expected) {
+    for (std::uint32_t seed = 1; seed <= 300; ++seed) {
+        VGraphPlan const plan = RandomGraph(seed);
+        std::unique_ptr<VGraph> const graph = makeGraph(plan);
+        VInheritance<Kind> inheritance;
+        for (int round = 0; round < 2; ++round) {
+            for (VLayerPlan const& layer : plan.layers) {
+                std::wstring const wanted = expected(plan, layer.name);
+                ASSERT_EQ(PrintElements(inheritance.EntriesOf(graph->Layer(layer.name))), wanted) << GraphText(plan);
+                ASSERT_EQ(PrintElements(inheritance.EntriesOfParent(graph->Layer(layer.name))), wanted)
+                    << GraphText(plan);
+            }
+        }
+    }
+}
+
+TEST(InheritanceTest, OneObjectShowsTheDiagCommsOfEveryLayer) {
+    CompareRandomGraphs<NDIAGKIT::VInheritedDiagComms>(
+        [](VGraphPlan const& plan) { return std::make_unique<VGraph>(plan); }, &NaiveDiagComms);
+}
+
+TEST(InheritanceTest, OneObjectShowsTheDiagVariablesOfEveryLayer) {
+    CompareRandomGraphs<NDIAGKIT::VInheritedDiagVariables>(
+        [](VGraphPlan const& plan) { return MakeContentGraph(plan, VContent::DiagVariables); }, &NaiveDiagVariables);
+}
+
+TEST(InheritanceTest, OneObjectShowsTheGlobalNegResponsesOfEveryLayer) {
+    CompareRandomGraphs<NDIAGKIT::VInheritedGlobalNegResponses>(
+        [](VGraphPlan const& plan) { return MakeContentGraph(plan, VContent::GlobalNegResponses); },
+        &NaiveGlobalNegResponses);
+}
+
+class VInheritanceTest : public VGraphTest {
+protected:
+    std::wstring Entries(wchar_t const* layer) { return PrintElements(m_inheritance.EntriesOf(Layer(layer))); }
+
+    VInheritance<NDIAGKIT::VInheritedDiagComms> m_inheritance;
+};
+
+TEST_F(VInheritanceTest, AParentNamedTwiceBringsBySecondReferenceWhatTheFirstExcludes) {
+    Graph(LR"(
+        base Bv  : Read Start Stop
+        ecu  Ecu : Own  < Bv-Read-Start Bv-Start Bv
+    )");
+    EXPECT_EQ(Entries(L"Ecu"), L"Own@Ecu Stop@Bv Read@Bv Start@Bv");
+}
+
+TEST_F(VInheritanceTest, WhatAParentOffersIsMadeOnce) {
+    Graph(L"prot Uds : Read \n base Bv < Uds");
+    auto const& uds = m_inheritance.EntriesOfParent(Layer(L"Uds"));
+    EXPECT_EQ(Entries(L"Bv"), L"Read@Uds");
+    EXPECT_EQ(&m_inheritance.EntriesOfParent(Layer(L"Uds")), &uds);
+}
+
+TEST_F(VInheritanceTest, OwnEntriesAreThoseOfTheLayerWithDoubles) {
+    Graph(L"prot Uds : Read \n base Bv : Read Read Start < Uds");
+    EXPECT_EQ(PrintElements(decltype(m_inheritance)::OwnOf(Layer(L"Bv"))), L"Read@Bv Read@Bv Start@Bv");
+}
+
+TEST_F(VInheritanceTest, ALayerIsOfTheKindThatItAccepts) {
+    Graph(L"esd A \n prot B \n func C \n base D \n ecu E");
+    auto const kindOf = [this](wchar_t const* layer) { return NDIAGKIT::VLayerOfKind(Layer(layer)).kind; };
+    EXPECT_EQ(kindOf(L"A"), VLayerKinds::EcuSharedData);
+    EXPECT_EQ(kindOf(L"B"), VLayerKinds::Protocol);
+    EXPECT_EQ(kindOf(L"C"), VLayerKinds::FunctionalGroup);
+    EXPECT_EQ(kindOf(L"D"), VLayerKinds::BaseVariant);
+    EXPECT_EQ(kindOf(L"E"), VLayerKinds::EcuVariant);
+}
+
+TEST_F(VInheritanceTest, ALayerWithoutParentRefsHasNone) {
+    Graph(L"esd A \n base D \n base P <");
+    EXPECT_EQ(ParentRefsOf(Layer(L"A")), nullptr);
+    EXPECT_EQ(ParentRefsOf(Layer(L"D")), nullptr);
+    ASSERT_NE(ParentRefsOf(Layer(L"P")), nullptr);
+    EXPECT_EQ(ParentRefsOf(Layer(L"P"))->Count(), 0u);
+}
+
+/// A FUNCTIONAL-GROUP that says to have no PARENT-REFS, and has.
+class VSecretiveGroup final : public NMemory::VWithDiagVariables<
+                                  NMemory::VWithParents<NMemory::VWithLayer<NMemory::VWithComparamRefs<
+                                      NMemory::VWithFunctClasses<NMemory::VWithCompanyDatas<NMemory::VWithAdminData<
+                                          NMemory::VMemIdent<NODX201::VFunctionalGroup,
+                                                             NODX201::VOdxTagEnum::FunctionalGroup>>>>>>>> {
+public:
+    using VWithDiagVariables::VWithDiagVariables;
+    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitFunctionalGroup(*this); }
+    bool HasParentRefCollection() const override { return false; }
+};
+
+TEST_F(VInheritanceTest, ParentRefsAreAskedForInTheViewsOfDiagCommsAndGlobalNegResponsesAlone) {
+    Graph(L"esd Lib : Read");
+    auto& library = LayerAs<NMemory::VMemEcuSharedData>(L"Lib");
+    library.AddDiagVariable(L"Speed");
+    library.AddGlobalNegResponse(L"Refused");
+    library.MakeDiagDataDictionarySpec().AddStructure(L"Status");
+    VSecretiveGroup group(m_graph->Container().Inside());
+    group.AddParentRef(library);
+    auto const countOf = [&group](auto kind) {
+        return NDIAGKIT::VInheritance<decltype(kind)>().EntriesOf(group).size();
+    };
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedDiagComms()), 0u);
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedGlobalNegResponses()), 0u);
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedDiagVariables()), 1u);
+    EXPECT_EQ(countOf(NDIAGKIT::VInheritedDops()), 1u);
+}
+
+TEST_F(VInheritanceTest, AParentIsNamedByAReferenceOfAKindThatIsAskedFor) {
+    Graph(L"prot Uds \n base Bv < Uds");
+    NODX201::VParentRef& parentRef = *ParentRefsOf(Layer(L"Bv"))->Begin();
+    ASSERT_TRUE(ParentBy(parentRef).has_value());
+    EXPECT_EQ(ParentBy(parentRef)->layer, &Layer(L"Uds"));
+    EXPECT_TRUE(ParentBy(parentRef, VLayerKinds::Protocol | VLayerKinds::EcuSharedData).has_value());
+    EXPECT_FALSE(ParentBy(parentRef, VLayerKinds::FunctionalGroup).has_value());
+    delete &Layer(L"Uds");
+    EXPECT_FALSE(ParentBy(parentRef).has_value());
+}
+
+/// The kinds of parent from which a layer takes anything, by the row that takes from most.
+TEST(InheritanceTableTest, NoViewTakesFromAParentThatTheDiagCommViewDoesNot) {
+    using Rows = std::vector<NDIAGKIT::VInheritanceRow>;
+    auto const all = NDIAGKIT::VInheritedDiagComms::kRow;
+    for (auto const& row : Rows{NDIAGKIT::VInheritedDiagVariables::kRow, NDIAGKIT::VInheritedDops::kRow,
+                                NDIAGKIT::VInheritedGlobalNegResponses::kRow}) {
+        for (VLayerKinds const layer : {VLayerKinds::Protocol, VLayerKinds::FunctionalGroup, VLayerKinds::BaseVariant,
+                                        VLayerKinds::EcuVariant, VLayerKinds::EcuSharedData}) {
+            auto const taken = row.PassesOf(layer).first | row.PassesOf(layer).second;
+            auto const known = all.PassesOf(layer).first | all.PassesOf(layer).second;
+            EXPECT_EQ(taken | known, known);
+        }
+    }
+}
+
+} // namespace
+} // namespace NTest
