@@ -7,7 +7,7 @@
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 
 namespace NCli {
 

@@ -25,38 +25,16 @@ struct VTable {
     wchar_t const* (*literal)(int value); ///< "?" for a value that the table does not hold
 };
 
-template <auto GetStr, class Enumeration>
-wchar_t const* LiteralOf(int value) {
-    return (Mapper::Instance().*GetStr)(static_cast<Enumeration>(value));
+template <class Enumeration>
+wchar_t const* LiteralOf(wchar_t const* (NDIAGKIT::VEnumTables::*getStr)(Enumeration value) const, int value) {
+    return (Mapper::Instance().*getStr)(static_cast<Enumeration>(value));
 }
 
-// clang-format off
 constexpr std::array kTables{
-    VTable{"CommRelationValueType", &LiteralOf<&Mapper::GetCommRelationValueTypeStr, NODX201::VCommRelation::VCommRelationValueType>},
-    VTable{"Addressing", &LiteralOf<&Mapper::GetAddressingStr, NODX201::VDiagService::VAddressing>},
-    VTable{"PhysicalDataType", &LiteralOf<&Mapper::GetPhysicalDataTypeStr, NODX201::VPhysicalType::VPhysicalDataType>},
-    VTable{"Direction", &LiteralOf<&Mapper::GetDirectionStr, NODX201::VSessionDesc::VDirection>},
-    VTable{"IdentValueType", &LiteralOf<&Mapper::GetIdentValueTypeStr, NODX201::VIdentValue::VIdentValueType>},
-    VTable{"ValidType", &LiteralOf<&Mapper::GetValidTypeStr, NODX201::VScaleConstr::VValidType>},
-    VTable{"Termination", &LiteralOf<&Mapper::GetTerminationStr, NODX201::VMinMaxLengthType::VTermination>},
-    VTable{"RowFragment", &LiteralOf<&Mapper::GetRowFragmentStr, NODX201::VTableEntry::VRowFragment>},
-    VTable{"DataformatSelection", &LiteralOf<&Mapper::GetDataformatSelectionStr, NODX201::VDataformat::VDataformatSelection>},
-    VTable{"DataType", &LiteralOf<&Mapper::GetDataTypeStr, NODX201::VDiagCodedType::VDataType>},
-    VTable{"PhysicalLinkType", &LiteralOf<&Mapper::GetPhysicalLinkTypeStr, NODX201::VPhysicalVehicleLink::VPhysicalLinkType>},
-    VTable{"UnitGroupCategory", &LiteralOf<&Mapper::GetUnitGroupCategoryStr, NODX201::VUnitGroup::VUnitGroupCategory>},
-    VTable{"IntervalType", &LiteralOf<&Mapper::GetIntervalTypeStr, NODX201::VLimit::VIntervalType>},
-    VTable{"ProjIdentType", &LiteralOf<&Mapper::GetProjIdentTypeStr, NODX201::VProjectIdent::VProjIdentType>},
-    VTable{"DiagClassType", &LiteralOf<&Mapper::GetDiagClassTypeStr, NODX201::VDiagComm::VDiagClassType>},
-    VTable{"StandardisationLevel", &LiteralOf<&Mapper::GetStandardisationLevelStr, NODX201::VComparam::VStandardisationLevel>},
-    VTable{"Radix", &LiteralOf<&Mapper::GetRadixStr, NODX201::VPhysicalType::VRadix>},
-    VTable{"PinType", &LiteralOf<&Mapper::GetPinTypeStr, NODX201::VVehicleConnectorPin::VPinType>},
-    VTable{"EncryptCompressMethodType", &LiteralOf<&Mapper::GetEncryptCompressMethodTypeStr, NODX201::VEncryptCompressMethod::VEncryptCompressMethodType>},
-    VTable{"Encoding", &LiteralOf<&Mapper::GetEncodingStr, NODX201::VDiagCodedType::VEncoding>},
-    VTable{"CompuCategory", &LiteralOf<&Mapper::GetCompuCategoryStr, NODX201::VCompuMethod::VCompuCategory>},
-    VTable{"Doctype", &LiteralOf<&Mapper::GetDoctypeStr, NODX201::VDoctype>},
-    VTable{"SessionSubElemType", &LiteralOf<&Mapper::GetSessionSubElemTypeStr, std::size_t>},
+#define ODX_ENUMERATION(name, place, ...)                                                                              \
+    VTable{#name, [](int value) { return LiteralOf(&Mapper::Get##name##Str, value); }},
+#include <diagkit/model/facts/Enumerations.def>
 };
-// clang-format on
 
 struct VLiteral {
     std::string text;

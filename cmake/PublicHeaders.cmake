@@ -1,6 +1,8 @@
 # The headers that are installed: what a program over each target may include. In these folders all are public but those
 # named here; of the others only those named here are.
 set(internal_headers
+    diagkit/memory/Instances.def
+    diagkit/memory/InstancesEnd.def
     diagkit/memory/NewImpl.h
     diagkit/memory/PlaceIndex.h
     diagkit/tools/Alternative.h
@@ -27,7 +29,7 @@ set(public_headers
     diagkit/util/CheckedCast.h
     diagkit/util/Utf16.h
 )
-foreach(folder model logging tools memory)
+foreach(folder model model/facts logging tools memory)
     set(path ${PROJECT_SOURCE_DIR}/diagkit/${folder})
     file(GLOB headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS ${path}/*.h ${path}/*.def)
     list(APPEND public_headers ${headers})

@@ -12,7 +12,6 @@
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/memory/Params.h>
-#include <diagkit/memory/Responses.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/DiagCommView.h>
 #include <diagkit/tools/OpResolveSnref.h>

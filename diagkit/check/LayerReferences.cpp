@@ -4,7 +4,7 @@
 #include <tuple>
 
 #include <diagkit/check/Topics.h>
-#include <diagkit/memory/Importing.h>
+#include <diagkit/memory/References.h>
 #include <diagkit/reader/CycleSearch.h>
 #include <diagkit/tools/Inheritance.h>
 

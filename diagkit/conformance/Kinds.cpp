@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/conformance/Kinds.h>
 
+#include <string_view>
+
 #include <diagkit/model/AdminData.h>
 #include <diagkit/model/Comparams.h>
 #include <diagkit/model/Compu.h>
@@ -29,172 +31,72 @@ bool Is(VOdxElement& element) {
     return dynamic_cast<Class*>(&element) != nullptr;
 }
 
-#define KIND(name, ...)                                                                                                \
-    {                                                                                                                  \
-        L## #name, &Is<name>, { __VA_ARGS__ }                                                                          \
-    }
-
 /// Kinds that others are derived from: they count only where none of those fits.
 std::vector<VKind> const& GeneralKinds() {
     static std::vector<VKind> const kinds = {
-        KIND(VParentRef, Tag::ParentRef),
-        KIND(VDiagCodedType, Tag::DiagCodedType),
+        {L"VParentRef", &Is<VParentRef>, {Tag::ParentRef}},
+        {L"VDiagCodedType", &Is<VDiagCodedType>, {Tag::DiagCodedType}},
     };
     return kinds;
 }
 
-std::vector<VKind> const& Kinds() {
-    // clang-format off
-    static std::vector<VKind> const kinds = {
-        KIND(VAccessLevel,             Tag::AccessLevel),
-        KIND(VAdminData,               Tag::AdminData),
-        KIND(VAllValue,                Tag::AllValue),
-        KIND(VAudience,                Tag::Audience),
-        KIND(VBaseVariant,             Tag::BaseVariant),
-        KIND(VBaseVariantRef,          Tag::BaseVariantRef),
-        KIND(VBasicStructureLink,      Tag::BasicStructureRef),
-        KIND(VByteStream,              Tag::SupportedDynId),
-        KIND(VCase,                    Tag::Case),
-        KIND(VChecksumResult,          Tag::ChecksumResult),
-        KIND(VCodedConst,              Tag::CodedConst),
-        KIND(VCommRelation,            Tag::CommRelation),
-        KIND(VCompanyData,             Tag::CompanyData),
-        KIND(VCompanyDataLink,         Tag::CompanyDataRef),
-        KIND(VCompanyDocInfo,          Tag::CompanyDocInfo),
-        KIND(VCompanyRevisionInfo,     Tag::CompanyRevisionInfo),
-        KIND(VCompanySpecificInfo,     Tag::CompanySpecificInfo),
-        KIND(VComparam,                Tag::Comparam),
-        KIND(VComparamRef,             Tag::ComparamRef),
-        KIND(VComparamSpec,            Tag::ComparamSpec),
-        KIND(VComparamSpecLink,        Tag::ComparamSpecRef),
-        KIND(VCompuConst,              Tag::CompuConst),
-        KIND(VCompuDefaultValue,       Tag::CompuDefaultValue),
-        KIND(VCompuInternalToPhys,     Tag::CompuInternalToPhys),
-        KIND(VCompuInverseValue,       Tag::CompuInverseValue),
-        KIND(VCompuMethod,             Tag::CompuMethod),
-        KIND(VCompuPhysToInternal,     Tag::CompuPhysToInternal),
-        KIND(VCompuRationalCoeffs,     Tag::CompuRationalCoeffs),
-        KIND(VCompuScale,              Tag::CompuScale),
-        KIND(VDataformat,              Tag::Dataformat),
-        KIND(VDataObjectProp,          Tag::DataObjectProp),
-        KIND(VDataObjectPropLink,      Tag::DopRef, Tag::DopSnref, Tag::DataObjectPropRef, Tag::KeyDopRef),
-        KIND(VDefaultCase,             Tag::DefaultCase),
-        KIND(VDetermineNumberOfItems,  Tag::DetermineNumberOfItems),
-        KIND(VDiagCommLink,            Tag::DiagCommRef, Tag::DiagCommSnref, Tag::ClearDynDefMessageRef,
-                                       Tag::ClearDynDefMessageSnref, Tag::ReadDynDefMessageRef,
-                                       Tag::ReadDynDefMessageSnref, Tag::DynDefMessageRef, Tag::DynDefMessageSnref),
-        KIND(VDiagDataDictionarySpec,  Tag::DiagDataDictionarySpec),
-        KIND(VDiagLayerContainer,      Tag::DiagLayerContainer),
-        KIND(VDiagService,             Tag::DiagService),
-        KIND(VDiagVariable,            Tag::DiagVariable),
-        KIND(VDiagVariableLink,        Tag::DiagVariableRef, Tag::DiagVariableSnref),
-        KIND(VDocRevision,             Tag::DocRevision),
-        KIND(VDopBaseLink,             Tag::DopRef, Tag::DopSnref, Tag::DopBaseRef, Tag::DopBaseSnref),
-        KIND(VDtc,                     Tag::Dtc),
-        KIND(VDtcDop,                  Tag::DtcDop),
-        KIND(VDtcLink,                 Tag::DtcRef),
-        KIND(VDtcValues,               Tag::DtcValues),
-        KIND(VDynamic,                 Tag::Dynamic),
-        KIND(VDynamicEndmarkerField,   Tag::DynamicEndmarkerField),
-        KIND(VDynamicLengthField,      Tag::DynamicLengthField),
-        KIND(VDynDefinedSpec,          Tag::DynDefinedSpec),
-        KIND(VDynEndDopRef,            Tag::DataObjectPropRef),
-        KIND(VDynIdDefModeInfo,        Tag::DynIdDefModeInfo),
-        KIND(VEcuMem,                  Tag::EcuMem),
-        KIND(VEcuSharedData,           Tag::EcuSharedData),
-        KIND(VEcuSharedDataRef,        Tag::EcuSharedDataRef),
-        KIND(VEcuVariant,              Tag::EcuVariant),
-        KIND(VEcuVariantPattern,       Tag::EcuVariantPattern),
-        KIND(VEncryptCompressMethod,   Tag::EncryptCompressMethod),
-        KIND(VEndOfPduField,           Tag::EndOfPduField),
-        KIND(VEnvData,                 Tag::EnvData),
-        KIND(VEnvDataDesc,             Tag::EnvDataDesc),
-        KIND(VEnvDataDescLink,         Tag::EnvDataDescRef),
-        KIND(VEnvDataLink,             Tag::EnvDataRef),
-        KIND(VExpectedIdent,           Tag::ExpectedIdent),
-        KIND(VFlash,                   Tag::Flash),
-        KIND(VFunctClass,              Tag::FunctClass),
-        KIND(VFunctClassLink,          Tag::FunctClassRef),
-        KIND(VFunctionalGroup,         Tag::FunctionalGroup),
-        KIND(VFunctionalGroupRef,      Tag::FunctionalGroupRef),
-        KIND(VGlobalNegResponse,       Tag::GlobalNegResponse),
-        KIND(VIdentValue,              Tag::IdentValue),
-        KIND(VInputParam,              Tag::InputParam),
-        KIND(VInternalConstr,          Tag::InternalConstr),
-        KIND(VLeadingLengthInfoType,   Tag::LeadingLengthInfoType),
-        KIND(VLengthKey,               Tag::LengthKey),
-        KIND(VLimit,                   Tag::LowerLimit, Tag::UpperLimit),
-        KIND(VMatchingParameter,       Tag::MatchingParameter),
-        KIND(VMatchingRequestParam,    Tag::MatchingRequestParam),
-        KIND(VMem,                     Tag::Mem),
-        KIND(VMinMaxLengthType,        Tag::MinMaxLengthType),
-        KIND(VModification,            Tag::Modification),
-        KIND(VMultipleEcuJob,          Tag::MultipleEcuJob),
-        KIND(VMux,                     Tag::Mux),
-        KIND(VNegOutputParam,          Tag::NegOutputParam),
-        KIND(VNegResponse,             Tag::NegResponse),
-        KIND(VNegResponseLink,         Tag::NegResponseRef),
-        KIND(VNotInheritedDiagComm,    Tag::NotInheritedDiagComm),
-        KIND(VNotInheritedVariable,    Tag::NotInheritedVariable),
-        KIND(VOdx,                     Tag::Odx),
-        KIND(VOutParamIfLink,          Tag::OutParamIfSnref, Tag::ParamSnref),
-        KIND(VOutputParam,             Tag::OutputParam),
-        KIND(VOwnIdent,                Tag::OwnIdent),
-        KIND(VParamLengthInfoType,     Tag::ParamLengthInfoType),
-        KIND(VPhysConst,               Tag::PhysConst),
-        KIND(VPhysicalDimension,       Tag::PhysicalDimension),
-        KIND(VPhysicalDimensionLink,   Tag::PhysicalDimensionRef),
-        KIND(VPhysicalType,            Tag::PhysicalType),
-        KIND(VPosResponse,             Tag::PosResponse),
-        KIND(VPosResponseLink,         Tag::PosResponseRef),
-        KIND(VProgCode,                Tag::ProgCode),
-        KIND(VProjectIdent,            Tag::ProjectIdent),
-        KIND(VProtocol,                Tag::Protocol),
-        KIND(VProtocolRef,             Tag::ProtocolRef),
-        KIND(VRelatedDiagCommRef,      Tag::RelatedDiagCommRef),
-        KIND(VRelatedDoc,              Tag::RelatedDoc),
-        KIND(VRequest,                 Tag::Request),
-        KIND(VRequestLink,             Tag::RequestRef),
-        KIND(VReserved,                Tag::Reserved),
-        KIND(VScaleConstr,             Tag::ScaleConstr),
-        KIND(VSd,                      Tag::Sd),
-        KIND(VSdg,                     Tag::Sdg),
-        KIND(VSdgCaption,              Tag::SdgCaption),
-        KIND(VSession,                 Tag::Session),
-        KIND(VSessionDesc,             Tag::SessionDesc),
-        KIND(VSingleEcuJob,            Tag::SingleEcuJob),
-        KIND(VStandardLengthType,      Tag::StandardLengthType),
-        KIND(VStaticField,             Tag::StaticField),
-        KIND(VStructure,               Tag::Structure),
-        KIND(VStructureLink,           Tag::StructureRef),
-        KIND(VSwitchKey,               Tag::SwitchKey),
-        KIND(VSwVariable,              Tag::SwVariable),
-        KIND(VSystem,                  Tag::System),
-        KIND(VTable,                   Tag::Table),
-        KIND(VTableEntry,              Tag::TableEntry),
-        KIND(VTableKey,                Tag::TableKey),
-        KIND(VTableKeyLink,            Tag::TableKeyRef),
-        KIND(VTableLink,               Tag::TableRef, Tag::SelectionTableRef, Tag::SelectionTableSnref),
-        KIND(VTableRow,                Tag::TableRow),
-        KIND(VTableRowLink,            Tag::TableRowRef),
-        KIND(VTableStruct,             Tag::TableStruct),
-        KIND(VTeamMember,              Tag::TeamMember),
-        KIND(VTeamMemberLink,          Tag::TeamMemberRef),
-        KIND(VText,                    Tag::LongName),
-        KIND(VUnit,                    Tag::Unit),
-        KIND(VUnitGroup,               Tag::UnitGroup),
-        KIND(VUnitLink,                Tag::UnitRef),
-        KIND(VUnitSpec,                Tag::UnitSpec),
-        KIND(VValue,                   Tag::Value),
-        KIND(VVariableGroup,           Tag::VariableGroup),
-        KIND(VVariableGroupLink,       Tag::VariableGroupRef),
-        KIND(VVt,                      Tag::Vt),
-        KIND(VXdoc,                    Tag::Xdoc),
+/// An element that a class stands for: what the rows of all classes call its references, and limits, which have two.
+struct VUse {
+    std::wstring_view kind;
+    wchar_t const* odxElement;
+};
+
+#define WIDE_(text) L##text
+#define WIDE(text) WIDE_(text)
+
+std::vector<VUse> const& Uses() {
+    static std::vector<VUse> const uses = {
+#define ODX_LIMIT(name, element, often) {L"VLimit", WIDE(element)},
+#define ODX_REF(name, link, element, often) {L"V" L## #link, WIDE(element)},
+#define ODX_SNREF(name, link, element, often) {L"V" L## #link, WIDE(element)},
+#define ODX_OTHER_REF(name, link, element, often) {L"V" L## #link, WIDE(element)},
+#define ODX_OTHER_SNREF(name, link, element, often) {L"V" L## #link, WIDE(element)},
+#define ODX_CHOICE_REF(choice, name, link, element, often) {L"V" L## #link, WIDE(element)},
+#define ODX_ITEM_REF(collection, name, link, element) {L"V" L## #link, WIDE(element)},
+#define ODX_ITEM_SNREF(collection, name, link, element) {L"V" L## #link, WIDE(element)},
+#define ODX_ITEM_BY_ID(collection, name, link, element) {L"V" L## #link, WIDE(element)},
+#define ODX_NO_SNREF(element)
+#define ODX_WRAPPER(collection, wrapper, often, items) items
+#define ODX_BY_HAND(rows) rows
+#define ODX_NOT_READ(rows) rows
+#include <diagkit/model/Facts.def>
+        {L"VDiagVariableLink", L"DIAG-VARIABLE-SNREF"}, // of an exclusion
     };
-    // clang-format on
+    return uses;
+}
+
+/// The kind with its own tag and those of its uses.
+template <class Class>
+VKind KindOf(wchar_t const* name, Tag tag) {
+    VKind kind{name, &Is<Class>, {tag}};
+    for (VUse const& use : Uses()) {
+        Tag const used = use.kind == name ? OdxTagOf(use.odxElement) : Tag::None;
+        if (used != Tag::None) {
+            kind.tags.push_back(used);
+        }
+    }
+    return kind;
+}
+
+std::vector<VKind> const& Kinds() {
+    static std::vector<VKind> const kinds = {
+        KindOf<VOdx>(L"VOdx", Tag::Odx),
+        KindOf<VText>(L"VText", Tag::LongName),
+#define ODX_CLASS(name, tag, base, names, value, element, type) KindOf<V##name>(L"V" L## #name, Tag::tag),
+#define ODX_LINK_WITH(name, tag, target) KindOf<V##name>(L"V" L## #name, Tag::tag),
+#define ODX_LINK_IN_LAYER(name, tag, target, value, element) KindOf<V##name>(L"V" L## #name, Tag::tag),
+#define ODX_LINK_IN_DIAG_COMM(name, tag, target, value, element) KindOf<V##name>(L"V" L## #name, Tag::tag),
+#define ODX_PARENT_REF(name, target, value, type) KindOf<V##name>(L"V" L## #name, Tag::name),
+#define ODX_EXCLUSION(name, reference, link, value, element) KindOf<V##name>(L"V" L## #name, Tag::name),
+#include <diagkit/model/Facts.def>
+    };
     return kinds;
 }
-#undef KIND
 
 void CollectKinds(std::vector<VKind> const& kinds, VOdxElement& element, std::vector<VKind const*>& found) {
     for (VKind const& kind : kinds) {
@@ -211,37 +113,22 @@ public:
 
     VVisit m_visit;
 
-#define VISIT(kind)                                                                                                    \
-    void Visit##kind(V##kind& x) override { Note(x); }
-    VISIT(BaseVariant)
-    VISIT(Protocol)
-    VISIT(FunctionalGroup)
-    VISIT(EcuVariant)
-    VISIT(EcuSharedData)
-    VISIT(DiagService)
-    VISIT(SingleEcuJob)
-    VISIT(EnvData)
-    VISIT(Structure)
-    VISIT(EnvDataDesc)
-    VISIT(StaticField)
-    VISIT(DynamicLengthField)
-    VISIT(DynamicEndmarkerField)
-    VISIT(EndOfPduField)
-    VISIT(Mux)
-    VISIT(DataObjectProp)
-    VISIT(DtcDop)
-    VISIT(CodedConst)
-    VISIT(Dynamic)
-    VISIT(LengthKey)
-    VISIT(MatchingRequestParam)
-    VISIT(PhysConst)
-    VISIT(Reserved)
-    VISIT(System)
-    VISIT(TableKey)
-    VISIT(TableStruct)
-    VISIT(Value)
-    VISIT(TableEntry)
-#undef VISIT
+#define VISITED(name)                                                                                                  \
+    void Visit##name(V##name& x) override { Note(x); }
+#define VISITED_OdxElement(name)
+#define VISITED_Referencable(name)
+#define VISITED_DiagCodedType(name)
+#define VISITED_Response(name)
+#define VISITED_UnvisitedDiagComm(name)
+#define VISITED_DiagLayer(name) VISITED(name)
+#define VISITED_DiagComm(name) VISITED(name)
+#define VISITED_DopBase(name) VISITED(name)
+#define VISITED_ComplexDop(name) VISITED(name)
+#define VISITED_BasicStructure(name) VISITED(name)
+#define VISITED_Field(name) VISITED(name)
+#define VISITED_Param(name) VISITED(name)
+#define ODX_CLASS(name, tag, base, names, value, element, type) VISITED_##base(name)
+#include <diagkit/model/Facts.def>
 
 private:
     void Note(VOdxElement& visited) {

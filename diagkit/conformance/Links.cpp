@@ -31,27 +31,42 @@ std::vector<VQuestion> QuestionsFor(VOutParamIfLink& link, VDiagLayer& layer) {
     return questions;
 }
 
+/// How a link of this class is asked, if the link is one; a class without a target in the contract is not asked.
+template <class Link, class Has, class Get>
+void AskIf(VLink& link, std::vector<VQuestion>& questions, Has has, Get get) {
+    if constexpr (std::is_invocable_v<Has, Link&>) {
+        if (auto* const x = dynamic_cast<Link*>(&link); x != nullptr) {
+            questions.push_back({[x, has] { return has(*x); }, [x, get] { return ChildOf(get(*x)); }});
+        }
+    }
+}
+
 } // namespace
 
 std::vector<VQuestion> QuestionsFor(VLink& link, VDiagLayer* layer) {
-#define LINK(link_class, target)                                                                                       \
-    if (auto* const x = dynamic_cast<link_class*>(&link); x != nullptr) {                                              \
-        return {{[x] { return x->Has##target(); }, [x] { return ChildOf(x->Get##target()); }}};                        \
-    }
-#define LINK_IN_LAYER(link_class, target)                                                                              \
-    if (auto* const x = dynamic_cast<link_class*>(&link); x != nullptr && layer != nullptr) {                          \
-        return {{[x, layer] { return x->Has##target(*layer); }, [x] { return ChildOf(x->Get##target()); }}};           \
-    }
-#include <diagkit/conformance/Links.def>
     if (auto* const x = dynamic_cast<VOutParamIfLink*>(&link); x != nullptr && layer != nullptr) {
         return QuestionsFor(*x, *layer);
     }
-    return {};
+    std::vector<VQuestion> questions;
+#define ODX_LINK_WITH(name, tag, target)                                                                               \
+    AskIf<V##name>(                                                                                                    \
+        link, questions, [](auto& x) -> decltype(x.Has##target()) { return x.Has##target(); },                         \
+        [](auto& x) -> decltype(x.Get##target()) { return x.Get##target(); });
+#define ODX_PARENT_REF(name, target, value, type) ODX_LINK_WITH(name, name, target)
+#define ODX_LINK_IN_LAYER(name, tag, target, value, element)                                                           \
+    if (auto* const x = dynamic_cast<V##name*>(&link); x != nullptr && layer != nullptr) {                             \
+        return {{[x, layer] { return x->Has##target(*layer); }, [x] { return ChildOf(x->Get##target()); }}};           \
+    }
+#include <diagkit/model/Facts.def>
+    return questions;
 }
 
 bool IsAskedForLayer(VLink& link) {
-    return dynamic_cast<VDataObjectPropLink*>(&link) != nullptr || dynamic_cast<VDiagCommLink*>(&link) != nullptr ||
-           dynamic_cast<VDiagVariableLink*>(&link) != nullptr || dynamic_cast<VDopBaseLink*>(&link) != nullptr;
+    bool isAsked = false;
+#define ODX_LINK_IN_LAYER(name, tag, target, value, element)                                                           \
+    isAsked = isAsked || dynamic_cast<V##name*>(&link) != nullptr;
+#include <diagkit/model/Facts.def>
+    return isAsked;
 }
 
 } // namespace NConformance

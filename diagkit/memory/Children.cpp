@@ -3,7 +3,7 @@
 
 #include <stdexcept>
 
-#include <diagkit/memory/Sdgs.h>
+#include <diagkit/memory/AdminData.h>
 
 namespace NMemory {
 
@@ -29,15 +29,21 @@ void VMemStrings::Add(VPart& part, wchar_t const* text) {
     m_collection->Add(part.StoreString(text));
 }
 
-VMemSdg::~VMemSdg() {
-    if (!m_sdgSdChoice.IsPresent()) {
+VMemSdg& VMemSdgContents::AddSdg(VPlace const& place) { return m_contents.Add(New<VMemSdg>(place)); }
+
+VMemSd& VMemSdgContents::AddSd(VPlace const& place, wchar_t const* text) {
+    return m_contents.Add(NewWithText<VMemSd>(place, text));
+}
+
+VMemSdgContents::~VMemSdgContents() {
+    if (!m_contents.IsPresent()) {
         return;
     }
-    auto& dying = m_sdgSdChoice.Make();
+    auto& dying = m_contents.Make();
     for (auto position = dying.Close(); position != dying.EndPosition(); ++position) {
         auto* const nested = dynamic_cast<VMemSdg*>(*position);
-        if (nested != nullptr && nested->m_sdgSdChoice.IsPresent()) {
-            dying.TakeDying(nested->m_sdgSdChoice.Make());
+        if (nested != nullptr && nested->m_contents.m_contents.IsPresent()) {
+            dying.TakeDying(nested->m_contents.m_contents.Make());
         }
     }
 }

@@ -9,103 +9,93 @@
 #include <diagkit/memory/Link.h>
 #include <diagkit/model/Collections.h>
 
-/// How the classes of the memory model make their children; each function is one way in which ODX elements have them.
-/// A child comes into its parent when it is finished, so that one whose making fails is not there at all.
+/// How the classes of the memory model hold their children. The bodies are compiled once for each class, in
+/// `Instances*.cpp` alone, so that a program that uses elements does not compile the whole model again. A child comes into
+/// its parent when it is finished, so that one whose making fails is not there at all.
 
 namespace NMemory {
 
-/// Makes an element. Defined for every class of the model, in `Instances*.cpp` alone: a program that adds elements
-/// does not compile the whole model again.
+/// Makes an element.
 template <class Element>
-std::unique_ptr<Element> New(VPlace const& place);
-
-/// The same for a link.
-template <class Link>
-std::unique_ptr<Link> New(VPlace const& place, VReference const& reference);
-
-/// The optional child, made when it is absent.
-template <class Child>
-Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place) {
-    if (slot == nullptr) {
-        slot = New<Child>(place);
-    }
-    return *slot;
-}
-
-/// The same; `finish` says what the child holds.
-template <class Child, class Finish>
-Child& MakeChild(std::unique_ptr<Child>& slot, VPlace const& place, Finish finish) {
-    if (slot != nullptr) {
-        finish(*slot);
-        return *slot;
-    }
-    auto child = New<Child>(place);
-    finish(*child);
-    slot = std::move(child);
-    return *slot;
-}
-
-/// The same, and one that is made gets a short name.
-template <class Child>
-Child& MakeNamedChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* shortName) {
-    return MakeChild(slot, place, [shortName](Child& child) { child.SetShortName(shortName); });
-}
-
-/// The same, and one that is made gets a text.
-template <class Child>
-Child& MakeTextChild(std::unique_ptr<Child>& slot, VPlace const& place, wchar_t const* text) {
-    return MakeChild(slot, place, [text](Child& child) { child.SetText(text); });
-}
-
-/// The optional link, made or directed at another target.
-template <class Link>
-Link& MakeLink(std::unique_ptr<Link>& slot, VPlace const& place, VReference const& reference) {
-    if (slot == nullptr) {
-        slot = New<Link>(place, reference);
-    } else {
-        slot->SetReference(reference);
-    }
-    return *slot;
-}
-
-/// One of several alternatives: the new one takes the place of the one before.
-template <class Alternative, class Slot, class Choice, class... Arguments>
-Alternative& SetChoice(std::unique_ptr<Slot>& slot, Choice*& choice, VPlace const& place,
-                       Arguments const&... arguments) {
-    auto made = New<Alternative>(place, arguments...);
-    Alternative& alternative = *made;
-    slot = std::move(made);
-    choice = &alternative;
-    return alternative;
-}
-
-/// A new element at the end of a repeated child.
-template <class Item, class Collection>
-Item& AddPlain(VMemMany<Collection>& many, VPlace const& place) {
-    return many.Make().Append(New<Item>(place));
-}
+VMade<Element> New(VPlace const& place);
 
 /// The same with a short name.
-template <class Item, class Collection>
-Item& AddNamed(VMemMany<Collection>& many, VPlace const& place, wchar_t const* shortName) {
-    auto item = New<Item>(place);
-    item->SetShortName(shortName);
-    return many.Make().Append(std::move(item));
-}
+template <class Element>
+VMade<Element> NewNamed(VPlace const& place, wchar_t const* shortName);
+
+/// Makes a link.
+template <class Link>
+VMade<Link> New(VPlace const& place, VReference const& reference);
 
 /// The same with a text.
-template <class Item, class Collection>
-Item& AddText(VMemMany<Collection>& many, VPlace const& place, wchar_t const* text) {
-    auto item = New<Item>(place);
-    item->SetText(text);
-    return many.Make().Append(std::move(item));
+template <class Element>
+VMade<Element> NewWithText(VPlace const& place, wchar_t const* text) {
+    auto element = New<Element>(place);
+    element->SetText(text);
+    return element;
 }
 
-/// The same for a link with its reference.
-template <class Item, class Collection>
-Item& AddLink(VMemMany<Collection>& many, VPlace const& place, VReference const& reference) {
-    return many.Make().Append(New<Item>(place, reference));
-}
+/// An optional child as a member, which owns it.
+template <class Child>
+class VMemChild {
+public:
+    VMemChild() = default;
+    VMemChild(VMemChild const&) = delete;
+    VMemChild& operator=(VMemChild const&) = delete;
+    ~VMemChild();
+
+    bool Has() const { return m_child != nullptr; }
+    Child& Get() const { return *m_child; }         ///< REQUIRES: `Has`
+    Child& Make(VPlace const& place);               ///< the child, made when it is absent
+    Child& Take(VMade<Child> child); ///< in place of the one before
+    void Remove();                                  ///< destroys it; no effect when there is none
+
+private:
+    Child* m_child = nullptr;
+};
+
+/// An optional link as a member, which owns it.
+template <class Link>
+class VMemLinkChild {
+public:
+    VMemLinkChild() = default;
+    VMemLinkChild(VMemLinkChild const&) = delete;
+    VMemLinkChild& operator=(VMemLinkChild const&) = delete;
+    ~VMemLinkChild();
+
+    bool Has() const { return m_link != nullptr; }
+    Link& Get() const { return *m_link; }                           ///< REQUIRES: `Has`
+    Link& Set(VPlace const& place, VReference const& reference);    ///< the link, made or directed at another target
+    void Remove();                                                  ///< destroys it; no effect when there is none
+
+private:
+    Link* m_link = nullptr;
+};
+
+/// One of several alternatives as a member: the new one takes the place of the one before.
+template <class Interface>
+class VMemChoice {
+public:
+    bool Has() const { return m_choice != nullptr; }
+    Interface& Get() const { return *m_choice; } ///< REQUIRES: `Has`
+
+    template <class Alternative>
+    Alternative& Take(VMade<Alternative> made) {
+        Alternative& alternative = *made;
+        m_element.reset(made.Release());
+        m_choice = &alternative;
+        return alternative;
+    }
+
+    void Remove() {
+        m_choice = nullptr;
+        m_element.reset();
+    }
+
+private:
+    std::unique_ptr<NODX201::VOdxElement> m_element;
+    Interface* m_choice = nullptr;
+};
 
 /// Throws std::invalid_argument for a reference by short name.
 void RequireById(VReference const& reference);

@@ -6,9 +6,38 @@
 #include <type_traits>
 
 #include <diagkit/memory/Node.h>
-#include <diagkit/model/ElementCollection.h>
+#include <diagkit/model/Collections.h>
 
 namespace NMemory {
+
+// The rows of the classes name collections without saying whether they are the contract's.
+#define ODX_COLLECTION_CLASS(name, entry) using NODX201::name;
+#include <diagkit/model/facts/Collections.def>
+using NODX201::VCompuScaleCollection;
+
+/// An element that was made and has no place yet. It owns it, as `std::unique_ptr` would, and is as small as can be
+/// because every program that includes the classes has one for each of them.
+template <class Element>
+class VMade {
+public:
+    explicit VMade(Element* element) : m_element(element) {}
+    VMade(VMade&& other) noexcept : m_element(other.Release()) {}
+    VMade& operator=(VMade&&) = delete;
+    ~VMade() { delete m_element; }
+
+    Element& operator*() const { return *m_element; }
+    Element* operator->() const { return m_element; }
+
+    /// The element, which is the caller's from now on.
+    Element* Release() noexcept {
+        Element* const element = m_element;
+        m_element = nullptr;
+        return element;
+    }
+
+private:
+    Element* m_element;
+};
 
 /// A collection of the contract that owns its elements.
 template <class Collection>
@@ -31,17 +60,20 @@ public:
 
     /// Takes the element in before the position.
     template <class Element>
-    Element& Insert(typename List::iterator before, std::unique_ptr<Element> element) {
-        Entry* const entry = element.get();
+    Element& Insert(typename List::iterator before, VMade<Element> element) {
+        Entry* const entry = &*element;
         SetHome(*element, this->m_elements.insert(before, entry));
-        return *element.release();
+        return *element.Release();
     }
+
+    /// Takes in at the end what the caller owned: an element, known as an entry of this collection and as a node.
+    void TakeIn(Entry* entry, VMemNode& node) { SetHome(node, this->m_elements.insert(this->m_elements.end(), entry)); }
 
     typename List::iterator EndPosition() { return this->m_elements.end(); } ///< where `Insert` adds at the end
 
     /// Takes the element in at the end.
     template <class Element>
-    Element& Append(std::unique_ptr<Element> element) {
+    Element& Append(VMade<Element> element) {
         return Insert(this->m_elements.end(), std::move(element));
     }
 
@@ -125,24 +157,35 @@ private:
 template <class Collection>
 class VMemMany {
 public:
+    VMemMany() = default;
+    VMemMany(VMemMany const&) = delete;
+    VMemMany& operator=(VMemMany const&) = delete;
+    ~VMemMany();
+
     bool IsPresent() const { return m_collection != nullptr; } ///< whether it was ever added to, or made
 
     /// For reading: empty when it is absent.
-    Collection& Get() const {
-        static VMemCollection<Collection> empty;
-        return m_collection != nullptr ? *m_collection : empty;
-    }
+    Collection& Get() const { return m_collection != nullptr ? *m_collection : Empty(); }
 
     /// The collection for adding to; from now on it is present.
-    VMemCollection<Collection>& Make() {
-        if (m_collection == nullptr) {
-            m_collection = std::make_unique<VMemCollection<Collection>>();
-        }
-        return *m_collection;
+    VMemCollection<Collection>& Make();
+
+    /// A new element at the end.
+    template <class Item>
+    Item& Add(VMade<Item> item) {
+        Item& added = *item;
+        TakeIn(&added, added);
+        item.Release();
+        return added;
     }
 
 private:
-    std::unique_ptr<VMemCollection<Collection>> m_collection;
+    using Entry = std::remove_pointer_t<typename Collection::List::value_type>;
+
+    static Collection& Empty();
+    void TakeIn(Entry* entry, VMemNode& node);
+
+    Collection* m_collection = nullptr; // a VMemCollection
 };
 
 } // namespace NMemory

@@ -3,21 +3,27 @@
 
 namespace NMemory {
 
-NODX201::ICompuScalesProgCodeChoice& VMemCompuInternalToPhys::GetCompuScalesProgCodeChoice() {
-    if (m_compuScales != nullptr) {
-        return m_compuScales->CompuScaleCollection();
+VMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text) {
+    auto limit = NewWithText<VMemLimit>(place, text);
+    limit->SetOdxTag(tag);
+    return limit;
+}
+
+NODX201::ICompuScalesProgCodeChoice& VMemScalesOrProgCode::Get() const {
+    if (m_scales.Has()) {
+        return m_scales.Get().MakeCompuScaleCollection();
     }
-    return *m_progCode;
+    return m_progCode.Get();
 }
 
-VMemCompuScales& VMemCompuInternalToPhys::MakeCompuScales() {
-    m_progCode.reset();
-    return MakeChild(m_compuScales, Inside());
+VMemCompuScales& VMemScalesOrProgCode::MakeScales(VPlace const& place) {
+    m_progCode.Remove();
+    return m_scales.Make(place);
 }
 
-VMemProgCode& VMemCompuInternalToPhys::MakeProgCode() {
-    m_compuScales.reset();
-    return MakeChild(m_progCode, Inside());
+VMemProgCode& VMemScalesOrProgCode::MakeProgCode(VPlace const& place) {
+    m_scales.Remove();
+    return m_progCode.Make(place);
 }
 
 } // namespace NMemory

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include <diagkit/memory/Forward.h>
 #include <diagkit/memory/IdIndex.h>
 #include <diagkit/memory/Node.h>
 #include <diagkit/memory/Part.h>
@@ -15,17 +16,7 @@
 
 namespace NMemory {
 
-class VMemComparamSpec;
-class VMemDiagLayerContainer;
-class VMemFlash;
-class VMemMultipleEcuJobSpec;
-class VMemOdx;
 class VPlaceIndex;
-
-/// The FLASH documents of a database.
-class VFlashCollection : public NODX201::VElementCollection<VMemFlash> {};
-/// The MULTIPLE-ECU-JOB-SPEC documents of a database.
-class VMultipleEcuJobSpecCollection : public NODX201::VElementCollection<VMemMultipleEcuJobSpec> {};
 
 /// An ODX database in memory: owns the root and, through it, every element. This is how programs build a database by
 /// hand, and what the reader fills. With `diagkit/memory/Layers.h`:

@@ -51,6 +51,13 @@ private:
     NODX201::VOdxTagEnum m_tag;
 };
 
+/// The same, born with the tag `Tag`.
+template <class Contract, NODX201::VOdxTagEnum Tag>
+class VMemRetaggable : public VMemTagged<Contract> {
+public:
+    explicit VMemRetaggable(VPlace const& place) : VMemTagged<Contract>(place, Tag) {} ///< empty
+};
+
 /// LONG-NAME
 class VMemText final : public NODX201::VText {
 public:
@@ -125,6 +132,15 @@ private:
 #ifdef __clang__
 #pragma clang diagnostic pop
 #endif
+
+/// What the elements of a tag have besides their names and what the rows of their class say: a base that is written by
+/// hand, over the one that has the names.
+template <NODX201::VOdxTagEnum Tag, class Names>
+struct VByHand {
+    using Type = Names;
+};
+template <NODX201::VOdxTagEnum Tag, class Names>
+using VMemBase = typename VByHand<Tag, Names>::Type;
 
 } // namespace NMemory
 

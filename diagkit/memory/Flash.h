@@ -1,31 +1,34 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/memory/EcuMemConnector.h>
+#include <diagkit/memory/AdminData.h>
+#include <diagkit/model/Flash.h>
 
 /// Flash data.
 
 namespace NMemory {
 
-/// FLASH
-class VMemFlash final : public VWithCompanyDatas<VWithAdminData<VMemIdent<NODX201::VFlash, Tag::Flash>>> {
+/// FLASHDATA: INTERN-FLASHDATA holds its data, EXTERN-FLASHDATA names a file.
+template <class Base>
+class VWithFlashdataKind : public Base {
 public:
-    using VWithCompanyDatas::VWithCompanyDatas;
+    using Base::Base;
 
-    bool HasEcuMemCollection() const override { return m_ecuMem.IsPresent(); }
-    NODX201::VEcuMemCollection& EcuMemCollection() override { return m_ecuMem.Get(); } ///< ECU-MEMS
-    VMemCollection<NODX201::VEcuMemCollection>& MakeEcuMemCollection() { return m_ecuMem.Make(); }
-    VMemEcuMem& AddEcuMem(wchar_t const* shortName) { return AddNamed<VMemEcuMem>(m_ecuMem, Inside(), shortName); }
-
-    VEcuMemConnectorCollection& EcuMemConnectorCollection() { return m_ecuMemConnector.Get(); } ///< ECU-MEM-CONNECTORS
-    VMemCollection<VEcuMemConnectorCollection>& MakeEcuMemConnectorCollection() { return m_ecuMemConnector.Make(); }
-    VMemEcuMemConnector& AddEcuMemConnector(wchar_t const* shortName) {
-        return AddNamed<VMemEcuMemConnector>(m_ecuMemConnector, Inside(), shortName);
-    }
+    /// INTERN-FLASHDATA, EXTERN-FLASHDATA, or plain FLASHDATA where the data does not say.
+    NODX201::VOdxTagEnum GetOdxTag() const override { return m_kind; }
+    void SetKind(NODX201::VOdxTagEnum kind) { m_kind = kind; }
 
 private:
-    VMemMany<NODX201::VEcuMemCollection> m_ecuMem;
-    VMemMany<VEcuMemConnectorCollection> m_ecuMemConnector;
+    NODX201::VOdxTagEnum m_kind = Tag::Flashdata;
 };
+
+template <class Names>
+struct VByHand<Tag::Flashdata, Names> {
+    using Type = VWithFlashdataKind<Names>;
+};
+
+#include <diagkit/memory/Classes.def>
+#include <diagkit/model/facts/Flash.def>
+#include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -6,14 +6,12 @@ namespace NMemory {
 IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRefCollection::List::iterator before,
                                VPlace const& place, VParentRefKind kind, VReference const& reference) {
     switch (kind) {
-    case VParentRefKind::Protocol:
-        return parentRefs.Insert(before, New<VMemProtocolRef>(place, reference));
-    case VParentRefKind::FunctionalGroup:
-        return parentRefs.Insert(before, New<VMemFunctionalGroupRef>(place, reference));
-    case VParentRefKind::BaseVariant:
-        return parentRefs.Insert(before, New<VMemBaseVariantRef>(place, reference));
-    case VParentRefKind::EcuSharedData:
-        return parentRefs.Insert(before, New<VMemEcuSharedDataRef>(place, reference));
+#define ODX_PARENT_REF(name, target, value, type)                                                                      \
+    case VParentRefKind::target:                                                                                       \
+        return parentRefs.Insert(before, New<VMem##name>(place, reference));
+#include <diagkit/model/facts/Vocabulary.def>
+#include <diagkit/model/facts/ParentRefs.def>
+#include <diagkit/model/facts/Clear.def>
     case VParentRefKind::Unknown:
         break;
     }
@@ -73,35 +71,17 @@ void VMemDiagLayerCollection::Forget(VListPosition const& position) {
 }
 
 template <class Layer>
-Layer& VMemDiagLayerCollection::Add(std::unique_ptr<Layer> layer) {
-    layer->m_place = VListPosition(m_elements.insert(m_elements.end(), layer.get()));
+Layer& VMemDiagLayerCollection::Add(VPart& part, wchar_t const* shortName) {
+    auto layer = NewNamed<Layer>(VPlace{this, &part}, shortName);
+    layer->m_place = VListPosition(m_elements.insert(m_elements.end(), &*layer));
     layer->m_home = this;
-    return *layer.release();
+    return *layer.Release();
 }
 
-template <class Layer>
-Layer& VMemDiagLayerContainer::Add(wchar_t const* shortName) {
-    auto layer = New<Layer>(VPlace{&m_diagLayer, &Part()});
-    layer->SetShortName(shortName);
-    return m_diagLayer.Add(std::move(layer));
-}
-
-VMemProtocol& VMemDiagLayerContainer::AddProtocol(wchar_t const* shortName) { return Add<VMemProtocol>(shortName); }
-
-VMemFunctionalGroup& VMemDiagLayerContainer::AddFunctionalGroup(wchar_t const* shortName) {
-    return Add<VMemFunctionalGroup>(shortName);
-}
-
-VMemBaseVariant& VMemDiagLayerContainer::AddBaseVariant(wchar_t const* shortName) {
-    return Add<VMemBaseVariant>(shortName);
-}
-
-VMemEcuVariant& VMemDiagLayerContainer::AddEcuVariant(wchar_t const* shortName) {
-    return Add<VMemEcuVariant>(shortName);
-}
-
-VMemEcuSharedData& VMemDiagLayerContainer::AddEcuSharedData(wchar_t const* shortName) {
-    return Add<VMemEcuSharedData>(shortName);
-}
+template VMemProtocol& VMemDiagLayerCollection::Add(VPart& part, wchar_t const* shortName);
+template VMemFunctionalGroup& VMemDiagLayerCollection::Add(VPart& part, wchar_t const* shortName);
+template VMemBaseVariant& VMemDiagLayerCollection::Add(VPart& part, wchar_t const* shortName);
+template VMemEcuVariant& VMemDiagLayerCollection::Add(VPart& part, wchar_t const* shortName);
+template VMemEcuSharedData& VMemDiagLayerCollection::Add(VPart& part, wchar_t const* shortName);
 
 } // namespace NMemory

@@ -99,7 +99,8 @@ VReference StoredIn(VPart& part, VReference const& reference) {
             part.Store(reference.m_revision), nullptr};
 }
 
-bool IsDiagCommOfLayer(NODX201::VReferencable& element) {
+template <>
+bool IsOfClass<NODX201::VDiagComm>(NODX201::VReferencable& element) {
     return dynamic_cast<NODX201::VDiagComm*>(&element) != nullptr &&
            dynamic_cast<NODX201::VMultipleEcuJob*>(&element) == nullptr;
 }

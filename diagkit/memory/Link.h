@@ -91,8 +91,9 @@ bool IsOfClass(NODX201::VReferencable& element) {
     return dynamic_cast<Target*>(&element) != nullptr;
 }
 
-/// A DIAG-COMM that stands in a layer: a service or a single-ECU job.
-bool IsDiagCommOfLayer(NODX201::VReferencable& element);
+/// A reference to a DIAG-COMM leads to one that stands in a layer: a service or a single-ECU job.
+template <>
+bool IsOfClass<NODX201::VDiagComm>(NODX201::VReferencable& element);
 
 /// The target of a reference by ID that stands at `from`, or null. The order of places searched: the document that
 /// DOCREF and DOCTYPE name, then whatever bears the name of DOCREF; without DOCREF the own layer, the own document, the
@@ -151,7 +152,11 @@ public:
     bool ResolvesById() const { return Snref() == nullptr && FindById(); }
 
     /// See the function of this name.
-    VDoubt FindDoubt() const { return FindDoubtOf(&IsOfClass<Target>); }
+    VDoubt FindDoubt() const {
+        auto const* const link = std::get_if<VMemOdxLink>(&m_form);
+        return link != nullptr ? NMemory::FindDoubt(this->GetDatabase(), *link, &IsOfClass<Target>)
+                               : VDoubt{nullptr, nullptr};
+    }
 
 protected:
     /// The short name, or null for a reference by ID.
@@ -161,20 +166,15 @@ protected:
     }
 
     /// Looks for the target of a reference by ID. The answer cannot change until the database does.
-    bool FindById(VExpect expect = &IsOfClass<Target>) const {
+    bool FindById() const {
         VDatabase& database = this->GetDatabase();
         auto const* const link = m_isSevered ? nullptr : std::get_if<VMemOdxLink>(&m_form);
         if (m_generation != database.GetGeneration()) {
             auto& self = const_cast<VMemLink&>(*this);
-            m_target = link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, expect)) : nullptr;
+            m_target = link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, &IsOfClass<Target>)) : nullptr;
             m_generation = database.GetGeneration();
         }
         return m_target != nullptr;
-    }
-
-    VDoubt FindDoubtOf(VExpect expect) const {
-        auto const* const link = std::get_if<VMemOdxLink>(&m_form);
-        return link != nullptr ? NMemory::FindDoubt(this->GetDatabase(), *link, expect) : VDoubt{nullptr, nullptr};
     }
 
     /// Remembers a target found by other means, for the `GetX()` that follows.

@@ -3,18 +3,90 @@
 
 #include <diagkit/memory/Children.h>
 
-/// The body of `New`, for the sources that instantiate it.
+/// The bodies of Children.h and Collection.h, for the sources that instantiate them.
 
 namespace NMemory {
 
 template <class Element>
-std::unique_ptr<Element> New(VPlace const& place) {
-    return std::make_unique<Element>(place);
+VMade<Element> New(VPlace const& place) {
+    return VMade<Element>(new Element(place));
+}
+
+template <class Element>
+VMade<Element> NewNamed(VPlace const& place, wchar_t const* shortName) {
+    auto element = New<Element>(place);
+    element->SetShortName(shortName);
+    return element;
 }
 
 template <class Link>
-std::unique_ptr<Link> New(VPlace const& place, VReference const& reference) {
-    return std::make_unique<Link>(place, reference);
+VMade<Link> New(VPlace const& place, VReference const& reference) {
+    return VMade<Link>(new Link(place, reference));
+}
+
+template <class Child>
+VMemChild<Child>::~VMemChild() {
+    delete m_child;
+}
+
+template <class Child>
+Child& VMemChild<Child>::Make(VPlace const& place) {
+    return Has() ? Get() : Take(New<Child>(place));
+}
+
+template <class Child>
+Child& VMemChild<Child>::Take(VMade<Child> child) {
+    delete std::exchange(m_child, child.Release());
+    return *m_child;
+}
+
+template <class Child>
+void VMemChild<Child>::Remove() {
+    delete std::exchange(m_child, nullptr);
+}
+
+template <class Link>
+VMemLinkChild<Link>::~VMemLinkChild() {
+    delete m_link;
+}
+
+template <class Link>
+Link& VMemLinkChild<Link>::Set(VPlace const& place, VReference const& reference) {
+    if (Has()) {
+        m_link->SetReference(reference);
+    } else {
+        m_link = New<Link>(place, reference).Release();
+    }
+    return *m_link;
+}
+
+template <class Link>
+void VMemLinkChild<Link>::Remove() {
+    delete std::exchange(m_link, nullptr);
+}
+
+template <class Collection>
+VMemMany<Collection>::~VMemMany() {
+    delete static_cast<VMemCollection<Collection>*>(m_collection);
+}
+
+template <class Collection>
+Collection& VMemMany<Collection>::Empty() {
+    static VMemCollection<Collection> empty;
+    return empty;
+}
+
+template <class Collection>
+VMemCollection<Collection>& VMemMany<Collection>::Make() {
+    if (m_collection == nullptr) {
+        m_collection = new VMemCollection<Collection>;
+    }
+    return static_cast<VMemCollection<Collection>&>(*m_collection);
+}
+
+template <class Collection>
+void VMemMany<Collection>::TakeIn(Entry* entry, VMemNode& node) {
+    Make().TakeIn(entry, node);
 }
 
 } // namespace NMemory

@@ -6,7 +6,6 @@
 #include <diagkit/memory/Comparams.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
 #include <diagkit/memory/ProcessingInstructions.h>
 #include <diagkit/model/Odx.h>
 
@@ -28,26 +27,26 @@ public:
     VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection() { return m_multipleEcuJobSpec.Get(); }
 
     VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName) {
-        return AddNamed<VMemDiagLayerContainer>(m_diagLayerContainer, Inside(), shortName);
+        return m_diagLayerContainer.Add(NewNamed<VMemDiagLayerContainer>(Inside(), shortName));
     }
     VMemComparamSpec& AddComparamSpec(wchar_t const* shortName) {
-        return AddNamed<VMemComparamSpec>(m_comparamSpec, Inside(), shortName);
+        return m_comparamSpec.Add(NewNamed<VMemComparamSpec>(Inside(), shortName));
     }
-    VMemFlash& AddFlash(wchar_t const* shortName) { return AddNamed<VMemFlash>(m_flash, Inside(), shortName); }
+    VMemFlash& AddFlash(wchar_t const* shortName) { return m_flash.Add(NewNamed<VMemFlash>(Inside(), shortName)); }
     VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName) {
-        return AddNamed<VMemMultipleEcuJobSpec>(m_multipleEcuJobSpec, Inside(), shortName);
+        return m_multipleEcuJobSpec.Add(NewNamed<VMemMultipleEcuJobSpec>(Inside(), shortName));
     }
     /// A category document, made in a part that is detached, joins the others of its kind as the last.
     template <class Category>
     std::unique_ptr<Category> MakeDetached(VPart& part) {
-        return New<Category>(VPlace{this, &part});
+        return std::unique_ptr<Category>(New<Category>(VPlace{this, &part}).Release());
     }
     /// A category document that was made here takes its place. Throws std::invalid_argument for any other.
     // clang-format off
-    void Adopt(std::unique_ptr<VMemDiagLayerContainer> made) { RequireMadeHere(made.get()); m_diagLayerContainer.Make().Append(std::move(made)); }
-    void Adopt(std::unique_ptr<VMemComparamSpec> made)       { RequireMadeHere(made.get()); m_comparamSpec.Make().Append(std::move(made)); }
-    void Adopt(std::unique_ptr<VMemFlash> made)              { RequireMadeHere(made.get()); m_flash.Make().Append(std::move(made)); }
-    void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { RequireMadeHere(made.get()); m_multipleEcuJobSpec.Make().Append(std::move(made)); }
+    void Adopt(std::unique_ptr<VMemDiagLayerContainer> made) { m_diagLayerContainer.Add(MadeHere(made)); }
+    void Adopt(std::unique_ptr<VMemComparamSpec> made)       { m_comparamSpec.Add(MadeHere(made)); }
+    void Adopt(std::unique_ptr<VMemFlash> made)              { m_flash.Add(MadeHere(made)); }
+    void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { m_multipleEcuJobSpec.Add(MadeHere(made)); }
     // clang-format on
 
     /// At the end of those of the root.
@@ -56,10 +55,12 @@ public:
     }
 
 private:
-    void RequireMadeHere(NODX201::VOdxObject const* made) const {
+    template <class Category>
+    VMade<Category> MadeHere(std::unique_ptr<Category>& made) const {
         if (made == nullptr || made->GetOwner() != this) {
             throw std::invalid_argument("a root adopts category documents that it has made");
         }
+        return VMade<Category>(made.release());
     }
 
     VMemMany<NODX201::VDiagLayerContainerCollection> m_diagLayerContainer;

@@ -5,14 +5,12 @@ namespace NMemory {
 
 VParentRefKind ParentRefKindOf(NODX201::VDiagLayer& layer) {
     switch (layer.GetOdxTag()) {
-    case Tag::Protocol:
-        return VParentRefKind::Protocol;
-    case Tag::FunctionalGroup:
-        return VParentRefKind::FunctionalGroup;
-    case Tag::BaseVariant:
-        return VParentRefKind::BaseVariant;
-    case Tag::EcuSharedData:
-        return VParentRefKind::EcuSharedData;
+#define ODX_PARENT_REF(name, target, value, type)                                                                      \
+    case Tag::target:                                                                                                  \
+        return VParentRefKind::target;
+#include <diagkit/model/facts/Vocabulary.def>
+#include <diagkit/model/facts/ParentRefs.def>
+#include <diagkit/model/facts/Clear.def>
     default:
         return VParentRefKind::Unknown;
     }

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include <diagkit/memory/Importing.h>
+#include <diagkit/memory/References.h>
 
 namespace NMemory {
 namespace {

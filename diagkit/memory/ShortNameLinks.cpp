@@ -8,11 +8,8 @@
 #include <utility>
 
 #include <diagkit/memory/Database.h>
-#include <diagkit/memory/DiagCommLinks.h>
-#include <diagkit/memory/DopLinks.h>
-#include <diagkit/memory/Flash.h>
-#include <diagkit/memory/Importing.h>
-#include <diagkit/model/Layers.h>
+#include <diagkit/memory/References.h>
+#include <diagkit/model/Flash.h>
 
 namespace NMemory {
 namespace {
@@ -28,7 +25,7 @@ bool IsEntryOfALayer(NODX201::VOdxElement const& link) {
 bool VMemDiagCommLink::HasDiagComm(NODX201::VDiagLayer& layer) {
     wchar_t const* const shortName = Snref();
     if (shortName == nullptr) {
-        return FindById(&IsDiagCommOfLayer);
+        return FindById();
     }
     NODX201::VAbstractSnrefResolver* const resolver = IsEntryOfALayer(*this) ? nullptr : GetDatabase().GetResolver();
     return Remember(resolver != nullptr ? resolver->ResolveDiagCommSnref(shortName, layer) : nullptr);

@@ -8,8 +8,8 @@
 #include <diagkit/model/Forward.h>
 #include <diagkit/model/OdxElement.h>
 
-/// The collections of the contract, a row each: all are ordered in document order and behave as `VElementCollection`
-/// says. Three need a line more.
+/// The collections of the contract: all are ordered in document order and behave as `VElementCollection` says. Those that
+/// are no more than that are the rows of `facts/Collections.def`.
 
 namespace NODX201 {
 
@@ -44,61 +44,11 @@ protected:
     ~VCompuScaleCollection() = default;
 };
 
-// clang-format off
-class VAccessLevelCollection             : public VElementCollection<VAccessLevel> {};
-class VCaseCollection                    : public VElementCollection<VCase> {};
-class VCommRelationCollection            : public VElementCollection<VCommRelation> {};
-class VCompanyDataCollection             : public VElementCollection<VCompanyData> {};
-class VCompanyDocInfoCollection          : public VElementCollection<VCompanyDocInfo> {};
-class VCompanyRevisionInfoCollection     : public VElementCollection<VCompanyRevisionInfo> {};
-class VComparamCollection                : public VElementCollection<VComparam> {};
-class VComparamRefCollection             : public VElementCollection<VComparamRef> {};
-class VComparamSpecCollection            : public VElementCollection<VComparamSpec> {};
-class VDiagCommProxyCollection           : public VElementCollection<IDiagCommProxy> {};
-class VDiagLayerContainerCollection      : public VElementCollection<VDiagLayerContainer> {};
-class VDiagVariableProxyCollection       : public VElementCollection<IDiagVariableProxy> {};
-class VDocRevisionCollection             : public VElementCollection<VDocRevision> {};
-class VDopBaseCollection                 : public VElementCollection<VDopBase> {};
-class VDtcProxyCollection                : public VElementCollection<IDtcProxy> {};
-class VDynIdDefModeInfoCollection        : public VElementCollection<VDynIdDefModeInfo> {};
-class VEcuMemCollection                  : public VElementCollection<VEcuMem> {};
-class VEcuVariantPatternCollection       : public VElementCollection<VEcuVariantPattern> {};
-class VEnvDataProxyCollection            : public VElementCollection<IEnvDataProxy> {};
-class VExpectedIdentCollection           : public VElementCollection<VExpectedIdent> {};
-class VFunctClassCollection              : public VElementCollection<VFunctClass> {};
-class VFunctClassLinkCollection          : public VElementCollection<VFunctClassLink> {};
-class VInputParamCollection              : public VElementCollection<VInputParam> {};
-class VMatchingParameterCollection       : public VElementCollection<VMatchingParameter> {};
-class VModificationCollection            : public VElementCollection<VModification> {};
-class VNegOutputParamCollection          : public VElementCollection<VNegOutputParam> {};
-class VNegResponseLinkCollection         : public VElementCollection<VNegResponseLink> {};
-class VNotInheritedDiagCommCollection    : public VElementCollection<VNotInheritedDiagComm> {};
-class VNotInheritedVariableCollection    : public VElementCollection<VNotInheritedVariable> {};
-class VOutputParamCollection             : public VElementCollection<VOutputParam> {};
-class VParamCollection                   : public VElementCollection<VParam> {};
-class VParentRefCollection               : public VElementCollection<VParentRef> {};
-class VPhysicalDimensionCollection       : public VElementCollection<VPhysicalDimension> {};
-class VPosResponseLinkCollection         : public VElementCollection<VPosResponseLink> {};
-class VProcessingInstructionCollection   : public VElementCollection<VProcessingInstruction> {};
-class VProgCodeCollection                : public VElementCollection<VProgCode> {};
-class VRelatedDiagCommRefCollection      : public VElementCollection<VRelatedDiagCommRef> {};
-class VRelatedDocCollection              : public VElementCollection<VRelatedDoc> {};
-class VRequestCollection                 : public VElementCollection<VRequest> {};
-class VResponseCollection                : public VElementCollection<VResponse> {};
-class VRowWrapperCollection              : public VElementCollection<IRowWrapper> {};
-class VScaleConstrCollection             : public VElementCollection<VScaleConstr> {};
-class VSdgCollection                     : public VElementCollection<VSdg> {};
-class VSdgSdChoiceCollection             : public VElementCollection<ISdgSdChoice> {};
-class VSessionCollection                 : public VElementCollection<VSession> {};
-class VSupportedDynIdCollection          : public VElementCollection<VByteStream> {};
-class VSwVariableCollection              : public VElementCollection<VSwVariable> {};
-class VTableCollection                   : public VElementCollection<VTable> {};
-class VTableLinkCollection               : public VElementCollection<VTableLink> {};
-class VTeamMemberCollection              : public VElementCollection<VTeamMember> {};
-class VUnitCollection                    : public VElementCollection<VUnit> {};
-class VUnitGroupCollection               : public VElementCollection<VUnitGroup> {};
-class VUnitLinkCollection                : public VElementCollection<VUnitLink> {};
-class VVariableGroupCollection           : public VElementCollection<VVariableGroup> {};
-// clang-format on
+/// The processing instructions of an element.
+class VProcessingInstructionCollection : public VElementCollection<VProcessingInstruction> {};
+
+#define ODX_COLLECTION_CLASS(name, entry)                                                                              \
+    class name : public VElementCollection<entry> {};
+#include <diagkit/model/facts/Collections.def>
 
 } // namespace NODX201

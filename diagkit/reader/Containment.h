@@ -5,7 +5,7 @@
 
 #include <diagkit/memory/Database.h>
 #include <diagkit/reader/CycleSearch.h>
-#include <diagkit/reader/Types.h>
+#include <diagkit/memory/Odx.h>
 #include <diagkit/tools/Containment.h>
 
 /// What contains what in data dictionaries, as ways from DOPs, TABLEs and TABLE-ROWs into others.

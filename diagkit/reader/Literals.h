@@ -4,10 +4,9 @@
 #include <cwchar>
 #include <vector>
 
-#include <diagkit/reader/ElementTable.h>
 #include <diagkit/tools/EnumMapper.h>
 
-/// Rows whose text is a literal of an enumeration. The literals are those of the mapper, so that there is one list.
+/// The literals of an enumeration, which are those of the mapper, so that there is one list.
 
 namespace NReader {
 
@@ -31,16 +30,6 @@ template <auto TextOf>
 wchar_t const* const* LiteralsOf() {
     static std::vector<wchar_t const*> const literals = AllLiterals(TextOf);
     return literals.data();
-}
-
-template <class T, auto Set, auto TextOf>
-VAttributeRow LiteralAttribute(char const* name, VOccurs occurs = Optional) {
-    return VRows<T>::template Attribute<Set>(name, occurs, VContent::Name, LiteralsOf<TextOf>());
-}
-
-template <class T, auto Set, auto TextOf>
-VRow LiteralText(char const* name, VOccurs occurs = Optional) {
-    return VRows<T>::template Text<Set>(name, occurs, VContent::Name, LiteralsOf<TextOf>());
 }
 
 } // namespace NReader

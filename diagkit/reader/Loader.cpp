@@ -6,9 +6,9 @@
 #include <utility>
 
 #include <diagkit/reader/Literals.h>
-#include <diagkit/reader/RowParts.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/reader/Values.h>
+#include <diagkit/reader/XsiType.h>
 
 namespace NReader {
 namespace {
@@ -258,7 +258,7 @@ void VLoader::ReadAttributes(VFrame const& frame, VAttributes const& attributes)
             Report(VSeverity::Error, "missing-attribute", Quoted(frame.name) + " has an empty ID");
         }
         CheckValue(row.content, row.literals, frame, row.name);
-        row.set(frame.object, m_value);
+        row.set(frame.object, m_value, m_textId);
     }
 }
 

@@ -36,15 +36,11 @@ bool IsDouble(std::wstring_view text) {
     return !isEmpty && (whole.empty() || AreDigits(whole)) && (rest.empty() || AreDigits(rest));
 }
 
-bool IsBool(std::wstring_view text) {
-    if (text == L"1" || text == L"0") {
-        return true;
-    }
-    std::wstring folded(text);
-    for (wchar_t& character : folded) {
-        character = character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character - L'A' + L'a') : character;
-    }
-    return folded == L"true" || folded == L"false";
+/// `lower` is in lower case.
+bool EqualsFolded(std::wstring_view text, std::wstring_view lower) {
+    return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), [](wchar_t a, wchar_t b) {
+        return (a >= L'A' && a <= L'Z' ? a - L'A' + L'a' : a) == b;
+    });
 }
 
 /// xs:dateTime: 2005-06-01T12:00:00, with fractions of a second and a zone where they are given.
@@ -107,7 +103,7 @@ bool IsValue(VContent content, std::wstring_view text) {
     case VContent::Double:
         return IsDouble(text);
     case VContent::Bool:
-        return IsBool(text);
+        return IsTrue(text) || IsFalse(text);
     case VContent::Hex:
         return text.size() % 2 == 0 && std::all_of(text.begin(), text.end(), IsHexDigit);
     case VContent::Date:
@@ -136,6 +132,9 @@ char const* ValueText(VContent content) {
     }
     return "";
 }
+
+bool IsTrue(std::wstring_view text) { return text == L"1" || EqualsFolded(text, L"true"); }
+bool IsFalse(std::wstring_view text) { return text == L"0" || EqualsFolded(text, L"false"); }
 
 bool IsLiteral(wchar_t const* const* literals, std::wstring_view text) {
     for (; *literals != nullptr; ++literals) {

@@ -14,6 +14,9 @@ void Trim(std::wstring& text); ///< blanks, tabs and line ends at both ends
 bool IsValue(VContent content, std::wstring_view text);
 char const* ValueText(VContent content); ///< "unsigned integer", for messages
 
+bool IsTrue(std::wstring_view text);  ///< 1, or true in any case
+bool IsFalse(std::wstring_view text); ///< 0, or false in any case
+
 bool IsLiteral(wchar_t const* const* literals, std::wstring_view text);
 std::string LiteralsText(wchar_t const* const* literals); ///< "HEX, DEC, BIN, OCT"
 

@@ -2,7 +2,7 @@
 #include "ConformanceTest.h"
 
 #include <diagkit/memory/Flash.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NTest {

@@ -18,7 +18,7 @@ from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, run_program, ver
 INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
 
 # In folders that are not listed below all headers are public but those that the README there calls internal.
-FOLDERS = {"", "model", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check"}
+FOLDERS = {"", "model", "model/facts", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check"}
 PUBLIC = {
     "": {"Export.h", "Version.h"},
     "logging": {"SharedLogger.h"},

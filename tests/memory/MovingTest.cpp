@@ -5,7 +5,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Odx.h>
 
 #include "support/GraphTest.h"

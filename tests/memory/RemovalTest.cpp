@@ -6,7 +6,7 @@
 #include <vector>
 
 #include <diagkit/memory/Flash.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 
 #include "support/FakeResolver.h"

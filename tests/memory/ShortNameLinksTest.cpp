@@ -10,7 +10,7 @@
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/model/SearchRange.h>
 
 #include "support/FakeResolver.h"

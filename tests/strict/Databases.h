@@ -6,7 +6,7 @@
 #include <vector>
 
 #include <diagkit/memory/Flash.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/reader/OdxReader.h>
 

@@ -93,9 +93,8 @@ class VStrictParts;
     ;
 #define HAS(name)                                                                                                      \
     bool Has##name() const override { return this->Answer(#name, this->m_inner.Has##name()); }
-#define NAME(name)                                                                                                     \
+#define TEXT(name)                                                                                                     \
     wchar_t const* Get##name() const override { return this->m_inner.Get##name(); }
-#define TEXT(name) NAME(name)
 #define OPTIONAL_TEXT(name)                                                                                            \
     HAS(name)                                                                                                          \
     wchar_t const* Get##name() const override {                                                                        \
@@ -112,7 +111,6 @@ class VStrictParts;
         this->Require(#name, std::string(kClass) + "Get" #name);                                                       \
         return this->m_model.Of(this->m_inner.Get##name());                                                            \
     }
-#define SCALES_OR_CHILD() CHILD(CompuScalesProgCodeChoice)
 #define LIST(name)                                                                                                     \
     decltype(std::declval<VPart&>().name()) name() override { return this->m_model.Of(this->m_inner.name()); }
 #define OPTIONAL_LIST(name)                                                                                            \
@@ -125,7 +123,7 @@ class VStrictParts;
     }
 #define LINK()                                                                                                         \
     NODX201::ILink& GetLink() override { return this->m_inner.GetLink(); }
-#include <diagkit/conformance/Parts.def>
+#include <contract/Parts.def>
 #undef HAS
 
 /// Where a class of links leads.
@@ -145,7 +143,7 @@ class VStrictLink;
     };
 #define LINK(link, target) STRICT_LINK(link, target, () const, ())
 #define LINK_IN_LAYER(link, target) STRICT_LINK(link, target, (NODX201::VDiagLayer & layer), (InnerOf(layer)))
-#include <diagkit/conformance/Links.def>
+#include <contract/Links.def>
 STRICT_LINK(VOutParamIfLink, OutParamIf,
             (NODX201::VDiagComm & diagComm, NODX201::VDiagLayer& layer, NODX201::VSearchRange range),
             (InnerOf(diagComm), InnerOf(layer), range))
@@ -226,25 +224,23 @@ struct VStrict {
 
 #define PARTS(name) , NODX201::name
 #define END
-#define NAME(name)
 #define TEXT(name)
 #define OPTIONAL_TEXT(name)
 #define PART(name)
 #define CHILD(name)
-#define SCALES_OR_CHILD()
 #define LIST(name)
 #define OPTIONAL_LIST(name)
 #define LINK()
     using VWithParts = typename VLayered<Class, VStrictElement<Class>, VStrictParts,
                                          VClasses<VNone
-#include <diagkit/conformance/Parts.def>
+#include <contract/Parts.def>
                                                   >>::Type;
 
 #define LINK(link, target) , NODX201::link
 #define LINK_IN_LAYER(link, target) , NODX201::link
     using VWithLinks = typename VLayered<Class, VWithParts, VStrictLink,
                                          VClasses<NODX201::VOutParamIfLink
-#include <diagkit/conformance/Links.def>
+#include <contract/Links.def>
                                                   >>::Type;
 
     using Type =

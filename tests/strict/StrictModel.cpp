@@ -2,7 +2,7 @@
 #include "strict/StrictModel.h"
 
 #include <diagkit/memory/Flash.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/memory/ProcessingInstructions.h>
 
@@ -65,19 +65,17 @@ VOperations AllGuardedGetters() {
     std::string name;
 #define PARTS(class_name) name = #class_name "::";
 #define END
-#define NAME(part)
 #define TEXT(part)
 #define OPTIONAL_TEXT(part) all.insert(name + "Get" #part);
 #define PART(part)
 #define CHILD(part) all.insert(name + "Get" #part);
-#define SCALES_OR_CHILD() CHILD(CompuScalesProgCodeChoice)
 #define LIST(part)
 #define OPTIONAL_LIST(part) all.insert(name + #part);
 #define LINK()
-#include <diagkit/conformance/Parts.def>
+#include <contract/Parts.def>
 #define LINK(link, target) all.insert(#link "::Get" #target);
 #define LINK_IN_LAYER(link, target) LINK(link, target)
-#include <diagkit/conformance/Links.def>
+#include <contract/Links.def>
     all.insert("VOutParamIfLink::GetOutParamIf");
     return all;
 }

@@ -53,20 +53,18 @@ void VTry::Element(VStrictModel& model, NODX201::VOdxElement& element, NODX201::
     if (auto* const x = dynamic_cast<NODX201::class_name*>(&strict); x != nullptr) {                                   \
         name = #class_name "::";
 #define END }
-#define NAME(part)
 #define TEXT(part)
 #define PART(part)
 #define CHILD(part)                                                                                                    \
     Guarded(                                                                                                           \
         name + "Get" #part, [&] { return x->Has##part(); }, [&] { x->Get##part(); });
 #define OPTIONAL_TEXT(part) CHILD(part)
-#define SCALES_OR_CHILD() CHILD(CompuScalesProgCodeChoice)
 #define LIST(part)
 #define OPTIONAL_LIST(part)                                                                                            \
     Guarded(                                                                                                           \
         name + #part, [&] { return x->Has##part(); }, [&] { x->part(); });
 #define LINK()
-#include <diagkit/conformance/Parts.def>
+#include <contract/Parts.def>
 #define TRY_LINK(link, target, arguments)                                                                              \
     if (auto* const x = dynamic_cast<NODX201::link*>(&strict); x != nullptr) {                                         \
         Guarded(                                                                                                       \
@@ -74,7 +72,7 @@ void VTry::Element(VStrictModel& model, NODX201::VOdxElement& element, NODX201::
     }
 #define LINK(link, target) TRY_LINK(link, target, ())
 #define LINK_IN_LAYER(link, target) TRY_LINK(link, target, (model.Of(layer)))
-#include <diagkit/conformance/Links.def>
+#include <contract/Links.def>
     TRY_LINK(VOutParamIfLink, OutParamIf, (model.Of(diagComm), model.Of(layer), NODX201::VSearchRange::Responses))
 }
 

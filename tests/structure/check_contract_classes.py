@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Check that tests/memory/ContractClasses.def has a row for every class that the contract declares, and no other."""
+"""Check that the facts about ODX, with what tests/memory/ContractClasses.def adds, have a row for every class that the
+contract declares, and for no other."""
 
 import pathlib
 import re
@@ -8,7 +9,12 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 DECLARED = re.compile(r"^class DIAGKIT_EXPORT (\w+)", re.MULTILINE)
-LISTED = re.compile(r"^(?:CONCRETE|BASE)\((\w+)", re.MULTILINE)
+ROW = re.compile(
+    r"^ODX_(?:BASE|ELEMENT|CLASS|LINK|LINK_WITH|LINK_IN_LAYER|LINK_IN_DIAG_COMM|PARENT_REF|UNTYPED_PARENT_REF|EXCLUSION)"
+    r"\((\w+)",
+    re.MULTILINE,
+)
+ADDED = re.compile(r"^(?:CONCRETE|BASE)\((\w+)", re.MULTILINE)
 NOT_LISTED = re.compile(r"Visitor$|Resolver$")
 
 
@@ -17,7 +23,9 @@ def main():
     for header in (ROOT / "diagkit/model").glob("*.h"):
         declared.update(DECLARED.findall(header.read_text(encoding="utf-8")))
     declared = {name for name in declared if not NOT_LISTED.search(name)}
-    listed = set(LISTED.findall((ROOT / "tests/memory/ContractClasses.def").read_text(encoding="utf-8")))
+    listed = set(ADDED.findall((ROOT / "tests/memory/ContractClasses.def").read_text(encoding="utf-8")))
+    for facts in (ROOT / "diagkit/model/facts").glob("*.def"):
+        listed.update("V" + name for name in ROW.findall(facts.read_text(encoding="utf-8")))
     for name in sorted(declared - listed):
         print(f"no row for {name}")
     for name in sorted(listed - declared):

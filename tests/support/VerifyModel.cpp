@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Dops.h>
 #include <diagkit/model/Layers.h>

@@ -8,7 +8,7 @@
 #include <diagkit/memory/Database.h>
 #include <diagkit/memory/Dops.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/MultipleEcuJobs.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Tables.h>
 
 #include "support/GraphTest.h"

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <diagkit/memory/Compu.h>
-#include <diagkit/memory/Sdgs.h>
+#include <diagkit/memory/AdminData.h>
 
 namespace NTest {
 namespace {
