@@ -14,7 +14,7 @@ namespace {
 
 using NODX201::VOdxTagEnum;
 
-struct VRow {
+struct VTagRow {
     VOdxTagEnum tag;
     int value;
     std::wstring element;
@@ -24,7 +24,7 @@ struct VRow {
 #define DIAGKIT_TEST_WIDE_(text) L##text
 #define DIAGKIT_TEST_WIDE(text) DIAGKIT_TEST_WIDE_(text)
 
-VRow const kRows[] = {
+VTagRow const kRows[] = {
 #define ODX_TAG(name, value, element, type)                                                                            \
     {VOdxTagEnum::name, value, DIAGKIT_TEST_WIDE(element), DIAGKIT_TEST_WIDE(type)},
 #include <diagkit/model/OdxTags.def>
@@ -38,7 +38,7 @@ TEST(OdxTagTest, TheFixedValues) {
 TEST(OdxTagTest, EveryKindHasAValueAndATextOfItsOwn) {
     std::set<int> values{static_cast<int>(VOdxTagEnum::None)};
     std::set<std::pair<std::wstring, std::wstring>> texts;
-    for (VRow const& row : kRows) {
+    for (VTagRow const& row : kRows) {
         EXPECT_TRUE(values.insert(row.value).second) << row.element << " has the value of another kind";
         EXPECT_TRUE(texts.emplace(row.element, row.type).second) << row.element << " " << row.type << " comes twice";
         EXPECT_FALSE(row.element.empty()) << row.value;
@@ -46,7 +46,7 @@ TEST(OdxTagTest, EveryKindHasAValueAndATextOfItsOwn) {
 }
 
 TEST(OdxTagTest, TextsAreThoseOfTheList) {
-    for (VRow const& row : kRows) {
+    for (VTagRow const& row : kRows) {
         EXPECT_EQ(NODX201::OdxTagText(row.tag), row.element);
         EXPECT_EQ(NODX201::OdxTypeText(row.tag), row.type);
     }

@@ -23,7 +23,7 @@ static_assert(!std::is_default_constructible_v<VDiagCommView>);
 static_assert(std::is_same_v<decltype(std::declval<VDiagCommView const&>().Count()), unsigned long long>);
 
 /// A view that lets the protected operations be called.
-class VOpenView : public VDiagCommView {
+class VOpenDiagCommView : public VDiagCommView {
 public:
     using VDiagCommView::_Find;
     using VDiagCommView::_Insert;
@@ -36,14 +36,14 @@ class DiagCommViewContainerTest : public VGraphTest {
 protected:
     void SetUp() override {
         Graph(L"prot Uds : Read Stop \n ecu Ecu : Start Reset! Start Ident");
-        m_view = std::make_unique<VOpenView>(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
+        m_view = std::make_unique<VOpenDiagCommView>(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
     }
 
     static VAssertionList Raised(std::wstring const& expression, int line) {
         return {{expression, L"DiagCommView", line}};
     }
 
-    std::unique_ptr<VOpenView> m_view;
+    std::unique_ptr<VOpenDiagCommView> m_view;
 };
 
 TEST_F(DiagCommViewContainerTest, CountIsTheNumberOfEntries) {

@@ -20,7 +20,7 @@ static_assert(std::is_polymorphic_v<VDiagVariableView> && std::has_virtual_destr
 static_assert(!std::is_default_constructible_v<VDiagVariableView>);
 static_assert(std::is_same_v<decltype(*std::declval<VDiagVariableView&>().Begin()), NODX201::VDiagVariable&>);
 
-class VOpenView : public VDiagVariableView {
+class VOpenDiagVariableView : public VDiagVariableView {
 public:
     using VDiagVariableView::_Find;
     using VDiagVariableView::_Insert;
@@ -154,10 +154,10 @@ class DiagVariableViewContainerTest : public DiagVariableViewTest {
 protected:
     void SetUp() override {
         Graph(L"esd Lib : Speed \n ecu Ecu : Lock Door Lock");
-        m_view = std::make_unique<VOpenView>(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
+        m_view = std::make_unique<VOpenDiagVariableView>(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
     }
 
-    std::unique_ptr<VOpenView> m_view;
+    std::unique_ptr<VOpenDiagVariableView> m_view;
 };
 
 TEST_F(DiagVariableViewContainerTest, FindByElementFindsThisVeryObject) {

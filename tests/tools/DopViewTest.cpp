@@ -27,7 +27,7 @@ static_assert(std::is_same_v<decltype(std::declval<VDopView const&>().Count()), 
 static_assert(std::is_same_v<decltype(*std::declval<VDopView&>().Begin()), NODX201::VDopBase&>);
 
 /// A view that lets the protected operations be called.
-class VOpenView : public VDopView {
+class VOpenDopView : public VDopView {
 public:
     using VDopView::_Find;
     using VDopView::_Remove;
@@ -315,10 +315,10 @@ class DopViewContainerTest : public DopViewTest {
 protected:
     void SetUp() override {
         Graph(L"esd Lib : Farad Volt \n ecu Ecu : Volt Amp Ohm!");
-        m_view = std::make_unique<VOpenView>(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
+        m_view = std::make_unique<VOpenDopView>(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
     }
 
-    std::unique_ptr<VOpenView> m_view;
+    std::unique_ptr<VOpenDopView> m_view;
 };
 
 TEST_F(DopViewContainerTest, CountIsTheNumberOfEntries) {

@@ -11,13 +11,13 @@ namespace {
 
 enum class VColour : int { Red = 0, Green, Blue, Brown = -1 };
 
-using VTable = NDIAGKIT::EnumMapImpl<VColour>;
+using VColourTable = NDIAGKIT::EnumMapImpl<VColour>;
 
-static_assert(!std::is_polymorphic_v<VTable>);
-static_assert(std::is_copy_constructible_v<VTable> && std::is_copy_assignable_v<VTable>);
+static_assert(!std::is_polymorphic_v<VColourTable>);
+static_assert(std::is_copy_constructible_v<VColourTable> && std::is_copy_assignable_v<VColourTable>);
 
 TEST(EnumMapImplTest, ATableToWhichNothingWasAddedAnswersWithAQuestionMarkAndZero) {
-    VTable const table(L"Colour");
+    VColourTable const table(L"Colour");
     EXPECT_EQ(table.GetStr(VColour::Red), std::wstring(L"?"));
     EXPECT_EQ(table.GetStr(VColour::Brown), std::wstring(L"?"));
     EXPECT_EQ(static_cast<int>(table.Get(L"RED")), 0);
@@ -27,13 +27,13 @@ TEST(EnumMapImplTest, ATableToWhichNothingWasAddedAnswersWithAQuestionMarkAndZer
 
 TEST(EnumMapImplTest, TheNameIsCopied) {
     wchar_t name[] = L"Colour";
-    VTable const table(name);
+    VColourTable const table(name);
     name[0] = L'X';
     EXPECT_EQ(table.m_name, L"Colour");
 }
 
 TEST(EnumMapImplTest, EachPairIsFoundBothWays) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     table.Add(L"RED", VColour::Red);
     table.Add(L"BROWN", VColour::Brown);
     EXPECT_EQ(table.Get(L"RED"), VColour::Red);
@@ -44,7 +44,7 @@ TEST(EnumMapImplTest, EachPairIsFoundBothWays) {
 }
 
 TEST(EnumMapImplTest, TheFirstPairEverAddedDefinesTheDefault) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     table.Add(L"GREEN", VColour::Green);
     table.Add(L"BLUE", VColour::Blue);
     EXPECT_TRUE(table.m_isDefaultSet);
@@ -53,7 +53,7 @@ TEST(EnumMapImplTest, TheFirstPairEverAddedDefinesTheDefault) {
 }
 
 TEST(EnumMapImplTest, ALiteralThatIsThereKeepsItsValue) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     table.Add(L"GREEN", VColour::Green);
     table.Add(L"BLUE", VColour::Blue);
     table.Add(L"BLUE", VColour::Red);
@@ -62,7 +62,7 @@ TEST(EnumMapImplTest, ALiteralThatIsThereKeepsItsValue) {
 }
 
 TEST(EnumMapImplTest, LiteralsCompareExactly) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     table.Add(L"GREEN", VColour::Green);
     table.Add(L"BLUE", VColour::Blue);
     for (wchar_t const* const literal : {L"blue", L" BLUE", L"BLUE ", L"BLU", L""}) {
@@ -71,7 +71,7 @@ TEST(EnumMapImplTest, LiteralsCompareExactly) {
 }
 
 TEST(EnumMapImplTest, NullIsNoLiteralAndNoName) {
-    VTable table(nullptr);
+    VColourTable table(nullptr);
     EXPECT_EQ(table.m_name, L"");
     EXPECT_EQ(table.Get(nullptr), VColour()) << "of a table without literals";
     table.Add(nullptr, VColour::Blue);
@@ -83,7 +83,7 @@ TEST(EnumMapImplTest, NullIsNoLiteralAndNoName) {
 }
 
 TEST(EnumMapImplTest, OfTwoLiteralsOfOneValueTheAlphabeticallySmallerIsAnswered) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     table.Add(L"ROUGE", VColour::Red);
     table.Add(L"RED", VColour::Red);
     table.Add(L"red", VColour::Red);
@@ -91,7 +91,7 @@ TEST(EnumMapImplTest, OfTwoLiteralsOfOneValueTheAlphabeticallySmallerIsAnswered)
 }
 
 TEST(EnumMapImplTest, TheOrderOfLiteralsIsThatOfCodeUnitsOfUtf16) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     table.Add(L"\uFF5E", VColour::Red);
     table.Add(L"\U0001F600", VColour::Red);
     EXPECT_EQ(table.GetStr(VColour::Red), std::wstring(L"\U0001F600"));
@@ -99,7 +99,7 @@ TEST(EnumMapImplTest, TheOrderOfLiteralsIsThatOfCodeUnitsOfUtf16) {
 }
 
 TEST(EnumMapImplTest, LiteralsAreCopiedAndStayWhereTheyAre) {
-    VTable table(L"Colour");
+    VColourTable table(L"Colour");
     wchar_t literal[] = L"RED";
     table.Add(literal, VColour::Red);
     literal[0] = L'X';
@@ -110,14 +110,14 @@ TEST(EnumMapImplTest, LiteralsAreCopiedAndStayWhereTheyAre) {
 }
 
 TEST(EnumMapImplTest, ACopyIsDeep) {
-    VTable original(L"Colour");
+    VColourTable original(L"Colour");
     original.Add(L"GREEN", VColour::Green);
-    VTable copy(original);
-    VTable assigned(L"Other");
+    VColourTable copy(original);
+    VColourTable assigned(L"Other");
     assigned.Add(L"BLUE", VColour::Blue);
     assigned = original;
     original.Add(L"RED", VColour::Red);
-    for (VTable const* const table : {&copy, &assigned}) {
+    for (VColourTable const* const table : {&copy, &assigned}) {
         EXPECT_EQ(table->m_name, L"Colour");
         EXPECT_EQ(table->m_map.size(), 1u);
         EXPECT_TRUE(table->m_isDefaultSet);

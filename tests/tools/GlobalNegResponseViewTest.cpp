@@ -23,7 +23,7 @@ static_assert(std::has_virtual_destructor_v<VGlobalNegResponseView>);
 static_assert(!std::is_default_constructible_v<VGlobalNegResponseView>);
 static_assert(std::is_same_v<decltype(*std::declval<VGlobalNegResponseView&>().Begin()), NODX201::VGlobalNegResponse&>);
 
-class VOpenView : public VGlobalNegResponseView {
+class VOpenGlobalNegResponseView : public VGlobalNegResponseView {
 public:
     using VGlobalNegResponseView::_Find;
     using VGlobalNegResponseView::_Insert;
@@ -141,7 +141,7 @@ TEST_F(GlobalNegResponseViewTest, AReferenceWithoutATargetOrToAnotherKindIsSkipp
 
 TEST_F(GlobalNegResponseViewTest, AVisitAddsTheViewOfItsLayer) {
     Graph(L"esd Lib : L \n prot Uds : P \n func Doors : F \n base Bv : B \n ecu Ecu : E \n ecu Empty");
-    VOpenView view(Layer(L"Empty"));
+    VOpenGlobalNegResponseView view(Layer(L"Empty"));
     view.VisitEcuSharedData(LayerAs<NODX201::VEcuSharedData>(L"Lib"));
     view.VisitProtocol(LayerAs<NODX201::VProtocol>(L"Uds"));
     view.VisitFunctionalGroup(LayerAs<NODX201::VFunctionalGroup>(L"Doors"));
@@ -153,8 +153,9 @@ TEST_F(GlobalNegResponseViewTest, AVisitAddsTheViewOfItsLayer) {
 
 #ifdef DIAGKIT_TEST_SLOTS
 TEST_F(GlobalNegResponseViewTest, TheVisitOperationsKeepTheVisitorsPlaces) {
-    EXPECT_EQ(SlotsOf(&VOpenView::VisitBaseVariant, &VOpenView::VisitProtocol, &VOpenView::VisitFunctionalGroup,
-                      &VOpenView::VisitEcuVariant, &VOpenView::VisitEcuSharedData, &VOpenView::DispatchDiagLayer),
+    EXPECT_EQ(SlotsOf(&VOpenGlobalNegResponseView::VisitBaseVariant, &VOpenGlobalNegResponseView::VisitProtocol,
+                      &VOpenGlobalNegResponseView::VisitFunctionalGroup, &VOpenGlobalNegResponseView::VisitEcuVariant,
+                      &VOpenGlobalNegResponseView::VisitEcuSharedData, &VOpenGlobalNegResponseView::DispatchDiagLayer),
               SlotsAfterDestructor(6));
 }
 #endif
@@ -207,10 +208,10 @@ class GlobalNegResponseViewContainerTest : public GlobalNegResponseViewTest {
 protected:
     void SetUp() override {
         Graph(L"esd Lib : Denied \n ecu Ecu : Busy Locked Busy");
-        m_view = std::make_unique<VOpenView>(Layer(L"Ecu"));
+        m_view = std::make_unique<VOpenGlobalNegResponseView>(Layer(L"Ecu"));
     }
 
-    std::unique_ptr<VOpenView> m_view;
+    std::unique_ptr<VOpenGlobalNegResponseView> m_view;
 };
 
 TEST_F(GlobalNegResponseViewContainerTest, FindByElementFindsThisVeryObject) {

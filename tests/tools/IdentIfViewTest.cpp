@@ -14,7 +14,7 @@ static_assert(std::is_polymorphic_v<VIdentIfView> && std::has_virtual_destructor
 static_assert(!std::is_default_constructible_v<VIdentIfView>);
 static_assert(std::is_same_v<decltype(*std::declval<VIdentIfView&>().Begin()), NODX201::IIdentIf&>);
 
-class VOpenView : public VIdentIfView {
+class VOpenIdentIfView : public VIdentIfView {
 public:
     using VIdentIfView::_Find;
     using VIdentIfView::_Insert;
@@ -89,7 +89,7 @@ TEST_F(IdentIfViewTest, AnOwnIdentAppendedByHandIsFoundByItsName) {
 
 TEST_F(IdentIfViewTest, AnEntryWhoseCastFailsIsSkipped) {
     NMemory::VMemExpectedIdent& nameless = AddMem().AddSession(L"Session").AddExpectedIdent(L"");
-    VOpenView view(m_flash);
+    VOpenIdentIfView view(m_flash);
     VMockIdent lying[] = {VMockIdent(true), VMockIdent(false)};
     view._Insert(view.m_collection.begin(), lying[0]);
     view._Insert(view.m_collection.begin(), lying[1]);
@@ -145,7 +145,7 @@ TEST_F(IdentIfViewTest, RemovalsOfWhatIsNotThereAssertAndChangeNothing) {
     NMemory::VMemMem& mem = AddMem();
     mem.AddSession(L"Session").AddExpectedIdent(L"A");
     NMemory::VMemOwnIdent& stranger = mem.AddDatablock(L"Datablock").AddOwnIdent(L"Own");
-    VOpenView view(m_flash);
+    VOpenIdentIfView view(m_flash);
     view.Remove(stranger);
     EXPECT_EQ(m_assertions.Take(), (VAssertionList{{L"false", L"IdentIfView", 125}}));
     view.Remove(view.End());

@@ -14,7 +14,7 @@ static_assert(std::is_polymorphic_v<VInParamIfView> && std::has_virtual_destruct
 static_assert(!std::is_default_constructible_v<VInParamIfView>);
 static_assert(std::is_same_v<decltype(*std::declval<VInParamIfView&>().Begin()), NODX201::IInParamIf&>);
 
-class VOpenView : public VInParamIfView {
+class VOpenInParamIfView : public VInParamIfView {
 public:
     using VInParamIfView::_Find;
     using VInParamIfView::_Insert;
@@ -158,7 +158,7 @@ TEST_F(InParamIfViewTest, FindByNameMatchesExactly) {
 TEST_F(InParamIfViewTest, AppendAndInnerInsertLookForNoDuplicates) {
     NMemory::VMemValue& a = PosResponse().AddValue(L"A");
     NMemory::VMemInputParam& b = m_singleJob.AddInputParam(L"B");
-    VOpenView view(m_service);
+    VOpenInParamIfView view(m_service);
     view.Append(b);
     view.Append(a);
     view._Insert(view._Find(b), a);
@@ -183,7 +183,7 @@ TEST_F(InParamIfViewTest, ViewsOfTheSameObjectsInTheSameOrderAreEqual) {
 TEST_F(InParamIfViewTest, RemovalsOfWhatIsNotThereAssertAndChangeNothing) {
     PosResponse().AddValue(L"A");
     NMemory::VMemInputParam& stranger = m_singleJob.AddInputParam(L"B");
-    VOpenView view(m_service);
+    VOpenInParamIfView view(m_service);
     view.Remove(stranger);
     EXPECT_EQ(m_assertions.Take(), (VAssertionList{{L"false", L"InParamIfView", 178}}));
     view.Remove(view.End());

@@ -19,7 +19,7 @@ static_assert(std::is_convertible_v<VOpBuildDiagCommView*, NODX201::VDiagLayerVi
 static_assert(std::has_virtual_destructor_v<VOpBuildDiagCommView>);
 static_assert(std::is_copy_constructible_v<VOpBuildDiagCommView> && std::is_copy_assignable_v<VOpBuildDiagCommView>);
 
-VAssertionList const kNoView{{L"(mpDiagCommView != 0)", L"OpBuildDiagCommView", 83}};
+VAssertionList const kNoDiagCommView{{L"(mpDiagCommView != 0)", L"OpBuildDiagCommView", 83}};
 
 /// A layer whose Accept does what the test says.
 class VScriptedLayer : public VMockEcuVariant {
@@ -175,7 +175,7 @@ TEST_F(OpBuildDiagCommViewTest, AcceptThatVisitsNothingLogsAndAssertsOnAFreshBui
     VOpBuildDiagCommView builder;
     EXPECT_EQ(builder.CreateDiagCommView(silent), nullptr);
     EXPECT_EQ(log.Lines(), (std::vector<VRecordedLog::VLine>{{0, L"mpDiagCommView != NULL."}}));
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDiagCommView);
 }
 
 TEST_F(OpBuildDiagCommViewTest, ABuilderIsUsableAfterAFailure) {
@@ -183,7 +183,7 @@ TEST_F(OpBuildDiagCommViewTest, ABuilderIsUsableAfterAFailure) {
     VOpBuildDiagCommView builder;
     EXPECT_EQ(builder.CreateDiagCommView(silent), nullptr);
     EXPECT_EQ(builder.CreateDiagCommView(silent), nullptr);
-    EXPECT_EQ(m_assertions.Take(), (VAssertionList{kNoView[0], kNoView[0]}));
+    EXPECT_EQ(m_assertions.Take(), (VAssertionList{kNoDiagCommView[0], kNoDiagCommView[0]}));
     VDiagCommView* const view = builder.CreateDiagCommView(Layer(L"Lib"));
     EXPECT_EQ(Print(*view), L"Ident@Lib");
     builder.DestroyDiagCommView(*view);
@@ -226,14 +226,14 @@ TEST_F(OpBuildDiagCommViewTest, ADisabledLoggerGetsNoMessage) {
     VSilentLayer silent;
     EXPECT_EQ(VOpBuildDiagCommView().CreateDiagCommView(silent), nullptr);
     EXPECT_EQ(log.Lines(), std::vector<VRecordedLog::VLine>{});
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDiagCommView);
 }
 
 TEST_F(OpBuildDiagCommViewTest, WithoutAListenerTheFailureIsOnlyAsserted) {
     ASSERT_EQ(NLogging::VSharedLogger::Instance()->GetLogger(), nullptr);
     VSilentLayer silent;
     EXPECT_EQ(VOpBuildDiagCommView().CreateDiagCommView(silent), nullptr);
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDiagCommView);
 }
 
 TEST_F(OpBuildDiagCommViewTest, AViewThatIsMadeIsNeitherLoggedNorAsserted) {

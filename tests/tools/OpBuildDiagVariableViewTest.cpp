@@ -19,7 +19,7 @@ static_assert(std::has_virtual_destructor_v<VOpBuildDiagVariableView>);
 static_assert(std::is_copy_constructible_v<VOpBuildDiagVariableView> &&
               std::is_copy_assignable_v<VOpBuildDiagVariableView>);
 
-VAssertionList const kNoView{{L"(mpDiagVariableView != 0)", L"OpBuildDiagVariableView", 83}};
+VAssertionList const kNoDiagVariableView{{L"(mpDiagVariableView != 0)", L"OpBuildDiagVariableView", 83}};
 
 class OpBuildDiagVariableViewTest : public VContentTest {
 protected:
@@ -127,7 +127,7 @@ TEST_F(OpBuildDiagVariableViewTest, AcceptThatVisitsNothingLogsAndAssertsOnAFres
     VOpBuildDiagVariableView builder;
     EXPECT_EQ(builder.CreateDiagVariableView(silent), nullptr);
     EXPECT_EQ(log.Lines(), (std::vector<VRecordedLog::VLine>{{0, L"mpDiagVariableView != NULL."}}));
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDiagVariableView);
     VDiagVariableView* const view = builder.CreateDiagVariableView(Layer(L"Lib"));
     EXPECT_EQ(PrintEntries(*view), L"L@Lib") << "the builder is usable afterwards";
     builder.DestroyDiagVariableView(*view);
@@ -150,14 +150,14 @@ TEST_F(OpBuildDiagVariableViewTest, ADisabledLoggerGetsNoMessage) {
     VSilentLayer silent;
     EXPECT_EQ(VOpBuildDiagVariableView().CreateDiagVariableView(silent), nullptr);
     EXPECT_EQ(log.Lines(), std::vector<VRecordedLog::VLine>{});
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDiagVariableView);
 }
 
 TEST_F(OpBuildDiagVariableViewTest, WithoutAListenerTheFailureIsOnlyAsserted) {
     ASSERT_EQ(NLogging::VSharedLogger::Instance()->GetLogger(), nullptr);
     VSilentLayer silent;
     EXPECT_EQ(VOpBuildDiagVariableView().CreateDiagVariableView(silent), nullptr);
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDiagVariableView);
 }
 
 TEST_F(OpBuildDiagVariableViewTest, AViewThatIsMadeIsNeitherLoggedNorAsserted) {

@@ -18,7 +18,7 @@ static_assert(std::is_convertible_v<VOpBuildDopView*, NODX201::VDiagLayerVisitor
 static_assert(std::has_virtual_destructor_v<VOpBuildDopView>);
 static_assert(std::is_copy_constructible_v<VOpBuildDopView> && std::is_copy_assignable_v<VOpBuildDopView>);
 
-VAssertionList const kNoView{{L"(mpDopView != 0)", L"OpBuildDopView", 85}};
+VAssertionList const kNoDopView{{L"(mpDopView != 0)", L"OpBuildDopView", 85}};
 
 class OpBuildDopViewTest : public VContentTest {
 protected:
@@ -124,7 +124,7 @@ TEST_F(OpBuildDopViewTest, AcceptThatVisitsNothingLogsAndAssertsOnAFreshBuilder)
     VOpBuildDopView builder;
     EXPECT_EQ(builder.CreateDopView(silent), nullptr);
     EXPECT_EQ(log.Lines(), (std::vector<VRecordedLog::VLine>{{0, L"mpDopView != NULL."}}));
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDopView);
     VDopView* const view = builder.CreateDopView(Layer(L"Lib"));
     EXPECT_EQ(PrintEntries(*view), L"L@Lib") << "the builder is usable afterwards";
     builder.DestroyDopView(*view);
@@ -147,14 +147,14 @@ TEST_F(OpBuildDopViewTest, ADisabledLoggerGetsNoMessage) {
     VSilentLayer silent;
     EXPECT_EQ(VOpBuildDopView().CreateDopView(silent), nullptr);
     EXPECT_EQ(log.Lines(), std::vector<VRecordedLog::VLine>{});
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDopView);
 }
 
 TEST_F(OpBuildDopViewTest, WithoutAListenerTheFailureIsOnlyAsserted) {
     ASSERT_EQ(NLogging::VSharedLogger::Instance()->GetLogger(), nullptr);
     VSilentLayer silent;
     EXPECT_EQ(VOpBuildDopView().CreateDopView(silent), nullptr);
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoDopView);
 }
 
 TEST_F(OpBuildDopViewTest, AViewThatIsMadeIsNeitherLoggedNorAsserted) {

@@ -11,7 +11,7 @@ namespace NTest {
 namespace {
 
 using NDIAGKIT::VInParamIfView;
-using VBuilder = VConcreteBuilder<NDIAGKIT::VOpBuildInParamIfView>;
+using VConcreteInParamIfBuilder = VConcreteBuilder<NDIAGKIT::VOpBuildInParamIfView>;
 
 static_assert(std::is_abstract_v<NDIAGKIT::VOpBuildInParamIfView>);
 static_assert(std::is_convertible_v<NDIAGKIT::VOpBuildInParamIfView*, NODX201::VDiagLayerVisitor*>);
@@ -26,22 +26,22 @@ protected:
     }
 };
 
-VAssertionList const kNoView{{L"(mpInParamIfView != 0)", L"OpBuildInParamIfView", 62}};
+VAssertionList const kNoInParamIfView{{L"(mpInParamIfView != 0)", L"OpBuildInParamIfView", 62}};
 
 TEST_F(OpBuildInParamIfViewTest, CreateMakesTheViewOfTheDiagCommsKind) {
-    VBuilder ofService;
+    VConcreteInParamIfBuilder ofService;
     std::unique_ptr<VInParamIfView> const service(ofService.CreateInParamIfView(m_service));
     EXPECT_EQ(PrintParams(*service), L"OfService");
-    VBuilder ofSingleJob;
+    VConcreteInParamIfBuilder ofSingleJob;
     std::unique_ptr<VInParamIfView> const singleJob(ofSingleJob.CreateInParamIfView(m_singleJob));
     EXPECT_EQ(PrintParams(*singleJob), L"OfSingleJob");
-    VBuilder ofMultipleJob;
+    VConcreteInParamIfBuilder ofMultipleJob;
     std::unique_ptr<VInParamIfView> const multipleJob(ofMultipleJob.CreateInParamIfView(m_multipleJob));
     EXPECT_EQ(PrintParams(*multipleJob), L"OfMultipleJob");
 }
 
 TEST_F(OpBuildInParamIfViewTest, ASecondCreateDestroysTheFirstView) {
-    VBuilder builder; // the sanitizers see that nothing leaks or dies twice
+    VConcreteInParamIfBuilder builder; // the sanitizers see that nothing leaks or dies twice
     builder.CreateInParamIfView(m_service);
     builder.CreateInParamIfView(m_multipleJob);
     std::unique_ptr<VInParamIfView> const last(builder.CreateInParamIfView(m_singleJob));
@@ -49,18 +49,18 @@ TEST_F(OpBuildInParamIfViewTest, ASecondCreateDestroysTheFirstView) {
 }
 
 TEST_F(OpBuildInParamIfViewTest, ACopyRemembersTheSameView) {
-    VBuilder original;
+    VConcreteInParamIfBuilder original;
     VInParamIfView* const shared = original.CreateInParamIfView(m_service);
-    VBuilder copy(original);
+    VConcreteInParamIfBuilder copy(original);
     EXPECT_EQ(PrintParams(*shared), L"OfService");
     std::unique_ptr<VInParamIfView> const last(copy.CreateInParamIfView(m_singleJob)); // destroys the shared view
     EXPECT_EQ(PrintParams(*last), L"OfSingleJob");
 }
 
 TEST_F(OpBuildInParamIfViewTest, AnAssignedBuilderRemembersTheSameView) {
-    VBuilder original;
+    VConcreteInParamIfBuilder original;
     VInParamIfView* const shared = original.CreateInParamIfView(m_service);
-    VBuilder assigned;
+    VConcreteInParamIfBuilder assigned;
     assigned = original;
     EXPECT_EQ(PrintParams(*shared), L"OfService");
     std::unique_ptr<VInParamIfView> const last(assigned.CreateInParamIfView(m_singleJob)); // destroys the shared view
@@ -69,11 +69,11 @@ TEST_F(OpBuildInParamIfViewTest, AnAssignedBuilderRemembersTheSameView) {
 
 TEST_F(OpBuildInParamIfViewTest, AMultipleEcuJobAsADiagCommIsLoggedAndAsserted) {
     VRecordedLog log;
-    VBuilder builder;
+    VConcreteInParamIfBuilder builder;
     builder.CreateInParamIfView(m_service);
     EXPECT_EQ(builder.CreateInParamIfView(MultipleJobAsDiagComm()), nullptr) << "the earlier view is gone as well";
     EXPECT_EQ(log.Lines(), (std::vector<VRecordedLog::VLine>{{0, L"mpInParamIfView != NULL."}}));
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoInParamIfView);
     std::unique_ptr<VInParamIfView> const view(builder.CreateInParamIfView(m_service));
     ASSERT_NE(view, nullptr) << "the builder is usable afterwards";
     EXPECT_EQ(PrintParams(*view), L"OfService");
@@ -81,12 +81,12 @@ TEST_F(OpBuildInParamIfViewTest, AMultipleEcuJobAsADiagCommIsLoggedAndAsserted) 
 
 TEST_F(OpBuildInParamIfViewTest, TheTagDecidesWhatADiagCommIsTakenFor) {
     VMockDiagService untagged(L"Untagged"); // a service without the tag of one
-    EXPECT_EQ(VBuilder().CreateInParamIfView(untagged), nullptr);
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(VConcreteInParamIfBuilder().CreateInParamIfView(untagged), nullptr);
+    EXPECT_EQ(m_assertions.Take(), kNoInParamIfView);
 }
 
 TEST_F(OpBuildInParamIfViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
-    VBuilder builder;
+    VConcreteInParamIfBuilder builder;
     VRecordedLog log([&] { builder.CreateInParamIfView(m_service); });
     std::unique_ptr<VInParamIfView> const view(builder.CreateInParamIfView(MultipleJobAsDiagComm()));
     EXPECT_EQ(m_assertions.Take(), VAssertionList{});
@@ -97,9 +97,9 @@ TEST_F(OpBuildInParamIfViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsT
 TEST_F(OpBuildInParamIfViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();
-    EXPECT_EQ(VBuilder().CreateInParamIfView(MultipleJobAsDiagComm()), nullptr);
+    EXPECT_EQ(VConcreteInParamIfBuilder().CreateInParamIfView(MultipleJobAsDiagComm()), nullptr);
     EXPECT_EQ(log.Lines(), std::vector<VRecordedLog::VLine>{});
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoInParamIfView);
 }
 
 } // namespace

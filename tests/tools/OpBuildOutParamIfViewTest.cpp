@@ -12,7 +12,7 @@ namespace {
 
 using NDIAGKIT::VOutParamIfView;
 using NODX201::VSearchRange;
-using VBuilder = VConcreteBuilder<NDIAGKIT::VOpBuildOutParamIfView>;
+using VConcreteOutParamIfBuilder = VConcreteBuilder<NDIAGKIT::VOpBuildOutParamIfView>;
 
 static_assert(std::is_abstract_v<NDIAGKIT::VOpBuildOutParamIfView>);
 static_assert(std::is_convertible_v<NDIAGKIT::VOpBuildOutParamIfView*, NODX201::VDiagLayerVisitor*>);
@@ -28,19 +28,19 @@ protected:
     }
 };
 
-VAssertionList const kNoView{{L"(mpOutParamIfView != 0)", L"OpBuildOutParamIfView", 62}};
+VAssertionList const kNoOutParamIfView{{L"(mpOutParamIfView != 0)", L"OpBuildOutParamIfView", 62}};
 
 TEST_F(OpBuildOutParamIfViewTest, CreateMakesTheViewOfTheDiagCommsKind) {
-    VBuilder ofService;
+    VConcreteOutParamIfBuilder ofService;
     std::unique_ptr<VOutParamIfView> const service(ofService.CreateOutParamIfView(m_service, VSearchRange::Request));
     EXPECT_EQ(PrintParams(*service), L"OfRequest");
-    VBuilder ofMultipleJob;
+    VConcreteOutParamIfBuilder ofMultipleJob;
     std::unique_ptr<VOutParamIfView> const multipleJob(ofMultipleJob.CreateOutParamIfView(m_multipleJob));
     EXPECT_EQ(PrintParams(*multipleJob), L"OfMultipleJob");
 }
 
 TEST_F(OpBuildOutParamIfViewTest, TheRangeIsPassedOnForAServiceAndIgnoredForAJob) {
-    VBuilder builder;
+    VConcreteOutParamIfBuilder builder;
     wchar_t const* const ofService[] = {L"OfResponse", L"OfRequest",  L"",
                                         L"OfRequest",  L"OfResponse", L"OfRequest OfResponse"};
     VOutParamIfView* last = nullptr;
@@ -54,18 +54,18 @@ TEST_F(OpBuildOutParamIfViewTest, TheRangeIsPassedOnForAServiceAndIgnoredForAJob
 }
 
 TEST_F(OpBuildOutParamIfViewTest, ACopyRemembersTheSameView) {
-    VBuilder original;
+    VConcreteOutParamIfBuilder original;
     VOutParamIfView* const shared = original.CreateOutParamIfView(m_service, VSearchRange::Request);
-    VBuilder copy(original);
+    VConcreteOutParamIfBuilder copy(original);
     EXPECT_EQ(PrintParams(*shared), L"OfRequest");
     std::unique_ptr<VOutParamIfView> const last(copy.CreateOutParamIfView(m_multipleJob)); // destroys the shared view
     EXPECT_EQ(PrintParams(*last), L"OfMultipleJob");
 }
 
 TEST_F(OpBuildOutParamIfViewTest, AnAssignedBuilderRemembersTheSameView) {
-    VBuilder original;
+    VConcreteOutParamIfBuilder original;
     VOutParamIfView* const shared = original.CreateOutParamIfView(m_service, VSearchRange::Request);
-    VBuilder assigned;
+    VConcreteOutParamIfBuilder assigned;
     assigned = original;
     EXPECT_EQ(PrintParams(*shared), L"OfRequest");
     // It destroys the view that both remember.
@@ -75,11 +75,11 @@ TEST_F(OpBuildOutParamIfViewTest, AnAssignedBuilderRemembersTheSameView) {
 
 TEST_F(OpBuildOutParamIfViewTest, AMultipleEcuJobAsADiagCommIsLoggedAndAsserted) {
     VRecordedLog log;
-    VBuilder builder;
+    VConcreteOutParamIfBuilder builder;
     builder.CreateOutParamIfView(m_service, VSearchRange::Request);
     EXPECT_EQ(builder.CreateOutParamIfView(MultipleJobAsDiagComm(), VSearchRange::Request), nullptr);
     EXPECT_EQ(log.Lines(), (std::vector<VRecordedLog::VLine>{{0, L"mpOutParamIfView != NULL."}}));
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoOutParamIfView);
     std::unique_ptr<VOutParamIfView> const view(builder.CreateOutParamIfView(m_service, VSearchRange::Request));
     ASSERT_NE(view, nullptr) << "the builder is usable afterwards";
     EXPECT_EQ(PrintParams(*view), L"OfRequest");
@@ -87,12 +87,12 @@ TEST_F(OpBuildOutParamIfViewTest, AMultipleEcuJobAsADiagCommIsLoggedAndAsserted)
 
 TEST_F(OpBuildOutParamIfViewTest, TheTagDecidesWhatADiagCommIsTakenFor) {
     VMockDiagService untagged(L"Untagged"); // a service without the tag of one
-    EXPECT_EQ(VBuilder().CreateOutParamIfView(untagged, VSearchRange::Request), nullptr);
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(VConcreteOutParamIfBuilder().CreateOutParamIfView(untagged, VSearchRange::Request), nullptr);
+    EXPECT_EQ(m_assertions.Take(), kNoOutParamIfView);
 }
 
 TEST_F(OpBuildOutParamIfViewTest, AListenerThatLetsTheBuilderMakeTheViewPreventsTheAssertion) {
-    VBuilder builder;
+    VConcreteOutParamIfBuilder builder;
     VRecordedLog log([&] { builder.CreateOutParamIfView(m_service, VSearchRange::Request); });
     std::unique_ptr<VOutParamIfView> const view(
         builder.CreateOutParamIfView(MultipleJobAsDiagComm(), VSearchRange::Request));
@@ -104,9 +104,10 @@ TEST_F(OpBuildOutParamIfViewTest, AListenerThatLetsTheBuilderMakeTheViewPrevents
 TEST_F(OpBuildOutParamIfViewTest, ADisabledLoggerGetsNoMessage) {
     VRecordedLog log;
     NLogging::VSharedLogger::Instance()->Disable();
-    EXPECT_EQ(VBuilder().CreateOutParamIfView(MultipleJobAsDiagComm(), VSearchRange::Request), nullptr);
+    EXPECT_EQ(VConcreteOutParamIfBuilder().CreateOutParamIfView(MultipleJobAsDiagComm(), VSearchRange::Request),
+              nullptr);
     EXPECT_EQ(log.Lines(), std::vector<VRecordedLog::VLine>{});
-    EXPECT_EQ(m_assertions.Take(), kNoView);
+    EXPECT_EQ(m_assertions.Take(), kNoOutParamIfView);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ static_assert(std::is_polymorphic_v<VOutParamIfView> && std::has_virtual_destruc
 static_assert(!std::is_default_constructible_v<VOutParamIfView>);
 static_assert(std::is_same_v<decltype(*std::declval<VOutParamIfView&>().Begin()), NODX201::IOutParamIf&>);
 
-class VOpenView : public VOutParamIfView {
+class VOpenOutParamIfView : public VOutParamIfView {
 public:
     using VOutParamIfView::_Find;
     using VOutParamIfView::_Insert;
@@ -264,7 +264,7 @@ TEST_F(OutParamIfViewTest, AParameterThatRemoveByIteratorDestroyedIsNoSearchRoot
     NMemory::VMemPosResponse& response = PosResponse();
     response.AddValue(L"A").SetDopBaseLink(StructureOf(L"InA"));
     response.AddValue(L"B").SetDopBaseLink(StructureOf(L"InB"));
-    VOpenView view(m_service, VSearchRange::Responses);
+    VOpenOutParamIfView view(m_service, VSearchRange::Responses);
     view.Remove(view.Begin());
     EXPECT_EQ(view.FindParam(L"InA", m_layer), nullptr);
     EXPECT_NE(view.FindParam(L"InB", m_layer), nullptr);
@@ -286,7 +286,7 @@ TEST_F(OutParamIfViewTest, RemoveByReferenceLeavesTheElementAliveAndASearchRoot)
 TEST_F(OutParamIfViewTest, RemovalsOfWhatIsNotThereAssertAndChangeNothing) {
     PosResponse().AddValue(L"A");
     NMemory::VMemOutputParam& stranger = m_singleJob.AddOutputParam(L"B");
-    VOpenView view(m_service, VSearchRange::Responses);
+    VOpenOutParamIfView view(m_service, VSearchRange::Responses);
     view.Remove(stranger);
     EXPECT_EQ(m_assertions.Take(), (VAssertionList{{L"false", L"OutParamIfView", 205}}));
     view.Remove(view.End());
@@ -310,7 +310,7 @@ TEST_F(OutParamIfViewTest, AppendInsertAndFindByElementAreThoseOfAList) {
     NMemory::VMemValue& a = shared.AddValue(L"A");
     m_service.AddPosResponseRef(shared);
     NMemory::VMemOutputParam& b = m_singleJob.AddOutputParam(L"B");
-    VOpenView view(m_service, VSearchRange::Responses);
+    VOpenOutParamIfView view(m_service, VSearchRange::Responses);
     EXPECT_EQ(PrintParams(view), L"A A") << "two links to one response";
     EXPECT_TRUE(view.Find(a) == view.Begin());
     EXPECT_TRUE(view.Find(b) == view.End());

@@ -16,7 +16,7 @@ static_assert(std::has_virtual_destructor_v<VProtocolView>);
 static_assert(!std::is_default_constructible_v<VProtocolView>);
 static_assert(std::is_same_v<decltype(*std::declval<VProtocolView&>().Begin()), NODX201::VProtocol&>);
 
-class VOpenView : public VProtocolView {
+class VOpenProtocolView : public VProtocolView {
 public:
     using VProtocolView::_Find;
     using VProtocolView::_Insert;
@@ -130,7 +130,7 @@ TEST_F(ProtocolViewTest, NotInheritedListsAndReferencesWithoutATargetPlayNoPart)
 
 TEST_F(ProtocolViewTest, OnlyAVisitedProtocolIsAppended) {
     Graph(L"esd Lib \n prot Uds \n func Doors < Uds \n base Bv < Uds \n ecu Ecu < Bv \n base Empty");
-    VOpenView view(LayerAs<NODX201::VBaseVariant>(L"Empty"));
+    VOpenProtocolView view(LayerAs<NODX201::VBaseVariant>(L"Empty"));
     view.VisitBaseVariant(LayerAs<NODX201::VBaseVariant>(L"Bv"));
     view.VisitFunctionalGroup(LayerAs<NODX201::VFunctionalGroup>(L"Doors"));
     view.VisitEcuVariant(LayerAs<NODX201::VEcuVariant>(L"Ecu"));
@@ -145,8 +145,9 @@ TEST_F(ProtocolViewTest, OnlyAVisitedProtocolIsAppended) {
 
 #ifdef DIAGKIT_TEST_SLOTS
 TEST_F(ProtocolViewTest, TheVisitOperationsKeepTheVisitorsPlaces) {
-    EXPECT_EQ(SlotsOf(&VOpenView::VisitBaseVariant, &VOpenView::VisitProtocol, &VOpenView::VisitFunctionalGroup,
-                      &VOpenView::VisitEcuVariant, &VOpenView::VisitEcuSharedData, &VOpenView::DispatchDiagLayer),
+    EXPECT_EQ(SlotsOf(&VOpenProtocolView::VisitBaseVariant, &VOpenProtocolView::VisitProtocol,
+                      &VOpenProtocolView::VisitFunctionalGroup, &VOpenProtocolView::VisitEcuVariant,
+                      &VOpenProtocolView::VisitEcuSharedData, &VOpenProtocolView::DispatchDiagLayer),
               SlotsAfterDestructor(6));
 }
 #endif
@@ -155,10 +156,10 @@ class ProtocolViewContainerTest : public ProtocolViewTest {
 protected:
     void SetUp() override {
         Graph(L"prot Uds \n prot Kwp \n base Bv < Uds Kwp Uds \n prot Can");
-        m_view = std::make_unique<VOpenView>(LayerAs<NODX201::VBaseVariant>(L"Bv"));
+        m_view = std::make_unique<VOpenProtocolView>(LayerAs<NODX201::VBaseVariant>(L"Bv"));
     }
 
-    std::unique_ptr<VOpenView> m_view;
+    std::unique_ptr<VOpenProtocolView> m_view;
 };
 
 TEST_F(ProtocolViewContainerTest, BothFindsFindTheFirstEntry) {

@@ -384,7 +384,7 @@ private:
     NMemory::VMemDiagService& m_service = m_layer.AddDiagService(L"Service");
 };
 
-constexpr wchar_t const* kSearched[] = {L"a", L"b", L"c", L"d", L"e", L"f", L"g", L"A", L"", L"absent"};
+constexpr wchar_t const* kSearchedParams[] = {L"a", L"b", L"c", L"d", L"e", L"f", L"g", L"A", L"", L"absent"};
 
 std::vector<VParamPlan> SourcesOf(VServicePlan const& plan, bool request, bool positives, bool negatives) {
     std::vector<VParamPlan> roots;
@@ -448,7 +448,7 @@ TEST(RandomParamsTest, OutParamSearchesAgreeWithASearchWrittenFromTheRules) {
                 ids.push_back(entry.id);
             }
             ASSERT_EQ(IdsOf(view), ids) << "seed " << seed << ", range " << range.value;
-            for (wchar_t const* const name : kSearched) {
+            for (wchar_t const* const name : kSearchedParams) {
                 std::wstring expected;
                 for (VParamPlan const& entry : entries) {
                     if (expected.empty() && entry.name == name) {
@@ -481,7 +481,7 @@ TEST(RandomParamsTest, TheResolverAgreesWithTheViews) {
         VServicePlan const plan = VGenerator(seed).Make();
         VBuiltService built(plan);
         NDIAGKIT::VOpResolveSnref resolver;
-        for (wchar_t const* const name : kSearched) {
+        for (wchar_t const* const name : kSearchedParams) {
             for (int range = 0; range < 7; ++range) {
                 auto const searchRange = static_cast<NODX201::VSearchRange>(range);
                 ASSERT_EQ(resolver.ResolveOutParamIfSnref(name, built.Service(), built.Layer(), searchRange),
@@ -514,7 +514,7 @@ TEST(RandomParamsTest, InParamFindsAgreeWithALinearSearch) {
             }
         }
         ASSERT_EQ(IdsOf(view), ids) << "seed " << seed;
-        for (wchar_t const* const name : kSearched) {
+        for (wchar_t const* const name : kSearchedParams) {
             std::wstring expected;
             for (VParamPlan const& param : params) {
                 if (expected.empty() && param.form == VParamPlan::VForm::Value && param.name == name) {

@@ -14,7 +14,7 @@ static_assert(std::is_polymorphic_v<VSessionView> && std::has_virtual_destructor
 static_assert(!std::is_default_constructible_v<VSessionView>);
 static_assert(std::is_same_v<decltype(*std::declval<VSessionView&>().Begin()), NODX201::VSession&>);
 
-class VOpenView : public VSessionView {
+class VOpenSessionView : public VSessionView {
 public:
     using VSessionView::_Find;
     using VSessionView::_Insert;
@@ -88,7 +88,7 @@ TEST_F(SessionViewTest, RemovalsOfWhatIsNotThereAssertAndChangeNothing) {
     AddMem().AddSession(L"A");
     NMemory::VMemSession& stranger =
         m_database.AddFlash(L"Another").AddEcuMem(L"EcuMem").GetMem().AddSession(L"Stranger");
-    VOpenView view(m_flash);
+    VOpenSessionView view(m_flash);
     view.Remove(stranger);
     EXPECT_EQ(m_assertions.Take(), (VAssertionList{{L"false", L"SessionView", 115}}));
     view.Remove(view.End());
@@ -103,7 +103,7 @@ TEST_F(SessionViewTest, AppendAndInnerInsertLookForNoDuplicatesAndEqualityIsOfOb
     NMemory::VMemMem& mem = AddMem();
     NMemory::VMemSession& a = mem.AddSession(L"A");
     NMemory::VMemSession& b = mem.AddSession(L"B");
-    VOpenView view(m_flash);
+    VOpenSessionView view(m_flash);
     VSessionView twin(m_flash);
     EXPECT_TRUE(view == twin);
     EXPECT_FALSE(view != twin);
