@@ -343,7 +343,7 @@ VElementType const& TypeOf(VMemEcuSharedData*) {
         DiagVariablesRow<T>(),
         VariableGroupsRow<T>(),
         VRows<T>::Special("PARENT-REFS", Optional, [](VLoader& loader, void*, VRow const&, VAttributes const&) {
-            loader.Report(VSeverity::Error, "parent-kind", "an ECU-SHARED-DATA has no parents; its PARENT-REFS are left out");
+            loader.Report(NCode::ParentKind, "an ECU-SHARED-DATA has no parents; its PARENT-REFS are left out");
             return VOpened{};
         }),
     }));
