@@ -2,14 +2,13 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/check/Check.h>
 #include <cli/Commands.h>
 #include <cli/JsonWriter.h>
 #include <cli/Load.h>
-#include <cli/Platform.h>
 #include <cli/ProgressBar.h>
 #include <cli/Sarif.h>
 #include <cli/Text.h>
+#include <diagkit/check/Check.h>
 
 namespace NCli {
 namespace {
@@ -39,7 +38,7 @@ void WriteAsJson(VJsonWriter& json, VDiagnostics const& diagnostics) {
 
 void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
     for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        output.Write(Shown(FormatDiagnostic(diagnostic)) + "\n"); // one a line, whatever the data holds
+        output.Write(LineOf(diagnostic));
     }
     std::size_t const errors = CountErrors(diagnostics);
     output.Write(diagnostics.empty() ? "" : "\n");
@@ -48,10 +47,7 @@ void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
 
 VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
     VProgressBar bar;
-    if (arguments.isQuiet || !IsTerminal(stderr)) {
-        return NCheck::CheckDatabase(result);
-    }
-    return NCheck::CheckDatabase(result, [&bar](std::uint64_t done, std::uint64_t all) { bar.Show(done, all); });
+    return NCheck::CheckDatabase(result, bar.Progress(arguments.isQuiet));
 }
 
 } // namespace

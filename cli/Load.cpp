@@ -6,7 +6,6 @@
 
 #include <fmt/format.h>
 
-#include <cli/Platform.h>
 #include <cli/ProgressBar.h>
 #include <cli/Text.h>
 
@@ -17,15 +16,13 @@ NReader::VReadResult Read(VArguments const& arguments, bool keepsElements) {
     NReader::VReadOptions options = arguments.readOptions;
     options.keepsElements = keepsElements;
     VProgressBar bar;
-    if (!arguments.isQuiet && IsTerminal(stderr)) {
-        options.progress = [&bar](std::uint64_t done, std::uint64_t all) { bar.Show(done, all); };
-    }
+    options.progress = bar.Progress(arguments.isQuiet);
     return NReader::ReadOdx(arguments.files, options);
 }
 
 void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
     for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        std::string const line = Shown(FormatDiagnostic(diagnostic)) + "\n"; // one a line, whatever the data holds
+        std::string const line = LineOf(diagnostic);
         std::fwrite(line.data(), 1, line.size(), stderr);
     }
 }
@@ -48,6 +45,8 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
 }
 
 } // namespace
+
+std::string LineOf(NReader::VDiagnostic const& diagnostic) { return Shown(FormatDiagnostic(diagnostic)) + "\n"; }
 
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
     return static_cast<std::size_t>(

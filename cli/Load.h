@@ -15,6 +15,7 @@ VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadR
 /// when it does not go on.
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
+std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever the data holds
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
 
 } // namespace NCli

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <string>
 
+#include <cli/Platform.h>
+
 namespace NCli {
 namespace {
 
@@ -20,6 +22,13 @@ VProgressBar::~VProgressBar() {
     if (m_shownPercent >= 0) {
         std::fputs(kEraseLine, stderr);
     }
+}
+
+std::function<void(std::uint64_t done, std::uint64_t all)> VProgressBar::Progress(bool isQuiet) {
+    if (isQuiet || !IsTerminal(stderr)) {
+        return {};
+    }
+    return [this](std::uint64_t done, std::uint64_t all) { Show(done, all); };
 }
 
 void VProgressBar::Show(std::uint64_t done, std::uint64_t all) {

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 
 namespace NCli {
 
@@ -14,9 +15,12 @@ public:
     VProgressBar(VProgressBar const&) = delete;
     VProgressBar& operator=(VProgressBar const&) = delete;
 
-    void Show(std::uint64_t done, std::uint64_t all);
+    /// To be called with the steps done and those in all; empty when nobody would see the bar.
+    std::function<void(std::uint64_t done, std::uint64_t all)> Progress(bool isQuiet);
 
 private:
+    void Show(std::uint64_t done, std::uint64_t all);
+
     std::chrono::steady_clock::time_point m_start;
     int m_shownPercent = -1;
 };

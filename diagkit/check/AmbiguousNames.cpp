@@ -109,11 +109,11 @@ private:
         if (winner == m_view.end() || winner->second != first.element) {
             return; // a layer of this kind inherits none from there
         }
-        m_findings.Add({"ambiguous-name", PositionOf(*parent.reference),
-                        std::string(m_title) + ' ' + Quoted(element.GetShortName()) + " comes to the " +
-                            Titled(m_layer) + " from the " + Titled(*first.parent.layer) +
-                            " and another one of that name from the " + Titled(*parent.layer) +
-                            ", parents of equal rank; the first wins, because its PARENT-REF stands first"});
+        m_findings.Add(PositionOf(*parent.reference), NCode::AmbiguousName,
+                       std::string(m_title) + ' ' + Quoted(element.GetShortName()) + " comes to the " +
+                           Titled(m_layer) + " from the " + Titled(*first.parent.layer) +
+                           " and another one of that name from the " + Titled(*parent.layer) +
+                           ", parents of equal rank; the first wins, because its PARENT-REF stands first");
     }
 
     char const* m_title; ///< of the kind

@@ -8,14 +8,9 @@
 
 namespace NCheck {
 
-/// A kind of finding, of the reader or of `CheckDatabase`. All texts are UTF-8.
-struct VCode {
-    char const* code;            ///< stable, such as "unresolved-reference"
-    NReader::VSeverity severity; ///< of most findings of the kind; the finding itself decides
-    char const* title;           ///< one line
-};
+using NReader::VCode;
 
-/// Every code, in alphabetical order.
+/// Every code of the reader and of `CheckDatabase`, in alphabetical order.
 std::vector<VCode> const& Codes();
 
 /// The row of a code; null for a text that is none.

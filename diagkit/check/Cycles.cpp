@@ -161,14 +161,14 @@ private:
 
 struct VCycleText {
     VCycleKind kind;
-    char const* code;
+    VCode code;
     char const* leads;
 };
 
 constexpr VCycleText kCycleTexts[] = {
-    {VCycleKind::Containment, "containment-cycle", "contains itself"},
-    {VCycleKind::TableRows, "table-row-cycle", "contains itself through a table"},
-    {VCycleKind::RelatedDiagComms, "related-diag-comm-cycle", "is related to itself"},
+    {VCycleKind::Containment, NReader::NCode::ContainmentCycle, "contains itself"},
+    {VCycleKind::TableRows, NCode::TableRowCycle, "contains itself through a table"},
+    {VCycleKind::RelatedDiagComms, NCode::RelatedDiagCommCycle, "is related to itself"},
 };
 
 /// One finding for each reference, however many layers read it in how many ways.
@@ -196,14 +196,14 @@ public:
         std::vector<NODX201::VDiagLayer*> const all = LayersOf(m_database);
         for (VEntry const& entry : m_entries) {
             std::string const where = entry.layers.empty() ? "" : ' ' + InLayers(entry.layers, all);
-            findings.Add(
-                {entry.code, PositionOf(*entry.reference), entry.leads + " by this reference" + where + entry.chain});
+            findings.Add(PositionOf(*entry.reference), entry.code,
+                         entry.leads + " by this reference" + where + entry.chain);
         }
     }
 
 private:
     struct VEntry {
-        char const* code;
+        VCode code;
         NODX201::VLink* reference;
         std::string leads;
         std::string chain;

@@ -18,7 +18,7 @@ struct VPlaces {
 };
 
 VPlaces PlacesOf(NODX201::VOdxElement& element) {
-    VPlaces places{LayerOf(element)};
+    VPlaces places{Around<NODX201::VDiagLayer>(element)};
     for (NODX201::VOdxObject* object = &element; object != nullptr; object = object->GetOwner()) {
         auto* const candidate = dynamic_cast<NODX201::VOdxElement*>(object);
         if (candidate != nullptr && candidate->GetOdxTag() != Tag::Odx) {
@@ -48,10 +48,10 @@ void CheckDocrefs(VChecked const& checked, VFindings& findings) {
             continue; // one that names nothing is reported as unresolved
         }
         std::string const doctype = *link->GetDoctype() != L'\0' ? " and DOCTYPE " + Quoted(link->GetDoctype()) : "";
-        findings.Add({"wrong-docref", PositionOf(*reference),
-                      TagOf(*reference) + " names the ID " + Quoted(link->GetIdRef()) + " with DOCREF " +
-                          Quoted(link->GetDocref()) + doctype + ", but it stands in the " +
-                          Shown(PlacesOf(*entry->first)) + "; other programs may not find it"});
+        findings.Add(PositionOf(*reference), NCode::WrongDocref,
+                     TagOf(*reference) + " names the ID " + Quoted(link->GetIdRef()) + " with DOCREF " +
+                         Quoted(link->GetDocref()) + doctype + ", but it stands in the " +
+                         Shown(PlacesOf(*entry->first)) + "; other programs may not find it");
     }
 }
 

@@ -54,13 +54,12 @@ private:
                Names& names) {
         auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&link);
         if (snref == nullptr) {
-            m_findings.Add(
-                {"excludes-nothing", PositionOf(exclusion),
-                 TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short name"});
+            m_findings.Add(PositionOf(exclusion), NCode::ExcludesNothing,
+                           TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short name");
         } else if (*snref->GetShortName() != L'\0' && names.In(parent).count(snref->GetShortName()) == 0) {
-            m_findings.Add({"excludes-nothing", PositionOf(exclusion),
-                            TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " +
-                                Titled(parent) + " does not have"});
+            m_findings.Add(PositionOf(exclusion), NCode::ExcludesNothing,
+                           TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " +
+                               Titled(parent) + " does not have");
         }
     }
 

@@ -13,7 +13,7 @@ namespace {
 
 /// A kind of reference from layer to layer, which makes no sense twice.
 struct VLayerReference {
-    char const* code;
+    VCode code;
     NODX201::VDiagLayer* (*targetOf)(NODX201::VOdxElement& element); ///< null for other elements too
     char const* effect;
 };
@@ -31,8 +31,8 @@ NODX201::VDiagLayer* ImportOf(NODX201::VOdxElement& element) {
 
 // clang-format off
 constexpr VLayerReference kReferences[] = {
-    {"repeated-parent", &ParentOf, "; what one of them excludes, the other still brings"},
-    {"repeated-import", &ImportOf, ""},
+    {NCode::RepeatedParent, &ParentOf, "; what one of them excludes, the other still brings"},
+    {NCode::RepeatedImport, &ImportOf, ""},
 };
 // clang-format on
 
@@ -45,9 +45,9 @@ void CheckRepeated(VChecked const& checked, VLayerReference const& kind, VFindin
         }
         NODX201::VOdxElement* const first = firsts.try_emplace({element->GetOwner(), target}, element).first->second;
         if (first != element) {
-            findings.Add({kind.code, PositionOf(*element),
-                          TagOf(*element) + " names the " + Titled(*target) + ", as the one at line " +
-                              std::to_string(PositionOf(*first).line) + " does" + kind.effect});
+            findings.Add(PositionOf(*element), kind.code,
+                         TagOf(*element) + " names the " + Titled(*target) + ", as the one at line " +
+                             std::to_string(PositionOf(*first).line) + " does" + kind.effect);
         }
     }
 }
@@ -64,9 +64,9 @@ NReader::VEdges ImportsOf(NODX201::VReferencable& layer) {
 
 void ReportCycle(NReader::VEdge const& closing, NReader::VCycleSearch::VChain const& chain, VFindings& findings) {
     std::string const ring = chain.Count() > 1 ? ", in the ring of " + ListedIn(chain) : "";
-    findings.Add({"import-cycle", PositionOf(*closing.link),
-                  Titled(chain[0]) + " imports itself by this reference" + ring +
-                      "; programs that follow imports do not end there"});
+    findings.Add(PositionOf(*closing.link), NCode::ImportCycle,
+                 Titled(chain[0]) + " imports itself by this reference" + ring +
+                     "; programs that follow imports do not end there");
 }
 
 void CheckImportCycles(VChecked const& checked, VFindings& findings) {

@@ -55,16 +55,6 @@ std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& refere
     return layers;
 }
 
-template <class Element>
-Element* Around(NODX201::VLink const& reference) {
-    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
-        if (auto* const element = dynamic_cast<Element*>(object)) {
-            return element;
-        }
-    }
-    return nullptr;
-}
-
 /// The layers that the jobs of a MULTIPLE-ECU-JOB-SPEC run in; nothing when one of them is not loaded.
 std::optional<std::vector<NODX201::VDiagLayer*>> LayersOfJobs(NMemory::VMemMultipleEcuJobSpec& spec) {
     std::vector<NODX201::VDiagLayer*> layers;
@@ -164,7 +154,7 @@ private:
     void Add(NODX201::VLink& reference) {
         std::size_t const index = m_pending.size();
         m_pending.push_back({&reference});
-        if (NODX201::VDiagLayer* const home = LayerOf(reference)) {
+        if (NODX201::VDiagLayer* const home = Around<NODX201::VDiagLayer>(reference)) {
             m_at[home].push_back(index);
             if (NODX201::VOdxElement* const anchor = AnchorOf(reference)) {
                 m_at[anchor].push_back(index);
@@ -277,8 +267,8 @@ private:
         }
         char const* const rest = isNowhere ? "" : "; it is in the other layers that see the reference";
         findings.Add(
-            {isNowhere ? "unresolved-short-name" : "short-name-not-everywhere", PositionOf(*pending.reference),
-             Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + PlacesOf(pending) + rest});
+            PositionOf(*pending.reference), isNowhere ? NCode::UnresolvedShortName : NCode::ShortNameNotEverywhere,
+            Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + PlacesOf(pending) + rest);
     }
 
     static std::string PlacesOf(VPending const& pending) {
@@ -297,8 +287,8 @@ private:
 };
 
 void ReportInFlash(NODX201::VLink& reference, NMemory::VMemFlash const& flash, char const* kind, VFindings& findings) {
-    findings.Add({"unresolved-short-name", PositionOf(reference),
-                  Named(reference) + ", but the " + Titled(flash) + " has no " + kind + " of that name"});
+    findings.Add(PositionOf(reference), NCode::UnresolvedShortName,
+                 Named(reference) + ", but the " + Titled(flash) + " has no " + kind + " of that name");
 }
 
 /// References that stand in flash data and name flash data.
@@ -325,7 +315,7 @@ void CheckShortNameReferences(VChecked const& checked, VFindings& findings) {
     VShortNameReferences(checked).Check(findings);
     for (NODX201::VOdxElement* const element : checked.elements) {
         auto* const reference = dynamic_cast<NODX201::VLink*>(element);
-        if (reference != nullptr && LayerOf(*reference) == nullptr) {
+        if (reference != nullptr && Around<NODX201::VDiagLayer>(*reference) == nullptr) {
             CheckFlash(*reference, findings);
         }
     }

@@ -27,7 +27,7 @@ void CheckCharacters(NODX201::VOdxElement const& element, VFindings& findings) {
     }
     std::string const what = isPlain ? "is longer than 128 characters"
                                      : "has other characters than the letters A to Z and a to z, digits and underscore";
-    findings.Add({"short-name-characters", PositionOf(element), Titled(element) + ' ' + what});
+    findings.Add(PositionOf(element), NCode::ShortNameCharacters, Titled(element) + ' ' + what);
 }
 
 /// What shares its names with others in one list: ODX has several element kinds in some.
@@ -93,10 +93,10 @@ void CheckDuplicates(VChecked const& checked, VFindings& findings) {
         }
         auto const [first, isFirst] = firsts.try_emplace({owner, ListOf(*entry.named), shortName}, entry);
         if (!isFirst) {
-            findings.Add({"duplicate-short-name", PositionOf(*element),
-                          Shown(entry) + " has the short name of " + ShownFirst(first->second) + " at line " +
-                              std::to_string(PositionOf(*first->second.element).line) +
-                              " in the same list; where the name is looked up, that one is found"});
+            findings.Add(PositionOf(*element), NCode::DuplicateShortName,
+                         Shown(entry) + " has the short name of " + ShownFirst(first->second) + " at line " +
+                             std::to_string(PositionOf(*first->second.element).line) +
+                             " in the same list; where the name is looked up, that one is found");
         }
     }
 }

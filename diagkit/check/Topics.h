@@ -1,12 +1,59 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/check/Findings.h>
+#include <functional>
+#include <string>
+#include <vector>
 
-/// The topics, each in the source of its name. They report in no particular order, but the same one on every run.
+#include <diagkit/check/Codes.h>
+#include <diagkit/check/Views.h>
+#include <diagkit/model/Layers.h>
+#include <diagkit/reader/Containment.h>
+#include <diagkit/reader/Findings.h>
+#include <diagkit/reader/Naming.h>
+#include <diagkit/reader/OdxReader.h>
 
 namespace NCheck {
 
+/// What the topics report, each kind a `VCode` of its name.
+namespace NCode {
+#define DIAGNOSTIC(name, code, severity, title) inline constexpr VCode name{code, NReader::VSeverity::severity, title};
+#include <diagkit/check/Codes.def>
+} // namespace NCode
+
+/// What the topics look at, and whom they tell how far they are.
+struct VChecked {
+    NMemory::VDatabase& database;
+    std::vector<NODX201::VOdxElement*> const& elements; ///< all, in document order
+    VViews& views;                                      ///< of the layers
+    std::function<void()> const& layerDone;             ///< called by topics that take layers one by one
+};
+
+/// The innermost element of the class that an element stands in, perhaps itself; null where there is none.
+template <class Element>
+Element* Around(NODX201::VOdxElement& inner) {
+    for (NODX201::VOdxObject* object = &inner; object != nullptr; object = object->GetOwner()) {
+        if (auto* const element = dynamic_cast<Element*>(object)) {
+            return element;
+        }
+    }
+    return nullptr;
+}
+
+std::string ListedIn(NReader::VCycleSearch::VChain const& chain); ///< the titles of its elements, as `Listed` has them
+
+// What they collect findings in, and how messages name things.
+using NReader::InLayers;
+using NReader::kMostListed;
+using NReader::LayersOf;
+using NReader::Listed;
+using NReader::PositionOf;
+using NReader::Quoted;
+using NReader::TagOf;
+using NReader::Titled;
+using NReader::VFindings;
+
+// The topics, each in the source of its name. They report in no particular order, but the same one on every run.
 void CheckShortNames(VChecked const& checked, VFindings& findings);
 void CheckDocrefs(VChecked const& checked, VFindings& findings);
 void CheckLayerReferences(VChecked const& checked, VFindings& findings);

@@ -8,8 +8,8 @@
 
 /// For authors of a model: whether it keeps the promises of the contract (`diagkit/model/`) that the toolkit relies on.
 ///
-///     for (NConformance::VFinding const& finding : NConformance::CheckModel({myModel.GetOdx()})) {
-///         std::wcerr << NConformance::ToText(finding) << L'\n';
+///     for (NConformance::VViolation const& violation : NConformance::CheckModel({myModel.GetOdx()})) {
+///         std::wcerr << NConformance::ToText(violation) << L'\n';
 ///     }
 ///
 /// A model that breaks a promise badly enough, such as by handing out what was destroyed, ends the program instead: run
@@ -27,7 +27,7 @@ struct VCheck {
 std::vector<VCheck> const& Checks();
 
 /// A promise that is not kept.
-struct VFinding {
+struct VViolation {
     std::wstring check;    ///< the name of the check
     std::wstring where;    ///< the element, as the path from the root, and the operation
     std::wstring expected; ///< what the promise says here
@@ -35,7 +35,7 @@ struct VFinding {
 };
 
 /// `CHECK: WHERE: expected EXPECTED, found FOUND`
-std::wstring ToText(VFinding const& finding);
+std::wstring ToText(VViolation const& violation);
 
 /// What is checked. Nothing is owned; all must live while the checks run. The contract has no way from the root to
 /// FLASH and MULTIPLE-ECU-JOB documents, so a model that has them names them.
@@ -45,10 +45,10 @@ struct VModel {
     std::vector<NODX201::VMultipleEcuJob*> multipleEcuJobs{}; ///< of all MULTIPLE-ECU-JOB-SPECs; none when empty
 };
 
-/// Walks everything that the contract reaches and asks everything twice. The findings come in the order of the walk,
+/// Walks everything that the contract reaches and asks everything twice. The violations come in the order of the walk,
 /// those about links last; empty for a model that keeps its promises. Of each check only the first ten are told.
 ///
 /// A reference is resolved in the layer that it stands in; a PARAM-SNREF with each DIAG-COMM of that layer.
-std::vector<VFinding> CheckModel(VModel const& model);
+std::vector<VViolation> CheckModel(VModel const& model);
 
 } // namespace NConformance

@@ -26,7 +26,7 @@ struct VVisit {
 };
 VVisit VisitOf(NODX201::VOdxElement& element);
 
-/// Texts for findings: "VDiagService, VSingleEcuJob" and "PARAM VALUE".
+/// Texts for violations: "VDiagService, VSingleEcuJob" and "PARAM VALUE".
 std::wstring NamesOf(std::vector<VKind const*> const& kinds);
 std::wstring TextOf(NODX201::VOdxTagEnum tag);
 

@@ -72,9 +72,9 @@ private:
     std::vector<std::wstring>& m_answers;
 };
 
-std::vector<std::wstring> Walk(VModel const& model, VFindings& findings) {
+std::vector<std::wstring> Walk(VModel const& model, VViolations& violations) {
     std::vector<std::wstring> answers;
-    VWalk walk(findings, &answers);
+    VWalk walk(violations, &answers);
     walk.WalkModel(model);
     VViewAnswers views(walk, answers);
     for (VDiagLayerContainer& container : model.odx.DiagLayerContainerCollection()) {
@@ -99,8 +99,8 @@ std::vector<std::wstring> LinesOf(std::wstring const& text) {
 } // namespace
 
 std::vector<std::wstring> AnswersOf(VModel const& model) {
-    VFindings findings;
-    return Walk(model, findings);
+    VViolations violations;
+    return Walk(model, violations);
 }
 
 std::vector<std::wstring> const& ReferenceAnswers() {
@@ -108,18 +108,18 @@ std::vector<std::wstring> const& ReferenceAnswers() {
     return answers;
 }
 
-std::vector<VFinding> CheckModel(VModel const& model) {
-    VFindings findings;
-    VWalk(findings, nullptr).WalkModel(model);
-    return findings.Take();
+std::vector<VViolation> CheckModel(VModel const& model) {
+    VViolations violations;
+    VWalk(violations, nullptr).WalkModel(model);
+    return violations.Take();
 }
 
-std::vector<VFinding> CheckReference(VModel const& model) {
-    VFindings findings;
-    std::vector<std::wstring> const answers = Walk(model, findings);
-    std::vector<VFinding> all = findings.Take();
-    for (VFinding& finding : CompareAnswers(ReferenceAnswers(), answers)) {
-        all.push_back(std::move(finding));
+std::vector<VViolation> CheckReference(VModel const& model) {
+    VViolations violations;
+    std::vector<std::wstring> const answers = Walk(model, violations);
+    std::vector<VViolation> all = violations.Take();
+    for (VViolation& violation : CompareAnswers(ReferenceAnswers(), answers)) {
+        all.push_back(std::move(violation));
     }
     return all;
 }

@@ -22,8 +22,8 @@ std::vector<std::wstring> AnswersOf(VModel const& model);
 /// The answers for the reference database: the lines of `reference.txt`.
 std::vector<std::wstring> const& ReferenceAnswers();
 
-/// `CheckModel`, and a finding for every answer that is missing, not meant or another than for the reference database.
-/// Those are all told.
-std::vector<VFinding> CheckReference(VModel const& model);
+/// `CheckModel`, and a violation for every answer that is missing, not meant or another than for the reference
+/// database. Those are all told.
+std::vector<VViolation> CheckReference(VModel const& model);
 
 } // namespace NConformance

@@ -451,7 +451,7 @@ std::wstring VWalk::Where(wchar_t const* operation) const {
 }
 
 void VWalk::Report(VCheckId check, wchar_t const* operation, std::wstring expected, std::wstring found) {
-    m_findings.Add(check, Where(operation), std::move(expected), std::move(found));
+    m_violations.Add(check, Where(operation), std::move(expected), std::move(found));
 }
 
 void VWalk::Answer(wchar_t const* operation, std::wstring const& answer) {

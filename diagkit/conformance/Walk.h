@@ -8,7 +8,7 @@
 #include <vector>
 
 #include <diagkit/conformance/Alternatives.h>
-#include <diagkit/conformance/Findings.h>
+#include <diagkit/conformance/Violations.h>
 #include <diagkit/model/Collections.h>
 #include <diagkit/model/ProcessingInstruction.h>
 
@@ -79,7 +79,7 @@ public:
     using VGetChild = std::function<VChild()>;
     using VGetList = std::function<VList()>;
 
-    VWalk(VFindings& findings, std::vector<std::wstring>* answers) : m_findings(findings), m_answers(answers) {}
+    VWalk(VViolations& violations, std::vector<std::wstring>* answers) : m_violations(violations), m_answers(answers) {}
 
     void WalkModel(VModel const& model);
 
@@ -137,7 +137,7 @@ private:
     void Report(VCheckId check, wchar_t const* operation, std::wstring expected, std::wstring found);
     void Answer(wchar_t const* operation, std::wstring const& answer);
 
-    VFindings& m_findings;
+    VViolations& m_violations;
     std::vector<std::wstring>* m_answers;
     std::wstring m_path;
     NODX201::VOdxElement* m_element = nullptr; // that the walk is at

@@ -19,8 +19,7 @@ VReferencables Suspects(VReferencables const& containers) {
 }
 
 void Report(VReading& reading, VEdge const& severed, std::string const& where) {
-    reading.findings.Add(dynamic_cast<NMemory::VMemNode const&>(*severed.link).GetPosition(), VSeverity::Error,
-                         "containment-cycle",
+    reading.findings.Add(PositionOf(*severed.link), NCode::ContainmentCycle,
                          Titled(*severed.target) + " contains itself through this reference" + where +
                              ", which is left unresolved" + (where.empty() ? "" : " there"));
 }

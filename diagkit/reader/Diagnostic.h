@@ -9,13 +9,23 @@ namespace NReader {
 /// An error breaks the rules of ODX or leaves something out; a warning looks odd.
 enum class VSeverity { Warning, Error };
 
+/// A kind of diagnostic.
+struct VCode {
+    char const* code;   ///< stable, such as "unresolved-reference"
+    VSeverity severity; ///< of most of the kind; the diagnostic itself decides
+    char const* title;  ///< one line
+
+    /// The kind with the severity that one of it has.
+    constexpr VCode As(VSeverity one) const { return {code, one, title}; }
+};
+
 /// One finding about a user's data. All texts are UTF-8.
 struct VDiagnostic {
     std::string file;                      ///< as named by the user; inside a package PACKAGE!MEMBER
     std::uint32_t line = 0;                ///< counts from 1; 0 when the finding has no position
     std::uint32_t column = 0;              ///< counts from 1, in characters; 0 when the finding has no position
     VSeverity severity = VSeverity::Error; ///< whether the data is wrong or looks odd
-    std::string code;                      ///< stable, such as "unresolved-reference"
+    std::string code;                      ///< of a `VCode`
     std::string message;                   ///< lower-case start, no full stop
 };
 

@@ -28,12 +28,12 @@ std::string Clipped(std::string message) {
     return message.substr(0, end) + "...";
 }
 
-void VFindings::Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message) {
-    Keep({position, severity, std::move(code), Clipped(std::move(message))});
+void VFindings::Add(NMemory::VPosition const& position, VCode const& code, std::string message) {
+    Keep({position, code, Clipped(std::move(message))});
 }
 
 void VFindings::Append(VFindings&& later) {
-    for (VFinding& finding : later.m_findings) {
+    for (VKept& finding : later.m_findings) {
         Keep(std::move(finding));
     }
     if (later.m_firstLeftOut) {
@@ -42,8 +42,8 @@ void VFindings::Append(VFindings&& later) {
     later = VFindings(later.m_limit);
 }
 
-void VFindings::Keep(VFinding finding) {
-    std::size_t const index = IndexOf(finding.severity);
+void VFindings::Keep(VKept finding) {
+    std::size_t const index = IndexOf(finding.code.severity);
     if (m_kept[index] < m_limit) {
         ++m_kept[index];
         m_findings.push_back(std::move(finding));
@@ -63,27 +63,27 @@ void VFindings::LeaveOut(NMemory::VPosition const& first, VCounts const& counts)
     }
 }
 
-VFindings::VFinding VFindings::Closing() const {
+VFindings::VKept VFindings::Closing() const {
     std::uint64_t const errors = m_leftOut[IndexOf(VSeverity::Error)];
     std::uint64_t const all = errors + m_leftOut[IndexOf(VSeverity::Warning)];
     std::string const what = "left out are " + std::to_string(all) + " diagnostics, " + std::to_string(errors) +
                              " of them errors, the first here: there are more errors or more warnings than";
-    return {*m_firstLeftOut, errors > 0 ? VSeverity::Error : VSeverity::Warning, "too-many-diagnostics",
+    return {*m_firstLeftOut, NCode::TooManyDiagnostics.As(errors > 0 ? VSeverity::Error : VSeverity::Warning),
             OverLimit(what, m_limit, "", "--max-diagnostics")};
 }
 
 std::vector<VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {
-    std::vector<VFinding> findings = m_findings;
+    std::vector<VKept> findings = m_findings;
     if (m_firstLeftOut) {
         findings.push_back(Closing());
     }
     std::stable_sort(findings.begin(), findings.end(),
-                     [](VFinding const& a, VFinding const& b) { return IsBefore(a.position, b.position); });
+                     [](VKept const& a, VKept const& b) { return IsBefore(a.position, b.position); });
     std::vector<VDiagnostic> diagnostics;
     diagnostics.reserve(findings.size());
-    for (VFinding& finding : findings) {
+    for (VKept& finding : findings) {
         diagnostics.push_back({database.GetDocumentName(finding.position), finding.position.line,
-                               finding.position.column, finding.severity, std::move(finding.code),
+                               finding.position.column, finding.code.severity, finding.code.code,
                                std::move(finding.message)});
     }
     return diagnostics;

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include <diagkit/memory/Database.h>
-#include <diagkit/reader/Diagnostic.h>
+#include <diagkit/reader/Codes.h>
 
 namespace NReader {
 
@@ -25,7 +25,7 @@ class VFindings {
 public:
     explicit VFindings(std::uint64_t limit = std::numeric_limits<std::uint64_t>::max()) : m_limit(limit) {}
 
-    void Add(NMemory::VPosition const& position, VSeverity severity, std::string code, std::string message);
+    void Add(NMemory::VPosition const& position, VCode const& code, std::string message);
     void Append(VFindings&& later);
 
     /// All of them, by document and position, with the documents' names. Where some were left out, one more says how
@@ -33,22 +33,21 @@ public:
     std::vector<VDiagnostic> Sorted(NMemory::VDatabase const& database) const;
 
 private:
-    struct VFinding {
+    struct VKept {
         NMemory::VPosition position;
-        VSeverity severity;
-        std::string code;
+        VCode code;
         std::string message;
     };
 
     using VCounts = std::array<std::uint64_t, 2>; // by severity
 
     static std::size_t IndexOf(VSeverity severity) { return static_cast<std::size_t>(severity); }
-    void Keep(VFinding finding);
+    void Keep(VKept finding);
     void LeaveOut(NMemory::VPosition const& first, VCounts const& counts);
-    VFinding Closing() const;
+    VKept Closing() const;
 
     std::uint64_t m_limit;
-    std::vector<VFinding> m_findings;
+    std::vector<VKept> m_findings;
     VCounts m_kept{};
     VCounts m_leftOut{};
     std::optional<NMemory::VPosition> m_firstLeftOut; // by position

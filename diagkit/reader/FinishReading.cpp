@@ -35,27 +35,23 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
     }
     std::string const what = TagOf(reference) + " names " + Named(link);
     if (auto const leftOut = reading.idsLeftOut.find(ToUtf8(link.GetIdRef())); leftOut != reading.idsLeftOut.end()) {
-        reading.findings.Add(node.GetPosition(), VSeverity::Warning, "target-left-out",
+        reading.findings.Add(node.GetPosition(), NCode::TargetLeftOut,
                              what + ", a " + leftOut->second + ", for which the model has no place");
         return;
     }
     auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
     if (others == nullptr) {
-        reading.findings.Add(node.GetPosition(), VSeverity::Error, "unresolved-reference",
+        reading.findings.Add(node.GetPosition(), NCode::UnresolvedReference,
                              what + ", which no loaded element has; load the document that holds it too");
         return;
     }
-    reading.findings.Add(node.GetPosition(), VSeverity::Error, "reference-kind",
+    reading.findings.Add(node.GetPosition(), NCode::ReferenceKind,
                          what + ", which is the " + TagOf(*others->first) + ' ' + Quoted(*others->first) + " and no " +
                              KindWantedBy(reference));
 }
 
-NMemory::VPosition const& PositionOf(NODX201::VReferencable const& element) {
-    return dynamic_cast<NMemory::VMemNode const&>(element).GetPosition();
-}
-
 std::string PlaceOf(VReading const& reading, NODX201::VReferencable const& element) {
-    NMemory::VPosition const& position = PositionOf(element);
+    NMemory::VPosition const position = PositionOf(element);
     return reading.database->GetDocumentName(position) + ':' + std::to_string(position.line);
 }
 
@@ -66,7 +62,7 @@ void ReportDoubt(VReading& reading, NMemory::VMemNode const& node, NODX201::VLin
         return;
     }
     auto const& link = dynamic_cast<NODX201::VOdxLink const&>(reference.GetLink());
-    reading.findings.Add(node.GetPosition(), VSeverity::Error, "ambiguous-document",
+    reading.findings.Add(node.GetPosition(), NCode::AmbiguousDocument,
                          TagOf(reference) + " names " + Named(link) + ", but there are several of that name; the " +
                              TagOf(*doubt.target) + " at " + PlaceOf(reading, *doubt.target) +
                              " is taken, and not the " + TagOf(*doubt.other) + " at " + PlaceOf(reading, *doubt.other));
@@ -95,10 +91,10 @@ void GiveParentRefsTheirKinds(VReading& reading) {
             continue;
         }
         if (untyped.HasDiagLayer() && &untyped.GetDiagLayer() == untyped.GetOwner()) {
-            reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-itself",
+            reading.findings.Add(untyped.GetPosition(), NCode::ParentItself,
                                  Titled(untyped.GetDiagLayer()) + " names itself as a parent");
         } else if (untyped.HasDiagLayer()) {
-            reading.findings.Add(untyped.GetPosition(), VSeverity::Error, "parent-kind",
+            reading.findings.Add(untyped.GetPosition(), NCode::ParentKind,
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
                                      Quoted(untyped.GetDiagLayer()) + ", from which nothing can be inherited");
         } else {
@@ -128,7 +124,7 @@ void ReportRepeatedDocuments(VReading& reading) {
             auto const [first, isFirst] =
                 firsts.try_emplace({document.GetOdxTag(), document.GetShortName()}, &document);
             if (!isFirst && *document.GetShortName() != L'\0') {
-                reading.findings.Add(PositionOf(document), VSeverity::Warning, "repeated-document",
+                reading.findings.Add(PositionOf(document), NCode::RepeatedDocument,
                                      Titled(document) + " has the short name of the one at " +
                                          PlaceOf(reading, *first->second) +
                                          "; a reference that names the document means what is found in that one first");
@@ -146,10 +142,10 @@ void ReportRepeatedIds(VReading& reading) {
     reading.database->GetIdIndex().ForEachRepeated([&reading](NMemory::VIdIndex::VEntry const& entry) {
         std::unordered_map<std::uint32_t, NODX201::VReferencable*> firstOf; // by document
         entry.ForEach([&](NODX201::VReferencable& element) {
-            NMemory::VPosition const& position = PositionOf(element);
+            NMemory::VPosition const position = PositionOf(element);
             NODX201::VReferencable& first = *firstOf.emplace(position.document, &element).first->second;
             if (&first != &element) {
-                reading.findings.Add(position, VSeverity::Error, "duplicate-id",
+                reading.findings.Add(position, NCode::DuplicateId,
                                      Titled(element) + " has the ID " + Quoted(element.GetId()) + " of the " +
                                          Titled(first) + " at line " + std::to_string(PositionOf(first).line) +
                                          "; IDs must differ in a document");
@@ -169,12 +165,11 @@ void CheckParent(VReading& reading, NDIAGKIT::VLayerOfKind const& layer, NODX201
     if (!parent.has_value()) {
         return; // reported as unresolved
     }
-    NMemory::VPosition const& position = dynamic_cast<NMemory::VMemNode const&>(parentRef).GetPosition();
+    NMemory::VPosition const position = PositionOf(parentRef);
     if (parent->layer == layer.layer) {
-        reading.findings.Add(position, VSeverity::Error, "parent-itself",
-                             Titled(*layer.layer) + " names itself as a parent");
+        reading.findings.Add(position, NCode::ParentItself, Titled(*layer.layer) + " names itself as a parent");
     } else if (!IsParentAllowed(layer.kind, parent->kind)) {
-        reading.findings.Add(position, VSeverity::Error, "parent-kind",
+        reading.findings.Add(position, NCode::ParentKind,
                              Titled(*layer.layer) + " has the " + Titled(*parent->layer) +
                                  " as a parent, which ODX does not allow; nothing is inherited");
     }

@@ -13,14 +13,14 @@ namespace NReader {
 
 namespace fs = std::filesystem;
 
-VFailure Unreadable(std::string const& reason) { return {{}, "unreadable", "cannot be read: " + reason}; }
+VFailure Unreadable(std::string const& reason) { return {&NCode::Unreadable, "cannot be read: " + reason}; }
 
 VFailure UnreadableStream() {
     return Unreadable(errno != 0 ? std::generic_category().message(errno) : "reading failed");
 }
 
 VFailure FileTooLarge(VReadLimits const& limits) {
-    return {{}, "too-large", OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
+    return {&NCode::TooLarge, OverLimit("the file is larger than", limits.maxFileSize, " bytes", "--max-file-size")};
 }
 
 fs::path PathOf(std::string const& file) {
@@ -68,13 +68,13 @@ bool IsPackageName(std::string const& file) {
 std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code const& error) {
     if (!fs::exists(status)) {
         bool const isTold = error && error != std::errc::no_such_file_or_directory;
-        return VFailure{{}, "no-file", isTold ? "cannot be read: " + error.message() : "no such file"};
+        return VFailure{&NCode::NoFile, isTold ? "cannot be read: " + error.message() : "no such file"};
     }
     if (fs::is_directory(status)) {
-        return VFailure{{}, "no-file", "is a folder; name the ODX documents or packages in it"};
+        return VFailure{&NCode::NoFile, "is a folder; name the ODX documents or packages in it"};
     }
     if (fs::is_fifo(status)) {
-        return VFailure{{}, "no-file", "is a pipe, which cannot be read twice; save it to a file first"};
+        return VFailure{&NCode::NoFile, "is a pipe, which cannot be read twice; save it to a file first"};
     }
     return {};
 }
@@ -94,7 +94,7 @@ VInspection Inspect(std::string const& file, VReadLimits const& limits) {
     }
     // Reading tells, not the size: files of the system say to be empty and are not.
     if (IsPackageName(file) && head.empty()) {
-        return {false, 0, VFailure{{}, "empty", "is empty"}};
+        return {false, 0, VFailure{&NCode::Empty, "is empty"}};
     }
     std::uintmax_t const told = fs::is_regular_file(status) ? fs::file_size(path, error) : 0;
     std::uintmax_t const size = error ? 0 : told;
@@ -103,7 +103,7 @@ VInspection Inspect(std::string const& file, VReadLimits const& limits) {
     }
     bool const isPackage = IsLikeZip(head);
     if (!isPackage && IsPackageName(file)) {
-        return {false, size, VFailure{{}, "no-package", "is no PDX package: the file is not a zip archive"}};
+        return {false, size, VFailure{&NCode::NoPackage, "is no PDX package: the file is not a zip archive"}};
     }
     return {isPackage, size, {}};
 }

@@ -47,15 +47,15 @@ void VLoader::SetModelVersion(std::string_view version) {
     std::string const minor =
         dot != std::string::npos ? m_modelVersion.substr(dot + 1, m_modelVersion.find('.', dot + 1) - dot - 1) : "";
     if (!IsNumber(major) || (dot != std::string::npos && !IsNumber(minor))) {
-        Report(VSeverity::Warning, "unknown-model-version",
+        Report(NCode::UnknownModelVersion,
                "MODEL-VERSION is '" + m_modelVersion + "', which is no version; the document is read by its content");
         return;
     }
     m_isVersion20 = major == "0" || major == "1" || (major == "2" && minor == "0");
 }
 
-void VLoader::Report(VSeverity severity, char const* code, std::string message) {
-    m_reading.findings.Add(Position(), severity, code, std::move(message));
+void VLoader::Report(VCode const& code, std::string message) {
+    m_reading.findings.Add(Position(), code, std::move(message));
 }
 
 NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
@@ -67,10 +67,10 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
         Trim(m_reference[index]); // as the IDs and short names that it names are
     }
     if (m_reference[0].empty()) {
-        Report(VSeverity::Error, "missing-attribute", Quoted(m_opening) + " has no ID-REF");
+        Report(NCode::MissingAttribute, Quoted(m_opening) + " has no ID-REF");
     }
     if (m_isVersion20 && !m_reference[2].empty() && !IsLiteral(LiteralsOf<&Mapper::GetDoctypeStr>(), m_reference[2])) {
-        Report(VSeverity::Warning, "unknown-literal",
+        Report(NCode::UnknownLiteral.As(VSeverity::Warning),
                "DOCTYPE of " + Quoted(m_opening) + " is '" + ToUtf8(m_reference[2]) + "', which is none of " +
                    LiteralsText(LiteralsOf<&Mapper::GetDoctypeStr>()) + "; the target is looked for without it");
     }
@@ -84,7 +84,7 @@ NMemory::VReference VLoader::ReadShortNameReference(VAttributes const& attribute
     AppendFromUtf8(m_reference[0], value != nullptr ? value : "");
     Trim(m_reference[0]);
     if (m_reference[0].empty()) {
-        Report(VSeverity::Error, "missing-attribute", Quoted(m_opening) + " has no SHORT-NAME");
+        Report(NCode::MissingAttribute, Quoted(m_opening) + " has no SHORT-NAME");
     }
     return NMemory::VReference::ByShortName(m_reference[0].c_str());
 }
@@ -127,15 +127,14 @@ void VLoader::StartUnknown(std::string_view name, VAttributes const& attributes)
     ++m_reading.unknownElements[std::string(name)];
     bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
     if (m_isVersion20 && !isCategory) {
-        Report(VSeverity::Warning, "unknown-child",
-               Quoted(m_frames.back().name) + " holds no " + Quoted(name) +
-                   " in ODX 2.0; it is left out with all inside");
+        Report(NCode::UnknownChild, Quoted(m_frames.back().name) + " holds no " + Quoted(name) +
+                                        " in ODX 2.0; it is left out with all inside");
     }
 }
 
 void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
     if (name != "ODX") {
-        m_parser->Refuse("not-odx", "the root element is '" + std::string(name) + "', not ODX");
+        m_parser->Refuse(NCode::NotOdx, "the root element is '" + std::string(name) + "', not ODX");
         return;
     }
     m_rootPosition = Position();
@@ -143,8 +142,7 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
     if (version != nullptr) {
         SetModelVersion(version);
     } else {
-        Report(VSeverity::Warning, "missing-model-version",
-               "ODX has no MODEL-VERSION; the document is read by its content");
+        Report(NCode::MissingModelVersion, "ODX has no MODEL-VERSION; the document is read by its content");
     }
     m_frames.push_back({"ODX", this, &RootType(), m_rootPosition});
 }
@@ -166,7 +164,7 @@ bool VLoader::StartBesideWrapper(std::string_view name, VAttributes const& attri
         if (index < 0) {
             continue;
         }
-        Report(VSeverity::Warning, "missing-wrapper",
+        Report(NCode::MissingWrapper,
                Quoted(name) + " stands outside of " + Quoted(wrapper.name) + ", where it belongs");
         frame.implied |= std::uint64_t{1} << at;
         frame.choices |= wrapper.choice != 0 ? std::uint64_t{1} << wrapper.choice : 0;
@@ -249,13 +247,13 @@ void VLoader::ReadAttributes(VFrame const& frame, VAttributes const& attributes)
         char const* const value = attributes.Find(row.name);
         if (value == nullptr) {
             if (row.occurs == Required && m_isVersion20) {
-                Report(VSeverity::Error, "missing-attribute", Quoted(frame.name) + " has no " + row.name);
+                Report(NCode::MissingAttribute, Quoted(frame.name) + " has no " + row.name);
             }
             continue;
         }
         ReadValue(row.content, value);
         if (m_value.empty() && std::strcmp(row.name, "ID") == 0) {
-            Report(VSeverity::Error, "missing-attribute", Quoted(frame.name) + " has an empty ID");
+            Report(NCode::MissingAttribute, Quoted(frame.name) + " has an empty ID");
         }
         CheckValue(row.content, row.literals, frame, row.name);
         row.set(frame.object, m_value, m_textId);
@@ -293,7 +291,7 @@ void VLoader::Text(std::string_view text) {
         m_parser->LimitText(m_text.size());
     } else if (!frame.hasStrayText && !IsBlank(text)) {
         frame.hasStrayText = true;
-        Report(VSeverity::Warning, "stray-text", Quoted(frame.name) + " holds text, which is left out");
+        Report(NCode::StrayText, Quoted(frame.name) + " holds text, which is left out");
     }
 }
 
@@ -325,7 +323,7 @@ void VLoader::End(std::string_view name) {
 void VLoader::TakeContent(VFrame const& frame) {
     ReadValue(frame.type->content, m_text);
     if (m_value.empty() && std::strcmp(frame.name, "SHORT-NAME") == 0) {
-        m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
+        m_reading.findings.Add(frame.position, NCode::MissingChild,
                                Quoted(m_frames.back().name) + " has an empty 'SHORT-NAME'");
     }
     CheckValue(frame.type->content, frame.type->literals, frame);

@@ -34,7 +34,7 @@ public:
     VDocumentReading& Reading() { return m_reading; }
     NMemory::VPosition Position() const; ///< of the tag being read
     void SetModelVersion(std::string_view version);
-    void Report(VSeverity severity, char const* code, std::string message);
+    void Report(VCode const& code, std::string message);
     /// An ID reference or short-name reference as its attributes say, valid until the next call.
     NMemory::VReference ReadIdReference(VAttributes const& attributes);
     NMemory::VReference ReadShortNameReference(VAttributes const& attributes);

@@ -18,17 +18,16 @@ std::string Quoted(std::string_view text) {
 void VLoader::ReportRow(VFrame const& frame, VRow const& row, bool isRepeated, bool isSecondAlternative) {
     std::string const stands = Quoted(row.name) + " stands in " + Quoted(frame.name);
     if (isRepeated) {
-        Report(VSeverity::Error, "repeated-child",
-               stands + " more than once" + (row.isFirstKept ? "; the first one counts" : ""));
+        Report(NCode::RepeatedChild, stands + " more than once" + (row.isFirstKept ? "; the first one counts" : ""));
         return;
     }
     if (isSecondAlternative) {
-        Report(VSeverity::Error, "second-alternative", stands + " beside an alternative; the first one counts");
+        Report(NCode::SecondAlternative, stands + " beside an alternative; the first one counts");
         return;
     }
     VRow const& last = frame.type->rows[static_cast<std::size_t>(frame.lastRow)];
     if (m_isVersion20 && !(row.occurs == Many && last.occurs == Many)) {
-        Report(VSeverity::Warning, "misplaced-child",
+        Report(NCode::MisplacedChild,
                Quoted(row.name) + " belongs before " + Quoted(last.name) + " in " + Quoted(frame.name));
     }
 }
@@ -42,10 +41,9 @@ void VLoader::CheckValue(VContent content, wchar_t const* const* literals, VFram
     std::string const what = attribute != nullptr ? attribute + (" of " + Quoted(frame.name)) : Quoted(frame.name);
     std::string const is = what + " is " + Quoted(ToUtf8(m_value));
     if (!isValue) {
-        m_reading.findings.Add(frame.position, VSeverity::Error, "not-a-value",
-                               is + ", which is no " + ValueText(content));
+        m_reading.findings.Add(frame.position, NCode::NotAValue, is + ", which is no " + ValueText(content));
     } else {
-        m_reading.findings.Add(frame.position, VSeverity::Error, "unknown-literal",
+        m_reading.findings.Add(frame.position, NCode::UnknownLiteral,
                                is + ", which is none of " + LiteralsText(literals));
     }
 }
@@ -67,7 +65,7 @@ void VLoader::CheckComplete(VFrame const& frame) {
             continue;
         }
         reportedChoices |= choiceBit;
-        m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
+        m_reading.findings.Add(frame.position, NCode::MissingChild,
                                Quoted(frame.name) + " has no " + Quoted(row.name) +
                                    (row.choice != 0 ? " nor an alternative to it" : ""));
     }
@@ -84,10 +82,10 @@ void VLoader::CheckKind(VFrame const& frame) {
         int const index = frame.type->FindRow(kind.child);
         bool const isSeen = (frame.seen & (std::uint64_t{1} << index)) != 0;
         if (kind.xsiType == xsiType && !isSeen) {
-            m_reading.findings.Add(frame.position, VSeverity::Error, "missing-child",
+            m_reading.findings.Add(frame.position, NCode::MissingChild,
                                    Quoted(frame.name) + " of the type " + xsiType + " has no " + Quoted(kind.child));
         } else if (kind.xsiType != xsiType && isSeen) {
-            m_reading.findings.Add(frame.position, VSeverity::Error, "contradicting-type",
+            m_reading.findings.Add(frame.position, NCode::ContradictingType,
                                    Quoted(frame.name) + " is of the type " + xsiType + " and holds " +
                                        Quoted(kind.child) + ", as one of the type " + kind.xsiType + " does");
         }

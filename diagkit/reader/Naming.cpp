@@ -27,6 +27,11 @@ std::string TagOf(NODX201::VOdxElement const& element) { return ToUtf8(NODX201::
 
 std::string Titled(NODX201::VOdxElement const& element) { return TagOf(element) + ' ' + Quoted(element); }
 
+NMemory::VPosition PositionOf(NODX201::VOdxElement const& element) {
+    auto const* const node = dynamic_cast<NMemory::VMemNode const*>(&element);
+    return node != nullptr ? node->GetPosition() : NMemory::VPosition{};
+}
+
 std::string ListedOf(std::vector<std::string> const& items, std::size_t count) {
     std::string text;
     std::size_t const listed = std::min(items.size(), kMostListed);

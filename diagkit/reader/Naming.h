@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include <diagkit/memory/Node.h>
 #include <diagkit/model/Layers.h>
 
 /// How diagnostics name elements. Texts of data are cut off where they are longer than any message.
@@ -17,6 +18,9 @@ std::string Quoted(wchar_t const* text);                 ///< 'TEXT'
 std::string Quoted(NODX201::VOdxElement const& element); ///< 'NAME'
 std::string TagOf(NODX201::VOdxElement const& element);  ///< "ECU-VARIANT"
 std::string Titled(NODX201::VOdxElement const& element); ///< "ECU-VARIANT 'NAME'"
+
+/// Where it stands; nowhere for an element of another model.
+NMemory::VPosition PositionOf(NODX201::VOdxElement const& element);
 
 /// Of very many things messages name this many, and say how many more there are.
 inline constexpr std::size_t kMostListed = 10;

@@ -12,7 +12,6 @@ namespace {
 /// What one try at a document came to.
 struct VTry {
     std::unique_ptr<VDocumentReading> reading{}; // null when it failed
-    std::string doubt{};                         // when another encoding may help: why
     VFailure failure{};
 };
 
@@ -27,12 +26,12 @@ void ReportOneByteEncoding(VXmlParser const& parser, std::uint32_t document, VFi
     VXmlControl const control = parser.GetFirstControl();
     bool const isReadOtherwise = IsLatin1(declared) && control.position.line != 0;
     if (VXmlPosition const place = parser.GetDoubtfulPosition(); place.line != 0) {
-        findings.Add({document, place.line, place.column}, VSeverity::Warning, "encoding",
+        findings.Add({document, place.line, place.column}, NCode::Encoding,
                      "the document declares " + declared +
                          (isReadOtherwise ? " and is read as Windows-1252" : ", in which it is read") +
                          ", but all that is beyond ASCII is UTF-8, first here");
     } else if (control.position.line != 0) {
-        findings.Add({document, control.position.line, control.position.column}, VSeverity::Warning, "encoding",
+        findings.Add({document, control.position.line, control.position.column}, NCode::Encoding,
                      "the document declares " + declared + ", which has no character for the byte " +
                          Hexadecimal(control.byte) + ", first here; read as " +
                          (isReadOtherwise ? "Windows-1252" : "a control character"));
@@ -41,7 +40,7 @@ void ReportOneByteEncoding(VXmlParser const& parser, std::uint32_t document, VFi
 
 void ReportEncoding(VXmlParser const& parser, std::uint32_t document, VFindings& findings) {
     if (std::string const declared = parser.GetContradictedEncoding(); !declared.empty()) {
-        findings.Add({document, 1, 1}, VSeverity::Warning, "encoding",
+        findings.Add({document, 1, 1}, NCode::Encoding,
                      "the document declares " + declared + " but has the byte order mark of " +
                          parser.GetMarkedEncoding() + ", in which it is read");
     }
@@ -49,7 +48,7 @@ void ReportEncoding(VXmlParser const& parser, std::uint32_t document, VFindings&
 }
 
 VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& options, std::uint32_t document,
-                 VBytes const& bytes, char const* encoding, bool isRepaired) {
+                 VBytes const& bytes, char const* encoding) {
     VLoader loader(*reading, document);
     VXmlParser parser(loader, options, encoding);
     loader.SetParser(parser);
@@ -67,13 +66,11 @@ VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& 
         return result;
     }
     if (isEmpty) {
-        result.failure = {{}, "empty", "is empty"};
+        result.failure = {&NCode::Empty, "is empty"};
         return result;
     }
     if (!isParsed || !parser.Feed({}, true)) {
-        VXmlError const& problem = parser.GetError();
-        result.failure = {problem.position, problem.code, problem.message};
-        result.doubt = isRepaired ? "" : problem.doubt;
+        result.failure = parser.GetError();
         return result;
     }
     ReportEncoding(parser, document, reading->findings);
@@ -86,35 +83,35 @@ VTry TryDocument(std::unique_ptr<VDocumentReading> reading, VReadOptions const& 
 
 std::unique_ptr<VDocumentReading> ReadDocument(NMemory::VDatabase& database, VReadOptions const& options,
                                                std::uint32_t document, VBytes const& bytes, VFindings& findings) {
-    auto const tryDocument = [&](char const* encoding, bool isRepaired) {
+    auto const tryDocument = [&](char const* encoding) {
         auto reading = std::make_unique<VDocumentReading>(database, options);
-        return TryDocument(std::move(reading), options, document, bytes, encoding, isRepaired);
+        return TryDocument(std::move(reading), options, document, bytes, encoding);
     };
     auto const at = [document](VXmlPosition const& position) {
         return NMemory::VPosition{document, position.line, position.column};
     };
-    VTry first = tryDocument(nullptr, false);
+    VTry first = tryDocument(nullptr);
     if (first.reading != nullptr) {
         return std::move(first.reading);
     }
     VFailure failure = first.failure;
-    if (!first.doubt.empty()) {
+    if (!first.failure.doubt.empty()) {
         // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
         for (char const* const encoding : {"UTF-16", "UTF-8", "Windows-1252"}) {
-            VTry next = tryDocument(encoding, true);
+            VTry next = tryDocument(encoding);
             if (next.reading != nullptr) {
-                next.reading->findings.Add(at(first.failure.position), VSeverity::Warning, "encoding",
-                                           first.doubt + "; read as " + encoding);
+                next.reading->findings.Add(at(first.failure.position), NCode::Encoding,
+                                           first.failure.doubt + "; read as " + encoding);
                 return std::move(next.reading);
             }
-            if (next.failure.code != "not-xml") { // it is the encoding, and something else is wrong
+            if (next.failure.code != &NCode::NotXml) { // it is the encoding, and something else is wrong
                 failure = next.failure;
                 break;
             }
         }
     }
-    if (!failure.code.empty()) {
-        findings.Add(at(failure.position), VSeverity::Error, failure.code, failure.message);
+    if (failure.code != nullptr) {
+        findings.Add(at(failure.position), *failure.code, failure.message);
     }
     return nullptr;
 }

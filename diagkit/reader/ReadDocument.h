@@ -12,12 +12,6 @@
 
 namespace NReader {
 
-struct VFailure {
-    VXmlPosition position{};
-    std::string code{}; ///< "" when it is told elsewhere
-    std::string message{};
-};
-
 /// Hands out the bytes of a document from the start, as often as asked, until `take` returns false. False when reading
 /// failed, with the reason in `failure`.
 using VBytes = std::function<bool(std::function<bool(std::string_view bytes)> const& take, VFailure& failure)>;

@@ -77,14 +77,14 @@ std::optional<VFailure> VReadSession::AddPackage(std::string const& name) {
     std::string error;
     if (!package.Open(name, error)) {
         return package.IsUnreadable() ? Unreadable(error)
-                                      : VFailure{{}, "no-package", "the package cannot be read: " + error};
+                                      : VFailure{&NCode::NoPackage, "the package cannot be read: " + error};
     }
     if (package.Count() > m_options.maxMembers) {
-        return VFailure{
-            {}, "too-many", OverLimit("the package has more members than", m_options.maxMembers, "", "--max-members")};
+        return VFailure{&NCode::TooMany,
+                        OverLimit("the package has more members than", m_options.maxMembers, "", "--max-members")};
     }
     if (package.Documents().empty()) {
-        return VFailure{{}, "no-package", "the package holds no ODX document (no member named .odx, .odx-d, ...)"};
+        return VFailure{&NCode::NoPackage, "the package holds no ODX document (no member named .odx, .odx-d, ...)"};
     }
     for (VPackage::VMember const& member : package.Documents()) {
         AddDocument(name + '!' + member.name, member.compressedSize, member);
@@ -184,7 +184,7 @@ bool VReadSession::AdoptFile(std::size_t index) {
         return Fail(file, *file.failure);
     }
     if (!file.repeated.empty()) {
-        m_reading.findings.Add({file.number, 0, 0}, VSeverity::Warning, "repeated-file",
+        m_reading.findings.Add({file.number, 0, 0}, NCode::RepeatedFile,
                                "is the file '" + file.repeated + "' again, which is read once");
         return true;
     }
@@ -203,17 +203,15 @@ bool VReadSession::AdoptFile(std::size_t index) {
     }
     // A member that cannot be read is reported and left out; the rest is loaded.
     if (file.isTooLarge) {
-        return Fail(file, {{},
-                           "too-large",
-                           OverLimit("the package unpacks to more than", m_options.maxPackageSize, " bytes",
-                                     "--max-package-size")});
+        return Fail(file, {&NCode::TooLarge, OverLimit("the package unpacks to more than", m_options.maxPackageSize,
+                                                       " bytes", "--max-package-size")});
     }
-    return isAnyRead || Fail(file, {{}, "no-package", "none of the documents in the package can be read"});
+    return isAnyRead || Fail(file, {&NCode::NoPackage, "none of the documents in the package can be read"});
 }
 
 bool VReadSession::Fail(VFile const& file, VFailure const& failure) {
-    m_reading.findings.Add({file.number, failure.position.line, failure.position.column}, VSeverity::Error,
-                           failure.code, failure.message);
+    m_reading.findings.Add({file.number, failure.position.line, failure.position.column}, *failure.code,
+                           failure.message);
     return false;
 }
 

@@ -25,23 +25,20 @@ VMemberLimit LimitOf(VPackage::VMember const& member, VReadLimits const& limits)
                                       : std::max(packed * limits.maxRatio, kRatioCountsFrom);
     if (byRatio < limits.maxMemberSize) {
         return {byRatio,
-                {{},
-                 "too-compressed",
-                 OverLimit("the member unpacks to more than", limits.maxRatio, " times its size in the package",
-                           "--max-ratio")}};
+                {&NCode::TooCompressed, OverLimit("the member unpacks to more than", limits.maxRatio,
+                                                  " times its size in the package", "--max-ratio")}};
     }
     return {limits.maxMemberSize,
-            {{},
-             "too-large",
+            {&NCode::TooLarge,
              OverLimit("the member unpacks to more than", limits.maxMemberSize, " bytes", "--max-member-size")}};
 }
 
 VFailure FailureOf(VPackage::VFault fault) {
     if (fault == VPackage::VFault::LeadsOut) {
-        return {{}, "unsafe-name", "the member's name is no path inside the package, so the member is left out"};
+        return {&NCode::UnsafeName, "the member's name is no path inside the package, so the member is left out"};
     }
-    return {
-        {}, "duplicate-member", "another member of this name follows in the package and counts; this one is left out"};
+    return {&NCode::DuplicateMember,
+            "another member of this name follows in the package and counts; this one is left out"};
 }
 
 } // namespace
@@ -104,7 +101,7 @@ void VReadWorker::ReadMember(VDocument& document, VFile& file) {
     lock.unlock();
     if (document.member->fault != VPackage::VFault::None) {
         VFailure const failure = FailureOf(document.member->fault);
-        document.findings.Add({document.number, 0, 0}, VSeverity::Error, failure.code, failure.message);
+        document.findings.Add({document.number, 0, 0}, *failure.code, failure.message);
         Progress(document.size);
         return;
     }

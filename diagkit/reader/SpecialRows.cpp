@@ -14,7 +14,7 @@ VOpened OpenShortNameNotAllowed(VLoader& loader, void*, VRow const& row, VAttrib
 }
 
 VOpened OpenParentRefsNotAllowed(VLoader& loader, void*, VRow const&, VAttributes const&) {
-    loader.Report(VSeverity::Error, "parent-kind", "an ECU-SHARED-DATA has no parents; its PARENT-REFS are left out");
+    loader.Report(NCode::ParentKind, "an ECU-SHARED-DATA has no parents; its PARENT-REFS are left out");
     return {};
 }
 

@@ -78,7 +78,7 @@ struct VXmlParser::VState {
     VXmlPosition position;   // of what is being reported, once it has been asked for; line 0 before
     bool isRefused = false;
     std::exception_ptr thrown; // expat is C: exceptions of the handler travel around it
-    VXmlError error;
+    VFailure error;
 };
 
 namespace {
@@ -255,7 +255,7 @@ VXmlParser::VXmlParser(IXmlHandler& handler, VReadLimits const& limits, char con
     });
     XML_SetStartDoctypeDeclHandler(parser, [](void* self, char const*, char const*, char const*, int) {
         guarded(self, [&](VXmlParser& xml, VState&) {
-            xml.Refuse("document-type", "a document type declaration is not ODX; remove it");
+            xml.Refuse(NCode::DocumentType, "a document type declaration is not ODX; remove it");
         });
     });
     XML_SetXmlDeclHandler(parser, [](void* self, char const*, char const* declared, int) {
@@ -364,7 +364,7 @@ bool VXmlParser::Fail() {
     }
     std::string const& declared = m_state->declaredEncoding;
     std::string const message = MessageOf(code, declared);
-    m_state->error = {GetPosition(), "not-xml", std::string("not well-formed XML: ") + message,
+    m_state->error = {&NCode::NotXml, "not well-formed XML: " + message, GetPosition(),
                       DoubtOf(code, message, !EncodingOf(declared).empty())};
     return false;
 }
@@ -372,11 +372,11 @@ bool VXmlParser::Fail() {
 bool VXmlParser::IsStartWithinLimits(std::string_view name, char const* const* attributes) {
     VState& state = *m_state;
     if (++state.depth > state.limits.maxDepth) {
-        Refuse("too-deep", OverLimit("elements are nested deeper than", state.limits.maxDepth, "", "--max-depth"));
+        Refuse(NCode::TooDeep, OverLimit("elements are nested deeper than", state.limits.maxDepth, "", "--max-depth"));
         return false;
     }
     if (++state.elements > state.limits.maxElements) {
-        Refuse("too-many",
+        Refuse(NCode::TooMany,
                OverLimit("the document has more elements than", state.limits.maxElements, "", "--max-elements"));
         return false;
     }
@@ -385,8 +385,8 @@ bool VXmlParser::IsStartWithinLimits(std::string_view name, char const* const* a
         ++count;
     }
     if (count > state.limits.maxAttributes) {
-        Refuse("too-many", OverLimit("'" + std::string(name.substr(0, 100)) + "' has more attributes than",
-                                     state.limits.maxAttributes, "", "--max-attributes"));
+        Refuse(NCode::TooMany, OverLimit("'" + std::string(name.substr(0, 100)) + "' has more attributes than",
+                                         state.limits.maxAttributes, "", "--max-attributes"));
         return false;
     }
     return IsTagWithinLimit(static_cast<std::uint64_t>(XML_GetCurrentByteCount(state.parser)));
@@ -395,7 +395,7 @@ bool VXmlParser::IsStartWithinLimits(std::string_view name, char const* const* a
 bool VXmlParser::IsTagWithinLimit(std::uint64_t size) {
     std::uint64_t const limit = m_state->limits.maxTagSize;
     if (size > limit) {
-        Refuse("too-large",
+        Refuse(NCode::TooLarge,
                OverLimit("a tag, comment or processing instruction is longer than", limit, " bytes", "--max-tag-size"));
     }
     return size <= limit;
@@ -412,11 +412,11 @@ bool VXmlParser::AreLeftBytesWithinLimit() {
 void VXmlParser::LimitText(std::uint64_t size) {
     std::uint64_t const limit = m_state->limits.maxTextSize;
     if (size > limit) {
-        Refuse("too-large", OverLimit("a text is longer than", limit, " bytes", "--max-text-size"));
+        Refuse(NCode::TooLarge, OverLimit("a text is longer than", limit, " bytes", "--max-text-size"));
     }
 }
 
-VXmlError const& VXmlParser::GetError() const { return m_state->error; }
+VFailure const& VXmlParser::GetError() const { return m_state->error; }
 
 /// The place in the document of one in what is behind the part left out at its start.
 VXmlPosition VXmlParser::Placed(VXmlPosition const& position) const {
@@ -455,12 +455,12 @@ VXmlControl VXmlParser::GetFirstControl() const {
 
 char const* VXmlParser::GetMarkedEncoding() const { return m_state->markedEncoding; }
 
-void VXmlParser::Refuse(std::string code, std::string message) {
+void VXmlParser::Refuse(VCode const& code, std::string message) {
     if (m_state->isRefused) {
         return;
     }
     m_state->isRefused = true;
-    m_state->error = {GetPosition(), std::move(code), std::move(message), {}};
+    m_state->error = {&code, std::move(message), GetPosition()};
     XML_StopParser(m_state->parser, XML_FALSE);
 }
 

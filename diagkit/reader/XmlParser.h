@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include <diagkit/reader/Attributes.h>
+#include <diagkit/reader/Codes.h>
 #include <diagkit/reader/Limits.h>
 
 namespace NReader {
@@ -37,10 +38,10 @@ protected:
 };
 
 /// Why a document cannot be read.
-struct VXmlError {
-    VXmlPosition position;
-    std::string code;
-    std::string message;
+struct VFailure {
+    VCode const* code = nullptr; ///< null when it is told elsewhere
+    std::string message{};
+    VXmlPosition position{};
     std::string doubt{}; ///< when another encoding may fit: what is wrong with the one that the document says
 };
 
@@ -70,11 +71,11 @@ public:
     /// Takes the next bytes; false when the document cannot be read, `GetError()` then says why.
     bool Feed(std::string_view bytes, bool isLast);
 
-    VXmlError const& GetError() const;
+    VFailure const& GetError() const;
     VXmlPosition GetPosition() const; ///< of what is being reported
 
     /// Ends parsing from within the handler with an error at the current position.
-    void Refuse(std::string code, std::string message);
+    void Refuse(VCode const& code, std::string message);
 
     /// Refuses when a text that the handler keeps has grown beyond its limit.
     void LimitText(std::uint64_t size);

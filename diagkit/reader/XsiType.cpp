@@ -33,7 +33,7 @@ std::string XsiTypeIn(VAttributes const& attributes) {
 std::string XsiType(VLoader& loader, VAttributes const& attributes) {
     char const* const* const attribute = TypeAttribute(attributes);
     if (attribute != nullptr && std::string_view(*attribute) == "type") {
-        loader.Report(VSeverity::Warning, "unprefixed-type",
+        loader.Report(NCode::UnprefixedType,
                       "the attribute 'type' lacks the prefix of the XMLSchema-instance namespace (xsi:type)");
     }
     return XsiTypeIn(attributes);
@@ -41,13 +41,13 @@ std::string XsiType(VLoader& loader, VAttributes const& attributes) {
 
 void ReportUnknownType(VLoader& loader, std::string const& type) {
     if (!type.empty()) {
-        loader.Report(VSeverity::Error, "unknown-type",
+        loader.Report(NCode::UnknownType,
                       "xsi:type is '" + type + "', which ODX does not have here; the kind is taken from the contents");
     }
 }
 
 void ReportShortNameNotAllowed(VLoader& loader, std::string const& what) {
-    loader.Report(VSeverity::Error, "short-name-not-allowed",
+    loader.Report(NCode::ShortNameNotAllowed,
                   what + " takes references by ID only; the entry is left out, name the target by ID");
 }
 

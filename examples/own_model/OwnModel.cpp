@@ -22,10 +22,10 @@ int main(int count, char** words) {
         return 1;
     }
     NOwnModel::VDatabase database(table);
-    auto const findings = NConformance::CheckReference({database.GetOdx()});
-    for (NConformance::VFinding const& finding : findings) {
-        std::wcout << NConformance::ToText(finding) << L'\n';
+    auto const violations = NConformance::CheckReference({database.GetOdx()});
+    for (NConformance::VViolation const& violation : violations) {
+        std::wcout << NConformance::ToText(violation) << L'\n';
     }
-    std::wcout << NConformance::Checks().size() << L" checks, " << findings.size() << L" findings\n";
-    return findings.empty() ? 0 : 1;
+    std::wcout << NConformance::Checks().size() << L" checks, " << violations.size() << L" findings\n";
+    return violations.empty() ? 0 : 1;
 }

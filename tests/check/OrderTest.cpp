@@ -2,8 +2,6 @@
 #include <algorithm>
 #include <tuple>
 
-#include <diagkit/check/Findings.h>
-
 #include "check/CheckTest.h"
 
 namespace NTest {
@@ -92,17 +90,6 @@ TEST_F(VOrderTest, FindingsBeyondTheLimitAreTheLastOnesOfTheDocument) {
     Check(LayerXml("BASE-VARIANT", "L", DiagComms(services)));
     EXPECT_EQ(Diagnostics(), "test.odx:4:1 error duplicate-short-name\ntest.odx:5:1 error duplicate-short-name\n"
                              "test.odx:6:1 error duplicate-short-name\ntest.odx:7:1 error too-many-diagnostics");
-}
-
-TEST_F(VOrderTest, ACodeThatIsInNoTableIsAnError) {
-    Check("");
-    NCheck::VFindings findings(1);
-    findings.Add({"no-such-code", {}, "a text"});
-    std::vector<NReader::VDiagnostic> const diagnostics = findings.Sorted(Database());
-    ASSERT_EQ(diagnostics.size(), 1U);
-    EXPECT_EQ(diagnostics[0].code, "no-such-code");
-    EXPECT_EQ(diagnostics[0].severity, NReader::VSeverity::Error);
-    EXPECT_EQ(diagnostics[0].message, "a text");
 }
 
 TEST_F(VOrderTest, WithoutADatabaseTheReadersDiagnosticsAreAll) {

@@ -40,17 +40,17 @@ protected:
         return Layer().DiagCommProxyCollection().Add(std::make_unique<DiagComm>(Place(tag, name)));
     }
 
-    std::vector<NConformance::VFinding> Check() { return NConformance::CheckModel({m_database.GetOdx()}); }
+    std::vector<NConformance::VViolation> Check() { return NConformance::CheckModel({m_database.GetOdx()}); }
 
-    /// The names of the checks that find something, each once, in the order of the findings.
+    /// The names of the checks that find something, each once, in the order of the violations.
     std::string Found() { return Found(m_database.GetOdx()); }
     static std::string Found(NODX201::VOdx& odx) {
         std::string names;
         std::wstring last;
-        for (NConformance::VFinding const& finding : NConformance::CheckModel({odx})) {
-            if (finding.check != last) {
-                names += (names.empty() ? "" : " ") + std::string(finding.check.begin(), finding.check.end());
-                last = finding.check;
+        for (NConformance::VViolation const& violation : NConformance::CheckModel({odx})) {
+            if (violation.check != last) {
+                names += (names.empty() ? "" : " ") + std::string(violation.check.begin(), violation.check.end());
+                last = violation.check;
             }
         }
         return names;

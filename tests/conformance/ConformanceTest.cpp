@@ -20,10 +20,10 @@ NConformance::VModel ModelOf(NReader::VReadResult const& read) {
     return model;
 }
 
-std::string Lines(std::vector<NConformance::VFinding> const& findings) {
+std::string Lines(std::vector<NConformance::VViolation> const& violations) {
     std::vector<std::wstring> lines;
-    for (NConformance::VFinding const& finding : findings) {
-        lines.push_back(NConformance::ToText(finding));
+    for (NConformance::VViolation const& violation : violations) {
+        lines.push_back(NConformance::ToText(violation));
     }
     return Lines(lines);
 }

@@ -12,8 +12,8 @@ namespace NTest {
 /// All that the reader made of some files, with the documents that the contract does not reach from the root.
 NConformance::VModel ModelOf(NReader::VReadResult const& read);
 
-/// One finding a line.
-std::string Lines(std::vector<NConformance::VFinding> const& findings);
+/// One violation a line.
+std::string Lines(std::vector<NConformance::VViolation> const& violations);
 std::string Lines(std::vector<std::wstring> const& lines);
 
 } // namespace NTest

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <diagkit/conformance/Findings.h>
+#include <diagkit/conformance/Violations.h>
 
 #define DIAGKIT_WIDE_(text) L##text
 #define DIAGKIT_WIDE(text) DIAGKIT_WIDE_(text)
@@ -44,29 +44,30 @@ std::vector<VCheck> const& Checks() {
     return checks;
 }
 
-std::wstring ToText(VFinding const& finding) {
-    return finding.check + L": " + finding.where + L": expected " + finding.expected + L", found " + finding.found;
+std::wstring ToText(VViolation const& violation) {
+    return violation.check + L": " + violation.where + L": expected " + violation.expected + L", found " +
+           violation.found;
 }
 
-void VFindings::Add(VCheckId check, std::wstring where, std::wstring expected, std::wstring found) {
+void VViolations::Add(VCheckId check, std::wstring where, std::wstring expected, std::wstring found) {
     if (++m_told[check] <= kToldOfEachCheck) {
-        m_findings.push_back({NameOf(check), std::move(where), std::move(expected), std::move(found)});
+        m_violations.push_back({NameOf(check), std::move(where), std::move(expected), std::move(found)});
     }
 }
 
-std::vector<VFinding> CompareAnswers(std::vector<std::wstring> const& expected,
-                                     std::vector<std::wstring> const& found) {
-    std::vector<VFinding> findings;
+std::vector<VViolation> CompareAnswers(std::vector<std::wstring> const& expected,
+                                       std::vector<std::wstring> const& found) {
+    std::vector<VViolation> violations;
     EachUnlike(expected, found, [&](auto const& question, auto const& text, std::wstring const* other) {
-        findings.push_back({NameOf(VCheckId::ReferenceAnswer), question, L"'" + text + L"'",
-                            other == nullptr ? L"no answer" : L"'" + *other + L"'"});
+        violations.push_back({NameOf(VCheckId::ReferenceAnswer), question, L"'" + text + L"'",
+                              other == nullptr ? L"no answer" : L"'" + *other + L"'"});
     });
     EachUnlike(found, expected, [&](auto const& question, auto const& text, std::wstring const* other) {
         if (other == nullptr) {
-            findings.push_back({NameOf(VCheckId::ReferenceSilence), question, L"no answer", L"'" + text + L"'"});
+            violations.push_back({NameOf(VCheckId::ReferenceSilence), question, L"no answer", L"'" + text + L"'"});
         }
     });
-    return findings;
+    return violations;
 }
 
 } // namespace NConformance

@@ -14,18 +14,19 @@ enum class VCheckId : int {
 };
 
 /// Collects what is found.
-class VFindings {
+class VViolations {
 public:
     /// Without effect when the check has been told of often enough.
     void Add(VCheckId check, std::wstring where, std::wstring expected, std::wstring found);
-    std::vector<VFinding> Take() { return std::move(m_findings); }
+    std::vector<VViolation> Take() { return std::move(m_violations); }
 
 private:
-    std::vector<VFinding> m_findings;
+    std::vector<VViolation> m_violations;
     std::map<VCheckId, int> m_told;
 };
 
 /// For every answer that is missing, another or not meant, in the order of what is expected.
-std::vector<VFinding> CompareAnswers(std::vector<std::wstring> const& expected, std::vector<std::wstring> const& found);
+std::vector<VViolation> CompareAnswers(std::vector<std::wstring> const& expected,
+                                       std::vector<std::wstring> const& found);
 
 } // namespace NConformance
