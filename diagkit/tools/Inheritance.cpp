@@ -85,6 +85,19 @@ VLayerOfKind::VLayerOfKind(NODX201::VDiagLayer& anyLayer) : layer(&anyLayer), ki
     *this = finder.found.value_or(*this);
 }
 
+NODX201::VDiagLayer const* LayerOf(NODX201::VOdxObject const& object) {
+    for (NODX201::VOdxObject const* place = &object; place != nullptr; place = place->GetOwner()) {
+        if (auto const* const layer = dynamic_cast<NODX201::VDiagLayer const*>(place)) {
+            return layer;
+        }
+    }
+    return nullptr;
+}
+
+NODX201::VDiagLayer* LayerOf(NODX201::VOdxObject& object) {
+    return const_cast<NODX201::VDiagLayer*>(LayerOf(static_cast<NODX201::VOdxObject const&>(object)));
+}
+
 namespace {
 
 template <class Layer>
@@ -189,9 +202,8 @@ std::vector<std::vector<VParent>> VInheritanceRow::ParentsOf(VLayerOfKind const&
 }
 
 bool InheritsFrom(VLayerKinds layer, VLayerKinds parent) {
-    return VInheritedDiagComms::kRow.TakesFrom(layer, parent) ||
-           VInheritedDiagVariables::kRow.TakesFrom(layer, parent) ||
-           VInheritedGlobalNegResponses::kRow.TakesFrom(layer, parent) || VInheritedDops::kRow.TakesFrom(layer, parent);
+#define OR_TAKES_FROM(Kind) || Kind::kRow.TakesFrom(layer, parent)
+    return false DIAGKIT_INHERITED_KINDS(OR_TAKES_FROM);
 }
 
 std::vector<VParent> ParentsOf(VLayerOfKind const& layer) {
@@ -518,9 +530,7 @@ std::uint32_t VInheritance<Kind>::NumberOf(std::wstring_view shortName) {
     return m_numbers.try_emplace(shortName, next).first->second;
 }
 
-template class VInheritance<VInheritedDiagComms>;
-template class VInheritance<VInheritedDiagVariables>;
-template class VInheritance<VInheritedGlobalNegResponses>;
-template class VInheritance<VInheritedDops>;
+#define INSTANTIATE(Kind) template class VInheritance<Kind>;
+DIAGKIT_INHERITED_KINDS(INSTANTIATE)
 
 } // namespace NDIAGKIT

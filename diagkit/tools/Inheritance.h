@@ -53,6 +53,10 @@ struct DIAGKIT_EXPORT VLayerOfKind {
     VLayerKinds kind; ///< one kind, or none
 };
 
+/// The layer that an element stands in, however deep; null outside layers. A layer stands in itself.
+DIAGKIT_EXPORT NODX201::VDiagLayer* LayerOf(NODX201::VOdxObject& object);
+DIAGKIT_EXPORT NODX201::VDiagLayer const* LayerOf(NODX201::VOdxObject const& object);
+
 /// The PARENT-REFS of a layer; null for one that says to have none, unless it is not asked, and for every
 /// ECU-SHARED-DATA.
 DIAGKIT_EXPORT NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer, bool asksFirst = true);
@@ -124,6 +128,13 @@ struct DIAGKIT_EXPORT VInheritedDops {
     using Element = NODX201::VDopBase;
     static VInheritanceRow const kRow;
 };
+
+/// Every row of the table.
+#define DIAGKIT_INHERITED_KINDS(ROW)                                                                                   \
+    ROW(VInheritedDiagComms)                                                                                           \
+    ROW(VInheritedDiagVariables)                                                                                       \
+    ROW(VInheritedGlobalNegResponses)                                                                                  \
+    ROW(VInheritedDops)
 
 /// What the merge of a layer looked at and what became of it: an own element of the layer, or one that a parent offers.
 /// The model owns what it points to.

@@ -174,9 +174,7 @@ typename VInheritanceNotes<Kind>::VLayerNotes const& VInheritanceNotes<Kind>::No
     return notes;
 }
 
-template class VInheritanceNotes<VInheritedDiagComms>;
-template class VInheritanceNotes<VInheritedDiagVariables>;
-template class VInheritanceNotes<VInheritedGlobalNegResponses>;
-template class VInheritanceNotes<VInheritedDops>;
+#define INSTANTIATE(Kind) template class VInheritanceNotes<Kind>;
+DIAGKIT_INHERITED_KINDS(INSTANTIATE)
 
 } // namespace NDIAGKIT
