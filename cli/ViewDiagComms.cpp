@@ -50,13 +50,13 @@ NODX201::VDiagLayer* ParentOf(VCandidate const& candidate) {
 }
 
 std::string TitleOfOwner(NODX201::VOdxElement const& diagComm) {
-    NODX201::VDiagLayer const* const owner = LayerOf(diagComm);
+    NODX201::VDiagLayer const* const owner = LayerAround(diagComm);
     return owner != nullptr ? Titled(*owner) : "-";
 }
 
 std::string ViaOf(VCandidate const& candidate) {
     NODX201::VDiagLayer const* const parent = ParentOf(candidate);
-    return parent == nullptr || parent == LayerOf(*candidate.element) ? "" : "via " + Titled(*parent);
+    return parent == nullptr || parent == LayerAround(*candidate.element) ? "" : "via " + Titled(*parent);
 }
 
 /// Rows under a heading; nothing at all without rows.
@@ -87,7 +87,7 @@ private:
 VGroup OwnGroup(VOrigins const& origins, NODX201::VDiagLayer const& layer) {
     VGroup group("Own");
     for (VCandidate const* const own : origins.own) {
-        bool const isReferenced = LayerOf(*own->element) != &layer;
+        bool const isReferenced = LayerAround(*own->element) != &layer;
         group.Add(*own->element, {isReferenced ? "DIAG-COMM-REF to " + TitleOfOwner(*own->element) : ""});
     }
     return group;
@@ -99,7 +99,7 @@ std::vector<VGroup> InheritedGroups(VOrigins const& origins) {
     std::vector<VGroup> groups;
     std::map<std::pair<NODX201::VDiagLayer const*, NODX201::VDiagLayer const*>, std::size_t> ways;
     for (VCandidate const* const entry : origins.inherited) {
-        auto const [way, isNew] = ways.try_emplace({LayerOf(*entry->element), ParentOf(*entry)}, groups.size());
+        auto const [way, isNew] = ways.try_emplace({LayerAround(*entry->element), ParentOf(*entry)}, groups.size());
         if (isNew) {
             std::string const via = ViaOf(*entry);
             groups.emplace_back("Inherited from " + TitleOfOwner(*entry->element) + (via.empty() ? "" : " " + via));

@@ -24,15 +24,6 @@ NMemory::VPosition PositionOf(NODX201::VOdxElement const& element) {
     return node != nullptr ? node->GetPosition() : NMemory::VPosition{};
 }
 
-NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement& element) {
-    for (NODX201::VOdxObject* object = &element; object != nullptr; object = object->GetOwner()) {
-        if (auto* const layer = dynamic_cast<NODX201::VDiagLayer*>(object)) {
-            return layer;
-        }
-    }
-    return nullptr;
-}
-
 std::string ListedIn(NReader::VCycleSearch::VChain const& chain) {
     std::vector<std::string> titles;
     for (std::size_t index = 0; index < std::min(chain.Count(), kMostListed); ++index) {

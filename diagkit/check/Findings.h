@@ -45,12 +45,10 @@ struct VChecked {
 
 NMemory::VPosition PositionOf(NODX201::VOdxElement const& element);
 
-/// The layer that an element stands in; null outside layers. A layer stands in itself.
-NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement& element);
-
 std::string ListedIn(NReader::VCycleSearch::VChain const& chain); ///< the titles of its elements, as `Listed` has them
 
 // How messages name things.
+using NDIAGKIT::LayerOf;
 using NReader::InLayers;
 using NReader::kMostListed;
 using NReader::LayersOf;

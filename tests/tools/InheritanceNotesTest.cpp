@@ -27,7 +27,7 @@ using NDIAGKIT::VParent;
 using NDIAGKIT::VWay;
 
 std::wstring Named(NODX201::VOdxElement const& element) {
-    return std::wstring(element.GetShortName()) + L"@" + LayerOf(element);
+    return std::wstring(element.GetShortName()) + L"@" + LayerNameOf(element);
 }
 
 std::wstring Print(std::vector<VParent> const& path) {

@@ -29,7 +29,7 @@ template <class Element>
 std::wstring PrintElements(std::vector<Element*> const& elements) {
     std::wstring text;
     for (Element const* const element : elements) {
-        text += (text.empty() ? L"" : L" ") + std::wstring(element->GetShortName()) + L"@" + LayerOf(*element);
+        text += (text.empty() ? L"" : L" ") + std::wstring(element->GetShortName()) + L"@" + LayerNameOf(*element);
     }
     return text;
 }
