@@ -10,7 +10,6 @@
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/ParentRefs.h>
 #include <diagkit/model/Responses.h>
-#include <diagkit/model/Tables.h>
 #include <diagkit/model/Visitors.h>
 
 namespace NDIAGKIT {
@@ -34,7 +33,6 @@ VInheritanceRow const VInheritedDiagComms::kRow         {kAll,            {kShar
 VInheritanceRow const VInheritedDiagVariables::kRow     {kAllButProtocol, {kNone, kNone},   {kShared, kNone},     {kGroup, kShared},             {kBase, kShared}, false,      true,        false};
 VInheritanceRow const VInheritedGlobalNegResponses::kRow{kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      true,        true};
 VInheritanceRow const VInheritedDops::kRow              {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      false,       false};
-VInheritanceRow const VInheritedTables::kRow            {kAll,            {kShared, kNone}, {kProtocol, kShared}, {kProtocol | kGroup, kShared}, {kBase, kShared}, false,      false,       false};
 // clang-format on
 
 VInheritancePasses VInheritanceRow::PassesOf(VLayerKinds layer) const {
@@ -298,14 +296,6 @@ void AddOwn(std::vector<NODX201::VDopBase*>& own, VLayerOfKind const& layer) {
     own.reserve(dops.Count());
     for (NODX201::VDopBase& dop : dops) {
         own.push_back(&dop);
-    }
-}
-
-void AddOwn(std::vector<NODX201::VTable*>& own, VLayerOfKind const& layer) {
-    if (layer.layer->HasDiagDataDictionarySpec()) {
-        for (NODX201::VTable& table : layer.layer->GetDiagDataDictionarySpec().TableCollection()) {
-            own.push_back(&table);
-        }
     }
 }
 

@@ -129,19 +129,12 @@ struct DIAGKIT_EXPORT VInheritedDops {
     static VInheritanceRow const kRow;
 };
 
-/// TABLEs: what the DIAG-DATA-DICTIONARY-SPEC of a layer lists.
-struct DIAGKIT_EXPORT VInheritedTables {
-    using Element = NODX201::VTable;
-    static VInheritanceRow const kRow;
-};
-
 /// Every row of the table.
 #define DIAGKIT_INHERITED_KINDS(ROW)                                                                                   \
     ROW(VInheritedDiagComms)                                                                                           \
     ROW(VInheritedDiagVariables)                                                                                       \
     ROW(VInheritedGlobalNegResponses)                                                                                  \
-    ROW(VInheritedDops)                                                                                                \
-    ROW(VInheritedTables)
+    ROW(VInheritedDops)
 
 /// What the merge of a layer looked at and what became of it: an own element of the layer, or one that a parent offers.
 /// The model owns what it points to.

@@ -5,13 +5,11 @@
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/DiagVariables.h>
 #include <diagkit/model/Layers.h>
-#include <diagkit/model/Tables.h>
 #include <diagkit/tools/InheritedViewImpl.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 #include <diagkit/tools/OpBuildDiagVariableView.h>
 #include <diagkit/tools/OpBuildDopView.h>
 #include <diagkit/tools/OpBuildGlobalNegResponseView.h>
-#include <diagkit/tools/TableView.h>
 
 namespace NDIAGKIT {
 
@@ -33,12 +31,10 @@ namespace NDIAGKIT {
 
 LIST_VIEW(DiagComm);
 LIST_VIEW(DiagVariable);
-LIST_VIEW(Table);
 
 LOUD_BUILDER(DiagCommView, 83);
 LOUD_BUILDER(DiagVariableView, 83);
 LOUD_BUILDER(DopView, 85);
-LOUD_BUILDER(TableView, 85);
 // Deliberate: no message and no assertion where there is no view (BuilderWithoutViewIsSilent).
 BUILDER(GlobalNegResponseView, CreateSilently(layer));
 
