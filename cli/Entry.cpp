@@ -9,7 +9,7 @@
 namespace NCli {
 
 void WriteEntry(VJsonWriter& json, NODX201::VOdxElement const& element) {
-    NODX201::VDiagLayer const* const layer = LayerOf(element);
+    NODX201::VDiagLayer const* const layer = LayerAround(element);
     std::string const tag = TagTextOf(element);
     json.Object([&] {
         json.TextOrNull("short_name", element.GetShortName());

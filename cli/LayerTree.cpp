@@ -45,7 +45,7 @@ public:
 private:
     void AddLayer(VPlacedLayer const& placed);
     void AddBelowParents(std::size_t node, NODX201::VDiagLayer& layer);
-    std::size_t NodeOf(VParent const& parent);
+    std::size_t NodeOf(VNamedParent const& parent);
     void ShowHeir(std::size_t index, std::size_t depth);
     void ShowLine(VNode const& node, std::size_t depth, char const* note);
 
@@ -77,8 +77,8 @@ void VLayerTree::AddLayer(VPlacedLayer const& placed) {
 }
 
 void VLayerTree::AddBelowParents(std::size_t node, NODX201::VDiagLayer& layer) {
-    for (VParent const& parent : ParentsOf(layer)) {
-        bool const isHeir = parent.layer == nullptr || PassOf(layer, parent) != 0;
+    for (VNamedParent const& parent : NamedParentsOf(layer)) {
+        bool const isHeir = parent.layer == nullptr || parent.isFollowed;
         std::size_t const parentNode = NodeOf(parent);
         std::vector<VNode::VChild>& siblings = m_nodes[parentNode].children;
         // A layer may name one parent twice; all its references are seen in one go.
@@ -89,7 +89,7 @@ void VLayerTree::AddBelowParents(std::size_t node, NODX201::VDiagLayer& layer) {
     }
 }
 
-std::size_t VLayerTree::NodeOf(VParent const& parent) {
+std::size_t VLayerTree::NodeOf(VNamedParent const& parent) {
     if (parent.layer != nullptr) {
         return m_layers.at(parent.layer);
     }

@@ -3,6 +3,7 @@
 
 #include <cli/Text.h>
 #include <diagkit/model/Odx.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NCli {
 
@@ -16,13 +17,9 @@ std::vector<VPlacedLayer> LayersOf(NMemory::VDatabase& database) {
     return layers;
 }
 
-NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement const& element) {
-    for (NODX201::VOdxObject* owner = element.GetOwner(); owner != nullptr; owner = owner->GetOwner()) {
-        if (auto* const layer = dynamic_cast<NODX201::VDiagLayer*>(owner)) {
-            return layer;
-        }
-    }
-    return nullptr;
+NODX201::VDiagLayer const* LayerAround(NODX201::VOdxElement const& element) {
+    NODX201::VOdxObject const* const owner = element.GetOwner();
+    return owner != nullptr ? NDIAGKIT::LayerOf(*owner) : nullptr;
 }
 
 std::string Titled(NODX201::VDiagLayer const& layer) { return TagTextOf(layer) + " " + ShownName(layer); }

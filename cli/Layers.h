@@ -18,8 +18,8 @@ struct VPlacedLayer {
 /// Every layer of the database, in document order.
 std::vector<VPlacedLayer> LayersOf(NMemory::VDatabase& database);
 
-/// The layer that an element stands in; null outside layers, as for a layer itself.
-NODX201::VDiagLayer* LayerOf(NODX201::VOdxElement const& element);
+/// The layer around an element; null outside layers, as for a layer itself.
+NODX201::VDiagLayer const* LayerAround(NODX201::VOdxElement const& element);
 
 /// A layer with its kind, as headings and notes call it: "PROTOCOL UDS".
 std::string Titled(NODX201::VDiagLayer const& layer);

@@ -10,7 +10,7 @@
 namespace NCli {
 namespace {
 
-void WriteParent(VJsonWriter& json, VParent const& parent) {
+void WriteParent(VJsonWriter& json, VNamedParent const& parent) {
     json.Object([&] {
         json.TextOrNull("short_name", parent.name);
         json.TextOrNull("kind", parent.kind);
@@ -24,8 +24,8 @@ void WriteLayer(VJsonWriter& json, VPlacedLayer const& placed) {
         json.Member("kind", TagTextOf(*placed.layer));
         json.TextOrNull("id", placed.layer->GetId());
         json.TextOrNull("container", placed.container->GetShortName());
-        json.ArrayOf("parents", ParentsOf(*placed.layer),
-                     [&json](VParent const& parent) { WriteParent(json, parent); });
+        json.ArrayOf("parents", NamedParentsOf(*placed.layer),
+                     [&json](VNamedParent const& parent) { WriteParent(json, parent); });
     });
 }
 

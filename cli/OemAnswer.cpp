@@ -94,7 +94,7 @@ std::string AnswerOf(VOemRuleReport const& rule) {
 
 /// "DIAG-SERVICE Read, ID S.Read, in PROTOCOL UDS"
 std::string PlaceOf(NODX201::VOdxElement const& element) {
-    NODX201::VDiagLayer const* const layer = LayerOf(element);
+    NODX201::VDiagLayer const* const layer = LayerAround(element);
     std::string const id = ShownId(element);
     return fmt::format("{} {}{}{}", KindOf(element), ShownName(element), id.empty() ? "" : ", ID " + id,
                        layer != nullptr ? ", in " + Titled(*layer) : "");

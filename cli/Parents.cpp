@@ -11,15 +11,6 @@
 namespace NCli {
 namespace {
 
-/// Of a reference without a kind as well.
-NODX201::VDiagLayer* TargetOf(NODX201::VParentRef& parentRef) {
-    if (auto const parent = NDIAGKIT::ParentBy(parentRef)) {
-        return parent->layer;
-    }
-    auto* const ref = dynamic_cast<NMemory::VMemParentRef*>(&parentRef);
-    return ref != nullptr && ref->HasDiagLayer() ? &ref->GetDiagLayer() : nullptr;
-}
-
 std::wstring NameIn(NODX201::ILink& link) {
     if (auto const* const byId = dynamic_cast<NODX201::VOdxLink*>(&link)) {
         return byId->GetIdRef();
@@ -38,32 +29,31 @@ std::string KindAskedFor(NODX201::VParentRef const& parentRef) {
     return NReader::ToUtf8(type);
 }
 
-VParent ParentBy(NODX201::VParentRef& parentRef) {
-    if (NODX201::VDiagLayer* const target = TargetOf(parentRef)) {
-        return {&parentRef, target, target->GetShortName(), TagTextOf(*target)};
+VNamedParent Named(NDIAGKIT::VLayerOfKind const& heir, NODX201::VParentRef& parentRef) {
+    auto const parent = NDIAGKIT::ParentBy(parentRef);
+    if (parent.has_value()) {
+        NODX201::VDiagLayer& layer = *parent->layer;
+        return {&layer, layer.GetShortName(), TagTextOf(layer), NDIAGKIT::InheritsFrom(heir.kind, parent->kind)};
     }
-    return {&parentRef, nullptr, NameIn(parentRef.GetLink()), KindAskedFor(parentRef)};
+    auto* const untyped = dynamic_cast<NMemory::VMemParentRef*>(&parentRef);
+    if (untyped != nullptr && untyped->HasDiagLayer()) {
+        NODX201::VDiagLayer& layer = untyped->GetDiagLayer();
+        return {&layer, layer.GetShortName(), TagTextOf(layer), false};
+    }
+    return {nullptr, NameIn(parentRef.GetLink()), KindAskedFor(parentRef), false};
 }
 
 } // namespace
 
-std::vector<VParent> ParentsOf(NODX201::VDiagLayer& layer) {
-    std::vector<VParent> parents;
-    if (NODX201::VParentRefCollection* const parentRefs = NDIAGKIT::ParentRefsOf(layer)) {
+std::vector<VNamedParent> NamedParentsOf(NODX201::VDiagLayer& layer) {
+    std::vector<VNamedParent> parents;
+    NDIAGKIT::VLayerOfKind const heir(layer);
+    if (NODX201::VParentRefCollection* const parentRefs = NDIAGKIT::ParentRefsOf(heir)) {
         for (NODX201::VParentRef& parentRef : *parentRefs) {
-            parents.push_back(ParentBy(parentRef));
+            parents.push_back(Named(heir, parentRef));
         }
     }
     return parents;
-}
-
-int PassOf(NODX201::VDiagLayer& layer, VParent const& parent) {
-    NDIAGKIT::VLayerOfKind const heir(layer);
-    NDIAGKIT::VInheritancePasses const passes = NDIAGKIT::VInheritedDiagComms::kRow.PassesOf(heir.kind);
-    if (NDIAGKIT::ParentBy(*parent.parentRef, passes.first).has_value()) {
-        return 1;
-    }
-    return NDIAGKIT::ParentBy(*parent.parentRef, passes.second).has_value() ? 2 : 0;
 }
 
 } // namespace NCli

@@ -233,7 +233,7 @@ std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
 
 void WriteText(VAnswer const& answer, VOutput& output) {
     NODX201::VOdxElement const& found = *answer.found;
-    NODX201::VDiagLayer const* const layer = LayerOf(found);
+    NODX201::VDiagLayer const* const layer = LayerAround(found);
     std::string const path = answer.path.empty() ? PathTo(found) : answer.path;
     VColumns columns;
     columns.Add({ShownName(found), KindOf(found), ShownId(found), layer != nullptr ? "from " + Titled(*layer) : "",

@@ -4,11 +4,11 @@
 
 #include <fmt/format.h>
 
-#include <diagkit/check/Views.h>
 #include <cli/ElementFinder.h>
 #include <cli/Layers.h>
 #include <cli/ViewText.h>
 #include <cli/Views.h>
+#include <diagkit/check/Views.h>
 
 namespace NCli {
 namespace {
@@ -33,7 +33,7 @@ VReferencedEntries NothingReferenced(NODX201::VDiagLayer&) { return {}; }
 VReferencedEntries ReferencedDiagVariables(NODX201::VDiagLayer& layer) {
     VReferencedEntries referenced;
     for (NODX201::VDiagVariable const* const variable : NCheck::OwnDiagVariables(layer)) {
-        NODX201::VDiagLayer const* const owner = LayerOf(*variable);
+        NODX201::VDiagLayer const* const owner = LayerAround(*variable);
         if (owner != nullptr && owner != &layer) {
             referenced.try_emplace(variable, "DIAG-VARIABLE-REF to " + Titled(*owner));
         }

@@ -46,7 +46,7 @@ void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& lay
     std::map<NODX201::VDiagLayer const*, std::size_t> places{{&layer, 0}};
     for (NODX201::VOdxElement const* const entry : entries) {
         auto const reference = referenced.find(entry);
-        NODX201::VDiagLayer const* const origin = reference != referenced.end() ? &layer : LayerOf(*entry);
+        NODX201::VDiagLayer const* const origin = reference != referenced.end() ? &layer : LayerAround(*entry);
         auto const [place, isNew] = places.try_emplace(origin, groups.size());
         if (isNew) {
             groups.push_back({origin, {}, 0});

@@ -8,6 +8,7 @@ set(internal_headers
     diagkit/tools/Alternative.h
     diagkit/tools/DiagCommKinds.h
     diagkit/tools/DestroyIfThere.h
+    diagkit/tools/InheritedViewImpl.h
     diagkit/tools/ListViewImpl.h
     diagkit/tools/ParamRecursivSearchVisitor.h
     diagkit/tools/ViewBuilder.h

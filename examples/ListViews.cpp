@@ -15,21 +15,16 @@
 #include <diagkit/model/Responses.h>
 #include <diagkit/reader/OdxReader.h>
 #include <diagkit/reader/Utf8.h>
+#include <diagkit/tools/Inheritance.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 #include <diagkit/tools/OpBuildDiagVariableView.h>
 #include <diagkit/tools/OpBuildDopView.h>
 #include <diagkit/tools/OpBuildGlobalNegResponseView.h>
 #include <diagkit/tools/OpBuildOutParamIfView.h>
 
-/// Where an entry comes from: the layer that it stands in, however deep.
-NODX201::VDiagLayer& LayerOf(NODX201::VOdxObject& element) {
-    auto* const layer = dynamic_cast<NODX201::VDiagLayer*>(&element);
-    return layer != nullptr ? *layer : LayerOf(*element.GetOwner());
-}
-
 void Print(NODX201::VOdxElement& element) {
     std::cout << "  " << NReader::ToUtf8(element.GetShortName()) << " of "
-              << NReader::ToUtf8(LayerOf(element).GetShortName()) << '\n';
+              << NReader::ToUtf8(NDIAGKIT::LayerOf(element)->GetShortName()) << '\n';
 }
 
 template <class View>

@@ -92,8 +92,8 @@ void WriteLayers(VXmlWriter& xml, char const* wrapper, std::vector<VLayerPlan> c
 }
 
 void WriteSharedContainer(VXmlWriter& xml, std::uint64_t seed) {
-    VLayerPlan::VParent const library{"ECU-SHARED-DATA-REF", kSharedLibrary};
-    VLayerPlan::VParent const protocol{"PROTOCOL-REF", kProtocols[0]};
+    VLayerPlan::VParentRefPlan const library{"ECU-SHARED-DATA-REF", kSharedLibrary};
+    VLayerPlan::VParentRefPlan const protocol{"PROTOCOL-REF", kProtocols[0]};
     xml.Element("DIAG-LAYER-CONTAINER", {{"ID", "Platform"}}, [&] {
         WriteHead(xml, "Platform");
         WriteLayers(xml, "PROTOCOLS",

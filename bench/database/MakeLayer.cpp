@@ -293,7 +293,7 @@ void VLayerMaker::WriteHierarchyParts() {
 
 void VLayerMaker::WriteParentRefs() {
     m_xml.Element("PARENT-REFS", [&] {
-        for (VLayerPlan::VParent const& parent : m_plan.parents) {
+        for (VLayerPlan::VParentRefPlan const& parent : m_plan.parents) {
             m_xml.Element(
                 "PARENT-REF",
                 {{"xsi:type", parent.xsiType}, {"ID-REF", parent.name}, {"DOCREF", parent.name}, {"DOCTYPE", "LAYER"}},

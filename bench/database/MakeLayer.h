@@ -19,17 +19,17 @@ inline constexpr std::size_t kLibraryServices = 24;
 
 /// What a made layer is to be.
 struct VLayerPlan {
-    struct VParent {
+    struct VParentRefPlan {
         char const* xsiType;
         std::string name;
     };
 
     char const* tag;
-    std::string name;                 ///< its short name and ID
-    std::size_t services;             ///< and about as many DOPs
-    std::string suffix{};             ///< of the names in it, so that layers of different kinds do not share names
-    std::vector<VParent> parents{};   ///< in the order of the PARENT-REFs
-    VLayerPlan const* base = nullptr; ///< of an ECU-VARIANT; half of its services stand in front of the base's
+    std::string name;                      ///< its short name and ID
+    std::size_t services;                  ///< and about as many DOPs
+    std::string suffix{};                  ///< of the names in it, so that layers of different kinds do not share names
+    std::vector<VParentRefPlan> parents{}; ///< in the order of the PARENT-REFs
+    VLayerPlan const* base = nullptr;      ///< of an ECU-VARIANT; half of its services stand in front of the base's
 };
 
 /// Writes one layer.

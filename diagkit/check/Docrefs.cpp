@@ -18,7 +18,7 @@ struct VPlaces {
 };
 
 VPlaces PlacesOf(NODX201::VOdxElement& element) {
-    VPlaces places{Around<NODX201::VDiagLayer>(element)};
+    VPlaces places{NDIAGKIT::LayerOf(element)};
     for (NODX201::VOdxObject* object = &element; object != nullptr; object = object->GetOwner()) {
         auto* const candidate = dynamic_cast<NODX201::VOdxElement*>(object);
         if (candidate != nullptr && candidate->GetOdxTag() != Tag::Odx) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <unordered_map>
 
-#include <diagkit/check/Parents.h>
 #include <diagkit/check/Topics.h>
 #include <diagkit/check/Views.h>
+#include <diagkit/model/ParentRefs.h>
 
 namespace NCheck {
 namespace {
@@ -35,15 +35,15 @@ public:
     VExclusions(VViews& views, VFindings& findings)
         : m_diagComms(views.diagComms), m_variables(views.diagVariables), m_findings(findings) {}
 
-    void Check(VParent const& parent) {
-        if (parent.reference->HasNotInheritedDiagCommCollection()) {
-            for (NODX201::VNotInheritedDiagComm& exclusion : parent.reference->NotInheritedDiagCommCollection()) {
-                Check(exclusion, exclusion.GetDiagCommSnref().GetLink(), *parent.layer, m_diagComms);
+    void Check(NODX201::VParentRef& parentRef, NODX201::VDiagLayer& parent) {
+        if (parentRef.HasNotInheritedDiagCommCollection()) {
+            for (NODX201::VNotInheritedDiagComm& exclusion : parentRef.NotInheritedDiagCommCollection()) {
+                Check(exclusion, exclusion.GetDiagCommSnref().GetLink(), parent, m_diagComms);
             }
         }
-        if (parent.reference->HasNotInheritedVariableCollection()) {
-            for (NODX201::VNotInheritedVariable& exclusion : parent.reference->NotInheritedVariableCollection()) {
-                Check(exclusion, exclusion.GetDiagVariableSnref().GetLink(), *parent.layer, m_variables);
+        if (parentRef.HasNotInheritedVariableCollection()) {
+            for (NODX201::VNotInheritedVariable& exclusion : parentRef.NotInheritedVariableCollection()) {
+                Check(exclusion, exclusion.GetDiagVariableSnref().GetLink(), parent, m_variables);
             }
         }
     }
@@ -73,10 +73,8 @@ private:
 void CheckExclusions(VChecked const& checked, VFindings& findings) {
     VExclusions exclusions(checked.views, findings);
     for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
-        for (std::vector<VParent> const& rank : ParentsByRank(*layer)) {
-            for (VParent const& parent : rank) {
-                exclusions.Check(parent);
-            }
+        for (NDIAGKIT::VParent const& parent : NDIAGKIT::ParentsOf(*layer)) {
+            exclusions.Check(*parent.parentRef, *parent.layer.layer);
         }
         checked.layerDone();
     }

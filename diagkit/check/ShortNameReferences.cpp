@@ -154,7 +154,7 @@ private:
     void Add(NODX201::VLink& reference) {
         std::size_t const index = m_pending.size();
         m_pending.push_back({&reference});
-        if (NODX201::VDiagLayer* const home = Around<NODX201::VDiagLayer>(reference)) {
+        if (NODX201::VDiagLayer* const home = NDIAGKIT::LayerOf(reference)) {
             m_at[home].push_back(index);
             if (NODX201::VOdxElement* const anchor = AnchorOf(reference)) {
                 m_at[anchor].push_back(index);
@@ -315,7 +315,7 @@ void CheckShortNameReferences(VChecked const& checked, VFindings& findings) {
     VShortNameReferences(checked).Check(findings);
     for (NODX201::VOdxElement* const element : checked.elements) {
         auto* const reference = dynamic_cast<NODX201::VLink*>(element);
-        if (reference != nullptr && Around<NODX201::VDiagLayer>(*reference) == nullptr) {
+        if (reference != nullptr && NDIAGKIT::LayerOf(*reference) == nullptr) {
             CheckFlash(*reference, findings);
         }
     }

@@ -3,7 +3,6 @@
 
 #include <unordered_set>
 
-#include <diagkit/check/Parents.h>
 #include <diagkit/reader/Containment.h>
 #include <diagkit/tools/ParamWalk.h>
 
@@ -21,15 +20,13 @@ Element* FindIn(std::unordered_map<std::wstring_view, Element*> const& byName, s
 }
 
 /// A layer and all that it inherits from, each once.
-std::vector<NODX201::VDiagLayer*> WithAncestors(NODX201::VDiagLayer& layer) {
-    std::vector<NODX201::VDiagLayer*> layers{&layer};
+std::vector<NDIAGKIT::VLayerOfKind> WithAncestors(NODX201::VDiagLayer& layer) {
+    std::vector<NDIAGKIT::VLayerOfKind> layers{layer};
     std::unordered_set<NODX201::VDiagLayer*> seen{&layer};
     for (std::size_t next = 0; next < layers.size(); ++next) { // grows on the way
-        for (std::vector<VParent> const& rank : ParentsByRank(*layers[next])) {
-            for (VParent const& parent : rank) {
-                if (seen.insert(parent.layer).second) {
-                    layers.push_back(parent.layer);
-                }
+        for (NDIAGKIT::VParent const& parent : NDIAGKIT::ParentsOf(layers[next])) {
+            if (seen.insert(parent.layer.layer).second) {
+                layers.push_back(parent.layer);
             }
         }
     }
@@ -38,13 +35,13 @@ std::vector<NODX201::VDiagLayer*> WithAncestors(NODX201::VDiagLayer& layer) {
 
 VNames ProtocolsFor(NODX201::VDiagLayer& layer) {
     VNames names;
-    auto const see = [&names](NODX201::VDiagLayer& candidate) {
-        if (dynamic_cast<NODX201::VProtocol*>(&candidate) != nullptr) {
-            names.insert(candidate.GetShortName());
+    auto const see = [&names](NDIAGKIT::VLayerOfKind const& candidate) {
+        if (candidate.kind == NDIAGKIT::VLayerKinds::Protocol) {
+            names.insert(candidate.layer->GetShortName());
         }
     };
-    for (NODX201::VDiagLayer* const ancestor : WithAncestors(layer)) {
-        see(*ancestor);
+    for (NDIAGKIT::VLayerOfKind const& ancestor : WithAncestors(layer)) {
+        see(ancestor);
     }
     for (NODX201::VDiagLayer& beside : dynamic_cast<NODX201::VDiagLayerCollection&>(*layer.GetOwner())) {
         see(beside);
@@ -54,9 +51,9 @@ VNames ProtocolsFor(NODX201::VDiagLayer& layer) {
 
 VNames TablesFor(NODX201::VDiagLayer& layer) {
     VNames names;
-    for (NODX201::VDiagLayer* const ancestor : WithAncestors(layer)) {
-        if (ancestor->HasDiagDataDictionarySpec()) {
-            for (NODX201::VTable const& table : ancestor->GetDiagDataDictionarySpec().TableCollection()) {
+    for (NDIAGKIT::VLayerOfKind const& ancestor : WithAncestors(layer)) {
+        if (ancestor.layer->HasDiagDataDictionarySpec()) {
+            for (NODX201::VTable const& table : ancestor.layer->GetDiagDataDictionarySpec().TableCollection()) {
                 names.insert(table.GetShortName());
             }
         }

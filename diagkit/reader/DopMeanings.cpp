@@ -78,16 +78,10 @@ VDopMeanings::VClass* VDopMeanings::MakeClass(NDIAGKIT::VLayerOfKind layer) {
             made->m_own.emplace(dop->GetShortName(), dop);
         }
     }
-    NDIAGKIT::VInheritancePasses const passes = NDIAGKIT::VInheritedDops::kRow.PassesOf(layer.kind);
-    NODX201::VParentRefCollection* const parentRefs = NDIAGKIT::ParentRefsOf(layer);
     std::unordered_set<VClass*> seen;
-    for (NDIAGKIT::VLayerKinds const pass : {passes.first, passes.second}) {
-        if (parentRefs == nullptr || pass == NDIAGKIT::VLayerKinds::None) {
-            continue;
-        }
-        for (NODX201::VParentRef& parentRef : *parentRefs) {
-            auto const parent = NDIAGKIT::ParentBy(parentRef, pass);
-            VClass* const meaning = parent.has_value() ? ClassOf(*parent) : nullptr;
+    for (std::vector<NDIAGKIT::VParent> const& pass : NDIAGKIT::VInheritedDops::kRow.ParentsOf(layer)) {
+        for (NDIAGKIT::VParent const& parent : pass) {
+            VClass* const meaning = ClassOf(parent.layer);
             if (meaning != nullptr && seen.insert(meaning).second) {
                 made->m_parents.push_back(meaning);
             }

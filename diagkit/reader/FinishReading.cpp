@@ -154,12 +154,6 @@ void ReportRepeatedIds(VReading& reading) {
     });
 }
 
-/// Whether a layer of the kind takes anything from such a parent.
-bool IsParentAllowed(NDIAGKIT::VLayerKinds layer, NDIAGKIT::VLayerKinds parent) {
-    NDIAGKIT::VInheritancePasses const passes = NDIAGKIT::VInheritedDiagComms::kRow.PassesOf(layer);
-    return IsIn(parent, passes.first | passes.second);
-}
-
 void CheckParent(VReading& reading, NDIAGKIT::VLayerOfKind const& layer, NODX201::VParentRef& parentRef) {
     auto const parent = NDIAGKIT::ParentBy(parentRef);
     if (!parent.has_value()) {
@@ -168,7 +162,7 @@ void CheckParent(VReading& reading, NDIAGKIT::VLayerOfKind const& layer, NODX201
     NMemory::VPosition const position = PositionOf(parentRef);
     if (parent->layer == layer.layer) {
         reading.findings.Add(position, NCode::ParentItself, Titled(*layer.layer) + " names itself as a parent");
-    } else if (!IsParentAllowed(layer.kind, parent->kind)) {
+    } else if (!NDIAGKIT::InheritsFrom(layer.kind, parent->kind)) {
         reading.findings.Add(position, NCode::ParentKind,
                              Titled(*layer.layer) + " has the " + Titled(*parent->layer) +
                                  " as a parent, which ODX does not allow; nothing is inherited");

@@ -5,26 +5,26 @@
 
 #include <diagkit/Export.h>
 #include <diagkit/model/Forward.h>
-#include <diagkit/tools/ListView.h>
+#include <diagkit/tools/InheritedView.h>
 #include <diagkit/tools/StringContainer.h>
 
 namespace NDIAGKIT {
 
-struct VLayerOfKind;
+struct VInheritedDiagComms;
 
-/// What `VDiagCommView` holds and where it asserts; see `VListView`.
-struct DIAGKIT_EXPORT VDiagCommViewTraits {
-    using Element = NODX201::VDiagComm;
+/// What `VDiagCommView` holds and where it asserts; see `VInheritedView`.
+struct VDiagCommViewTraits : VNamedElements<NODX201::VDiagComm> {
+    using Inherited = VInheritedDiagComms;
     static constexpr wchar_t const* kSource = L"DiagCommView";
     static constexpr int kRemoveElementLine = 348;
     static constexpr int kRemovePositionLine = 356;
     static constexpr int kRemoveStepLine = 433;
-    static wchar_t const* ShortNameOf(Element& diagComm);
 };
 
 DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>);
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VDiagCommViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VInheritedView<VDiagCommViewTraits>);
 
 /// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then what its
 /// parents offer and neither the NOT-INHERITED-DIAG-COMMS of their PARENT-REF exclude nor an entry of the same short
@@ -44,20 +44,12 @@ DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
 ///
 /// The view holds pointers; the model owns the elements and must outlive the view. Each construction reads the model
 /// afresh, each parent once, whichever ways lead to it. Time is linear in the entries of the views that are merged.
-class DIAGKIT_EXPORT VDiagCommView : public VNamedListView<VDiagCommViewTraits> {
+class DIAGKIT_EXPORT VDiagCommView : public VInheritedView<VDiagCommViewTraits> {
 public:
-    explicit VDiagCommView(NODX201::VEcuSharedData& layer);
-    explicit VDiagCommView(NODX201::VProtocol& layer);
-    explicit VDiagCommView(NODX201::VFunctionalGroup& layer);
-    explicit VDiagCommView(NODX201::VBaseVariant& layer);
-    explicit VDiagCommView(NODX201::VEcuVariant& layer);
-    virtual ~VDiagCommView();
+    using VInheritedView::VInheritedView; ///< of an ECU-SHARED-DATA, PROTOCOL, FUNCTIONAL-GROUP, BASE-VARIANT,
+                                          ///< ECU-VARIANT
 
 private:
-    VDiagCommView();
-
-    void Inherit(VLayerOfKind const& layer);
-
     VStringContainer m_notInherited; // never filled: the merge keeps the exclusions of the reference it is at by itself
 };
 

@@ -5,26 +5,26 @@
 
 #include <diagkit/Export.h>
 #include <diagkit/model/Forward.h>
-#include <diagkit/tools/ListView.h>
+#include <diagkit/tools/InheritedView.h>
 #include <diagkit/tools/StringContainer.h>
 
 namespace NDIAGKIT {
 
-struct VLayerOfKind;
+struct VInheritedDiagVariables;
 
-/// What `DiagVariableView` holds and where it asserts; see `VListView`.
-struct DIAGKIT_EXPORT VDiagVariableViewTraits {
-    using Element = NODX201::VDiagVariable;
+/// What `DiagVariableView` holds and where it asserts; see `VInheritedView`.
+struct VDiagVariableViewTraits : VNamedElements<NODX201::VDiagVariable> {
+    using Inherited = VInheritedDiagVariables;
     static constexpr wchar_t const* kSource = L"DiagVariableView";
     static constexpr int kRemoveElementLine = 352;
     static constexpr int kRemovePositionLine = 360;
     static constexpr int kRemoveStepLine = 438;
-    static wchar_t const* ShortNameOf(Element& diagVariable);
 };
 
 DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::VDiagVariable*>::iterator, NODX201::VDiagVariable&>);
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VDiagVariableViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagVariableViewTraits>);
+DIAGKIT_TEMPLATE_DECLARATION(VInheritedView<VDiagVariableViewTraits>);
 
 /// The DIAG-VARIABLEs visible in one layer: its own, in document order, then those that it inherits, minus those whose
 /// short name is already in the view.
@@ -37,20 +37,12 @@ DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagVariableViewTraits>);
 ///     ECU-VARIANT         yes     BASE-VARIANT          ECU-SHARED-DATA
 ///
 /// A PROTOCOL has no DIAG-VARIABLEs and contributes none. No NOT-INHERITED list applies. Otherwise as `VDiagCommView`.
-class DIAGKIT_EXPORT VDiagVariableView : public VNamedListView<VDiagVariableViewTraits> {
+class DIAGKIT_EXPORT VDiagVariableView : public VInheritedView<VDiagVariableViewTraits> {
 public:
-    explicit VDiagVariableView(NODX201::VEcuSharedData& layer);
-    explicit VDiagVariableView(NODX201::VProtocol& layer);
-    explicit VDiagVariableView(NODX201::VFunctionalGroup& layer);
-    explicit VDiagVariableView(NODX201::VBaseVariant& layer);
-    explicit VDiagVariableView(NODX201::VEcuVariant& layer);
-    virtual ~VDiagVariableView();
+    using VInheritedView::VInheritedView; ///< of an ECU-SHARED-DATA, PROTOCOL, FUNCTIONAL-GROUP, BASE-VARIANT,
+                                          ///< ECU-VARIANT
 
 private:
-    VDiagVariableView();
-
-    void Inherit(VLayerOfKind const& layer);
-
     VStringContainer m_notInherited; // never filled: no exclusion applies to DIAG-VARIABLEs
 };
 

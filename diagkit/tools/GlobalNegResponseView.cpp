@@ -2,12 +2,9 @@
 #include <diagkit/tools/GlobalNegResponseView.h>
 
 #include <diagkit/model/Responses.h>
-#include <diagkit/tools/Inheritance.h>
-#include <diagkit/tools/ListViewImpl.h>
+#include <diagkit/tools/InheritedViewImpl.h>
 
 namespace NDIAGKIT {
-
-wchar_t const* VGlobalNegResponseViewTraits::ShortNameOf(Element& response) { return response.GetShortName(); }
 
 VGlobalNegResponseView::VGlobalNegResponseView() = default;
 
@@ -34,9 +31,7 @@ void VGlobalNegResponseView::BuildViewFor(NODX201::VEcuSharedData& layer)   { In
 // clang-format on
 
 void VGlobalNegResponseView::Inherit(VLayerOfKind const& layer) {
-    for (Element* const entry : VInheritance<VInheritedGlobalNegResponses>().EntriesOf(layer)) {
-        m_collection.push_back(entry);
-    }
+    AppendInherited<VInheritedGlobalNegResponses>(m_collection, layer);
 }
 
 } // namespace NDIAGKIT

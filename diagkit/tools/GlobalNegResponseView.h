@@ -12,13 +12,11 @@ namespace NDIAGKIT {
 struct VLayerOfKind;
 
 /// What `GlobalNegResponseView` holds and where it asserts; see `VListView`.
-struct DIAGKIT_EXPORT VGlobalNegResponseViewTraits {
-    using Element = NODX201::VGlobalNegResponse;
+struct VGlobalNegResponseViewTraits : VNamedElements<NODX201::VGlobalNegResponse> {
     static constexpr wchar_t const* kSource = L"GlobalNegResponseView";
     static constexpr int kRemoveElementLine = 338;
     static constexpr int kRemovePositionLine = 346;
     static constexpr int kRemoveStepLine = 423;
-    static wchar_t const* ShortNameOf(Element& response);
 };
 
 DIAGKIT_TEMPLATE_DECLARATION(

@@ -50,6 +50,11 @@ VInheritancePasses VInheritanceRow::PassesOf(VLayerKinds layer) const {
     }
 }
 
+bool VInheritanceRow::TakesFrom(VLayerKinds layer, VLayerKinds parent) const {
+    VInheritancePasses const passes = PassesOf(layer);
+    return IsIn(parent, passes.first | passes.second);
+}
+
 // clang-format off
 VLayerOfKind::VLayerOfKind(NODX201::VProtocol& protocol)               : layer(&protocol),        kind(Kinds::Protocol) {}
 VLayerOfKind::VLayerOfKind(NODX201::VFunctionalGroup& functionalGroup) : layer(&functionalGroup), kind(Kinds::FunctionalGroup) {}
@@ -78,6 +83,19 @@ VLayerOfKind::VLayerOfKind(NODX201::VDiagLayer& anyLayer) : layer(&anyLayer), ki
     VKindFinder finder;
     anyLayer.Accept(finder);
     *this = finder.found.value_or(*this);
+}
+
+NODX201::VDiagLayer const* LayerOf(NODX201::VOdxObject const& object) {
+    for (NODX201::VOdxObject const* place = &object; place != nullptr; place = place->GetOwner()) {
+        if (auto const* const layer = dynamic_cast<NODX201::VDiagLayer const*>(place)) {
+            return layer;
+        }
+    }
+    return nullptr;
+}
+
+NODX201::VDiagLayer* LayerOf(NODX201::VOdxObject& object) {
+    return const_cast<NODX201::VDiagLayer*>(LayerOf(static_cast<NODX201::VOdxObject const&>(object)));
 }
 
 namespace {
@@ -144,6 +162,61 @@ std::optional<VLayerOfKind> ParentBy(NODX201::VParentRef& parentRef, VLayerKinds
         }
     }
     return std::nullopt;
+}
+
+namespace {
+
+/// The PARENT-REFS that a layer's passes go over; null for none.
+NODX201::VParentRefCollection* WalkedParentRefs(VLayerOfKind const& layer, VInheritanceRow const& row) {
+    bool const hasPasses = row.PassesOf(layer.kind).first != kNone;
+    return hasPasses ? ParentRefsOf(layer, row.asksForParentRefs) : nullptr;
+}
+
+/// Calls `see` with each PARENT-REF, the kinds of parent that the pass takes from, and the pass.
+template <class See>
+void WalkPasses(NODX201::VParentRefCollection* parentRefs, VInheritancePasses const& passes, See const& see) {
+    int pass = 0;
+    for (VLayerKinds const kinds : {passes.first, passes.second}) {
+        ++pass;
+        if (parentRefs == nullptr || kinds == kNone) {
+            continue;
+        }
+        for (NODX201::VParentRef& parentRef : *parentRefs) {
+            see(parentRef, kinds, pass);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<std::vector<VParent>> VInheritanceRow::ParentsOf(VLayerOfKind const& layer) const {
+    std::vector<std::vector<VParent>> parents;
+    WalkPasses(WalkedParentRefs(layer, *this), PassesOf(layer.kind),
+               [&parents](NODX201::VParentRef& parentRef, VLayerKinds kinds, int pass) {
+                   parents.resize(static_cast<std::size_t>(pass));
+                   if (auto const parent = ParentBy(parentRef, kinds)) {
+                       parents.back().push_back({&parentRef, *parent});
+                   }
+               });
+    return parents;
+}
+
+bool InheritsFrom(VLayerKinds layer, VLayerKinds parent) {
+#define OR_TAKES_FROM(Kind) || Kind::kRow.TakesFrom(layer, parent)
+    return false DIAGKIT_INHERITED_KINDS(OR_TAKES_FROM);
+}
+
+std::vector<VParent> ParentsOf(VLayerOfKind const& layer) {
+    std::vector<VParent> parents;
+    if (NODX201::VParentRefCollection* const parentRefs = ParentRefsOf(layer)) {
+        for (NODX201::VParentRef& parentRef : *parentRefs) {
+            auto const parent = ParentBy(parentRef);
+            if (parent.has_value() && InheritsFrom(layer.kind, parent->kind)) {
+                parents.push_back({&parentRef, *parent});
+            }
+        }
+    }
+    return parents;
 }
 
 namespace {
@@ -228,12 +301,58 @@ void AddOwn(std::vector<NODX201::VDopBase*>& own, VLayerOfKind const& layer) {
 
 } // namespace
 
+namespace {
+
+/// What a merge notes when nobody asks: nothing.
+struct VNoNotes {
+    static constexpr bool kAreTaken = false;
+
+    static void StartReference(NODX201::VParentRef&, VLayerOfKind const&, int) {}
+    static void StartExclusions() {}
+    static void Exclude(std::uint32_t, NODX201::VOdxElement&) {}
+    static void Add(NODX201::VOdxElement&, std::uint32_t, bool) {}
+};
+
+class VNotes {
+public:
+    static constexpr bool kAreTaken = true;
+
+    void StartReference(NODX201::VParentRef& parentRef, VLayerOfKind const& parent, int pass) {
+        m_parent = VParent{&parentRef, parent};
+        m_pass = pass;
+    }
+    void StartExclusions() { m_exclusions.clear(); }
+    void Exclude(std::uint32_t name, NODX201::VOdxElement& exclusion) { m_exclusions.try_emplace(name, &exclusion); }
+
+    void Add(NODX201::VOdxElement& element, std::uint32_t name, bool isVisible) {
+        auto const holder = m_holders.find(name);
+        auto const exclusion = m_exclusions.find(name);
+        candidates.push_back({&element, m_parent, m_pass, isVisible,
+                              holder != m_holders.end() ? holder->second : nullptr,
+                              exclusion != m_exclusions.end() ? exclusion->second : nullptr});
+        if (isVisible) {
+            m_holders.try_emplace(name, &candidates.back());
+        }
+    }
+
+    std::deque<VCandidate> candidates;
+
+private:
+    std::optional<VParent> m_parent; // that is being looked at
+    int m_pass = 0;
+    std::unordered_map<std::uint32_t, NODX201::VOdxElement*> m_exclusions; // of the reference, by name
+    std::unordered_map<std::uint32_t, VCandidate const*> m_holders;        // of names
+};
+
+} // namespace
+
 /// Adds to the own elements of a layer what its parents offer.
 template <class Kind>
+template <class Notes>
 class VInheritance<Kind>::VMerge {
 public:
-    VMerge(VInheritance& inheritance, VLevel& level, VList& list)
-        : m_inheritance(inheritance), m_level(level), m_list(list) {
+    VMerge(VInheritance& inheritance, VLevel& level, VList& list, Notes& notes)
+        : m_inheritance(inheritance), m_level(level), m_list(list), m_notes(notes) {
         ++m_level.merge;
     }
 
@@ -241,7 +360,9 @@ public:
         m_inheritance.NumberNames(m_list);
         std::size_t kept = 0;
         for (std::size_t index = 0; index < m_list.elements.size(); ++index) {
-            if (Hold(m_list.names[index]) || Kind::kRow.showsOwnDoubles) {
+            bool const isVisible = Hold(m_list.names[index]) || Kind::kRow.showsOwnDoubles;
+            m_notes.Add(*m_list.elements[index], m_list.names[index], isVisible);
+            if (isVisible) {
                 m_list.elements[kept] = m_list.elements[index];
                 m_list.names[kept] = m_list.names[index];
                 ++kept;
@@ -254,13 +375,16 @@ public:
     /// In force until the next call.
     void SetNotInheritedList(NODX201::VParentRef& parentRef) {
         ++m_level.reference;
+        m_notes.StartExclusions();
         if (!parentRef.HasNotInheritedDiagCommCollection()) {
             return;
         }
         for (NODX201::VNotInheritedDiagComm& notInherited : parentRef.NotInheritedDiagCommCollection()) {
             NODX201::ILink& link = notInherited.GetDiagCommSnref().GetLink();
             if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&link)) {
-                At(m_level.excludedBy, m_inheritance.NumberOf(snref->GetShortName())) = m_level.reference;
+                std::uint32_t const name = m_inheritance.NumberOf(snref->GetShortName());
+                At(m_level.excludedBy, name) = m_level.reference;
+                m_notes.Exclude(name, notInherited);
             }
         }
     }
@@ -273,13 +397,17 @@ public:
         VList const& candidates = isFirst ? offered : again;
         for (std::size_t index = 0; index < candidates.elements.size(); ++index) {
             std::uint32_t const name = candidates.names[index];
+            Element& element = *candidates.elements[index];
             if (IsHeld(name)) {
+                if constexpr (Notes::kAreTaken) {
+                    m_notes.Add(element, name, false);
+                    seen->second.Add(element, name);
+                }
                 continue;
             }
             bool const isExcluded = IsInNotInheritedList(name);
-            VList& into = isExcluded ? seen->second : m_list;
-            into.elements.push_back(candidates.elements[index]);
-            into.names.push_back(name);
+            m_notes.Add(element, name, !isExcluded);
+            (isExcluded ? seen->second : m_list).Add(element, name);
             if (!isExcluded) {
                 Hold(name);
             }
@@ -309,7 +437,8 @@ private:
     VInheritance& m_inheritance;
     VLevel& m_level;
     VList& m_list;
-    std::unordered_map<VList const*, VList> m_excluded; // of each parent seen
+    Notes& m_notes;
+    std::unordered_map<VList const*, VList> m_excluded; // of each parent seen; with notes, what was hidden too
 };
 
 template <class Kind>
@@ -321,7 +450,15 @@ VInheritance<Kind>::~VInheritance() = default;
 template <class Kind>
 typename VInheritance<Kind>::VElements VInheritance<Kind>::EntriesOf(VLayerOfKind layer) {
     auto const kept = m_kept.find(layer.layer);
-    return kept != m_kept.end() ? kept->second.elements : Make(layer, 0).elements;
+    VNoNotes noNotes;
+    return kept != m_kept.end() ? kept->second.elements : Make(layer, 0, noNotes).elements;
+}
+
+template <class Kind>
+std::deque<VCandidate> VInheritance<Kind>::CandidatesOf(VLayerOfKind layer) {
+    VNotes notes;
+    Make(layer, 0, notes);
+    return std::move(notes.candidates);
 }
 
 template <class Kind>
@@ -344,36 +481,33 @@ typename VInheritance<Kind>::VList const& VInheritance<Kind>::Kept(VLayerOfKind 
     if (kept != m_kept.end()) {
         return kept->second;
     }
-    VList list = Make(layer, level);
+    VNoNotes noNotes;
+    VList list = Make(layer, level, noNotes);
     NumberNames(list);
     return m_kept.emplace(layer.layer, std::move(list)).first->second;
 }
 
 template <class Kind>
-typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, std::size_t level) {
-    VInheritancePasses const passes = Kind::kRow.PassesOf(layer.kind);
+template <class Notes>
+typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, std::size_t level, Notes& notes) {
     VList list{OwnOf(layer), {}};
-    NODX201::VParentRefCollection* const parentRefs =
-        passes.first != VLayerKinds::None ? ParentRefsOf(layer, Kind::kRow.asksForParentRefs) : nullptr;
-    if (parentRefs == nullptr && Kind::kRow.showsOwnDoubles) {
+    NODX201::VParentRefCollection* const parentRefs = WalkedParentRefs(layer, Kind::kRow);
+    if (parentRefs == nullptr && Kind::kRow.showsOwnDoubles && !Notes::kAreTaken) {
         return list;
     }
-    VMerge merge(*this, m_levels[level], list);
+    VMerge<Notes> merge(*this, m_levels[level], list, notes);
     merge.TakeOwn();
-    for (VLayerKinds const pass : {passes.first, passes.second}) {
-        if (parentRefs == nullptr || pass == VLayerKinds::None) {
-            continue;
-        }
-        for (NODX201::VParentRef& parentRef : *parentRefs) {
-            // The exclusions first, whatever the reference leads to: none is in force for the next one.
-            if (Kind::kRow.appliesExclusions) {
-                merge.SetNotInheritedList(parentRef);
-            }
-            if (auto const parent = ParentBy(parentRef, pass)) {
-                merge.Inherit(Kept(*parent, level + 1));
-            }
-        }
-    }
+    WalkPasses(parentRefs, Kind::kRow.PassesOf(layer.kind),
+               [&](NODX201::VParentRef& parentRef, VLayerKinds kinds, int pass) {
+                   // The exclusions first, whatever the reference leads to: none is in force for the next one.
+                   if (Kind::kRow.appliesExclusions) {
+                       merge.SetNotInheritedList(parentRef);
+                   }
+                   if (auto const parent = ParentBy(parentRef, kinds)) {
+                       notes.StartReference(parentRef, *parent, pass);
+                       merge.Inherit(Kept(*parent, level + 1));
+                   }
+               });
     return list;
 }
 
@@ -396,9 +530,7 @@ std::uint32_t VInheritance<Kind>::NumberOf(std::wstring_view shortName) {
     return m_numbers.try_emplace(shortName, next).first->second;
 }
 
-template class VInheritance<VInheritedDiagComms>;
-template class VInheritance<VInheritedDiagVariables>;
-template class VInheritance<VInheritedGlobalNegResponses>;
-template class VInheritance<VInheritedDops>;
+#define INSTANTIATE(Kind) template class VInheritance<Kind>;
+DIAGKIT_INHERITED_KINDS(INSTANTIATE)
 
 } // namespace NDIAGKIT

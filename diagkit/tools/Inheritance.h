@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
@@ -52,6 +53,10 @@ struct DIAGKIT_EXPORT VLayerOfKind {
     VLayerKinds kind; ///< one kind, or none
 };
 
+/// The layer that an element stands in, however deep; null outside layers. A layer stands in itself.
+DIAGKIT_EXPORT NODX201::VDiagLayer* LayerOf(NODX201::VOdxObject& object);
+DIAGKIT_EXPORT NODX201::VDiagLayer const* LayerOf(NODX201::VOdxObject const& object);
+
 /// The PARENT-REFS of a layer; null for one that says to have none, unless it is not asked, and for every
 /// ECU-SHARED-DATA.
 DIAGKIT_EXPORT NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& layer, bool asksFirst = true);
@@ -59,6 +64,12 @@ DIAGKIT_EXPORT NODX201::VParentRefCollection* ParentRefsOf(VLayerOfKind const& l
 /// The layer that a PARENT-REF names, where the reference is of one of these kinds and has a target. References of no
 /// known kind name none.
 DIAGKIT_EXPORT std::optional<VLayerOfKind> ParentBy(NODX201::VParentRef& parentRef, VLayerKinds kinds = kAllParents);
+
+/// A PARENT-REF and the layer that it leads to.
+struct VParent {
+    NODX201::VParentRef* parentRef;
+    VLayerOfKind layer;
+};
 
 /// The kinds of parent from which a layer takes elements: first from all parents of the first pass, in the order of its
 /// PARENT-REFs, then from those of the second.
@@ -80,7 +91,19 @@ struct DIAGKIT_EXPORT VInheritanceRow {
         asksForParentRefs; ///< whether a layer that says to have no PARENT-REFS is believed, or they are walked at once
 
     VInheritancePasses PassesOf(VLayerKinds layer) const; ///< none for an ECU-SHARED-DATA
+
+    /// Whether a layer takes from parents of a kind, in either pass.
+    bool TakesFrom(VLayerKinds layer, VLayerKinds parent) const;
+
+    /// The parents from which a layer takes, pass by pass, each pass in the order of the PARENT-REFs.
+    std::vector<std::vector<VParent>> ParentsOf(VLayerOfKind const& layer) const;
 };
+
+/// Whether any row of the table says that a layer takes from parents of a kind.
+DIAGKIT_EXPORT bool InheritsFrom(VLayerKinds layer, VLayerKinds parent);
+
+/// The parents from which a layer takes anything by any row of the table, in the order of its PARENT-REFs.
+DIAGKIT_EXPORT std::vector<VParent> ParentsOf(VLayerOfKind const& layer);
 
 /// DIAG-COMMs: what the DIAG-COMMS of a layer hold or refer to.
 struct DIAGKIT_EXPORT VInheritedDiagComms {
@@ -104,6 +127,24 @@ struct DIAGKIT_EXPORT VInheritedGlobalNegResponses {
 struct DIAGKIT_EXPORT VInheritedDops {
     using Element = NODX201::VDopBase;
     static VInheritanceRow const kRow;
+};
+
+/// Every row of the table.
+#define DIAGKIT_INHERITED_KINDS(ROW)                                                                                   \
+    ROW(VInheritedDiagComms)                                                                                           \
+    ROW(VInheritedDiagVariables)                                                                                       \
+    ROW(VInheritedGlobalNegResponses)                                                                                  \
+    ROW(VInheritedDops)
+
+/// What the merge of a layer looked at and what became of it: an own element of the layer, or one that a parent offers.
+/// The model owns what it points to.
+struct VCandidate {
+    NODX201::VOdxElement* element;
+    std::optional<VParent> parent;   ///< that offers it; none for an own one
+    int pass;                        ///< 1 or 2; 0 for an own one
+    bool isVisible;                  ///< whether it is an entry of the view
+    VCandidate const* hiddenBy;      ///< what the layer has under its short name already; null when there is nothing
+    NODX201::VOdxElement* exclusion; ///< the NOT-INHERITED-DIAG-COMM of the PARENT-REF that names it; null without one
 };
 
 /// What is visible of one kind in layers: the own elements in document order, then what the parents offer, pass by pass
@@ -132,10 +173,21 @@ public:
     /// What a layer has of its own, doubles included.
     static VElements OwnOf(VLayerOfKind layer);
 
+    /// Merges a layer and notes what it looks at, in this order. The name is looked for first, so what is hidden may be
+    /// excluded as well. A parent that is named again offers once more what it did not bring before, and nothing else.
+    /// Where all own elements of a name are visible, the later ones are, and have a `hiddenBy`. The candidates point to
+    /// each other: they may be moved, not copied. Those of the parents are noted by asking for them.
+    std::deque<VCandidate> CandidatesOf(VLayerOfKind layer);
+
 private:
     struct VList {
         VElements elements;
         std::vector<std::uint32_t> names; // of the elements, by number
+
+        void Add(Element& element, std::uint32_t name) {
+            elements.push_back(&element);
+            names.push_back(name);
+        }
     };
     /// What is held and excluded on one level of the way up: while a layer is being merged, its parents are, each a
     /// level above. By the number of the name, the latest merge that holds it and the latest reference that excludes
@@ -146,11 +198,13 @@ private:
         std::uint32_t merge = 1;
         std::uint32_t reference = 1;
     };
+    template <class Notes>
     class VMerge;
 
     static constexpr std::size_t kLevels = 5; // each kind of layer inherits from others alone
 
-    VList Make(VLayerOfKind layer, std::size_t level);
+    template <class Notes>
+    VList Make(VLayerOfKind layer, std::size_t level, Notes& notes);
     VList const& Kept(VLayerOfKind layer, std::size_t level);
     std::uint32_t NumberOf(std::wstring_view shortName);
     void NumberNames(VList& list);

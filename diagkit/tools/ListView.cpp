@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The instantiations of the list views, a block a view, so that the bodies stay out of the public headers.
+// The instantiations of the list views but those of `InheritedViews.cpp`, a block a view, so that the bodies stay out
+// of the public headers.
 
 #include <diagkit/model/DiagComms.h>
-#include <diagkit/model/DiagVariables.h>
 #include <diagkit/model/Flash.h>
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/Responses.h>
-#include <diagkit/tools/DiagCommView.h>
-#include <diagkit/tools/DiagVariableView.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/InParamIfView.h>
@@ -18,14 +16,6 @@
 #include <diagkit/tools/SessionView.h>
 
 namespace NDIAGKIT {
-
-DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>);
-DIAGKIT_TEMPLATE_DEFINITION(VListView<VDiagCommViewTraits>);
-DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VDiagCommViewTraits>);
-
-DIAGKIT_TEMPLATE_DEFINITION(VExternalIterator<std::list<NODX201::VDiagVariable*>::iterator, NODX201::VDiagVariable&>);
-DIAGKIT_TEMPLATE_DEFINITION(VListView<VDiagVariableViewTraits>);
-DIAGKIT_TEMPLATE_DEFINITION(VNamedListView<VDiagVariableViewTraits>);
 
 DIAGKIT_TEMPLATE_DEFINITION(
     VExternalIterator<std::list<NODX201::VGlobalNegResponse*>::iterator, NODX201::VGlobalNegResponse&>);

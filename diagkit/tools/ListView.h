@@ -8,6 +8,13 @@
 
 namespace NDIAGKIT {
 
+/// For the traits of a view of elements that are found by their short names.
+template <class ElementType>
+struct VNamedElements {
+    using Element = ElementType;
+    static wchar_t const* ShortNameOf(Element& element) { return element.GetShortName(); }
+};
+
 /// What all list-based views share: an ordered list of pointers to elements of the model. The model owns the elements
 /// and must outlive the view.
 ///

@@ -5,15 +5,9 @@
 
 #include <diagkit/logging/SharedLogger.h>
 #include <diagkit/model/Layers.h>
-#include <diagkit/util/Assertion.h>
+#include <diagkit/tools/InheritedView.h>
 
 namespace NDIAGKIT {
-
-/// Where and with which texts a builder reports that it made no view.
-struct VBuilderSite {
-    wchar_t const* logged;             ///< the text logged before "."
-    NPavonaUtil::VAssertion assertion; ///< raised afterwards, unless there is a view by then
-};
 
 /// Tells the listener, if there is one, that no view was made.
 inline void LogNoView(VBuilderSite const& site) {

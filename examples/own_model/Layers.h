@@ -21,9 +21,9 @@ private:
 };
 
 template <class Contract, class Target>
-class VParent : public VLinkTo<Contract, Target> {
+class VParentRefTo : public VLinkTo<Contract, Target> {
 public:
-    explicit VParent(VPlace const& place) : VLinkTo<Contract, Target>(place) {
+    explicit VParentRefTo(VPlace const& place) : VLinkTo<Contract, Target>(place) {
         this->template AddAll<VExclusion>(m_exclusions, Tag::NotInheritedDiagComm);
     }
 
@@ -38,30 +38,30 @@ private:
     VOwning<NODX201::VNotInheritedDiagCommCollection> m_exclusions;
 };
 
-class VProtocolParent : public VParent<NODX201::VProtocolRef, NODX201::VProtocol> {
+class VProtocolParent : public VParentRefTo<NODX201::VProtocolRef, NODX201::VProtocol> {
 public:
-    using VParent::VParent;
+    using VParentRefTo::VParentRefTo;
     bool HasProtocol() const override { return FindById(); }
     NODX201::VProtocol& GetProtocol() override { return Found(); }
 };
 
-class VFunctionalGroupParent : public VParent<NODX201::VFunctionalGroupRef, NODX201::VFunctionalGroup> {
+class VFunctionalGroupParent : public VParentRefTo<NODX201::VFunctionalGroupRef, NODX201::VFunctionalGroup> {
 public:
-    using VParent::VParent;
+    using VParentRefTo::VParentRefTo;
     bool HasFunctionalGroup() const override { return FindById(); }
     NODX201::VFunctionalGroup& GetFunctionalGroup() override { return Found(); }
 };
 
-class VBaseVariantParent : public VParent<NODX201::VBaseVariantRef, NODX201::VBaseVariant> {
+class VBaseVariantParent : public VParentRefTo<NODX201::VBaseVariantRef, NODX201::VBaseVariant> {
 public:
-    using VParent::VParent;
+    using VParentRefTo::VParentRefTo;
     bool HasBaseVariant() const override { return FindById(); }
     NODX201::VBaseVariant& GetBaseVariant() override { return Found(); }
 };
 
-class VEcuSharedDataParent : public VParent<NODX201::VEcuSharedDataRef, NODX201::VEcuSharedData> {
+class VEcuSharedDataParent : public VParentRefTo<NODX201::VEcuSharedDataRef, NODX201::VEcuSharedData> {
 public:
-    using VParent::VParent;
+    using VParentRefTo::VParentRefTo;
     bool HasEcuSharedData() const override { return FindById(); }
     NODX201::VEcuSharedData& GetEcuSharedData() override { return Found(); }
 };

@@ -62,7 +62,7 @@ std::wstring PrintVariables(NODX201::VDiagLayer& layer) {
     NDIAGKIT::VDiagVariableView* const view = builder.CreateDiagVariableView(layer);
     std::wstring text = std::wstring(layer.GetShortName()) + L':';
     for (NODX201::VDiagVariable& variable : *view) {
-        text += std::wstring(L" ") + variable.GetShortName() + L'@' + LayerOf(variable);
+        text += std::wstring(L" ") + variable.GetShortName() + L'@' + LayerNameOf(variable);
     }
     builder.DestroyDiagVariableView(*view);
     return text;

@@ -15,7 +15,7 @@ protected:
         if (!link.HasRequest()) {
             return L"(none)";
         }
-        return std::wstring(link.GetRequest().GetShortName()) + L"@" + LayerOf(link.GetRequest());
+        return std::wstring(link.GetRequest().GetShortName()) + L"@" + LayerNameOf(link.GetRequest());
     }
 
     NODX201::VParentRef& FirstParent(wchar_t const* layer) {

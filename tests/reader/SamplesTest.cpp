@@ -195,7 +195,7 @@ std::wstring PrintGlobalNegResponses(NODX201::VDiagLayer& layer) {
     NDIAGKIT::VGlobalNegResponseView* const view = builder.CreateGlobalNegResponseView(layer);
     std::wstring text = std::wstring(layer.GetShortName()) + L':';
     for (NODX201::VGlobalNegResponse& response : *view) {
-        text += std::wstring(L" ") + response.GetShortName() + L'@' + LayerOf(response);
+        text += std::wstring(L" ") + response.GetShortName() + L'@' + LayerNameOf(response);
     }
     builder.DestroyGlobalNegResponseView(*view);
     return text + L'\n';
@@ -246,7 +246,7 @@ std::wstring DopSeenFrom(NODX201::VDiagLayer& layer, NODX201::VValue& value) {
         return L"";
     }
     NODX201::VDopBase& dop = value.GetDopBaseLink().GetDopBase();
-    std::wstring text = std::wstring(NODX201::OdxTagText(dop.GetOdxTag())) + L'@' + LayerOf(dop);
+    std::wstring text = std::wstring(NODX201::OdxTagText(dop.GetOdxTag())) + L'@' + LayerNameOf(dop);
     auto* const simple = dynamic_cast<NODX201::VDataObjectProp*>(&dop);
     if (simple == nullptr || !simple->GetCompuMethod().HasCompuInternalToPhys()) {
         return text;

@@ -2,21 +2,18 @@
 #include "support/PrintView.h"
 
 #include <diagkit/model/Layers.h>
+#include <diagkit/tools/Inheritance.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 
 namespace NTest {
 
-std::wstring LayerOf(NODX201::VOdxObject const& element) {
-    for (NODX201::VOdxObject const* object = &element; object != nullptr; object = object->GetOwner()) {
-        if (auto const* const layer = dynamic_cast<NODX201::VDiagLayer const*>(object)) {
-            return layer->GetShortName();
-        }
-    }
-    return L"";
+std::wstring LayerNameOf(NODX201::VOdxObject const& element) {
+    NODX201::VDiagLayer const* const layer = NDIAGKIT::LayerOf(element);
+    return layer != nullptr ? layer->GetShortName() : L"";
 }
 
 std::wstring Print(NODX201::VDiagComm& diagComm) {
-    return std::wstring(diagComm.GetShortName()) + L"@" + LayerOf(diagComm);
+    return std::wstring(diagComm.GetShortName()) + L"@" + LayerNameOf(diagComm);
 }
 
 std::wstring Print(NDIAGKIT::VDiagCommView& view) {

@@ -11,7 +11,7 @@
 namespace NTest {
 
 /// The short name of the layer that an element stands in; "" for one outside layers.
-std::wstring LayerOf(NODX201::VOdxObject const& element);
+std::wstring LayerNameOf(NODX201::VOdxObject const& element);
 
 std::wstring Print(NODX201::VDiagComm& diagComm);
 std::wstring Print(NDIAGKIT::VDiagCommView& view);

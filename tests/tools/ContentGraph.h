@@ -39,7 +39,7 @@ template <class View>
 std::wstring PrintEntries(View& view) {
     std::wstring text;
     for (auto& element : view) {
-        text += (text.empty() ? L"" : L" ") + std::wstring(element.GetShortName()) + L"@" + LayerOf(element);
+        text += (text.empty() ? L"" : L" ") + std::wstring(element.GetShortName()) + L"@" + LayerNameOf(element);
     }
     return text;
 }

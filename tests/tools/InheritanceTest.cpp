@@ -29,7 +29,7 @@ template <class Element>
 std::wstring PrintElements(std::vector<Element*> const& elements) {
     std::wstring text;
     for (Element const* const element : elements) {
-        text += (text.empty() ? L"" : L" ") + std::wstring(element->GetShortName()) + L"@" + LayerOf(*element);
+        text += (text.empty() ? L"" : L" ") + std::wstring(element->GetShortName()) + L"@" + LayerNameOf(*element);
     }
     return text;
 }
@@ -114,11 +114,10 @@ TEST_F(VInheritanceTest, ALayerWithoutParentRefsHasNone) {
 }
 
 /// A FUNCTIONAL-GROUP that says to have no PARENT-REFS, and has.
-class VSecretiveGroup final : public NMemory::VWithDiagVariables<
-                                  NMemory::VWithParents<NMemory::VWithLayer<NMemory::VWithComparamRefs<
-                                      NMemory::VWithFunctClasses<NMemory::VWithCompanyDatas<NMemory::VWithAdminData<
-                                          NMemory::VMemIdent<NODX201::VFunctionalGroup,
-                                                             NODX201::VOdxTagEnum::FunctionalGroup>>>>>>>> {
+class VSecretiveGroup final
+    : public NMemory::VWithDiagVariables<NMemory::VWithParents<NMemory::VWithLayer<
+          NMemory::VWithComparamRefs<NMemory::VWithFunctClasses<NMemory::VWithCompanyDatas<NMemory::VWithAdminData<
+              NMemory::VMemIdent<NODX201::VFunctionalGroup, NODX201::VOdxTagEnum::FunctionalGroup>>>>>>>> {
 public:
     using VWithDiagVariables::VWithDiagVariables;
     void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitFunctionalGroup(*this); }
@@ -153,19 +152,28 @@ TEST_F(VInheritanceTest, AParentIsNamedByAReferenceOfAKindThatIsAskedFor) {
     EXPECT_FALSE(ParentBy(parentRef).has_value());
 }
 
-/// The kinds of parent from which a layer takes anything, by the row that takes from most.
-TEST(InheritanceTableTest, NoViewTakesFromAParentThatTheDiagCommViewDoesNot) {
-    using Rows = std::vector<NDIAGKIT::VInheritanceRow>;
-    auto const all = NDIAGKIT::VInheritedDiagComms::kRow;
-    for (auto const& row : Rows{NDIAGKIT::VInheritedDiagVariables::kRow, NDIAGKIT::VInheritedDops::kRow,
-                                NDIAGKIT::VInheritedGlobalNegResponses::kRow}) {
-        for (VLayerKinds const layer : {VLayerKinds::Protocol, VLayerKinds::FunctionalGroup, VLayerKinds::BaseVariant,
-                                        VLayerKinds::EcuVariant, VLayerKinds::EcuSharedData}) {
-            auto const taken = row.PassesOf(layer).first | row.PassesOf(layer).second;
-            auto const known = all.PassesOf(layer).first | all.PassesOf(layer).second;
-            EXPECT_EQ(taken | known, known);
+TEST_F(VInheritanceTest, ParentsComeInTheOrderOfReferencesAndThoseOfARowPassByPass) {
+    Graph(L"esd Lib \n prot Uds \n ecu Old \n base Bv < Lib Uds Bv any:Uds esd:Gone Lib");
+    auto const print = [](std::vector<NDIAGKIT::VParent> const& parents) {
+        std::wstring text;
+        for (NDIAGKIT::VParent const& parent : parents) {
+            text += (text.empty() ? L"" : L" ") + std::wstring(parent.layer.layer->GetShortName());
         }
-    }
+        return text;
+    };
+    EXPECT_EQ(print(NDIAGKIT::ParentsOf(Layer(L"Bv"))), L"Lib Uds Lib");
+    auto const passes = NDIAGKIT::VInheritedDiagComms::kRow.ParentsOf(Layer(L"Bv"));
+    ASSERT_EQ(passes.size(), 2u);
+    EXPECT_EQ(print(passes[0]), L"Uds");
+    EXPECT_EQ(print(passes[1]), L"Lib Lib");
+    EXPECT_EQ(print(NDIAGKIT::VInheritedDiagVariables::kRow.ParentsOf(Layer(L"Bv"))[0]), L"");
+}
+
+TEST(InheritanceTableTest, ALayerInheritsFromTheKindsThatAnyRowTakesFrom) {
+    EXPECT_TRUE(NDIAGKIT::InheritsFrom(VLayerKinds::BaseVariant, VLayerKinds::Protocol));
+    EXPECT_FALSE(NDIAGKIT::VInheritedDiagVariables::kRow.TakesFrom(VLayerKinds::BaseVariant, VLayerKinds::Protocol));
+    EXPECT_FALSE(NDIAGKIT::InheritsFrom(VLayerKinds::EcuVariant, VLayerKinds::Protocol));
+    EXPECT_FALSE(NDIAGKIT::InheritsFrom(VLayerKinds::EcuSharedData, VLayerKinds::EcuSharedData));
 }
 
 } // namespace

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <deque>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <diagkit/Export.h>
+#include <diagkit/model/Forward.h>
+#include <diagkit/tools/Inheritance.h>
+
+/// Why something is visible in a layer, or why not.
+
+namespace NDIAGKIT {
+
+/// What becomes of an element on its way from the layer that has it to another.
+enum class VFate {
+    Visible,
+    Hidden,   ///< another element counts under its short name
+    Excluded, ///< a PARENT-REF says so, in a NOT-INHERITED-DIAG-COMM
+    NoPass,   ///< no pass takes from a parent of that kind
+};
+
+/// An own element of a layer on one way from there to the layer that was asked about.
+struct VWay {
+    NODX201::VOdxElement* element;
+    std::vector<VParent> path;       ///< from the layer asked about to the one that has the element; empty for its own
+    VFate fate;                      ///< what stops the element first, seen from the layer that has it
+    NODX201::VDiagLayer* at;         ///< the layer where it is stopped; null for a visible one
+    NODX201::VOdxElement* by;        ///< of a hidden one, what counts instead: the element itself where it came before
+    NODX201::VOdxElement* decidedBy; ///< the NOT-INHERITED-DIAG-COMM, or the PARENT-REF without a pass; null otherwise
+};
+
+/// Tells how elements of one kind come to layers. Each layer's merge is noted when it is first asked for, and kept.
+///
+/// An object serves any number of layers, for as long as nothing in the model changes and the `VInheritance` lives that
+/// it was made with. It owns no element. What it hands out by reference lives as long as it does.
+template <class Kind>
+class DIAGKIT_EXPORT VInheritanceNotes {
+public:
+    explicit VInheritanceNotes(VInheritance<Kind>& inheritance);
+    ~VInheritanceNotes();
+    VInheritanceNotes(VInheritanceNotes const&) = delete;
+    VInheritanceNotes& operator=(VInheritanceNotes const&) = delete;
+
+    /// What the merge of a layer looked at, in this order; see `VInheritance::CandidatesOf`. The visible ones are the
+    /// view, in its order (`VDopView` has an order of its own).
+    std::deque<VCandidate> const& CandidatesOf(VLayerOfKind layer);
+
+    /// The way of a candidate of a layer, PARENT-REF by PARENT-REF: from the layer to the one that has the element.
+    /// Empty for an own one.
+    std::vector<VParent> PathOf(VCandidate const& candidate);
+
+    /// All own elements of this short name, of the layer and of every layer that PARENT-REFs lead to, each on every way
+    /// on which it could come; no way enters a layer twice. First the ways that the passes take, depth first, in the
+    /// order in which they look; then those with a PARENT-REF that no pass takes, each layer before its parents, these
+    /// as their PARENT-REFs stand. PARENT-REFs without a target, and of no known kind, lead nowhere. An element that a
+    /// layer lists twice counts once; of several own ones of the name the first counts and hides the others.
+    std::vector<VWay> WaysOf(VLayerOfKind layer, std::wstring_view shortName);
+
+private:
+    struct VLayerNotes {
+        std::deque<VCandidate> candidates;
+        std::unordered_map<NODX201::VOdxElement const*, VCandidate const*> visible;
+        std::unordered_map<std::wstring_view, std::vector<VCandidate const*>> byName;
+    };
+    class VWalk;
+
+    VLayerNotes const& NotesOf(VLayerOfKind layer);
+
+    VInheritance<Kind>& m_inheritance;
+    std::unordered_map<NODX201::VDiagLayer const*, VLayerNotes> m_notes;
+};
+
+} // namespace NDIAGKIT
