@@ -171,7 +171,7 @@ protected:
         }
         return m_target != nullptr;
     }
-
+    /// What is doubtful about a reference by ID; nothing about one by short name.
     VDoubt FindDoubtOf(VExpect expect) const {
         auto const* const link = std::get_if<VMemOdxLink>(&m_form);
         return link != nullptr ? NMemory::FindDoubt(this->GetDatabase(), *link, expect) : VDoubt{nullptr, nullptr};
