@@ -2,7 +2,6 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/check/Check.h>
 #include <cli/Commands.h>
 #include <cli/JsonWriter.h>
 #include <cli/Load.h>
@@ -10,6 +9,7 @@
 #include <cli/ProgressBar.h>
 #include <cli/Sarif.h>
 #include <cli/Text.h>
+#include <diagkit/check/Check.h>
 
 namespace NCli {
 namespace {
@@ -58,9 +58,11 @@ VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
 
 void DeclareCheck(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
-    command.add_option("--format", arguments.format, "How to answer: text, json or sarif (SARIF 2.1.0)")
-        ->check(CLI::IsMember({"text", "json", "sarif"}))
-        ->type_name("FORMAT");
+    std::vector<std::string> const formats{"text", "json", "sarif"};
+    auto* const format =
+        command.add_option("--format", arguments.format, "How to answer: text, json or sarif (SARIF 2.1.0)");
+    format->check(CLI::IsMember(formats))->type_name("FORMAT");
+    arguments.choices[format] = formats;
 }
 
 VStatus RunCheck(VArguments const& arguments, VOutput& output) {
