@@ -14,7 +14,6 @@
 #include <benchmark/benchmark.h>
 
 #include <diagkit/model/Visitors.h>
-#include <diagkit/tools/Alternative.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
 #include <diagkit/tools/TraverserKinds.h>
 
@@ -23,15 +22,13 @@
 namespace NBench {
 namespace {
 
-using NDIAGKIT::As;
-
-/// The bare walk. It knows the kinds of element that the layer of the benchmark holds and refuses every other.
-class VBareWalk final : public NODX201::VDiagLayerVisitor,
-                        public NODX201::VDiagCommVisitor,
-                        public NODX201::VDopBaseVisitor,
-                        public NODX201::VParamVisitor {
+/// The recursion. It knows the kinds of element that the layer of the benchmark holds and refuses every other.
+class VRecursion final : public NODX201::VDiagLayerVisitor,
+                         public NODX201::VDiagCommVisitor,
+                         public NODX201::VDopBaseVisitor,
+                         public NODX201::VParamVisitor {
 public:
-    explicit VBareWalk(NODX201::VDiagLayer& layer) : m_layer(layer) {}
+    explicit VRecursion(NODX201::VDiagLayer& layer) : m_layer(layer) {}
 
     std::size_t Walk() {
         m_visits = 0;
@@ -47,179 +44,75 @@ public:
 
 private:
     // clang-format off
-    void VisitEcuVariant(NODX201::VEcuVariant& x) override {
-        ++m_visits;
-        Layer(x);
-        for (NODX201::IDiagVariableProxy& proxy : x.DiagVariableProxyCollection()) { Refuse(proxy.IsDiagVariable()); }
-        for (NODX201::VVariableGroup& group : x.VariableGroupCollection())         { Refuse(group.GetShortName() != nullptr); }
-        Refuse(x.EcuVariantPatternCollection().Count() > 0);
-        Refuse(x.AutMethodCollection().Count() > 0);
-        Refuse(x.HasDynDefinedSpec());
-        Refuse(x.AccessLevelCollection().Count() > 0);
-    }
-    void VisitBaseVariant(NODX201::VBaseVariant&) override           { Refuse(true); }
-    void VisitProtocol(NODX201::VProtocol&) override                 { Refuse(true); }
-    void VisitFunctionalGroup(NODX201::VFunctionalGroup&) override   { Refuse(true); }
-    void VisitEcuSharedData(NODX201::VEcuSharedData&) override       { Refuse(true); }
+#define CHILD(name)        if (x.Has##name()) { Visit(x.Get##name()); }
+#define NO_CHILD(name)     Refuse(x.Has##name());
+#define LIST(name)         for (auto& entry : x.name##Collection()) { Visit(entry); }
+#define NO_LIST(name)      Refuse(x.name##Collection().Count() > 0);
+#define TARGET(link, name) if (x.Has##link() && x.Get##link().Has##name()) { Visit(x.Get##link().Get##name()); }
+#define TARGETS(name)      for (auto& link : x.name##LinkCollection()) { if (link.Has##name()) { Visit(link.Get##name()); } }
 
-    void Layer(NODX201::VDiagLayer& x) {
-        Refuse(x.HasAdminData());
-        Refuse(x.CompanyDataCollection().Count() > 0);
-        for (NODX201::VFunctClass& functClass : x.FunctClassCollection()) { Visit(functClass); }
-        if (x.HasDiagDataDictionarySpec())                                { Dictionary(x.GetDiagDataDictionarySpec()); }
-        for (NODX201::IDiagCommProxy& proxy : x.DiagCommProxyCollection()) {
-            if (auto* const service = As<NODX201::VDiagService>(proxy.IsDiagService(), proxy)) { VisitDiagService(*service); }
-            Refuse(proxy.IsSingleEcuJob());
-            Refuse(proxy.IsDiagCommLink());
-        }
-        for (NODX201::VRequest& request : x.RequestCollection())    { Visit(request); }
-        for (NODX201::VResponse& response : x.ResponseCollection()) { Visit(response); }
-    }
+    void Dictionary(NODX201::VDiagDataDictionarySpec& x) { NO_CHILD(AdminData) LIST(DopBase) NO_LIST(EnvDataProxy) CHILD(UnitSpec) NO_LIST(Table) }
 
-    void Dictionary(NODX201::VDiagDataDictionarySpec& x) {
-        Refuse(x.HasAdminData());
-        for (NODX201::VDopBase& dop : x.DopBaseCollection())              { dop.Accept(*this); }
-        for (NODX201::IEnvDataProxy& proxy : x.EnvDataProxyCollection())  { Refuse(proxy.IsEnvData()); }
-        if (x.HasUnitSpec())                                              { Visit(x.GetUnitSpec()); }
-        Refuse(x.TableCollection().Count() > 0);
+    void Visit(NODX201::VEcuVariant& x) {
+        ++m_visits; NO_CHILD(AdminData) NO_LIST(CompanyData) LIST(FunctClass)
+        if (x.HasDiagDataDictionarySpec()) { Dictionary(x.GetDiagDataDictionarySpec()); }
+        LIST(DiagCommProxy) LIST(Request) LIST(Response) NO_LIST(DiagVariableProxy) NO_LIST(VariableGroup)
+        NO_LIST(EcuVariantPattern) NO_LIST(AutMethod) NO_CHILD(DynDefinedSpec) NO_LIST(AccessLevel)
     }
+    void Visit(NODX201::VDiagService& x) {
+        ++m_visits; NO_CHILD(AdminData) NO_LIST(Sdg) NO_LIST(ComparamRef) TARGETS(FunctClass) CHILD(Audience) NO_LIST(RelatedDiagCommRef)
+        TARGET(RequestRef, Request) if (x.HasPosResponseLinkCollection()) { TARGETS(PosResponse) } NO_CHILD(NegResponseLinkCollection)
+    }
+    void Visit(NODX201::IDiagCommProxy& x)       { Visit(As<NODX201::VDiagService>(x.IsDiagService() && !x.IsSingleEcuJob() && !x.IsDiagCommLink(), x)); }
+    void Visit(NODX201::VDopBase& x)             { x.Accept(*this); }
+    void Visit(NODX201::VParam& x)               { x.Accept(*this); }
+    void Visit(NODX201::VOdxElement&)            { ++m_visits; } // without children
+    void Visit(NODX201::VFunctClass& x)          { ++m_visits; NO_CHILD(AdminData) }
+    void Visit(NODX201::VRequest& x)             { ++m_visits; NO_CHILD(AdminData) LIST(Param) }
+    void Visit(NODX201::VResponse& x)            { ++m_visits; NO_CHILD(AdminData) LIST(Param) }
+    void Visit(NODX201::VStructure& x)           { ++m_visits; NO_CHILD(AdminData) LIST(Param) }
+    void Visit(NODX201::VCodedConst& x)          { ++m_visits; CHILD(DiagCodedType) }
+    void Visit(NODX201::VReserved& x)            { ++m_visits; CHILD(DiagCodedType) }
+    void Visit(NODX201::VMatchingRequestParam&)  { ++m_visits; }
+    void Visit(NODX201::VValue& x)               { ++m_visits; if (x.HasDopBaseLink() && x.GetDopBaseLink().HasDopBase(m_layer)) { Visit(x.GetDopBaseLink().GetDopBase()); } }
+    void Visit(NODX201::VDataObjectProp& x)      { ++m_visits; NO_CHILD(AdminData) CHILD(CompuMethod) CHILD(DiagCodedType) CHILD(PhysicalType) NO_CHILD(InternalConstr) TARGET(UnitRef, Unit) }
+    void Visit(NODX201::VCompuMethod& x)         { ++m_visits; CHILD(CompuInternalToPhys) NO_CHILD(CompuPhysToInternal) }
+    void Visit(NODX201::VCompuInternalToPhys& x) { ++m_visits; CHILD(CompuScalesProgCodeChoice) NO_CHILD(CompuDefaultValue) }
+    void Visit(NODX201::ICompuScalesProgCodeChoice& x) { for (auto& scale : As<NODX201::VCompuScaleCollection>(x.IsCompuScales() && !x.IsProgCode(), x)) { Visit(scale); } }
+    void Visit(NODX201::VCompuScale& x)          { ++m_visits; CHILD(LowerLimit) CHILD(UpperLimit) NO_CHILD(CompuInverseValue) CHILD(CompuConstCompuRationalCoeffsChoice) }
+    void Visit(NODX201::ICompuConstCompuRationalCoeffsChoice& x) { Visit(As<NODX201::VCompuConst>(x.IsCompuConst() && !x.IsCompuRationalCoeffs(), x)); }
+    void Visit(NODX201::VCompuConst& x)          { ++m_visits; CHILD(Vt) }
+    void Visit(NODX201::VUnitSpec& x)            { ++m_visits; NO_CHILD(AdminData) NO_LIST(UnitGroup) LIST(Unit) LIST(PhysicalDimension) }
+    void Visit(NODX201::VUnit& x)                { ++m_visits; TARGET(PhysicalDimensionRef, PhysicalDimension) }
 
-    void Visit(NODX201::VFunctClass& x) {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-    }
+#undef TARGETS
+#undef TARGET
+#undef NO_LIST
+#undef LIST
+#undef NO_CHILD
+#undef CHILD
 
-    void VisitDiagService(NODX201::VDiagService& x) override {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-        Refuse(x.SdgCollection().Count() > 0);
-        Refuse(x.ComparamRefCollection().Count() > 0);
-        for (NODX201::VFunctClassLink& link : x.FunctClassLinkCollection()) {
-            if (link.HasFunctClass()) { Visit(link.GetFunctClass()); }
-        }
-        if (x.HasAudience()) { ++m_visits; }
-        Refuse(x.RelatedDiagCommRefCollection().Count() > 0);
-        if (x.HasRequestRef() && x.GetRequestRef().HasRequest()) { Visit(x.GetRequestRef().GetRequest()); }
-        if (x.HasPosResponseLinkCollection()) {
-            for (NODX201::VPosResponseLink& link : x.PosResponseLinkCollection()) {
-                if (link.HasPosResponse()) { Visit(link.GetPosResponse()); }
-            }
-        }
-        Refuse(x.HasNegResponseLinkCollection());
-    }
-    void VisitSingleEcuJob(NODX201::VSingleEcuJob&) override { Refuse(true); }
+#define VISITED(kind) void Visit##kind(NODX201::V##kind& x) override { Visit(x); }
+    VISITED(EcuVariant) VISITED(DiagService) VISITED(CodedConst) VISITED(Reserved) VISITED(Value) VISITED(MatchingRequestParam)
+    VISITED(Structure) VISITED(DataObjectProp)
+#undef VISITED
+#define REFUSED(kind) void Visit##kind(NODX201::V##kind&) override { Refuse(true); }
+    REFUSED(BaseVariant) REFUSED(Protocol) REFUSED(FunctionalGroup) REFUSED(EcuSharedData) REFUSED(SingleEcuJob)
+    REFUSED(Dynamic) REFUSED(LengthKey) REFUSED(PhysConst) REFUSED(System) REFUSED(TableKey) REFUSED(TableStruct)
+    REFUSED(TableEntry) REFUSED(EnvData) REFUSED(EnvDataDesc) REFUSED(StaticField) REFUSED(DynamicLengthField)
+    REFUSED(DynamicEndmarkerField) REFUSED(EndOfPduField) REFUSED(Mux) REFUSED(DtcDop)
+#undef REFUSED
+        // clang-format on
 
-    void Visit(NODX201::VRequest& x) {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-        Params(x.ParamCollection());
+        template <class Alternative, class Interface>
+        static Alternative& As(bool isAlternative, Interface& choice) {
+        Refuse(!isAlternative);
+        return dynamic_cast<Alternative&>(choice);
     }
-    void Visit(NODX201::VResponse& x) {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-        Params(x.ParamCollection());
-    }
-
-    void Params(NODX201::VParamCollection& params) {
-        for (NODX201::VParam& param : params) { param.Accept(*this); }
-    }
-
-    void VisitCodedConst(NODX201::VCodedConst& x) override {
-        ++m_visits;
-        if (x.HasDiagCodedType()) { Leaf(x.GetDiagCodedType()); }
-    }
-    void VisitReserved(NODX201::VReserved& x) override {
-        ++m_visits;
-        if (x.HasDiagCodedType()) { Leaf(x.GetDiagCodedType()); }
-    }
-    void VisitValue(NODX201::VValue& x) override {
-        ++m_visits;
-        if (x.HasDopBaseLink() && x.GetDopBaseLink().HasDopBase(m_layer)) { x.GetDopBaseLink().GetDopBase().Accept(*this); }
-    }
-    void VisitMatchingRequestParam(NODX201::VMatchingRequestParam&) override { ++m_visits; }
-    void VisitDynamic(NODX201::VDynamic&) override                           { Refuse(true); }
-    void VisitLengthKey(NODX201::VLengthKey&) override                       { Refuse(true); }
-    void VisitPhysConst(NODX201::VPhysConst&) override                       { Refuse(true); }
-    void VisitSystem(NODX201::VSystem&) override                             { Refuse(true); }
-    void VisitTableKey(NODX201::VTableKey&) override                         { Refuse(true); }
-    void VisitTableStruct(NODX201::VTableStruct&) override                   { Refuse(true); }
-    void VisitTableEntry(NODX201::VTableEntry&) override                     { Refuse(true); }
-
-    void VisitStructure(NODX201::VStructure& x) override {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-        Params(x.ParamCollection());
-    }
-    void VisitDataObjectProp(NODX201::VDataObjectProp& x) override {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-        if (x.HasCompuMethod())                         { Visit(x.GetCompuMethod()); }
-        if (x.HasDiagCodedType())                       { Leaf(x.GetDiagCodedType()); }
-        if (x.HasPhysicalType())                        { Leaf(x.GetPhysicalType()); }
-        Refuse(x.HasInternalConstr());
-        if (x.HasUnitRef() && x.GetUnitRef().HasUnit()) { Visit(x.GetUnitRef().GetUnit()); }
-    }
-    void VisitEnvData(NODX201::VEnvData&) override                               { Refuse(true); }
-    void VisitEnvDataDesc(NODX201::VEnvDataDesc&) override                       { Refuse(true); }
-    void VisitStaticField(NODX201::VStaticField&) override                       { Refuse(true); }
-    void VisitDynamicLengthField(NODX201::VDynamicLengthField&) override         { Refuse(true); }
-    void VisitDynamicEndmarkerField(NODX201::VDynamicEndmarkerField&) override   { Refuse(true); }
-    void VisitEndOfPduField(NODX201::VEndOfPduField&) override                   { Refuse(true); }
-    void VisitMux(NODX201::VMux&) override                                       { Refuse(true); }
-    void VisitDtcDop(NODX201::VDtcDop&) override                                 { Refuse(true); }
-
-    void Visit(NODX201::VCompuMethod& x) {
-        ++m_visits;
-        if (x.HasCompuInternalToPhys()) { Visit(x.GetCompuInternalToPhys()); }
-        Refuse(x.HasCompuPhysToInternal());
-    }
-    void Visit(NODX201::VCompuInternalToPhys& x) {
-        ++m_visits;
-        if (x.HasCompuScalesProgCodeChoice()) {
-            NODX201::ICompuScalesProgCodeChoice& choice = x.GetCompuScalesProgCodeChoice();
-            if (auto* const scales = As<NODX201::VCompuScaleCollection>(choice.IsCompuScales(), choice)) {
-                for (NODX201::VCompuScale& scale : *scales) { Visit(scale); }
-            }
-            Refuse(choice.IsProgCode());
-        }
-        Refuse(x.HasCompuDefaultValue());
-    }
-    void Visit(NODX201::VCompuScale& x) {
-        ++m_visits;
-        if (x.HasLowerLimit()) { Leaf(x.GetLowerLimit()); }
-        if (x.HasUpperLimit()) { Leaf(x.GetUpperLimit()); }
-        Refuse(x.HasCompuInverseValue());
-        if (x.HasCompuConstCompuRationalCoeffsChoice()) {
-            NODX201::ICompuConstCompuRationalCoeffsChoice& choice = x.GetCompuConstCompuRationalCoeffsChoice();
-            if (auto* const constant = As<NODX201::VCompuConst>(choice.IsCompuConst(), choice)) { Visit(*constant); }
-            Refuse(choice.IsCompuRationalCoeffs());
-        }
-    }
-    void Visit(NODX201::VCompuConst& x) {
-        ++m_visits;
-        if (x.HasVt()) { Leaf(x.GetVt()); }
-    }
-
-    void Visit(NODX201::VUnitSpec& x) {
-        ++m_visits;
-        Refuse(x.HasAdminData());
-        Refuse(x.UnitGroupCollection().Count() > 0);
-        for (NODX201::VUnit& unit : x.UnitCollection())                                { Visit(unit); }
-        for (NODX201::VPhysicalDimension& dimension : x.PhysicalDimensionCollection()) { Leaf(dimension); }
-    }
-    void Visit(NODX201::VUnit& x) {
-        ++m_visits;
-        if (x.HasPhysicalDimensionRef() && x.GetPhysicalDimensionRef().HasPhysicalDimension()) {
-            Leaf(x.GetPhysicalDimensionRef().GetPhysicalDimension());
-        }
-    }
-    // clang-format on
-
-    void Leaf(NODX201::VOdxElement&) { ++m_visits; }
 
     static void Refuse(bool isThere) {
         if (isThere) {
-            throw std::logic_error("the bare walk does not know this kind of element");
+            throw std::logic_error("the recursion does not know this kind of element");
         }
     }
 
@@ -249,17 +142,17 @@ private:
 };
 
 /// The two ways through a layer: all of it, or its dictionary alone.
-struct VWholeLayer : VWalk {
-    using VWalk::VWalk;
+struct VWholeLayer : VServiceLayer {
+    using VServiceLayer::VServiceLayer;
     std::size_t Count() { return VCounting(*layer).Walk(); }
-    static std::size_t WalkBare(VBareWalk& bare) { return bare.Walk(); }
+    static std::size_t WalkBare(VRecursion& bare) { return bare.Walk(); }
     void Traverse(NDIAGKIT::VDiagLayerTraverser& traverser) const { traverser.TraverseDiagLayer(); }
 };
 
-struct VDictionaryAlone : VDictionaryWalk {
-    using VDictionaryWalk::VDictionaryWalk;
+struct VDictionaryAlone : VDictionaryLayer {
+    using VDictionaryLayer::VDictionaryLayer;
     std::size_t Count() { return VCounting(*layer).WalkDictionary(*layer); }
-    static std::size_t WalkBare(VBareWalk& bare) { return bare.WalkDictionary(); }
+    static std::size_t WalkBare(VRecursion& bare) { return bare.WalkDictionary(); }
     void Traverse(NDIAGKIT::VDiagDataDictionarySpecTraverser& traverser) const {
         traverser.TraverseDiagDataDictionarySpec(layer->GetDiagDataDictionarySpec());
     }
@@ -269,7 +162,7 @@ struct VDictionaryAlone : VDictionaryWalk {
 template <class Way>
 struct VMeasuredWalk : Way {
     explicit VMeasuredWalk(benchmark::State& state) : Way(static_cast<std::size_t>(state.range(0))) {
-        VBareWalk bare(*this->layer);
+        VRecursion bare(*this->layer);
         std::size_t const visits = this->Count();
         if (visits != Way::WalkBare(bare) || visits < static_cast<std::size_t>(state.range(0))) {
             throw std::logic_error("the walks differ, or are too short");
@@ -281,7 +174,7 @@ struct VMeasuredWalk : Way {
 template <class Way>
 void BareWalk(benchmark::State& state) {
     VMeasuredWalk<Way> walk(state);
-    VBareWalk bare(*walk.layer);
+    VRecursion bare(*walk.layer);
     for (auto _ : state) {
         benchmark::DoNotOptimize(Way::WalkBare(bare));
     }

@@ -71,7 +71,7 @@ void AddService(NMemory::VMemEcuVariant& layer, VDictionary const& dictionary, N
 
 } // namespace
 
-VWalk::VWalk(std::size_t visits) {
+VServiceLayer::VServiceLayer(std::size_t visits) {
     layer = &database.AddDiagLayerContainer(L"Walk").AddEcuVariant(L"Ecu");
     VDictionary const dictionary = MakeDictionary(layer->MakeDiagDataDictionarySpec(), kDops, kStructures);
     NMemory::VMemFunctClass& functClass = layer->AddFunctClass(L"Functions");
@@ -80,7 +80,7 @@ VWalk::VWalk(std::size_t visits) {
     }
 }
 
-VDictionaryWalk::VDictionaryWalk(std::size_t visits) {
+VDictionaryLayer::VDictionaryLayer(std::size_t visits) {
     layer = &database.AddDiagLayerContainer(L"Walk").AddEcuVariant(L"Ecu");
     std::size_t const dops = visits / kVisitsOfADop + 1;
     MakeDictionary(layer->MakeDiagDataDictionarySpec(), dops, dops / 4);

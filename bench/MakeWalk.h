@@ -10,16 +10,16 @@ namespace NBench {
 
 /// An ECU-VARIANT whose walk makes at least so many visits: services with a request and a response, whose parameters
 /// lead to DATA-OBJECT-PROPs with everything that belongs to them and to structures, as in real databases.
-struct VWalk {
-    explicit VWalk(std::size_t visits);
+struct VServiceLayer {
+    explicit VServiceLayer(std::size_t visits);
 
     NMemory::VDatabase database;
     NMemory::VMemEcuVariant* layer;
 };
 
 /// An ECU-VARIANT with nothing but a dictionary, whose walk makes at least so many visits.
-struct VDictionaryWalk {
-    explicit VDictionaryWalk(std::size_t visits);
+struct VDictionaryLayer {
+    explicit VDictionaryLayer(std::size_t visits);
 
     NMemory::VDatabase database;
     NMemory::VMemEcuVariant* layer;

@@ -7,8 +7,8 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/Version.h>
 #include <cli/Sizes.h>
+#include <diagkit/Version.h>
 
 namespace NCli {
 namespace {
@@ -84,9 +84,10 @@ void DeclareSelections(CLI::App& command, VArguments& arguments) {
     command.add_option("--diag-comm", arguments.diagComm, "A service or job visible in the layer")->type_name("D");
     command.add_option("--job", arguments.job, "A MULTIPLE-ECU-JOB")->type_name("J");
     command.add_option("--flash", arguments.flash, "A FLASH")->type_name("F");
-    command.add_option("--range", arguments.range, "Which parameters of a service count as output, 0 to 5; default 5")
-        ->check(CLI::Range(0, 5))
-        ->type_name("N");
+    auto* const range = command.add_option("--range", arguments.range,
+                                           "Which parameters of a service count as output, 0 to 5; default 5");
+    range->check(CLI::Range(0, 5))->type_name("N");
+    arguments.choices[range] = {"0", "1", "2", "3", "4", "5"};
 }
 
 void DeclareFiles(CLI::App& command, VArguments& arguments) {

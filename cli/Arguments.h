@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,6 +39,9 @@ struct VArguments {
     bool isDictionary = false;            ///< --dictionary of `traverse`
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
     bool isEach = false;                  ///< --each of `oem`
+
+    /// What a word or an option may be where it is one of a few.
+    std::map<CLI::Option const*, std::vector<std::string>> choices;
 
     int Range() const { return range.value_or(5); }
 };

@@ -54,9 +54,11 @@ VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
 
 void DeclareCheck(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
-    command.add_option("--format", arguments.format, "How to answer: text, json or sarif (SARIF 2.1.0)")
-        ->check(CLI::IsMember({"text", "json", "sarif"}))
-        ->type_name("FORMAT");
+    std::vector<std::string> const formats{"text", "json", "sarif"};
+    auto* const format =
+        command.add_option("--format", arguments.format, "How to answer: text, json or sarif (SARIF 2.1.0)");
+    format->check(CLI::IsMember(formats))->type_name("FORMAT");
+    arguments.choices[format] = formats;
 }
 
 VStatus RunCheck(VArguments const& arguments, VOutput& output) {

@@ -11,6 +11,7 @@
 #include <cli/Commands.h>
 #include <cli/JsonWriter.h>
 #include <cli/NearNames.h>
+#include <cli/Selections.h>
 #include <cli/Text.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/EnumMapper.h>
@@ -130,15 +131,16 @@ VStatus WriteLiteral(VTable const& table, VArguments const& arguments, VOutput& 
 }
 
 /// A word that may be missing; CLI11 itself takes an empty one for a missing one.
-void DeclareWord(CLI::App& command, char const* name, std::optional<std::string>& word, char const* help) {
+CLI::Option& DeclareWord(CLI::App& command, char const* name, std::optional<std::string>& word, char const* help) {
     auto const take = [&word](std::string const& text) { word = text; };
-    command.add_option_function<std::string>(name, take, help)->type_name("");
+    return *command.add_option_function<std::string>(name, take, help)->type_name("");
 }
 
 } // namespace
 
 void DeclareEnums(CLI::App& command, VArguments& arguments) {
-    DeclareWord(command, "TABLE", arguments.table, "One of the tables, such as Addressing");
+    auto& table = DeclareWord(command, "TABLE", arguments.table, "One of the tables, such as Addressing");
+    arguments.choices[&table] = NamesOf(kTables);
     DeclareWord(command, "LITERAL", arguments.literal, "A literal of the table, or a value");
 }
 

@@ -87,10 +87,9 @@ void DeclareKind(CLI::App& command, VArguments& arguments, std::vector<std::stri
         bool const isKind = std::find(names.begin(), names.end(), word) != names.end();
         return isKind ? "" : fmt::format("no kind '{}'{}", Shown(word), NearOrAllNote(word, names));
     };
-    command.add_option("KIND", arguments.kind, fmt::format("{}: {}", help, fmt::join(names, ", ")))
-        ->required()
-        ->check(check)
-        ->type_name("");
+    auto* const kind = command.add_option("KIND", arguments.kind, fmt::format("{}: {}", help, fmt::join(names, ", ")));
+    kind->required()->check(check)->type_name("");
+    arguments.choices[kind] = names;
 }
 
 } // namespace NCli

@@ -30,9 +30,9 @@ struct VCall {
 struct VWalkLeft {};
 
 /// A walk that hands on all its calls one by one.
-class VWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
+class VPrintingWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
-    VWalk(NODX201::VDiagLayer& layer, std::uint64_t maxVisits, VOutput& output)
+    VPrintingWalk(NODX201::VDiagLayer& layer, std::uint64_t maxVisits, VOutput& output)
         : VGuardedDiagLayerTraverser(layer), m_output(output), m_maxVisits(maxVisits) {}
 
     bool IsTooLong() const { return m_visits > m_maxVisits; }
@@ -81,9 +81,9 @@ private:
     bool m_isTooDeep = false;
 };
 
-class VJsonWalk : public VWalk {
+class VJsonWalk : public VPrintingWalk {
 public:
-    using VWalk::VWalk;
+    using VPrintingWalk::VPrintingWalk;
 
 protected:
     void Take(VCall const& call) override {
@@ -99,9 +99,9 @@ protected:
 };
 
 /// A line for each element, indented, with its ODX tag; and at the end how many there were.
-class VTextWalk : public VWalk {
+class VTextWalk : public VPrintingWalk {
 public:
-    using VWalk::VWalk;
+    using VPrintingWalk::VPrintingWalk;
 
     void WriteTotals() {
         m_output.Write(fmt::format("\n{}, {}\n", Counted(m_lines, "visit"), Counted(m_cycles, "cycle")));
@@ -143,7 +143,7 @@ private:
     std::size_t m_cycles = 0;
 };
 
-VStatus Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& arguments, VOutput const& output) {
+VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& arguments, VOutput const& output) {
     try {
         if (arguments.isDictionary) {
             walk.TraverseDictionaryOf(layer);
@@ -158,7 +158,8 @@ VStatus Walk(VWalk& walk, NODX201::VDiagLayer& layer, VArguments const& argument
         return VStatus::Unreadable;
     }
     if (walk.IsTooDeep()) {
-        output.Complain(fmt::format("elements deeper than {} inside one another are left out", VWalk::kMaxDepth));
+        output.Complain(
+            fmt::format("elements deeper than {} inside one another are left out", VPrintingWalk::kMaxDepth));
         return VStatus::Unreadable;
     }
     return VStatus::Done;

@@ -9,12 +9,13 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <diagkit/Version.h>
 #include <cli/Commands.h>
+#include <cli/HelpTable.h>
 #include <cli/NearNames.h>
 #include <cli/Platform.h>
 #include <cli/Selections.h>
 #include <cli/Text.h>
+#include <diagkit/Version.h>
 
 namespace NCli {
 namespace {
@@ -109,6 +110,10 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
     CLI::App program("Answers questions about ODX 2.0.1 diagnostic data", "diagkit");
     VArguments arguments;
     Declare(program, arguments);
+    if (words == std::vector<std::string>{"--help-table"}) { // for packaging/generate, so --help keeps silent about it
+        WriteHelpTable(program, arguments, output);
+        return VStatus::Done;
+    }
     try {
         std::reverse(words.begin(), words.end()); // CLI11 takes the last word first
         program.parse(std::move(words));

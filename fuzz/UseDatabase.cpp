@@ -129,9 +129,9 @@ void ViewLayer(NODX201::VDiagLayer& layer, VBudget& budget) {
 }
 
 /// Walks a layer until the budget is used up.
-class VWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
+class VBudgetedWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
-    VWalk(NODX201::VDiagLayer& layer, VBudget& budget) : VGuardedDiagLayerTraverser(layer), m_budget(budget) {}
+    VBudgetedWalk(NODX201::VDiagLayer& layer, VBudget& budget) : VGuardedDiagLayerTraverser(layer), m_budget(budget) {}
 
     void Run() {
         try {
@@ -186,7 +186,7 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
     VBudget references(kSteps);
     ResolveReferences(result, references);
     VBudget walks(kSteps);
-    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { VWalk(layer, walks).Run(); });
+    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { VBudgetedWalk(layer, walks).Run(); });
     return diagnostics;
 }
 

@@ -33,6 +33,7 @@ private:
 /// One thing that an element contains: it stands inside, or a reference leads to it.
 class DIAGKIT_EXPORT VContained {
 public:
+    /// What an element may contain.
     enum class VKind { Param, Dop, Table, TableRow };
 
     /// A way in which something is contained. `follow` gives the target of a reference, or null; it is null itself for
@@ -44,6 +45,7 @@ public:
     };
 
     explicit VContained(NODX201::VParam& param); ///< of a message
+    /// In a way that outlives this; in a MUX, by one of its cases.
     VContained(VWay const& way, NODX201::VOdxElement& elementOrReference, NODX201::VOdxElement* muxCase = nullptr)
         : m_way(&way), m_what(&elementOrReference), m_case(muxCase) {}
 
@@ -110,6 +112,7 @@ public:
 protected:
     VContainment() = default;
 
+    /// Called for each part, in the order of the document.
     virtual void Take(VContained const& part) = 0;
 
     void TakeField(NODX201::VField& field); ///< what it repeats, alone

@@ -49,18 +49,20 @@ void ForEachRequestParam(NODX201::VDiagService& service, Take& take) {
     }
 }
 
-// Which sources a search range takes. The uneven combinations are meant, the empty one and that of any other value
-// included (EverySearchRangeSelectsItsSources).
+/// Whether a search range takes the request. The uneven combinations of sources are meant, the empty one and that of
+/// any other value included (EverySearchRangeSelectsItsSources).
 inline bool TakesRequest(NODX201::VSearchRange range) {
     int const value = static_cast<int>(range);
     return value == 1 || value == 3 || value == 5;
 }
 
+/// Whether a search range takes the positive responses.
 inline bool TakesPosResponses(NODX201::VSearchRange range) {
     int const value = static_cast<int>(range);
     return value == 0 || value == 4 || value == 5;
 }
 
+/// Whether a search range takes the negative responses.
 inline bool TakesNegResponses(NODX201::VSearchRange range) {
     int const value = static_cast<int>(range);
     return value == 0 || value == 1 || value == 5;

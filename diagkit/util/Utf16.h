@@ -39,11 +39,11 @@ constexpr Character SecondUtf16Unit(Character character) {
 template <class Character>
 class VUtf16Units {
 public:
-    explicit VUtf16Units(std::basic_string_view<Character> text) : m_rest(text) {}
+    explicit VUtf16Units(std::basic_string_view<Character> text) : m_rest(text) {} ///< has to outlive this
 
     bool IsAtEnd() const { return m_rest.empty(); }
-
-    char32_t Next() { // not at the end
+    /// REQUIRES: not at the end.
+    char32_t Next() {
         Character const character = m_rest.front();
         bool const isSecond = m_isSecond;
         m_isSecond = !isSecond && Utf16Length(character) == 2;

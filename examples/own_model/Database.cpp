@@ -4,23 +4,23 @@
 namespace NOwnModel {
 
 void VLayerCollection::AddRow(VRow const& row, VIndex& index) {
-    VPlace const place{row, this, index};
+    VOrigin const origin{row, this, index};
     if (row.tag == Tag::Protocol) {
-        Add(std::make_unique<VProtocolLayer>(place));
+        Add(std::make_unique<VProtocolLayer>(origin));
     } else if (row.tag == Tag::FunctionalGroup) {
-        Add(std::make_unique<VFunctionalGroupLayer>(place));
+        Add(std::make_unique<VFunctionalGroupLayer>(origin));
     } else if (row.tag == Tag::BaseVariant) {
-        Add(std::make_unique<VBaseVariantLayer>(place));
+        Add(std::make_unique<VBaseVariantLayer>(origin));
     } else if (row.tag == Tag::EcuVariant) {
-        Add(std::make_unique<VEcuVariantLayer>(place));
+        Add(std::make_unique<VEcuVariantLayer>(origin));
     } else if (row.tag == Tag::EcuSharedData) {
-        Add(std::make_unique<VEcuSharedDataLayer>(place));
+        Add(std::make_unique<VEcuSharedDataLayer>(origin));
     }
 }
 
-VContainer::VContainer(VPlace const& place) : VIdentified(place) {
-    for (VRow const& row : place.row.rows) {
-        m_layers.AddRow(row, place.index);
+VContainer::VContainer(VOrigin const& origin) : VIdentified(origin) {
+    for (VRow const& row : origin.row.rows) {
+        m_layers.AddRow(row, origin.index);
     }
 }
 
@@ -29,9 +29,9 @@ void VInstructions::Add(VRow const& row) {
     m_elements.push_back(m_owned.back().get());
 }
 
-VRoot::VRoot(VPlace const& place) : VElement(place) {
+VRoot::VRoot(VOrigin const& origin) : VElement(origin) {
     AddAll<VContainer>(m_containers, Tag::DiagLayerContainer);
-    for (VRow const& row : place.row.rows) {
+    for (VRow const& row : origin.row.rows) {
         if (row.tag == Tag::None) {
             m_instructions.Add(row);
         }

@@ -26,7 +26,7 @@ private:
 
 class VContainer : public VIdentified<NODX201::VDiagLayerContainer> {
 public:
-    explicit VContainer(VPlace const& place);
+    explicit VContainer(VOrigin const& origin);
 
     VLayerCollection& DiagLayerCollection() override { return m_layers; }
 
@@ -55,7 +55,7 @@ private:
 
 class VRoot : public VElement<NODX201::VOdx> {
 public:
-    explicit VRoot(VPlace const& place);
+    explicit VRoot(VOrigin const& origin);
 
     VOwning<NODX201::VDiagLayerContainerCollection>& DiagLayerContainerCollection() override { return m_containers; }
     NODX201::VComparamSpecCollection& ComparamSpecCollection() override {
@@ -83,7 +83,7 @@ public:
 private:
     VRow m_rows;
     VIndex m_index;
-    VRoot m_root{VPlace{m_rows, nullptr, m_index}};
+    VRoot m_root{VOrigin{m_rows, nullptr, m_index}};
 };
 
 } // namespace NOwnModel

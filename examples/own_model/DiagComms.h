@@ -18,8 +18,8 @@ namespace NOwnModel {
 template <class Contract>
 class VMessage : public VIdentified<Contract> {
 public:
-    explicit VMessage(VPlace const& place) : VIdentified<Contract>(place) {
-        for (VRow const& row : place.row.rows) {
+    explicit VMessage(VOrigin const& origin) : VIdentified<Contract>(origin) {
+        for (VRow const& row : origin.row.rows) {
             if (row.tag == Tag::CodedConst) {
                 m_params.Add(std::make_unique<VConstant>(this->Inside(row)));
             } else if (row.tag == Tag::Value) {
@@ -70,8 +70,8 @@ using VProgram = VElement<NODX201::VProgCode>;
 template <class Contract>
 class VDiagCommOf : public VIdentified<Contract> {
 public:
-    explicit VDiagCommOf(VPlace const& place)
-        : VIdentified<Contract>(place), m_audience(this->template MakeChild<VAudienceRow>(Tag::Audience)) {}
+    explicit VDiagCommOf(VOrigin const& origin)
+        : VIdentified<Contract>(origin), m_audience(this->template MakeChild<VAudienceRow>(Tag::Audience)) {}
 
     bool HasLongName() const override { return false; }
     NODX201::VText& GetLongName() override { return Absent<NODX201::VText>(); }
@@ -96,7 +96,8 @@ private:
 
 class VService : public VDiagCommOf<NODX201::VDiagService> {
 public:
-    explicit VService(VPlace const& place) : VDiagCommOf(place), m_requestRef(MakeChild<VRequestRef>(Tag::RequestRef)) {
+    explicit VService(VOrigin const& origin)
+        : VDiagCommOf(origin), m_requestRef(MakeChild<VRequestRef>(Tag::RequestRef)) {
         AddAll<VPosResponseRef>(m_posResponseRefs, Tag::PosResponseRef);
     }
 
@@ -117,7 +118,7 @@ private:
 
 class VJob : public VDiagCommOf<NODX201::VSingleEcuJob> {
 public:
-    explicit VJob(VPlace const& place) : VDiagCommOf(place) { AddAll<VProgram>(m_programs, Tag::ProgCode); }
+    explicit VJob(VOrigin const& origin) : VDiagCommOf(origin) { AddAll<VProgram>(m_programs, Tag::ProgCode); }
 
     void Accept(NODX201::VDiagCommVisitor& visitor) override { visitor.VisitSingleEcuJob(*this); }
     NODX201::VProgCodeCollection& ProgCodeCollection() override { return m_programs; }

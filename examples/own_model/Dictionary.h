@@ -30,8 +30,8 @@ public:
 
 class VDop : public VIdentified<NODX201::VDataObjectProp> {
 public:
-    explicit VDop(VPlace const& place)
-        : VIdentified(place), m_compuMethod(MakeChild<VCompu>(Tag::CompuMethod)),
+    explicit VDop(VOrigin const& origin)
+        : VIdentified(origin), m_compuMethod(MakeChild<VCompu>(Tag::CompuMethod)),
           m_codedType(MakeChild<VStandardLength>(Tag::StandardLengthType)),
           m_physicalType(MakeChild<VPhysical>(Tag::PhysicalType)) {}
 
@@ -59,7 +59,7 @@ private:
 
 class VDictionary : public VElement<NODX201::VDiagDataDictionarySpec> {
 public:
-    explicit VDictionary(VPlace const& place) : VElement(place) { AddAll<VDop>(m_dops, Tag::DataObjectProp); }
+    explicit VDictionary(VOrigin const& origin) : VElement(origin) { AddAll<VDop>(m_dops, Tag::DataObjectProp); }
 
     bool HasAdminData() const override { return false; }
     NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
@@ -88,8 +88,8 @@ public:
 
 class VConstant : public VIdentified<NODX201::VCodedConst> {
 public:
-    explicit VConstant(VPlace const& place)
-        : VIdentified(place), m_codedType(MakeChild<VStandardLength>(Tag::StandardLengthType)) {}
+    explicit VConstant(VOrigin const& origin)
+        : VIdentified(origin), m_codedType(MakeChild<VStandardLength>(Tag::StandardLengthType)) {}
 
     void Accept(NODX201::VParamVisitor& visitor) override { visitor.VisitCodedConst(*this); }
     NODX201::VProcessingInstructionCollection& ProcessingInstructionCollection() override { return m_instructions; }
@@ -103,7 +103,7 @@ private:
 
 class VValueParam : public VIdentified<NODX201::VValue> {
 public:
-    explicit VValueParam(VPlace const& place) : VIdentified(place), m_dopRef(MakeChild<VDopLink>(Tag::DopRef)) {
+    explicit VValueParam(VOrigin const& origin) : VIdentified(origin), m_dopRef(MakeChild<VDopLink>(Tag::DopRef)) {
         if (m_dopRef == nullptr) {
             m_dopRef = MakeChild<VDopLink>(Tag::DopSnref);
         }

@@ -27,7 +27,7 @@ struct VIndex {
 };
 
 /// Where an element comes from: its row, what it stands in, the database it is part of.
-struct VPlace {
+struct VOrigin {
     VRow const& row;
     NODX201::VOdxObject* owner;
     VIndex& index;
@@ -65,16 +65,16 @@ Collection& Empty() {
 template <class Contract>
 class VElement : public Contract {
 public:
-    explicit VElement(VPlace const& place) : m_place(place) {}
+    explicit VElement(VOrigin const& origin) : m_origin(origin) {}
 
-    Tag GetOdxTag() const override { return m_place.row.tag; }
-    wchar_t const* GetShortName() const override { return m_place.row.name.c_str(); }
-    NODX201::VOdxObject* GetOwner() const override { return m_place.owner; }
+    Tag GetOdxTag() const override { return m_origin.row.tag; }
+    wchar_t const* GetShortName() const override { return m_origin.row.name.c_str(); }
+    NODX201::VOdxObject* GetOwner() const override { return m_origin.owner; }
 
 protected:
-    VRow const& Row() const { return m_place.row; }
-    VIndex& Index() const { return m_place.index; }
-    VPlace Inside(VRow const& row) { return {row, this, m_place.index}; }
+    VRow const& Row() const { return m_origin.row; }
+    VIndex& Index() const { return m_origin.index; }
+    VOrigin Inside(VRow const& row) { return {row, this, m_origin.index}; }
 
     /// The optional child of a tag, or null.
     template <class Child>
@@ -98,16 +98,16 @@ protected:
     }
 
 private:
-    VPlace m_place;
+    VOrigin m_origin;
 };
 
 /// The same for a class with an ID.
 template <class Contract>
 class VIdentified : public VElement<Contract> {
 public:
-    explicit VIdentified(VPlace const& place) : VElement<Contract>(place) {
-        if (!place.row.id.empty()) {
-            place.index.elements[place.row.id] = this;
+    explicit VIdentified(VOrigin const& origin) : VElement<Contract>(origin) {
+        if (!origin.row.id.empty()) {
+            origin.index.elements[origin.row.id] = this;
         }
     }
 
@@ -141,11 +141,11 @@ private:
 template <class Contract, class Target>
 class VLinkTo : public VElement<Contract> {
 public:
-    explicit VLinkTo(VPlace const& place) : VElement<Contract>(place) {
-        if (place.row.snref.empty()) {
-            m_form = std::make_unique<VById>(place.row);
+    explicit VLinkTo(VOrigin const& origin) : VElement<Contract>(origin) {
+        if (origin.row.snref.empty()) {
+            m_form = std::make_unique<VById>(origin.row);
         } else {
-            m_form = std::make_unique<VByName>(place.row);
+            m_form = std::make_unique<VByName>(origin.row);
         }
     }
 

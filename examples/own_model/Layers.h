@@ -12,7 +12,8 @@ namespace NOwnModel {
 
 class VExclusion : public VElement<NODX201::VNotInheritedDiagComm> {
 public:
-    explicit VExclusion(VPlace const& place) : VElement(place), m_snref(MakeChild<VDiagCommRef>(Tag::DiagCommSnref)) {}
+    explicit VExclusion(VOrigin const& origin)
+        : VElement(origin), m_snref(MakeChild<VDiagCommRef>(Tag::DiagCommSnref)) {}
 
     NODX201::VDiagCommLink& GetDiagCommSnref() override { return *m_snref; }
 
@@ -23,7 +24,7 @@ private:
 template <class Contract, class Target>
 class VParentRefTo : public VLinkTo<Contract, Target> {
 public:
-    explicit VParentRefTo(VPlace const& place) : VLinkTo<Contract, Target>(place) {
+    explicit VParentRefTo(VOrigin const& origin) : VLinkTo<Contract, Target>(origin) {
         this->template AddAll<VExclusion>(m_exclusions, Tag::NotInheritedDiagComm);
     }
 
@@ -83,10 +84,10 @@ public:
 template <class Contract>
 class VLayer : public VIdentified<Contract> {
 public:
-    explicit VLayer(VPlace const& place)
-        : VIdentified<Contract>(place), m_longName(this->template MakeChild<VTextRow>(Tag::LongName)),
+    explicit VLayer(VOrigin const& origin)
+        : VIdentified<Contract>(origin), m_longName(this->template MakeChild<VTextRow>(Tag::LongName)),
           m_dictionary(this->template MakeChild<VDictionary>(Tag::DiagDataDictionarySpec)) {
-        for (VRow const& row : place.row.rows) {
+        for (VRow const& row : origin.row.rows) {
             AddRow(row);
         }
     }
@@ -136,8 +137,8 @@ private:
 template <class Contract>
 class VChildLayer : public VLayer<Contract> {
 public:
-    explicit VChildLayer(VPlace const& place) : VLayer<Contract>(place) {
-        for (VRow const& row : place.row.rows) {
+    explicit VChildLayer(VOrigin const& origin) : VLayer<Contract>(origin) {
+        for (VRow const& row : origin.row.rows) {
             AddParent(row);
         }
     }
@@ -170,7 +171,7 @@ private:
 template <class Base>
 class VWithVariables : public Base {
 public:
-    explicit VWithVariables(VPlace const& place) : Base(place) {
+    explicit VWithVariables(VOrigin const& origin) : Base(origin) {
         this->template AddAll<VVariable>(m_variables, Tag::DiagVariable);
     }
 
@@ -185,8 +186,8 @@ private:
 
 class VProtocolLayer : public VChildLayer<NODX201::VProtocol> {
 public:
-    explicit VProtocolLayer(VPlace const& place)
-        : VChildLayer(place), m_comparamSpecRef(MakeChild<VComparamSpecRef>(Tag::ComparamSpecRef)) {}
+    explicit VProtocolLayer(VOrigin const& origin)
+        : VChildLayer(origin), m_comparamSpecRef(MakeChild<VComparamSpecRef>(Tag::ComparamSpecRef)) {}
 
     void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitProtocol(*this); }
     bool HasComparamSpecRef() const override { return m_comparamSpecRef != nullptr; }

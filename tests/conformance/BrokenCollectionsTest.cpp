@@ -15,9 +15,9 @@ protected:
     /// Adds a layer of a class that breaks the promise.
     template <class Layer>
     Layer& AddLayer() {
-        NOwnModel::VPlace place = Place(Tag::EcuSharedData);
-        place.owner = &Container().DiagLayerCollection();
-        return Container().DiagLayerCollection().Add(std::make_unique<Layer>(place));
+        NOwnModel::VOrigin origin = Origin(Tag::EcuSharedData);
+        origin.owner = &Container().DiagLayerCollection();
+        return Container().DiagLayerCollection().Add(std::make_unique<Layer>(origin));
     }
 };
 
@@ -32,7 +32,7 @@ TEST_F(VBrokenCollections, CollectionIsOneObject) {
 }
 
 struct VGrowingLayer : NOwnModel::VEcuSharedDataLayer {
-    explicit VGrowingLayer(NOwnModel::VPlace const& place) : VEcuSharedDataLayer(place) { m_row.tag = Tag::Request; }
+    explicit VGrowingLayer(NOwnModel::VOrigin const& origin) : VEcuSharedDataLayer(origin) { m_row.tag = Tag::Request; }
     VOwning<NODX201::VRequestCollection>& RequestCollection() override {
         auto& requests = VEcuSharedDataLayer::RequestCollection();
         requests.Add(std::make_unique<NOwnModel::VMessage<NODX201::VRequest>>(Inside(m_row)));
@@ -59,9 +59,9 @@ struct VReversingLayer : NOwnModel::VEcuSharedDataLayer {
 TEST_F(VBrokenCollections, CollectionKeepsOrder) {
     auto& layer = AddLayer<VReversingLayer>();
     for (wchar_t const* const name : {L"A", L"B"}) {
-        NOwnModel::VPlace place = Place(Tag::Request, name);
-        place.owner = &layer;
-        layer.m_requests.Add(std::make_unique<NOwnModel::VMessage<NODX201::VRequest>>(place));
+        NOwnModel::VOrigin origin = Origin(Tag::Request, name);
+        origin.owner = &layer;
+        layer.m_requests.Add(std::make_unique<NOwnModel::VMessage<NODX201::VRequest>>(origin));
     }
     EXPECT_EQ(Found(), "collection-keeps-entries");
 }
@@ -86,9 +86,9 @@ struct VDenyingLayer : NOwnModel::VEcuSharedDataLayer {
 TEST_F(VBrokenCollections, AbsentCollectionIsEmpty) {
     auto& layer = AddLayer<VDenyingLayer>();
     EXPECT_EQ(Found(), "");
-    NOwnModel::VPlace place = Place(Tag::DiagService);
-    place.owner = &layer;
-    layer.DiagCommProxyCollection().Add(std::make_unique<NOwnModel::VService>(place));
+    NOwnModel::VOrigin origin = Origin(Tag::DiagService);
+    origin.owner = &layer;
+    layer.DiagCommProxyCollection().Add(std::make_unique<NOwnModel::VService>(origin));
     EXPECT_EQ(Found(), "absent-collection-is-empty");
 }
 

@@ -44,7 +44,7 @@ struct VOwnedRoot : NOwnModel::VRoot {
     NODX201::VOdxObject* GetOwner() const override { return const_cast<VOwnedRoot*>(this); }
 };
 TEST_F(VBrokenElements, RootHasNoOwner) {
-    VOwnedRoot root(Place(Tag::Odx, L""));
+    VOwnedRoot root(Origin(Tag::Odx, L""));
     EXPECT_EQ(Found(root), "root-has-no-owner");
 }
 
@@ -59,9 +59,9 @@ TEST_F(VBrokenElements, OwnerContainsElement) {
 }
 
 TEST_F(VBrokenElements, OwnerOfALayerIsItsCollection) {
-    NOwnModel::VPlace place = Place(Tag::EcuSharedData);
-    place.owner = &Container();
-    Container().DiagLayerCollection().Add(std::make_unique<NOwnModel::VEcuSharedDataLayer>(place));
+    NOwnModel::VOrigin origin = Origin(Tag::EcuSharedData);
+    origin.owner = &Container();
+    Container().DiagLayerCollection().Add(std::make_unique<NOwnModel::VEcuSharedDataLayer>(origin));
     EXPECT_EQ(Found(), "owner-contains-element");
 }
 
@@ -71,9 +71,9 @@ struct VForeignLayers : NOwnModel::VContainer {
     NOwnModel::VLayerCollection m_layers{static_cast<NODX201::VOdxObject&>(VContainer::DiagLayerCollection())};
 };
 TEST_F(VBrokenElements, OwnerOfALayerCollectionIsItsContainer) {
-    NOwnModel::VPlace place = Place(Tag::DiagLayerContainer);
-    place.owner = &m_database.GetRoot();
-    m_database.GetRoot().DiagLayerContainerCollection().Add(std::make_unique<VForeignLayers>(place));
+    NOwnModel::VOrigin origin = Origin(Tag::DiagLayerContainer);
+    origin.owner = &m_database.GetRoot();
+    m_database.GetRoot().DiagLayerContainerCollection().Add(std::make_unique<VForeignLayers>(origin));
     EXPECT_EQ(Found(), "owner-contains-element");
 }
 
@@ -88,7 +88,7 @@ TEST_F(VBrokenElements, PresenceIsStable) {
 }
 
 struct VMaking : VService {
-    explicit VMaking(NOwnModel::VPlace const& place) : VService(place) { m_row.tag = Tag::Audience; }
+    explicit VMaking(NOwnModel::VOrigin const& origin) : VService(origin) { m_row.tag = Tag::Audience; }
     bool HasAudience() const override { return true; }
     NODX201::VAudience& GetAudience() override {
         m_made.push_back(std::make_unique<NOwnModel::VAudienceRow>(Inside(m_row)));
@@ -146,9 +146,9 @@ struct VEmptyOid : NOwnModel::VEcuSharedDataLayer {
     bool HasOid() const override { return true; }
 };
 TEST_F(VBrokenElements, PresentOidIsNotEmpty) {
-    NOwnModel::VPlace place = Place(Tag::EcuSharedData);
-    place.owner = &Container().DiagLayerCollection();
-    Container().DiagLayerCollection().Add(std::make_unique<VEmptyOid>(place));
+    NOwnModel::VOrigin origin = Origin(Tag::EcuSharedData);
+    origin.owner = &Container().DiagLayerCollection();
+    Container().DiagLayerCollection().Add(std::make_unique<VEmptyOid>(origin));
     EXPECT_EQ(Found(), "present-oid-is-not-empty");
 }
 
@@ -210,9 +210,9 @@ struct VSilent : NOwnModel::VEcuSharedDataLayer {
     void Accept(NODX201::VDiagLayerVisitor&) override {}
 };
 TEST_F(VBrokenElements, AcceptCalls) {
-    NOwnModel::VPlace place = Place(Tag::EcuSharedData);
-    place.owner = &Container().DiagLayerCollection();
-    Container().DiagLayerCollection().Add(std::make_unique<VSilent>(place));
+    NOwnModel::VOrigin origin = Origin(Tag::EcuSharedData);
+    origin.owner = &Container().DiagLayerCollection();
+    Container().DiagLayerCollection().Add(std::make_unique<VSilent>(origin));
     EXPECT_EQ(Found(), "accept-calls-once");
 }
 

@@ -20,16 +20,16 @@ struct VChosenLink : NOwnModel::VDiagCommRef {
 class VBrokenLinks : public VBrokenModel {
 protected:
     VService& AddService(std::wstring const& id) {
-        NOwnModel::VPlace const place = Place(Tag::DiagService, L"Service");
+        NOwnModel::VOrigin const origin = Origin(Tag::DiagService, L"Service");
         m_rows.back().id = id;
-        return Layer().DiagCommProxyCollection().Add(std::make_unique<VService>(place));
+        return Layer().DiagCommProxyCollection().Add(std::make_unique<VService>(origin));
     }
 
     template <class Link>
     Link& AddLink(std::wstring const& idRef) {
-        NOwnModel::VPlace const place = Place(Tag::DiagCommRef, L"");
+        NOwnModel::VOrigin const origin = Origin(Tag::DiagCommRef, L"");
         m_rows.back().idRef = idRef;
-        return Layer().DiagCommProxyCollection().Add(std::make_unique<Link>(place));
+        return Layer().DiagCommProxyCollection().Add(std::make_unique<Link>(origin));
     }
 };
 
@@ -74,26 +74,26 @@ TEST_F(VBrokenLinks, TargetBearsName) {
     auto& link = AddLink<VChosenLink>(L"");
     link.m_target = &AddService(L"S");
     EXPECT_EQ(Found(), "") << "an empty ID-REF names nothing";
-    NOwnModel::VPlace const place = Place(Tag::DiagCommSnref, L"");
+    NOwnModel::VOrigin const origin = Origin(Tag::DiagCommSnref, L"");
     m_rows.back().snref = L"Another";
-    Layer().DiagCommProxyCollection().Add(std::make_unique<VChosenLink>(place)).m_target = link.m_target;
+    Layer().DiagCommProxyCollection().Add(std::make_unique<VChosenLink>(origin)).m_target = link.m_target;
     EXPECT_EQ(Lines(Check()), "target-bears-name: C/L/DIAG-COMM-SNREF 3: expected 'Another', found 'Service'\n");
 }
 
 TEST_F(VBrokenLinks, TargetIsTheElement) {
     AddService(L"S");
-    NOwnModel::VPlace const place = Place(Tag::DiagService, L"Service");
+    NOwnModel::VOrigin const origin = Origin(Tag::DiagService, L"Service");
     m_rows.back().id = L"S";
-    VService second(place);
+    VService second(origin);
     AddLink<VChosenLink>(L"S").m_target = &second;
     EXPECT_EQ(Found(), "target-is-the-element");
 }
 
 TEST_F(VBrokenLinks, TargetIsInDatabase) {
-    NOwnModel::VPlace place = Place(Tag::DiagService, L"Service");
-    place.owner = nullptr;
+    NOwnModel::VOrigin origin = Origin(Tag::DiagService, L"Service");
+    origin.owner = nullptr;
     m_rows.back().id = L"S";
-    VService stray(place);
+    VService stray(origin);
     AddLink<VChosenLink>(L"S").m_target = &stray;
     EXPECT_EQ(Found(), "target-is-in-database");
 }

@@ -26,8 +26,8 @@ protected:
         return dynamic_cast<NOwnModel::VEcuSharedDataLayer&>(*Container().DiagLayerCollection().Begin());
     }
 
-    /// A place in the layer for an element of a tag.
-    NOwnModel::VPlace Place(NOwnModel::Tag tag, std::wstring const& name = L"X") {
+    /// An origin in the layer for an element of a tag.
+    NOwnModel::VOrigin Origin(NOwnModel::Tag tag, std::wstring const& name = L"X") {
         m_rows.emplace_back();
         m_rows.back().tag = tag;
         m_rows.back().name = name;
@@ -37,7 +37,7 @@ protected:
     /// Puts a broken element among the layer's DIAG-COMMs.
     template <class DiagComm>
     DiagComm& Add(NOwnModel::Tag tag, std::wstring const& name = L"X") {
-        return Layer().DiagCommProxyCollection().Add(std::make_unique<DiagComm>(Place(tag, name)));
+        return Layer().DiagCommProxyCollection().Add(std::make_unique<DiagComm>(Origin(tag, name)));
     }
 
     std::vector<NConformance::VViolation> Check() { return NConformance::CheckModel({m_database.GetOdx()}); }

@@ -92,7 +92,9 @@ def check_is_complete(environment):
         expect(f"\n## {command}\n" in recipes and f"$ diagkit {command} " in recipes, f"no recipe for {command}")
 
     views = (GUIDE / "views.md").read_text(encoding="utf-8")
-    for path in sorted([*ROOT.glob("tools/*View.h"), *ROOT.glob("tools/OpBuild*.h")]):
+    headers = sorted({*ROOT.glob("diagkit/tools/*View.h"), *ROOT.glob("diagkit/tools/OpBuild*.h")})
+    expect(len(headers) >= 16, f"the headers of views are {headers}")
+    for path in headers:
         name = f"V{path.stem}"
         expect(f"`{name}`" in views or name == "VListView", f"views.md says nothing of {name}")
 

@@ -60,7 +60,7 @@ def check_bash(own, commands):
     check([command.name for command in commands] + [option.name for option in own], "")
     for command in commands:
         check([option.name for option in command.options], command.name, "-")
-        check(command.choices, command.name, "")
+        check(command.choices(), command.name, "")
         for option in command.options:
             if option.value:
                 check(option.choices, command.name, "FILE", option.name, "")
@@ -78,17 +78,18 @@ def check_fish(commands):
     for command in commands:
         options = {option.name for option in command.options}
         expect(offered(f"diagkit {command.name} --") == options, f"fish offers other options of {command.name}")
-        expect(set(command.choices) <= offered(f"diagkit {command.name} "), f"fish lacks arguments of {command.name}")
+        expect(set(command.choices()) <= offered(f"diagkit {command.name} "), f"fish lacks arguments of {command.name}")
 
 
 def main():
     program = sys.argv[1:]
     own, commands = program_help.read(program)
-    # Were these not read from the help, the rest would say nothing.
+    # Were these not told, the rest would say nothing.
     view = next(command for command in commands if command.name == "view")
     expected = {"--layer", "--range", "--json", "--max-file-size"}
-    expect(expected <= {option.name for option in view.options}, "the options are not read")
-    expect("diag-comms" in view.choices and len(view.choices) == 9, "the kinds are not read")
+    expect(expected <= {option.name for option in view.options}, "the options are not told")
+    expect("diag-comms" in view.choices() and len(view.choices()) == 9, "the kinds are not told")
+    expect("--help-table" not in run(*program, "--help"), "the table of options is for tools alone")
 
     check_up_to_date(program)
     check_man_page(commands)

@@ -109,10 +109,10 @@ struct VLyingProtocol : VElementOf<VProtocol> {
     VLyingCollection<VDiagCommProxyCollection, VLyingIDiagCommProxy> m_lying;
 };
 
-/// The names of what a walk meets, for the visits of a test.
-class VWalk : public NDIAGKIT::VDiagLayerTraverser {
+/// Counts what it meets; its visits are open to the tests.
+class VCountingWalk : public NDIAGKIT::VDiagLayerTraverser {
 public:
-    explicit VWalk(VDiagLayer& layer) : VDiagLayerTraverser(layer) {}
+    explicit VCountingWalk(VDiagLayer& layer) : VDiagLayerTraverser(layer) {}
 
 #define TRAVERSER_KIND(kind, element) using VDiagLayerTraverser::Visit##kind;
 #define TRAVERSER_TEXT_KIND(kind)
@@ -134,7 +134,7 @@ protected:
     NMemory::VMemEcuSharedData& m_layer = m_container.AddEcuSharedData(L"Layer");
     NMemory::VMemDiagDataDictionarySpec& m_dictionary = m_layer.MakeDiagDataDictionarySpec();
     VStrictModel m_model{VStrictModel::VParentRefs::Free};
-    VWalk m_walk{m_layer};
+    VCountingWalk m_walk{m_layer};
 };
 
 TEST_F(LyingEntriesTest, ChoicesOfADictionary) {
@@ -177,13 +177,13 @@ TEST_F(LyingEntriesTest, EnvDatasAndTheParameterOfAnEnvDataDesc) {
 
 TEST_F(LyingEntriesTest, DiagCommsAndDiagVariablesOfALayer) {
     VLyingProtocol protocol(m_model, m_protocol);
-    VWalk ofProtocol(protocol);
+    VCountingWalk ofProtocol(protocol);
     ofProtocol.TraverseDiagLayer();
     EXPECT_EQ(ofProtocol.m_met, 1u);
     EXPECT_TRUE(NDIAGKIT::VDiagCommView(protocol).IsEmpty());
     NMemory::VMemEcuSharedData& library = m_container.AddEcuSharedData(L"Library");
     VLyingVEcuSharedData sharedData(m_model, library);
-    VWalk ofSharedData(sharedData);
+    VCountingWalk ofSharedData(sharedData);
     ofSharedData.TraverseDiagLayer();
     EXPECT_EQ(ofSharedData.m_met, 1u);
     EXPECT_TRUE(NDIAGKIT::VDiagVariableView(sharedData).IsEmpty());

@@ -97,6 +97,9 @@ void ExcludeDiagVariables(NODX201::VDiagLayer& layer, VLayerPlan const& plan) {
 } // namespace
 
 std::unique_ptr<VGraph> MakeContentGraph(VGraphPlan const& plan, VContent content) {
+    if (content == VContent::DiagComms) {
+        return std::make_unique<VGraph>(plan);
+    }
     VGraphPlan empty = plan;
     for (VLayerPlan& layer : empty.layers) {
         layer.hasOwn = false;
@@ -107,6 +110,8 @@ std::unique_ptr<VGraph> MakeContentGraph(VGraphPlan const& plan, VContent conten
         NODX201::VDiagLayer& layer = graph->Layer(planned.name);
         WithMemLayer(layer, [&](auto& memLayer) {
             switch (content) {
+            case VContent::DiagComms:
+                return;
             case VContent::Dops:
                 return AddDops(memLayer, planned);
             case VContent::DiagVariables:

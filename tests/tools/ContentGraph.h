@@ -14,8 +14,9 @@
 
 namespace NTest {
 
-/// What the entries of a layer graph become instead of DIAG-COMMs. They keep their IDs.
+/// What the entries of a layer graph become. They keep their IDs.
 enum class VContent {
+    DiagComms,         ///< what they are
     Dops,              ///< `Read` a DATA-OBJECT-PROP, `Read!` a STRUCTURE; references become nothing
     DiagVariables,     ///< `Read` and `Read!` a DIAG-VARIABLE, `->Lib.Read` a DIAG-VARIABLE-REF; nothing in a PROTOCOL
     GlobalNegResponses ///< `Read` a GLOBAL-NEG-RESPONSE, `Read!` a NEG-RESPONSE; a reference becomes a POS-RESPONSE
@@ -44,7 +45,7 @@ std::wstring PrintEntries(View& view) {
     return text;
 }
 
-/// A test over one layer graph with other content than DIAG-COMMs.
+/// A test over one layer graph with such content.
 class VContentTest : public testing::Test {
 protected:
     explicit VContentTest(VContent content) : m_content(content) {}

@@ -17,6 +17,26 @@
 #include "support/RandomGraph.h"
 #include "tools/ContentGraph.h"
 
+namespace NMemory {
+
+/// A FUNCTIONAL-GROUP that says to have no PARENT-REFS, and has.
+#include <diagkit/memory/Classes.def>
+DIAGKIT_CLASS(SecretiveGroup, NODX201::VFunctionalGroup, FunctionalGroup, Ident)
+ODX_LAYER
+ODX_DIAG_VARIABLES
+ODX_ACCESS_LEVELS
+ODX_AUT_METHODS
+public:
+void Accept(NODX201::VDiagLayerVisitor& visitor) { visitor.VisitFunctionalGroup(*this); }
+bool HasParentRefCollection() const { return false; }
+ODX_END
+#include <diagkit/memory/ClassesEnd.def>
+
+VMemSecretiveGroup::VMemSecretiveGroup(VPlace const& place) : VBase(place) {}
+VMemSecretiveGroup::~VMemSecretiveGroup() = default;
+
+} // namespace NMemory
+
 namespace NTest {
 namespace {
 
@@ -113,24 +133,13 @@ TEST_F(VInheritanceTest, ALayerWithoutParentRefsHasNone) {
     EXPECT_EQ(ParentRefsOf(Layer(L"P"))->Count(), 0u);
 }
 
-/// A FUNCTIONAL-GROUP that says to have no PARENT-REFS, and has.
-class VSecretiveGroup final
-    : public NMemory::VWithDiagVariables<NMemory::VWithParents<NMemory::VWithLayer<
-          NMemory::VWithComparamRefs<NMemory::VWithFunctClasses<NMemory::VWithCompanyDatas<NMemory::VWithAdminData<
-              NMemory::VMemIdent<NODX201::VFunctionalGroup, NODX201::VOdxTagEnum::FunctionalGroup>>>>>>>> {
-public:
-    using VWithDiagVariables::VWithDiagVariables;
-    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitFunctionalGroup(*this); }
-    bool HasParentRefCollection() const override { return false; }
-};
-
 TEST_F(VInheritanceTest, ParentRefsAreAskedForInTheViewsOfDiagCommsAndGlobalNegResponsesAlone) {
     Graph(L"esd Lib : Read");
     auto& library = LayerAs<NMemory::VMemEcuSharedData>(L"Lib");
     library.AddDiagVariable(L"Speed");
     library.AddGlobalNegResponse(L"Refused");
     library.MakeDiagDataDictionarySpec().AddStructure(L"Status");
-    VSecretiveGroup group(m_graph->Container().Inside());
+    NMemory::VMemSecretiveGroup group(m_graph->Container().Inside());
     group.AddParentRef(library);
     auto const countOf = [&group](auto kind) {
         return NDIAGKIT::VInheritance<decltype(kind)>().EntriesOf(group).size();
