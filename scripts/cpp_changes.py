@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: Apache-2.0
 """Changes of C++ by what they do.
 
-A scope is a function or a table of a file by name; NAME(WORD) is the overload with WORD among its parameters. A change
+A scope is a function or a table of a file by name; NAME(WORD) is the overload with WORD among its parameters, or the row
+NAME(WORD, ...) of a list for the preprocessor. A change
 is one of these, where A is what stands in the scope, in tokens: blanks, line breaks and comments do not count.
 
     replace A by B
@@ -70,7 +71,11 @@ class Source:
         size = len(tokens_of(name))
         used = [place for place in self.places_of(name, 0, len(self.tokens) - 1)]
         used = [place for place in used if self.tokens[place - 1] not in (".", "->")]
-        bodies = [body for place in used if (body := self.body_behind(place + size, overload))]
+        if name.isupper():
+            rows = [place + size for place in used if self.tokens[place + size : place + size + 2] == ["(", overload]]
+            bodies = [(place, self.partner[place]) for place in rows]
+        else:
+            bodies = [body for place in used if (body := self.body_behind(place + size, overload))]
         if len(bodies) != 1:
             raise Unfit(f"'{name}' is defined {len(bodies)} times")
         return bodies[0]

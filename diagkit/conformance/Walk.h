@@ -87,7 +87,7 @@ public:
     std::wstring PathOf(NODX201::VOdxElement const& element) const;
     std::vector<NODX201::VDiagLayer*> const& Layers() const { return m_layers; }
 
-    // What the rows of Parts.def do, for the element that the walk is at. `has` may be empty.
+    // What the facts about the classes do, for the element that the walk is at. `has` may be empty.
 
     void Name(wchar_t const* operation, VGetText const& get);
     void Text(wchar_t const* operation, VHas const& has, VGetText const& get);
@@ -149,7 +149,7 @@ private:
     std::vector<VKeptText> m_texts;
 };
 
-/// Does what Parts.def says about the element's classes.
+/// Walks what the facts say of the element's class, as far as the contract has it.
 void WalkParts(VWalk& walk, NODX201::VOdxElement& element);
 
 } // namespace NConformance

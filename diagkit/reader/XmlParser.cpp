@@ -12,8 +12,6 @@
 
 namespace NReader {
 
-namespace {
-
 /// What the bytes of a document in a one-byte encoding look like: whether they are UTF-8, and where the first ones
 /// stand that tell.
 class VByteWatch {
@@ -58,8 +56,6 @@ private:
     VXmlPosition m_first;
     VXmlControl m_control;
 };
-
-} // namespace
 
 struct VXmlParser::VState {
     XML_Parser parser = nullptr;
