@@ -5,9 +5,9 @@
 
 #include <cli/Output.h>
 #include <diagkit/memory/Database.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/DiagComms.h>
 
 namespace NCli {
 

@@ -44,7 +44,9 @@ struct VByHand<Tag::Sdg, Names> {
 };
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/AdminData.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -10,8 +10,8 @@
 #include <diagkit/model/Collections.h>
 
 /// How the classes of the memory model hold their children. The bodies are compiled once for each class, in
-/// `Instances*.cpp` alone, so that a program that uses elements does not compile the whole model again. A child comes into
-/// its parent when it is finished, so that one whose making fails is not there at all.
+/// `Instances*.cpp` alone, so that a program that uses elements does not compile the whole model again. A child comes
+/// into its parent when it is finished, so that one whose making fails is not there at all.
 
 namespace NMemory {
 
@@ -45,10 +45,10 @@ public:
     ~VMemChild();
 
     bool Has() const { return m_child != nullptr; }
-    Child& Get() const { return *m_child; }         ///< REQUIRES: `Has`
-    Child& Make(VPlace const& place);               ///< the child, made when it is absent
-    Child& Take(VMade<Child> child); ///< in place of the one before
-    void Remove();                                  ///< destroys it; no effect when there is none
+    Child& Get() const { return *m_child; } ///< REQUIRES: `Has`
+    Child& Make(VPlace const& place);       ///< the child, made when it is absent
+    Child& Take(VMade<Child> child);        ///< in place of the one before
+    void Remove();                          ///< destroys it; no effect when there is none
 
 private:
     Child* m_child = nullptr;
@@ -64,9 +64,9 @@ public:
     ~VMemLinkChild();
 
     bool Has() const { return m_link != nullptr; }
-    Link& Get() const { return *m_link; }                           ///< REQUIRES: `Has`
-    Link& Set(VPlace const& place, VReference const& reference);    ///< the link, made or directed at another target
-    void Remove();                                                  ///< destroys it; no effect when there is none
+    Link& Get() const { return *m_link; }                        ///< REQUIRES: `Has`
+    Link& Set(VPlace const& place, VReference const& reference); ///< the link, made or directed at another target
+    void Remove();                                               ///< destroys it; no effect when there is none
 
 private:
     Link* m_link = nullptr;

@@ -48,7 +48,9 @@ struct VByHand<Tag::CompuInternalToPhys, Names> {
 };
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/Compu.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -10,7 +10,9 @@
 namespace NMemory {
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/DiagComms.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -9,7 +9,9 @@
 namespace NMemory {
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/DiagVariables.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

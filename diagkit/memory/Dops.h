@@ -12,7 +12,9 @@
 namespace NMemory {
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/Dops.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -28,7 +28,9 @@ struct VByHand<Tag::Flashdata, Names> {
 };
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/Flash.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -8,11 +8,13 @@
 namespace NMemory {
 
 #include <diagkit/memory/Instances.def>
+
 #include <diagkit/model/facts/Compu.def>
 #include <diagkit/model/facts/Dops.def>
 #include <diagkit/model/facts/Params.def>
 #include <diagkit/model/facts/Tables.def>
 #include <diagkit/model/facts/Units.def>
+
 #include <diagkit/memory/InstancesEnd.def>
 
 } // namespace NMemory

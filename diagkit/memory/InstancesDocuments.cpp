@@ -9,9 +9,11 @@
 namespace NMemory {
 
 #include <diagkit/memory/Instances.def>
+
 #include <diagkit/model/facts/Flash.def>
 #include <diagkit/model/facts/ParentRefs.def>
 #include <diagkit/model/facts/References.def>
+
 #include <diagkit/memory/InstancesEnd.def>
 
 bool VMemImportRef::HasDiagLayer() const { return FindById(); }

@@ -8,11 +8,13 @@
 namespace NMemory {
 
 #include <diagkit/memory/Instances.def>
+
 #include <diagkit/model/facts/AdminData.def>
 #include <diagkit/model/facts/Comparams.def>
 #include <diagkit/model/facts/DiagComms.def>
 #include <diagkit/model/facts/DiagVariables.def>
 #include <diagkit/model/facts/Layers.def>
+
 #include <diagkit/memory/InstancesEnd.def>
 
 } // namespace NMemory

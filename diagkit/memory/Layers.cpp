@@ -10,7 +10,9 @@ IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRe
     case VParentRefKind::target:                                                                                       \
         return parentRefs.Insert(before, New<VMem##name>(place, reference));
 #include <diagkit/model/facts/Vocabulary.def>
+
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/model/facts/Clear.def>
     case VParentRefKind::Unknown:
         break;

@@ -144,7 +144,9 @@ struct VByHand<Tag::DiagLayerContainer, Names> {
 };
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/Layers.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -171,7 +171,8 @@ protected:
         auto const* const link = m_isSevered ? nullptr : std::get_if<VMemOdxLink>(&m_form);
         if (m_generation != database.GetGeneration()) {
             auto& self = const_cast<VMemLink&>(*this);
-            m_target = link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, &IsOfClass<Target>)) : nullptr;
+            m_target =
+                link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, &IsOfClass<Target>)) : nullptr;
             m_generation = database.GetGeneration();
         }
         return m_target != nullptr;

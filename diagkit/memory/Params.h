@@ -13,7 +13,9 @@
 namespace NMemory {
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/Params.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -9,7 +9,9 @@ VParentRefKind ParentRefKindOf(NODX201::VDiagLayer& layer) {
     case Tag::target:                                                                                                  \
         return VParentRefKind::target;
 #include <diagkit/model/facts/Vocabulary.def>
+
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/model/facts/Clear.def>
     default:
         return VParentRefKind::Unknown;

@@ -11,7 +11,7 @@ namespace NMemory {
 #define ODX_EXCLUSION(name, reference, link, value, element)                                                           \
     class VMem##name final : public VMemElement<NODX201::V##name, Tag::name> {                                         \
     public:                                                                                                            \
-        VMem##name(VPlace const& place, VReference const& to);                                                  \
+        VMem##name(VPlace const& place, VReference const& to);                                                         \
         ~VMem##name() override;                                                                                        \
         VMem##link& Get##reference() override { return m_reference; }                                                  \
                                                                                                                        \
@@ -19,7 +19,9 @@ namespace NMemory {
         VMem##link m_reference;                                                                                        \
     };
 #include <diagkit/model/facts/Vocabulary.def>
+
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/model/facts/Clear.def>
 
 /// The kinds of PARENT-REF, by the kind of layer that they lead to; `Unknown` is one that no view follows.
@@ -27,7 +29,9 @@ enum class VParentRefKind {
     Unknown,
 #define ODX_PARENT_REF(name, target, value, type) target,
 #include <diagkit/model/facts/Vocabulary.def>
+
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/model/facts/Clear.def>
 };
 
@@ -100,7 +104,9 @@ private:
     DIAGKIT_LINK(name, VMemAnyParentRef, NODX201::V##name, name, target, NODX201::V##target) ODX_END
 #define ODX_UNTYPED_PARENT_REF(name, target, value) ODX_PARENT_REF(name, target, value, "")
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -152,7 +152,9 @@ protected:
 };
 
 #include <diagkit/memory/Classes.def>
+
 #include <diagkit/model/facts/References.def>
+
 #include <diagkit/memory/ClassesEnd.def>
 
 } // namespace NMemory

@@ -4,8 +4,8 @@
 #include <unordered_set>
 
 #include <diagkit/memory/Database.h>
-#include <diagkit/reader/CycleSearch.h>
 #include <diagkit/memory/Odx.h>
+#include <diagkit/reader/CycleSearch.h>
 #include <diagkit/tools/Containment.h>
 
 /// What contains what in data dictionaries, as ways from DOPs, TABLEs and TABLE-ROWs into others.

@@ -11,12 +11,14 @@
 namespace NReader {
 
 #include <diagkit/reader/Tables.def>
+
 #include <diagkit/model/facts/Compu.def>
 #include <diagkit/model/facts/Dops.def>
 #include <diagkit/model/facts/Params.def>
 #include <diagkit/model/facts/References.def>
 #include <diagkit/model/facts/Tables.def>
 #include <diagkit/model/facts/Units.def>
+
 #include <diagkit/reader/TablesEnd.def>
 
 } // namespace NReader

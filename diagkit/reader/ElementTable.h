@@ -105,7 +105,18 @@ constexpr VOften OrElse(int choice) { return {Optional, choice}; } ///< or none 
 
 /// A line of a table before it is one: constant, so that the tables cost no code.
 struct VFact {
-    enum class VWhat : std::uint8_t { Attribute, Child, Text, Reference, Wrapper, WrapperEnd, Content, List, Kind, Instructions };
+    enum class VWhat : std::uint8_t {
+        Attribute,
+        Child,
+        Text,
+        Reference,
+        Wrapper,
+        WrapperEnd,
+        Content,
+        List,
+        Kind,
+        Instructions
+    };
 
     VWhat what;
     char const* name;
@@ -121,8 +132,8 @@ struct VFact {
     void (*addInstruction)(void* object, std::wstring const& name, std::wstring const& content) = nullptr;
 };
 
-/// The table that the facts say. Throws std::length_error for one with more rows, or with choices of higher numbers, than
-/// the loader can keep apart.
+/// The table that the facts say. Throws std::length_error for one with more rows, or with choices of higher numbers,
+/// than the loader can keep apart.
 VElementType TableOf(VFact const* facts, std::size_t count);
 
 template <std::size_t Count>

@@ -57,7 +57,14 @@ struct VFactsOf {
     /// A child element of a class of its own, single or repeated, made by `Make`.
     template <auto Make>
     static constexpr VFact Child(char const* name, VOften often, bool isMerged = false) {
-        return {VWhat::Child, name, often, VContent::Text, nullptr, nullptr, &OpenChild<Make>, &TypeOfMade<Make>,
+        return {VWhat::Child,
+                name,
+                often,
+                VContent::Text,
+                nullptr,
+                nullptr,
+                &OpenChild<Make>,
+                &TypeOfMade<Make>,
                 !isMerged && often.occurs != Many};
     }
     /// A reference by ID.
@@ -89,11 +96,22 @@ struct VFactsOf {
 
     static constexpr VFact List() { return {VWhat::List, ""}; }
     static constexpr VFact Kind(char const* xsiType, char const* child) {
-        return {VWhat::Kind, xsiType, Optional, VContent::Text, nullptr, nullptr, nullptr, nullptr, false, false, child};
+        return {VWhat::Kind, xsiType, Optional, VContent::Text, nullptr, nullptr,
+                nullptr,     nullptr, false,    false,          child};
     }
     static constexpr VFact Instructions() {
-        return {VWhat::Instructions, "", Optional, VContent::Text, nullptr, nullptr, nullptr, nullptr, false, false,
-                nullptr, [](void* object, std::wstring const& name, std::wstring const& content) {
+        return {VWhat::Instructions,
+                "",
+                Optional,
+                VContent::Text,
+                nullptr,
+                nullptr,
+                nullptr,
+                nullptr,
+                false,
+                false,
+                nullptr,
+                [](void* object, std::wstring const& name, std::wstring const& content) {
                     Owner(object).AddProcessingInstruction(name.c_str(), content.c_str());
                 }};
     }
@@ -135,7 +153,7 @@ private:
 
     template <auto Set>
     static constexpr VFact Link(char const* name, VOften often, VOpenRow open) {
-        return {VWhat::Reference, name, often, VContent::Text, nullptr, nullptr, open, &TypeOfLink<Set>,
+        return {VWhat::Reference,    name, often, VContent::Text, nullptr, nullptr, open, &TypeOfLink<Set>,
                 often.occurs != Many};
     }
     template <auto Set>

@@ -10,7 +10,9 @@
 namespace NReader {
 
 #include <diagkit/reader/Tables.def>
+
 #include <diagkit/model/facts/Flash.def>
+
 #include <diagkit/reader/TablesEnd.def>
 
 } // namespace NReader

@@ -10,12 +10,14 @@
 namespace NReader {
 
 #include <diagkit/reader/Tables.def>
+
 #include <diagkit/model/facts/AdminData.def>
 #include <diagkit/model/facts/Comparams.def>
 #include <diagkit/model/facts/DiagComms.def>
 #include <diagkit/model/facts/DiagVariables.def>
 #include <diagkit/model/facts/Layers.def>
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/reader/TablesEnd.def>
 
 } // namespace NReader

@@ -8,8 +8,8 @@
 #include <diagkit/reader/Facts.h>
 #include <diagkit/reader/XsiType.h>
 
-/// What is read in a way of its own: elements whose class is their xsi:type, or shows from their contents, and what must
-/// not stand where it stands.
+/// What is read in a way of its own: elements whose class is their xsi:type, or shows from their contents, and what
+/// must not stand where it stands.
 
 namespace NReader {
 
@@ -19,7 +19,8 @@ VOpened Opened(VLoader& loader, Made& made) {
     return {&made, &TypeOf(&made)};
 }
 
-/// DIAG-CODED-TYPE. Another one would take its place, under references that are noted already, so only the first counts.
+/// DIAG-CODED-TYPE. Another one would take its place, under references that are noted already, so only the first
+/// counts.
 template <class T>
 VOpened OpenCodedType(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
     T& element = VFactsOf<T>::Owner(owner);
@@ -63,8 +64,8 @@ VOpened OpenFlashdata(VLoader& loader, void* owner, VRow const& row, VAttributes
 /// DATAFILE, a text with an attribute.
 VElementType const& DatafileType();
 constexpr VFact DatafileFact(char const* name, VOften often) {
-    VFact fact = VFactsOf<NMemory::VMemFlashdata>::Special(name, often,
-                                                           &VFactsOf<NMemory::VMemFlashdata>::OpenOnOwner, true);
+    VFact fact =
+        VFactsOf<NMemory::VMemFlashdata>::Special(name, often, &VFactsOf<NMemory::VMemFlashdata>::OpenOnOwner, true);
     fact.type = &DatafileType;
     return fact;
 }
@@ -84,7 +85,9 @@ VOpened OpenParentRef(VLoader& loader, void* owner, VRow const&, VAttributes con
         return Opened(loader, parentRef);                                                                              \
     }
 #include <diagkit/model/facts/Vocabulary.def>
+
 #include <diagkit/model/facts/ParentRefs.def>
+
 #include <diagkit/model/facts/Clear.def>
     if (!type.empty()) {
         ReportUnknownType(loader, type);

@@ -38,9 +38,8 @@ bool IsDouble(std::wstring_view text) {
 
 /// `lower` is in lower case.
 bool EqualsFolded(std::wstring_view text, std::wstring_view lower) {
-    return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), [](wchar_t a, wchar_t b) {
-        return (a >= L'A' && a <= L'Z' ? a - L'A' + L'a' : a) == b;
-    });
+    return std::equal(text.begin(), text.end(), lower.begin(), lower.end(),
+                      [](wchar_t a, wchar_t b) { return (a >= L'A' && a <= L'Z' ? a - L'A' + L'a' : a) == b; });
 }
 
 /// xs:dateTime: 2005-06-01T12:00:00, with fractions of a second and a zone where they are given.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ConformanceTest.h"
 
-#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Flash.h>
 #include <diagkit/reader/Utf8.h>
 
 namespace NTest {

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Flash.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/OdxCategoryInfoCollection.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>

@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/memory/ProcessingInstructions.h>
 

@@ -7,9 +7,9 @@
 
 #include <diagkit/memory/Comparams.h>
 #include <diagkit/memory/Database.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/DiagComms.h>
 
 namespace NTest {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Flash.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 
 #include "support/FakeResolver.h"

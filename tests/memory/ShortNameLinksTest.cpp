@@ -8,9 +8,9 @@
 
 #include <diagkit/memory/Comparams.h>
 #include <diagkit/memory/Database.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/DiagComms.h>
 #include <diagkit/model/SearchRange.h>
 
 #include "support/FakeResolver.h"

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <diagkit/memory/Database.h>
-#include <diagkit/memory/Layers.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Layers.h>
 
 namespace NTest {
 namespace {

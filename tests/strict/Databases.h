@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/reader/OdxReader.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "strict/StrictModel.h"
 
-#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/DiagComms.h>
+#include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/memory/ProcessingInstructions.h>
 

@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <diagkit/memory/Database.h>
+#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Dops.h>
 #include <diagkit/memory/Layers.h>
-#include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Tables.h>
 
 #include "support/GraphTest.h"

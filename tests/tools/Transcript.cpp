@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include <diagkit/memory/Compu.h>
 #include <diagkit/memory/AdminData.h>
+#include <diagkit/memory/Compu.h>
 
 namespace NTest {
 namespace {
