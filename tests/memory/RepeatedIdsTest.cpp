@@ -136,7 +136,8 @@ private:
 TEST(RepeatedIdsTest, EveryReferenceFindsTheElementThatTheOrderOfPlacesGives) {
     static constexpr NMemory::VExpect kClasses[] = {
         &NMemory::IsOfClass<NODX201::VDiagService>, &NMemory::IsOfClass<NODX201::VMultipleEcuJob>,
-        &NMemory::IsOfClass<NODX201::VDopBase>, &NMemory::IsDiagCommOfLayer, &NMemory::IsOfClass<NODX201::VComparam>};
+        &NMemory::IsOfClass<NODX201::VDopBase>, &NMemory::IsOfClass<NODX201::VDiagComm>,
+        &NMemory::IsOfClass<NODX201::VComparam>};
     int found = 0;
     for (std::uint32_t seed = 1; seed <= 60; ++seed) {
         VRandomIds ids(seed);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <stdexcept>
-#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -10,20 +10,18 @@ namespace NTest {
 namespace {
 
 NReader::VElementType Table(std::size_t rows, int choice = 0) {
-    NReader::VElementType type;
-    type.rows.assign(rows, NReader::VRow{"CHILD", NReader::VOccurs::Optional, choice, nullptr});
-    return type;
+    std::vector<NReader::VFact> const facts(
+        rows, NReader::VFact{NReader::VFact::VWhat::Child, "CHILD", {NReader::Optional, choice}});
+    return NReader::TableOf(facts.data(), facts.size());
 }
 
-TEST(ElementTable, AsManyRowsAsTheLoaderKeepsApart) {
-    EXPECT_EQ(NReader::Indexed(Table(NReader::kMostRows)).names.size(), 64U);
-}
+TEST(ElementTable, AsManyRowsAsTheLoaderKeepsApart) { EXPECT_EQ(Table(NReader::kMostRows).names.size(), 64U); }
 
-TEST(ElementTable, OneRowMore) { EXPECT_THROW(NReader::Indexed(Table(NReader::kMostRows + 1)), std::length_error); }
+TEST(ElementTable, OneRowMore) { EXPECT_THROW(Table(NReader::kMostRows + 1), std::length_error); }
 
-TEST(ElementTable, ChoiceOfTheHighestNumber) { EXPECT_NO_THROW(NReader::Indexed(Table(1, 63))); }
+TEST(ElementTable, ChoiceOfTheHighestNumber) { EXPECT_NO_THROW(Table(1, 63)); }
 
-TEST(ElementTable, ChoiceOfAHigherNumber) { EXPECT_THROW(NReader::Indexed(Table(1, 64)), std::length_error); }
+TEST(ElementTable, ChoiceOfAHigherNumber) { EXPECT_THROW(Table(1, 64), std::length_error); }
 
 } // namespace
 } // namespace NTest

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <diagkit/conformance/Conformance.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/InParamIfView.h>
@@ -222,6 +223,28 @@ TEST(AskingTest, TheUsesReachEveryGetterThatTheToolkitHasAUseFor) {
     }
     // The toolkit calls it nowhere.
     EXPECT_EQ(Lines(never), "VParentRef::NotInheritedVariableCollection\n");
+}
+
+/// The conformance suite is made of the facts about ODX; what those forget of the contract, it would not ask.
+TEST(AskingTest, TheConformanceSuiteAsksForEverything) {
+    VOperations called;
+    for (auto const& database : SmallDatabases()) {
+        VStrictModel model(VStrictModel::VParentRefs::BehindHas, &called);
+        NConformance::VModel checked{model.Of<NODX201::VOdx>(database->result.database->GetOdx())};
+        for (auto* const flash : database->All<NODX201::VFlash>()) {
+            checked.flashes.push_back(&model.Of(*flash));
+        }
+        for (auto* const job : database->All<NODX201::VMultipleEcuJob>()) {
+            checked.multipleEcuJobs.push_back(&model.Of(*job));
+        }
+        // It asks for absent collections as well, which this model refuses; what counts is what was called.
+        NConformance::CheckModel(checked);
+    }
+    VOperations never = AllGuardedGetters();
+    for (std::string const& getter : called) {
+        never.erase(getter);
+    }
+    EXPECT_EQ(Lines(never), "");
 }
 
 } // namespace
