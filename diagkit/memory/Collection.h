@@ -20,8 +20,8 @@ using NODX201::VCompuScaleCollection;
 template <class Element>
 class VMade {
 public:
-    explicit VMade(Element* element) : m_element(element) {}
-    VMade(VMade&& other) noexcept : m_element(other.Release()) {}
+    explicit VMade(Element* element) : m_element(element) {}      ///< takes it over; null for none
+    VMade(VMade&& other) noexcept : m_element(other.Release()) {} ///< leaves the other one empty
     VMade& operator=(VMade&&) = delete;
     ~VMade() { delete m_element; }
 

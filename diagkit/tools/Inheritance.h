@@ -55,7 +55,7 @@ struct DIAGKIT_EXPORT VLayerOfKind {
 
 /// The layer that an element stands in, however deep; null outside layers. A layer stands in itself.
 DIAGKIT_EXPORT NODX201::VDiagLayer* LayerOf(NODX201::VOdxObject& object);
-DIAGKIT_EXPORT NODX201::VDiagLayer const* LayerOf(NODX201::VOdxObject const& object);
+DIAGKIT_EXPORT NODX201::VDiagLayer const* LayerOf(NODX201::VOdxObject const& object); ///< the same
 
 /// The PARENT-REFS of a layer; null for one that says to have none, unless it is not asked, and for every
 /// ECU-SHARED-DATA.

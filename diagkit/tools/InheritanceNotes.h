@@ -39,7 +39,7 @@ struct VWay {
 template <class Kind>
 class DIAGKIT_EXPORT VInheritanceNotes {
 public:
-    explicit VInheritanceNotes(VInheritance<Kind>& inheritance);
+    explicit VInheritanceNotes(VInheritance<Kind>& inheritance); ///< of its layers, none looked at yet
     ~VInheritanceNotes();
     VInheritanceNotes(VInheritanceNotes const&) = delete;
     VInheritanceNotes& operator=(VInheritanceNotes const&) = delete;

@@ -328,7 +328,7 @@ class Steering(unittest.TestCase):
 
 class OemOfEach(unittest.TestCase):
     def test_a_folder_stands_for_the_odx_files_in_it(self):
-        databases = pathlib.Path(__file__).resolve().parents[1] / "oem" / "databases"
+        databases = pathlib.Path(__file__).resolve().parents[1] / "tools" / "oem" / "databases"
         with tempfile.TemporaryDirectory() as folder:
             for name, content in {
                 "b.odx-d": (databases / "Psa.odx-d").read_bytes(),

@@ -77,7 +77,7 @@ def internals_told(folder):
         return set()
     text = readme.read_text(encoding="utf-8").replace("\n", " ")
     told = [part for part in re.split(r";|\.\s", text) if part.rstrip().endswith("internal")]
-    return {name for part in told for name in re.findall(r"`(\w+\.h)`", part)}
+    return {name for part in told for name in re.findall(r"`(\w+\.(?:h|def))`", part)}
 
 
 def internals(root):
