@@ -11,19 +11,22 @@ VMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text) {
 
 NODX201::ICompuScalesProgCodeChoice& VMemScalesOrProgCode::Get() const {
     if (m_scales.Has()) {
-        return m_scales.Get().MakeCompuScaleCollection();
+        return m_scales.Get().CompuScaleCollection();
     }
     return m_progCode.Get();
 }
 
 VMemCompuScales& VMemScalesOrProgCode::MakeScales(VPlace const& place) {
+    VMemCompuScales& scales = m_scales.Make(place);
+    scales.MakeCompuScaleCollection(); // the contract knows it by its collection, empty as that may be
     m_progCode.Remove();
-    return m_scales.Make(place);
+    return scales;
 }
 
 VMemProgCode& VMemScalesOrProgCode::MakeProgCode(VPlace const& place) {
+    VMemProgCode& progCode = m_progCode.Make(place);
     m_scales.Remove();
-    return m_progCode.Make(place);
+    return progCode;
 }
 
 } // namespace NMemory

@@ -2,6 +2,7 @@
 #include <diagkit/tools/InheritanceNotes.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/ParentRefs.h>
@@ -160,18 +161,18 @@ std::vector<VWay> VInheritanceNotes<Kind>::WaysOf(VLayerOfKind layer, std::wstri
 
 template <class Kind>
 typename VInheritanceNotes<Kind>::VLayerNotes const& VInheritanceNotes<Kind>::NotesOf(VLayerOfKind layer) {
-    auto const [known, isNew] = m_notes.try_emplace(layer.layer);
-    VLayerNotes& notes = known->second;
-    if (isNew) {
-        notes.candidates = m_inheritance.CandidatesOf(layer);
-        for (VCandidate const& candidate : notes.candidates) {
-            notes.byName[candidate.element->GetShortName()].push_back(&candidate);
-            if (candidate.isVisible) {
-                notes.visible.try_emplace(candidate.element, &candidate);
-            }
+    if (auto const known = m_notes.find(layer.layer); known != m_notes.end()) {
+        return known->second;
+    }
+    VLayerNotes notes; // known only when they are whole
+    notes.candidates = m_inheritance.CandidatesOf(layer);
+    for (VCandidate const& candidate : notes.candidates) {
+        notes.byName[candidate.element->GetShortName()].push_back(&candidate);
+        if (candidate.isVisible) {
+            notes.visible.try_emplace(candidate.element, &candidate);
         }
     }
-    return notes;
+    return m_notes.emplace(layer.layer, std::move(notes)).first->second;
 }
 
 #define INSTANTIATE(Kind) template class VInheritanceNotes<Kind>;

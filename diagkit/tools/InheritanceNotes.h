@@ -56,7 +56,8 @@ public:
     /// on which it could come; no way enters a layer twice. First the ways that the passes take, depth first, in the
     /// order in which they look; then those with a PARENT-REF that no pass takes, each layer before its parents, these
     /// as their PARENT-REFs stand. PARENT-REFs without a target, and of no known kind, lead nowhere. An element that a
-    /// layer lists twice counts once; of several own ones of the name the first counts and hides the others.
+    /// layer lists twice counts once; of several own ones of the name the first counts and hides the others. It takes
+    /// as long as there are ways, which in odd data are many more than layers.
     std::vector<VWay> WaysOf(VLayerOfKind layer, std::wstring_view shortName);
 
 private:

@@ -70,6 +70,18 @@ TEST_F(VFlashElementsTest, FlashAndEcuMem) {
     EXPECT_STREQ(At(segments, 1).GetFillbyte(), L"");
 }
 
+TEST_F(VFlashElementsTest, ASecondMemAddsToTheFirst) {
+    auto const memWith = [](std::string const& session) {
+        return "\n<MEM><SESSIONS><SESSION ID=\"" + session + "\"><SHORT-NAME>" + session +
+               "</SHORT-NAME></SESSION></SESSIONS></MEM>";
+    };
+    Read(Document("<FLASH ID=\"F\"><SHORT-NAME>F</SHORT-NAME><ECU-MEMS><ECU-MEM ID=\"E\"><SHORT-NAME>E</SHORT-NAME>" +
+                      memWith("First") + memWith("Second") + "</ECU-MEM></ECU-MEMS></FLASH>",
+                  "2.1.0"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error repeated-child");
+    EXPECT_EQ(Mem().SessionCollection().Count(), 2U);
+}
+
 TEST_F(VFlashElementsTest, Sessions) {
     ReadMem(
         "<SESSIONS><SESSION ID=\"S\"><SHORT-NAME>S</SHORT-NAME><EXPECTED-IDENTS><EXPECTED-IDENT "

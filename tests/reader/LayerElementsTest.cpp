@@ -375,6 +375,17 @@ void ExpectJobParts(Job& job) {
     EXPECT_EQ(TagOf(negative.GetDopBaseRef()), L"DOP-SNREF");
 }
 
+TEST_F(VLayerElementsTest, AttributesOfAServiceAreHeldAgainstTheirKindsInTheOrderOfOdx) {
+    Read(Layer("<DIAG-COMMS><DIAG-SERVICE ID=\"S\" IS-CYCLIC=\"maybe\" IS-FINAL=\"maybe\" IS-EXECUTABLE=\"maybe\" "
+               "IS-MANDATORY=\"maybe\" SECURITY-ACCESS-LEVEL=\"maybe\"><SHORT-NAME>S</SHORT-NAME><AUDIENCE/>"
+               "</DIAG-SERVICE></DIAG-COMMS>"));
+    std::string attributes;
+    for (std::size_t index = 0; index < 5; ++index) {
+        attributes += Message(index).substr(0, Message(index).find(' ')) + " ";
+    }
+    EXPECT_EQ(attributes, "SECURITY-ACCESS-LEVEL IS-MANDATORY IS-EXECUTABLE IS-FINAL IS-CYCLIC ");
+}
+
 TEST_F(VLayerElementsTest, SingleEcuJob) {
     Read(Layer(
         "<DIAG-DATA-DICTIONARY-SPEC><STRUCTURES><STRUCTURE "
