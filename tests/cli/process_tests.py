@@ -405,7 +405,7 @@ class Terminals(unittest.TestCase):
         variants = "".join(
             f'<ECU-VARIANT ID="V{number}"><SHORT-NAME>V{number}</SHORT-NAME><PARENT-REFS>'
             '<PARENT-REF xsi:type="BASE-VARIANT-REF" ID-REF="B"/></PARENT-REFS></ECU-VARIANT>'
-            for number in range(1500)
+            for number in range(6000)
         )
         document = (
             '<ODX MODEL-VERSION="2.2.0" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">'

@@ -78,7 +78,7 @@ TEST_F(VFlashElementsTest, ASecondMemAddsToTheFirst) {
     Read(Document("<FLASH ID=\"F\"><SHORT-NAME>F</SHORT-NAME><ECU-MEMS><ECU-MEM ID=\"E\"><SHORT-NAME>E</SHORT-NAME>" +
                       memWith("First") + memWith("Second") + "</ECU-MEM></ECU-MEMS></FLASH>",
                   "2.1.0"));
-    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error repeated-child");
+    EXPECT_EQ(Diagnostics(), "test.odx:4:1 error repeated-child");
     EXPECT_EQ(Mem().SessionCollection().Count(), 2U);
 }
 
