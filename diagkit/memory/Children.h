@@ -17,19 +17,19 @@ namespace NMemory {
 
 /// Makes an element.
 template <class Element>
-VMade<Element> New(VPlace const& place);
+VMemMade<Element> New(VPlace const& place);
 
 /// The same with a short name.
 template <class Element>
-VMade<Element> NewNamed(VPlace const& place, wchar_t const* shortName);
+VMemMade<Element> NewNamed(VPlace const& place, wchar_t const* shortName);
 
 /// Makes a link.
 template <class Link>
-VMade<Link> New(VPlace const& place, VReference const& reference);
+VMemMade<Link> New(VPlace const& place, VReference const& reference);
 
 /// The same with a text.
 template <class Element>
-VMade<Element> NewWithText(VPlace const& place, wchar_t const* text) {
+VMemMade<Element> NewWithText(VPlace const& place, wchar_t const* text) {
     auto element = New<Element>(place);
     element->SetText(text);
     return element;
@@ -47,7 +47,7 @@ public:
     bool Has() const { return m_child != nullptr; }
     Child& Get() const { return *m_child; } ///< REQUIRES: `Has`
     Child& Make(VPlace const& place);       ///< the child, made when it is absent
-    Child& Take(VMade<Child> child);        ///< in place of the one before
+    Child& Take(VMemMade<Child> child);     ///< in place of the one before
     void Remove();                          ///< destroys it; no effect when there is none
 
 private:
@@ -80,7 +80,7 @@ public:
     Interface& Get() const { return *m_choice; } ///< REQUIRES: `Has`
 
     template <class Alternative>
-    Alternative& Take(VMade<Alternative> made) {
+    Alternative& Take(VMemMade<Alternative> made) {
         Alternative& alternative = *made;
         m_element.reset(made.Release());
         m_choice = &alternative;

@@ -18,12 +18,12 @@ using NODX201::VCompuScaleCollection;
 /// An element that was made and has no place yet. It owns it, as `std::unique_ptr` would, and is as small as can be
 /// because every program that includes the classes has one for each of them.
 template <class Element>
-class VMade {
+class VMemMade {
 public:
-    explicit VMade(Element* element) : m_element(element) {}      ///< takes it over; null for none
-    VMade(VMade&& other) noexcept : m_element(other.Release()) {} ///< leaves the other one empty
-    VMade& operator=(VMade&&) = delete;
-    ~VMade() { delete m_element; }
+    explicit VMemMade(Element* element) : m_element(element) {}         ///< takes it over; null for none
+    VMemMade(VMemMade&& other) noexcept : m_element(other.Release()) {} ///< leaves the other one empty
+    VMemMade& operator=(VMemMade&&) = delete;
+    ~VMemMade() { delete m_element; }
 
     Element& operator*() const { return *m_element; }
     Element* operator->() const { return m_element; }
@@ -60,7 +60,7 @@ public:
 
     /// Takes the element in before the position.
     template <class Element>
-    Element& Insert(typename List::iterator before, VMade<Element> element) {
+    Element& Insert(typename List::iterator before, VMemMade<Element> element) {
         Entry* const entry = &*element;
         SetHome(*element, this->m_elements.insert(before, entry));
         return *element.Release();
@@ -70,12 +70,6 @@ public:
     void TakeIn(Entry* entry, VMemNode& node) { SetHome(node, this->m_elements.insert(this->m_elements.end(), entry)); }
 
     typename List::iterator EndPosition() { return this->m_elements.end(); } ///< where `Insert` adds at the end
-
-    /// Takes the element in at the end.
-    template <class Element>
-    Element& Append(VMade<Element> element) {
-        return Insert(this->m_elements.end(), std::move(element));
-    }
 
     /// Where an element of this collection stands; the end for any other.
     typename List::iterator Position(VMemNode const& element) {
@@ -172,7 +166,7 @@ public:
 
     /// A new element at the end.
     template <class Item>
-    Item& Add(VMade<Item> item) {
+    Item& Add(VMemMade<Item> item) {
         Item& added = *item;
         TakeIn(&added, added);
         item.Release();

@@ -3,7 +3,7 @@
 
 namespace NMemory {
 
-VMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text) {
+VMemMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text) {
     auto limit = NewWithText<VMemLimit>(place, text);
     limit->SetOdxTag(tag);
     return limit;

@@ -13,7 +13,7 @@
 namespace NMemory {
 
 /// A LOWER-LIMIT or UPPER-LIMIT.
-VMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text);
+VMemMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text);
 
 /// COMPU-SCALES, which the contract knows as a collection, or a PROG-CODE.
 class VMemScalesOrProgCode {

@@ -8,20 +8,20 @@
 namespace NMemory {
 
 template <class Element>
-VMade<Element> New(VPlace const& place) {
-    return VMade<Element>(new Element(place));
+VMemMade<Element> New(VPlace const& place) {
+    return VMemMade<Element>(new Element(place));
 }
 
 template <class Element>
-VMade<Element> NewNamed(VPlace const& place, wchar_t const* shortName) {
+VMemMade<Element> NewNamed(VPlace const& place, wchar_t const* shortName) {
     auto element = New<Element>(place);
     element->SetShortName(shortName);
     return element;
 }
 
 template <class Link>
-VMade<Link> New(VPlace const& place, VReference const& reference) {
-    return VMade<Link>(new Link(place, reference));
+VMemMade<Link> New(VPlace const& place, VReference const& reference) {
+    return VMemMade<Link>(new Link(place, reference));
 }
 
 template <class Child>
@@ -35,7 +35,7 @@ Child& VMemChild<Child>::Make(VPlace const& place) {
 }
 
 template <class Child>
-Child& VMemChild<Child>::Take(VMade<Child> child) {
+Child& VMemChild<Child>::Take(VMemMade<Child> child) {
     delete std::exchange(m_child, child.Release());
     return *m_child;
 }

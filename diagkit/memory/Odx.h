@@ -56,11 +56,11 @@ public:
 
 private:
     template <class Category>
-    VMade<Category> MadeHere(std::unique_ptr<Category>& made) const {
+    VMemMade<Category> MadeHere(std::unique_ptr<Category>& made) const {
         if (made == nullptr || made->GetOwner() != this) {
             throw std::invalid_argument("a root adopts category documents that it has made");
         }
-        return VMade<Category>(made.release());
+        return VMemMade<Category>(made.release());
     }
 
     VMemMany<NODX201::VDiagLayerContainerCollection> m_diagLayerContainer;

@@ -11,9 +11,9 @@ namespace NDIAGKIT {
 
 /// Goes all ways up from a layer, and judges each own element of a name that it meets.
 template <class Kind>
-class VInheritanceNotes<Kind>::VWalk {
+class VInheritanceNotes<Kind>::VWayFinder {
 public:
-    VWalk(VInheritanceNotes& notes, VLayerOfKind layer, std::wstring_view shortName)
+    VWayFinder(VInheritanceNotes& notes, VLayerOfKind layer, std::wstring_view shortName)
         : m_notes(notes), m_start(layer), m_shortName(shortName) {}
 
     std::vector<VWay> Walk() {
@@ -156,7 +156,7 @@ std::vector<VParent> VInheritanceNotes<Kind>::PathOf(VCandidate const& candidate
 
 template <class Kind>
 std::vector<VWay> VInheritanceNotes<Kind>::WaysOf(VLayerOfKind layer, std::wstring_view shortName) {
-    return VWalk(*this, layer, shortName).Walk();
+    return VWayFinder(*this, layer, shortName).Walk();
 }
 
 template <class Kind>

@@ -66,7 +66,7 @@ private:
         std::unordered_map<NODX201::VOdxElement const*, VCandidate const*> visible;
         std::unordered_map<std::wstring_view, std::vector<VCandidate const*>> byName;
     };
-    class VWalk;
+    class VWayFinder;
 
     VLayerNotes const& NotesOf(VLayerOfKind layer);
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The memory model has a concrete class for every class of the contract. That the list is complete is checked by
-// checks/check_contract_classes.py.
+// tests/structure/check_contract_classes.py.
 
 #include <type_traits>
 

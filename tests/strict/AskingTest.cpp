@@ -229,6 +229,7 @@ TEST(AskingTest, TheUsesReachEveryGetterThatTheToolkitHasAUseFor) {
 TEST(AskingTest, TheConformanceSuiteAsksForEverything) {
     VOperations called;
     for (auto const& database : SmallDatabases()) {
+        // No DOP of these databases bears one, and what is absent is not asked for.
         database->All<NMemory::VMemDataObjectProp>().front()->SetOid(L"1.2.3");
         VStrictModel model(VStrictModel::VParentRefs::BehindHas, &called);
         NConformance::VModel checked{model.Of<NODX201::VOdx>(database->result.database->GetOdx())};
