@@ -112,12 +112,15 @@ void WalkOtherParts(VWalk& walk, NODX201::VOdxElement& odxElement) {
 void WalkParts(VWalk& walk, NODX201::VOdxElement& odxElement) {
     WalkOtherParts(walk, odxElement);
 
+    // clang-format off
+    // A class may have no parts to walk.
+#define PARTS [&walk]([[maybe_unused]] auto& x) { static_cast<void>(walk);
 #define ODX_CLASS(name, tag, base, names, value, element, type)                                                        \
-    If<NODX201::V##name>(odxElement, [&walk]([[maybe_unused]] auto& x) {                                               \
+    If<NODX201::V##name>(odxElement, PARTS                                                                             \
         TEXT(Oid)                                                                                                      \
         CHILD(LongName)
-#define ODX_LINK_WITH(name, tag, target) If<NODX201::V##name>(odxElement, [&walk]([[maybe_unused]] auto& x) {
-#define ODX_EXTRA(name, contract, names, value, element, type) Never([&walk]([[maybe_unused]] auto& x) {
+#define ODX_LINK_WITH(name, tag, target) If<NODX201::V##name>(odxElement, PARTS
+#define ODX_EXTRA(name, contract, names, value, element, type) Never(PARTS
 #define ODX_END                                                                                                        \
     });
 #define ODX_EXCLUSION(name, reference, link, value, element)                                                           \
@@ -139,6 +142,7 @@ void WalkParts(VWalk& walk, NODX201::VOdxElement& odxElement) {
 #define ODX_BY_HAND(rows) rows
 #define ODX_NOT_READ(rows) rows
 #include <diagkit/model/Facts.def>
+    // clang-format on
 }
 
 } // namespace NConformance
