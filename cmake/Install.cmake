@@ -63,11 +63,13 @@ diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "whether a mod
 install(FILES diagkit/conformance/reference.odx-d diagkit/conformance/reference.txt
         DESTINATION ${CMAKE_INSTALL_DATADIR}/diagkit/conformance COMPONENT Development)
 if(TARGET diagkit_reader)
-    diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check)
+    diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check diagkit_query)
     diagkit_install_pkgconfig(diagkit-reader diagkit_reader "reader of ODX documents and PDX packages"
                               "diagkit-memory = ${PROJECT_VERSION}, expat, libzip")
     diagkit_install_pkgconfig(diagkit-check diagkit_check "what is wrong with an ODX database"
                               "diagkit-reader = ${PROJECT_VERSION}")
+    diagkit_install_pkgconfig(diagkit-query diagkit_query "questions about an ODX database"
+                              "diagkit-check = ${PROJECT_VERSION}")
 endif()
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/diagkitConfig.cmake.in

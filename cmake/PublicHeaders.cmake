@@ -19,6 +19,7 @@ set(public_headers
     diagkit/check/Cycles.h
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
+    diagkit/query/FilePlace.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Limits.h
     diagkit/reader/OdxReader.h
@@ -38,5 +39,5 @@ endforeach()
 list(REMOVE_ITEM public_headers ${internal_headers})
 
 if(NOT TARGET diagkit_reader)
-    list(FILTER public_headers EXCLUDE REGEX "^diagkit/(reader|check)/")
+    list(FILTER public_headers EXCLUDE REGEX "^diagkit/(reader|check|query)/")
 endif()

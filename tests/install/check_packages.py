@@ -64,9 +64,9 @@ def check_debian(made, root):
     lib = f"/usr/lib/{multiarch}"
     shared = [rf"{lib}/libdiagkit\.so\.{re.escape(version())}", rf"{lib}/libdiagkit\.so\.{re.escape(soversion)}"]
     namelink, headers = rf"{lib}/libdiagkit\.so", "/usr/include/.+"
-    development = [f"{lib}/libdiagkit_{name}\\.a" for name in ("memory", "conformance", "reader", "check")]
+    development = [f"{lib}/libdiagkit_{name}\\.a" for name in ("memory", "conformance", "reader", "check", "query")]
     development += ["/usr/include/diagkit/model/Layers.h", f"{lib}/cmake/diagkit/diagkitConfig.cmake", namelink]
-    development += [f"{lib}/pkgconfig/diagkit{name}.pc" for name in ("", "-memory", "-conformance", "-reader", "-check")]
+    development += [f"{lib}/pkgconfig/diagkit{name}.pc" for name in ("", "-memory", "-conformance", "-reader", "-check", "-query")]
     development.append(r"/usr/share/diagkit/conformance/reference\.odx-d")
     program = ["/usr/bin/diagkit", r"/usr/share/man/man1/diagkit\.1\.gz"]
     program += ["/usr/share/zsh/vendor-completions/_diagkit"]

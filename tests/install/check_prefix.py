@@ -18,7 +18,7 @@ from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, run_program, ver
 INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
 
 # In folders that are not listed below all headers are public but those that the README there calls internal.
-FOLDERS = {"", "model", "model/facts", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check"}
+FOLDERS = {"", "model", "model/facts", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check", "query"}
 PUBLIC = {
     "": {"Export.h", "Version.h"},
     "logging": {"SharedLogger.h"},
@@ -27,14 +27,16 @@ PUBLIC = {
     "conformance": {"Conformance.h", "Reference.h"},
     "reader": {"Diagnostic.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
+    "query": {"FilePlace.h"},
 }
 FILES = """
-    LIB/libdiagkit_check.a LIB/libdiagkit_conformance.a LIB/libdiagkit_memory.a LIB/libdiagkit_reader.a
+    LIB/libdiagkit_check.a LIB/libdiagkit_conformance.a LIB/libdiagkit_memory.a LIB/libdiagkit_query.a
+    LIB/libdiagkit_reader.a
     LIB/cmake/diagkit/diagkitConfig.cmake LIB/cmake/diagkit/diagkitConfigVersion.cmake
     LIB/cmake/diagkit/diagkitReaderTargets-release.cmake LIB/cmake/diagkit/diagkitReaderTargets.cmake
     LIB/cmake/diagkit/diagkitTargets-release.cmake LIB/cmake/diagkit/diagkitTargets.cmake
     LIB/pkgconfig/diagkit-check.pc LIB/pkgconfig/diagkit-memory.pc LIB/pkgconfig/diagkit-reader.pc
-    LIB/pkgconfig/diagkit-conformance.pc LIB/pkgconfig/diagkit.pc
+    LIB/pkgconfig/diagkit-conformance.pc LIB/pkgconfig/diagkit-query.pc LIB/pkgconfig/diagkit.pc
     share/diagkit/conformance/reference.odx-d share/diagkit/conformance/reference.txt
     share/bash-completion/completions/diagkit share/fish/vendor_completions.d/diagkit.fish
     share/man/man1/diagkit.1 share/zsh/site-functions/_diagkit

@@ -23,9 +23,14 @@ ROOMS = {
     "diagkit/memory": (["diagkit/model"], []),
     "diagkit/reader": (["diagkit/memory", "diagkit/tools", "diagkit/model"], [r"expat\.h", r"zip\.h"]),
     "diagkit/check": (["diagkit/reader", "diagkit/memory", "diagkit/tools", "diagkit/model"], []),
+    "diagkit/query": (
+        ["diagkit/check", "diagkit/reader", "diagkit/memory", "diagkit/tools", "diagkit/model"],
+        [],
+    ),
     "diagkit/conformance": (["diagkit/tools", "diagkit/model"], []),
     "cli": (
         [
+            "diagkit/query",
             "diagkit/check",
             "diagkit/reader",
             "diagkit/memory",
@@ -39,6 +44,7 @@ ROOMS = {
     ),
     "fuzz": (
         [
+            "diagkit/query",
             "diagkit/check",
             "diagkit/reader",
             "diagkit/memory",
