@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <diagkit/memory/Layers.h>
 #include <diagkit/memory/VehicleInfo.h>
 
 #include "reader/ReaderTest.h"
@@ -9,10 +10,17 @@ namespace NTest {
 namespace {
 
 using namespace NMemory;
+using NODX201::VOdxTagEnum;
 
 std::string VehicleInfo(std::string const& content) {
     return Document("<VEHICLE-INFO-SPEC ID=\"V\" OID=\"o\"><SHORT-NAME>Van</SHORT-NAME>" + content +
                     "</VEHICLE-INFO-SPEC>");
+}
+
+std::string InfoComponent(std::string const& id, std::string const& type, std::string const& content = "") {
+    std::string const attribute = type.empty() ? "" : " xsi:type=\"" + type + "\"";
+    return "<INFO-COMPONENT ID=\"" + id + "\"" + attribute + "><SHORT-NAME>" + id + "</SHORT-NAME>" + content +
+           "</INFO-COMPONENT>";
 }
 
 class VVehicleInfoElementsTest : public VReaderTest {
@@ -42,13 +50,12 @@ TEST_F(VVehicleInfoElementsTest, TheSpecIsADocumentOfItsOwn) {
 }
 
 TEST_F(VVehicleInfoElementsTest, TwoSpecsOfOneNameAreReported) {
-    Read({VehicleInfo("<ADMIN-DATA/>"), "<ODX MODEL-VERSION=\"2.0.1\">\n<VEHICLE-INFO-SPEC "
-                                        "ID=\"W\"><SHORT-NAME>Van</SHORT-NAME></VEHICLE-INFO-SPEC></ODX>"});
+    Read({VehicleInfo(""), VehicleInfo("")});
     EXPECT_EQ(Database().VehicleInfoSpecCollection().Count(), 2U);
     EXPECT_EQ(Diagnostics(), "2.odx:2:1 warning repeated-document");
 }
 
-TEST_F(VVehicleInfoElementsTest, AReferenceFindsWhatStandsInTheSpecThatItNames) {
+TEST_F(VVehicleInfoElementsTest, AReferenceFindsWhatStandsInItsOwnSpec) {
     std::string const company = "<COMPANY-DATAS><COMPANY-DATA ID=\"CD\"><SHORT-NAME>";
     std::string const end = "</SHORT-NAME></COMPANY-DATA></COMPANY-DATAS>";
     Read({Container(company + "InContainer" + end),
@@ -58,6 +65,26 @@ TEST_F(VVehicleInfoElementsTest, AReferenceFindsWhatStandsInTheSpecThatItNames) 
     auto& reference = At(Spec().GetAdminData().CompanyDocInfoCollection(), 0).GetCompanyDataRef();
     ASSERT_TRUE(reference.HasCompanyData());
     EXPECT_STREQ(reference.GetCompanyData().GetShortName(), L"InSpec");
+}
+
+// INFO-COMPONENTS
+
+TEST_F(VVehicleInfoElementsTest, AnInfoComponentHasTheTagOfItsType) {
+    ReadSpec("<INFO-COMPONENTS>" + InfoComponent("E", "ECU-PROXY") + InfoComponent("Y", "MODEL-YEAR") +
+             InfoComponent("O", "OEM") + InfoComponent("M", "VEHICLE-MODEL") + InfoComponent("T", "VEHICLE-TYPE") +
+             InfoComponent("N", "") + "</INFO-COMPONENTS>");
+    std::wstring types;
+    for (VMemInfoComponent& component : Spec().InfoComponentCollection()) {
+        types += std::wstring(component.GetShortName()) + L"=" + NODX201::OdxTypeText(component.GetOdxTag()) + L" ";
+    }
+    EXPECT_EQ(types, L"E=ECU-PROXY Y=MODEL-YEAR O=OEM M=VEHICLE-MODEL T=VEHICLE-TYPE N= ");
+    EXPECT_EQ(Count(L"INFO-COMPONENT"), 6U);
+}
+
+TEST_F(VVehicleInfoElementsTest, AnInfoComponentOfAnUnknownTypeIsReadAsOneWithout) {
+    Read(VehicleInfo("<INFO-COMPONENTS>\n" + InfoComponent("X", "VEHICLE-COLOUR") + "</INFO-COMPONENTS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error unknown-type");
+    EXPECT_EQ(Get<VMemInfoComponent>(L"X").GetOdxTag(), VOdxTagEnum::InfoComponent);
 }
 
 } // namespace
