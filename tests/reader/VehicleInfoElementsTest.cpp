@@ -87,5 +87,32 @@ TEST_F(VVehicleInfoElementsTest, AnInfoComponentOfAnUnknownTypeIsReadAsOneWithou
     EXPECT_EQ(Get<VMemInfoComponent>(L"X").GetOdxTag(), VOdxTagEnum::InfoComponent);
 }
 
+TEST_F(VVehicleInfoElementsTest, MatchingComponents) {
+    std::string const matching =
+        "<MATCHING-COMPONENTS><MATCHING-COMPONENT><EXPECTED-VALUE>3</EXPECTED-VALUE><OUT-PARAM-IF-SNREF "
+        "SHORT-NAME=\"Out\"/><MULTIPLE-ECU-JOB-REF ID-REF=\"J\"/></MATCHING-COMPONENT><MATCHING-COMPONENT>"
+        "<EXPECTED-VALUE>4</EXPECTED-VALUE><OUT-PARAM-IF-SNREF SHORT-NAME=\"Out\"/><DIAG-COMM-REF ID-REF=\"S\"/>"
+        "</MATCHING-COMPONENT></MATCHING-COMPONENTS>";
+    std::string const job = "<MULTIPLE-ECU-JOB-SPEC ID=\"JS\"><SHORT-NAME>JS</SHORT-NAME><MULTIPLE-ECU-JOBS>"
+                            "<MULTIPLE-ECU-JOB ID=\"J\"><SHORT-NAME>J</SHORT-NAME></MULTIPLE-ECU-JOB>"
+                            "</MULTIPLE-ECU-JOBS></MULTIPLE-ECU-JOB-SPEC>";
+    std::string const service = "<DIAG-COMMS><DIAG-SERVICE ID=\"S\"><SHORT-NAME>S</SHORT-NAME></DIAG-SERVICE>"
+                                "</DIAG-COMMS>";
+    Read({Document(job, "2.2.0"), Layer(service, "2.2.0"),
+          VehicleInfo("<INFO-COMPONENTS>" + InfoComponent("E", "ECU-PROXY", matching) + "</INFO-COMPONENTS>")});
+    EXPECT_EQ(Diagnostics(), "");
+    auto& components = Get<VMemInfoComponent>(L"E").MatchingComponentCollection();
+    ASSERT_EQ(components.Count(), 2U);
+    VMemMatchingComponent& byJob = At(components, 0);
+    EXPECT_STREQ(byJob.GetExpectedValue(), L"3");
+    EXPECT_STREQ(As<NODX201::VSnref>(byJob.GetOutParamIfSnref().GetLink()).GetShortName(), L"Out");
+    ASSERT_TRUE(byJob.GetMultipleEcuJobRef().HasMultipleEcuJob());
+    EXPECT_STREQ(byJob.GetMultipleEcuJobRef().GetMultipleEcuJob().GetShortName(), L"J");
+    EXPECT_FALSE(byJob.HasDiagCommRef());
+    VMemMatchingComponent& byService = At(components, 1);
+    EXPECT_FALSE(byService.HasMultipleEcuJobRef());
+    EXPECT_TRUE(byService.GetDiagCommRef().HasDiagComm(Get<NODX201::VDiagLayer>(L"L")));
+}
+
 } // namespace
 } // namespace NTest
