@@ -349,8 +349,8 @@ std::set<std::string> const kNeverCounted = {
     "DiagCodedType", "Param", "ParentRef",
     // The form by short name, which only later versions or odd data have.
     "DopBaseSnref",
-    // Parts of VEHICLE-INFO-SPEC.
-    "PhysicalVehicleLink", "VehicleConnectorPin"};
+    // A part of VEHICLE-INFO-SPEC.
+    "PhysicalVehicleLink"};
 
 /// The samples hold no VEHICLE-INFO-SPEC.
 std::set<std::string> const kOfVehicleInfo = {

@@ -12,9 +12,16 @@ namespace {
 using namespace NMemory;
 using NODX201::VOdxTagEnum;
 
-std::string VehicleInfo(std::string const& content) {
+/// A document of such a category, with VEHICLE-INFORMATIONS, which it must have.
+std::string VehicleInfo(std::string const& content, std::string const& informations = "") {
     return Document("<VEHICLE-INFO-SPEC ID=\"V\" OID=\"o\"><SHORT-NAME>Van</SHORT-NAME>" + content +
-                    "</VEHICLE-INFO-SPEC>");
+                    "<VEHICLE-INFORMATIONS>" + informations + "</VEHICLE-INFORMATIONS></VEHICLE-INFO-SPEC>");
+}
+
+/// A VEHICLE-INFORMATION with these lists.
+std::string VehicleInformation(std::string const& lists) {
+    return "<VEHICLE-INFORMATION OID=\"i\"><SHORT-NAME>Saloon</SHORT-NAME><INFO-COMPONENT-REFS/>" + lists +
+           "</VEHICLE-INFORMATION>";
 }
 
 std::string InfoComponent(std::string const& id, std::string const& type, std::string const& content = "") {
@@ -25,13 +32,14 @@ std::string InfoComponent(std::string const& id, std::string const& type, std::s
 
 class VVehicleInfoElementsTest : public VReaderTest {
 protected:
-    void ReadSpec(std::string const& content) {
-        Read(VehicleInfo(content));
+    void ReadSpec(std::string const& content, std::string const& informations = "") {
+        Read(VehicleInfo(content, informations));
         EXPECT_EQ(Diagnostics(), "");
         EXPECT_TRUE(m_result.unknownElements.empty());
     }
 
     VMemVehicleInfoSpec& Spec() { return Get<VMemVehicleInfoSpec>(L"V"); }
+    VMemVehicleInformation& Information() { return At(Spec().VehicleInformationCollection(), 0); }
 };
 
 TEST_F(VVehicleInfoElementsTest, TheSpecIsADocumentOfItsOwn) {
@@ -112,6 +120,44 @@ TEST_F(VVehicleInfoElementsTest, MatchingComponents) {
     VMemMatchingComponent& byService = At(components, 1);
     EXPECT_FALSE(byService.HasMultipleEcuJobRef());
     EXPECT_TRUE(byService.GetDiagCommRef().HasDiagComm(Get<NODX201::VDiagLayer>(L"L")));
+}
+
+// VEHICLE-INFORMATIONS
+
+TEST_F(VVehicleInfoElementsTest, VehicleInformationsAreRequired) {
+    Read(Document("<VEHICLE-INFO-SPEC ID=\"V\"><SHORT-NAME>Van</SHORT-NAME></VEHICLE-INFO-SPEC>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 error missing-child");
+    Read(Document("<VEHICLE-INFO-SPEC ID=\"V\"><SHORT-NAME>Van</SHORT-NAME></VEHICLE-INFO-SPEC>", "2.2.0"));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VVehicleInfoElementsTest, VehicleInformationNamesItsComponents) {
+    ReadSpec("<INFO-COMPONENTS>" + InfoComponent("M", "VEHICLE-MODEL") + "</INFO-COMPONENTS>",
+             "<VEHICLE-INFORMATION OID=\"i\"><SHORT-NAME>Saloon</SHORT-NAME><INFO-COMPONENT-REFS>"
+             "<INFO-COMPONENT-REF ID-REF=\"M\"/></INFO-COMPONENT-REFS></VEHICLE-INFORMATION>");
+    EXPECT_STREQ(Information().GetShortName(), L"Saloon");
+    EXPECT_STREQ(Information().GetOid(), L"i");
+    VMemInfoComponentLink& reference = At(Information().InfoComponentLinkCollection(), 0);
+    ASSERT_TRUE(reference.HasInfoComponent());
+    EXPECT_EQ(&reference.GetInfoComponent(), &Get<VMemInfoComponent>(L"M"));
+}
+
+TEST_F(VVehicleInfoElementsTest, ConnectorsAndTheirPins) {
+    ReadSpec("", VehicleInformation("<VEHICLE-CONNECTORS><VEHICLE-CONNECTOR OID=\"c\"><SHORT-NAME>Socket</SHORT-NAME>"
+                                    "<VEHICLE-CONNECTOR-PINS><VEHICLE-CONNECTOR-PIN ID=\"P\" OID=\"p\" TYPE=\"HI\">"
+                                    "<SHORT-NAME>High</SHORT-NAME><PIN_NUMBER>6</PIN_NUMBER></VEHICLE-CONNECTOR-PIN>"
+                                    "<VEHICLE-CONNECTOR-PIN ID=\"Q\" TYPE=\"LOW\"><SHORT-NAME>Low</SHORT-NAME>"
+                                    "<PIN-NUMBER>14</PIN-NUMBER></VEHICLE-CONNECTOR-PIN></VEHICLE-CONNECTOR-PINS>"
+                                    "</VEHICLE-CONNECTOR></VEHICLE-CONNECTORS>"));
+    VMemVehicleConnector& connector = At(Information().VehicleConnectorCollection(), 0);
+    EXPECT_STREQ(connector.GetShortName(), L"Socket");
+    EXPECT_STREQ(connector.GetOid(), L"c");
+    ASSERT_EQ(connector.VehicleConnectorPinCollection().Count(), 2U);
+    VMemVehicleConnectorPin& high = At(connector.VehicleConnectorPinCollection(), 0);
+    EXPECT_STREQ(high.GetType(), L"HI");
+    EXPECT_STREQ(high.GetPinNumber(), L"6");
+    EXPECT_STREQ(high.GetOid(), L"p");
+    EXPECT_STREQ(Get<VMemVehicleConnectorPin>(L"Q").GetPinNumber(), L"14");
 }
 
 } // namespace
