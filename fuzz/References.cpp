@@ -108,6 +108,8 @@ constexpr VKind kKinds[] = {
     {&Is<VMemFlashdataLink>, &ResolveAnywhere<VMemFlashdataLink, &VMemFlashdataLink::HasFlashdata, &VMemFlashdataLink::GetFlashdata>, true},
     {&Is<VMemFlashClassLink>, &ResolveAnywhere<VMemFlashClassLink, &VMemFlashClassLink::HasFlashClass, &VMemFlashClassLink::GetFlashClass>, true},
     {&Is<VMemEcuMemLink>, &ResolveAnywhere<VMemEcuMemLink, &VMemEcuMemLink::HasEcuMem, &VMemEcuMemLink::GetEcuMem>, true},
+    {&Is<VMemInfoComponentLink>, &ResolveAnywhere<VMemInfoComponentLink, &VMemInfoComponentLink::HasInfoComponent, &VMemInfoComponentLink::GetInfoComponent>, true},
+    {&Is<VMemMultipleEcuJobLink>, &ResolveAnywhere<VMemMultipleEcuJobLink, &VMemMultipleEcuJobLink::HasMultipleEcuJob, &VMemMultipleEcuJobLink::GetMultipleEcuJob>, true},
     {&Is<VDiagCommLink>, &ResolveInLayer<VDiagCommLink, &VDiagCommLink::HasDiagComm, &VDiagCommLink::GetDiagComm>},
     {&Is<VDiagVariableLink>, &ResolveInLayer<VDiagVariableLink, &VDiagVariableLink::HasDiagVariable, &VDiagVariableLink::GetDiagVariable>},
     {&Is<VDopBaseLink>, &ResolveInLayer<VDopBaseLink, &VDopBaseLink::HasDopBase, &VDopBaseLink::GetDopBase>},

@@ -37,6 +37,10 @@ VMemMultipleEcuJobSpec& VDatabase::AddMultipleEcuJobSpec(wchar_t const* shortNam
     return m_odx->AddMultipleEcuJobSpec(shortName);
 }
 
+VMemVehicleInfoSpec& VDatabase::AddVehicleInfoSpec(wchar_t const* shortName) {
+    return m_odx->AddVehicleInfoSpec(shortName);
+}
+
 void VDatabase::AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
     m_odx->AddProcessingInstruction(name, content);
 }
@@ -46,6 +50,8 @@ VFlashCollection& VDatabase::FlashCollection() { return m_odx->FlashCollection()
 VMultipleEcuJobSpecCollection& VDatabase::MultipleEcuJobSpecCollection() {
     return m_odx->MultipleEcuJobSpecCollection();
 }
+
+VVehicleInfoSpecCollection& VDatabase::VehicleInfoSpecCollection() { return m_odx->VehicleInfoSpecCollection(); }
 
 void VDatabase::SetResolverFactory(VResolverFactory factory) {
     m_resolverFactory = std::move(factory);

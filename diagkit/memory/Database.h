@@ -57,10 +57,12 @@ public:
     VMemComparamSpec& AddComparamSpec(wchar_t const* shortName);                ///< COMPARAM-SPEC
     VMemFlash& AddFlash(wchar_t const* shortName);                              ///< FLASH
     VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName);    ///< MULTIPLE-ECU-JOB-SPEC
+    VMemVehicleInfoSpec& AddVehicleInfoSpec(wchar_t const* shortName);          ///< VEHICLE-INFO-SPEC
     void AddProcessingInstruction(wchar_t const* name, wchar_t const* content); ///< of the root, at the end
 
     VFlashCollection& FlashCollection();                           ///< in load order
     VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection(); ///< in load order
+    VVehicleInfoSpecCollection& VehicleInfoSpecCollection();       ///< in load order
 
     /// Says how to make the resolver that answers short-name links. Without one they do not resolve.
     void SetResolverFactory(VResolverFactory factory);

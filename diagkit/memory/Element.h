@@ -129,6 +129,19 @@ private:
     wchar_t const* m_oid = L"";
 };
 
+/// The same, with a tag that says which xsi:type it has. It counts as one of `Tag`.
+template <class Contract, NODX201::VOdxTagEnum Tag>
+class VMemTypedIdent : public VMemIdent<Contract, Tag> {
+public:
+    using VMemIdent<Contract, Tag>::VMemIdent;
+
+    NODX201::VOdxTagEnum GetOdxTag() const override { return m_kind; } ///< `Tag` where no type was said
+    void SetKind(NODX201::VOdxTagEnum kind) { m_kind = kind; }
+
+private:
+    NODX201::VOdxTagEnum m_kind = Tag;
+};
+
 #ifdef __clang__
 #pragma clang diagnostic pop
 #endif

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The code of flash data and of all references, compiled here alone.
+// The code of flash data, of vehicle information and of all references, compiled here alone.
 
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/NewImpl.h>
+#include <diagkit/memory/VehicleInfo.h>
 
 namespace NMemory {
 
@@ -13,6 +14,7 @@ namespace NMemory {
 #include <diagkit/model/facts/Flash.def>
 #include <diagkit/model/facts/ParentRefs.def>
 #include <diagkit/model/facts/References.def>
+#include <diagkit/model/facts/VehicleInfo.def>
 
 #include <diagkit/memory/InstancesEnd.def>
 

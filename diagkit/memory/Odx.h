@@ -7,11 +7,13 @@
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/ProcessingInstructions.h>
+#include <diagkit/memory/VehicleInfo.h>
 #include <diagkit/model/Odx.h>
 
 namespace NMemory {
 
-/// The root. Besides what the contract asks for it holds the FLASH and MULTIPLE-ECU-JOB-SPEC documents.
+/// The root. Besides what the contract asks for it holds the FLASH, MULTIPLE-ECU-JOB-SPEC and
+/// VEHICLE-INFO-SPEC documents.
 class VMemOdx final : public VMemElement<NODX201::VOdx, Tag::Odx> {
 public:
     using VMemElement::VMemElement;
@@ -25,6 +27,7 @@ public:
     }
     VFlashCollection& FlashCollection() { return m_flash.Get(); }
     VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection() { return m_multipleEcuJobSpec.Get(); }
+    VVehicleInfoSpecCollection& VehicleInfoSpecCollection() { return m_vehicleInfoSpec.Get(); }
 
     VMemDiagLayerContainer& AddDiagLayerContainer(wchar_t const* shortName) {
         return m_diagLayerContainer.Add(NewNamed<VMemDiagLayerContainer>(Inside(), shortName));
@@ -35,6 +38,9 @@ public:
     VMemFlash& AddFlash(wchar_t const* shortName) { return m_flash.Add(NewNamed<VMemFlash>(Inside(), shortName)); }
     VMemMultipleEcuJobSpec& AddMultipleEcuJobSpec(wchar_t const* shortName) {
         return m_multipleEcuJobSpec.Add(NewNamed<VMemMultipleEcuJobSpec>(Inside(), shortName));
+    }
+    VMemVehicleInfoSpec& AddVehicleInfoSpec(wchar_t const* shortName) {
+        return m_vehicleInfoSpec.Add(NewNamed<VMemVehicleInfoSpec>(Inside(), shortName));
     }
     /// A category document, made in a part that is detached, joins the others of its kind as the last.
     template <class Category>
@@ -47,6 +53,7 @@ public:
     void Adopt(std::unique_ptr<VMemComparamSpec> made)       { m_comparamSpec.Add(MadeHere(made)); }
     void Adopt(std::unique_ptr<VMemFlash> made)              { m_flash.Add(MadeHere(made)); }
     void Adopt(std::unique_ptr<VMemMultipleEcuJobSpec> made) { m_multipleEcuJobSpec.Add(MadeHere(made)); }
+    void Adopt(std::unique_ptr<VMemVehicleInfoSpec> made)    { m_vehicleInfoSpec.Add(MadeHere(made)); }
     // clang-format on
 
     /// At the end of those of the root.
@@ -67,6 +74,7 @@ private:
     VMemMany<NODX201::VComparamSpecCollection> m_comparamSpec;
     VMemMany<VFlashCollection> m_flash;
     VMemMany<VMultipleEcuJobSpecCollection> m_multipleEcuJobSpec;
+    VMemMany<VVehicleInfoSpecCollection> m_vehicleInfoSpec;
     VMemProcessingInstructions m_instructions;
 };
 

@@ -17,7 +17,7 @@ bool IsLayer(Tag tag) {
 
 bool IsDocument(Tag tag) {
     return tag == Tag::DiagLayerContainer || tag == Tag::ComparamSpec || tag == Tag::Flash ||
-           tag == Tag::MultipleEcuJobSpec;
+           tag == Tag::MultipleEcuJobSpec || tag == Tag::VehicleInfoSpec;
 }
 
 /// Calls `take` with every place that an element stands in.

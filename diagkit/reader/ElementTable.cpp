@@ -95,7 +95,7 @@ VFact const* Add(VElementType& type, VFact const* fact, VFact const* end) {
             type.isWrapper = true;
             break;
         case VFact::VWhat::Kind:
-            type.kinds.push_back({fact->name, fact->child});
+            type.kinds.push_back({fact->name, fact->child, fact->choose});
             break;
         case VFact::VWhat::Instructions:
             type.addInstruction = fact->addInstruction;

@@ -66,10 +66,11 @@ struct VRow {
     VElementType const& Type() const { return ownType != nullptr ? *ownType : type(); }
 };
 
-/// An xsi:type of an element that has one class for all of them, and the child that it alone has.
+/// An xsi:type of an element that has one class for all of them, and the child that may stand in it alone.
 struct VKind {
     std::string xsiType;
-    std::string child;
+    std::string child;                      ///< "" for none
+    void (*choose)(void* object) = nullptr; ///< makes the element one of this kind; null where the child says as much
 };
 
 struct VElementType {
@@ -79,7 +80,7 @@ struct VElementType {
     VContent content = VContent::Text;
     VSetText setContent = nullptr; ///< takes the element's own text; null where it has elements only
     wchar_t const* const* literals = nullptr;
-    std::vector<VKind> kinds; ///< where the xsi:type says no more than what is inside
+    std::vector<VKind> kinds; ///< that the xsi:type says
     bool isMarkup = false;    ///< the text is all inside, tags included
     bool isWrapper = false;   ///< its items may also stand beside it
     void (*addInstruction)(void* object, std::wstring const& name, std::wstring const& content) = nullptr;
@@ -130,6 +131,7 @@ struct VFact {
     bool isMarkup = false;
     char const* child = nullptr; ///< of a kind
     void (*addInstruction)(void* object, std::wstring const& name, std::wstring const& content) = nullptr;
+    void (*choose)(void* object) = nullptr; ///< of a kind
 };
 
 /// The table that the facts say. Throws std::length_error for one with more rows, or with choices of higher numbers,

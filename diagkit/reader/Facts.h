@@ -95,9 +95,17 @@ struct VFactsOf {
     }
 
     static constexpr VFact List() { return {VWhat::List, ""}; }
+    /// An xsi:type that its child shows as well.
     static constexpr VFact Kind(char const* xsiType, char const* child) {
         return {VWhat::Kind, xsiType, Optional, VContent::Text, nullptr, nullptr,
                 nullptr,     nullptr, false,    false,          child};
+    }
+    /// An xsi:type that nothing else shows.
+    template <NMemory::Tag tag>
+    static constexpr VFact TaggedKind(char const* xsiType, char const* child) {
+        VFact fact = Kind(xsiType, child);
+        fact.choose = [](void* object) { Owner(object).SetKind(tag); };
+        return fact;
     }
     static constexpr VFact Instructions() {
         return {VWhat::Instructions,

@@ -136,6 +136,7 @@ void ReportRepeatedDocuments(VReading& reading) {
     see(odx.ComparamSpecCollection());
     see(odx.FlashCollection());
     see(odx.MultipleEcuJobSpecCollection());
+    see(odx.VehicleInfoSpecCollection());
 }
 
 void ReportRepeatedIds(VReading& reading) {

@@ -212,7 +212,11 @@ void VLoader::Open(VAttributes const& attributes, VRow const& row, void* owner) 
     if (opened.type->isMarkup) {
         m_markupDepth = 1;
     }
-    m_frames.back().kind = ReadKind(*opened.type, attributes);
+    VKind const* const kind = ReadKind(*opened.type, attributes);
+    if (kind != nullptr && kind->choose != nullptr) {
+        kind->choose(opened.object);
+    }
+    m_frames.back().kind = kind;
     ReadAttributes(m_frames.back(), attributes);
 }
 

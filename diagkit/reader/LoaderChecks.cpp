@@ -80,8 +80,9 @@ void VLoader::CheckKind(VFrame const& frame) {
     std::string const& xsiType = frame.kind->xsiType;
     for (VKind const& kind : frame.type->kinds) {
         int const index = frame.type->FindRow(kind.child);
-        bool const isSeen = (frame.seen & (std::uint64_t{1} << index)) != 0;
-        if (kind.xsiType == xsiType && !isSeen) {
+        bool const isSeen = index >= 0 && (frame.seen & (std::uint64_t{1} << index)) != 0;
+        bool const isShownByChild = kind.choose == nullptr;
+        if (kind.xsiType == xsiType && isShownByChild && !isSeen) {
             m_reading.findings.Add(frame.position, NCode::MissingChild,
                                    Quoted(frame.name) + " of the type " + xsiType + " has no " + Quoted(kind.child));
         } else if (kind.xsiType != xsiType && isSeen) {

@@ -56,6 +56,7 @@ VElementType const& RootType() {
         F::Special("COMPARAM-SPEC", Many, &OpenCategory<VMemComparamSpec>),
         F::Special("FLASH", Many, &OpenCategory<VMemFlash>),
         F::Special("MULTIPLE-ECU-JOB-SPEC", Many, &OpenCategory<VMemMultipleEcuJobSpec>),
+        F::Special("VEHICLE-INFO-SPEC", Many, &OpenCategory<VMemVehicleInfoSpec>),
         // A category of later versions, which holds what a COMPARAM-SPEC held before.
         F::Special("COMPARAM-SUBSET", Many, &OpenCategory<VMemComparamSpec>),
     };

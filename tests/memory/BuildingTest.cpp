@@ -50,10 +50,13 @@ TEST_F(BuildingTest, DocumentsStandInTheOrderInWhichTheyWereAdded) {
     m_database.AddFlash(L"One");
     m_database.AddFlash(L"Two");
     m_database.AddMultipleEcuJobSpec(L"Jobs");
+    m_database.AddVehicleInfoSpec(L"Van");
+    m_database.AddVehicleInfoSpec(L"Bus");
     EXPECT_EQ(Names(m_database.GetOdx().DiagLayerContainerCollection()), L"Doors Windows");
     EXPECT_EQ(Names(m_database.GetOdx().ComparamSpecCollection()), L"Can Kline");
     EXPECT_EQ(Names(m_database.FlashCollection()), L"One Two");
     EXPECT_EQ(Names(m_database.MultipleEcuJobSpecCollection()), L"Jobs");
+    EXPECT_EQ(Names(m_database.VehicleInfoSpecCollection()), L"Van Bus");
 }
 
 TEST_F(BuildingTest, LayersOfAllKindsStandInTheOrderInWhichTheyWereAdded) {

@@ -7,6 +7,7 @@
 
 #include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Flash.h>
+#include <diagkit/memory/VehicleInfo.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
 
 #include "support/FakeResolver.h"
@@ -247,6 +248,8 @@ TEST_F(RemovalTest, DocumentsOfTheOtherCategoriesAreDestroyed) {
     flash.AddEcuMem(L"Memory").GetMem().AddSession(L"Session").AddExpectedIdent(L"Ident").SetId(L"Ident");
     auto& jobs = database.AddMultipleEcuJobSpec(L"Jobs");
     jobs.AddMultipleEcuJob(L"Job");
+    auto& vehicle = database.AddVehicleInfoSpec(L"Vehicle");
+    vehicle.AddCompanyData(L"Maker").SetId(L"Maker");
     auto& comparams = database.AddComparamSpec(L"Comparams");
     auto& protocol = LayerAs<NMemory::VMemProtocol>(L"Uds");
     auto& link = protocol.SetComparamSpecRef(comparams);
@@ -257,6 +260,9 @@ TEST_F(RemovalTest, DocumentsOfTheOtherCategoriesAreDestroyed) {
     delete &jobs;
     EXPECT_EQ(database.MultipleEcuJobSpecCollection().Count(), 0u);
     EXPECT_EQ(Count(VOdxTagEnum::MultipleEcuJob), 0u);
+    delete &vehicle;
+    EXPECT_EQ(database.VehicleInfoSpecCollection().Count(), 0u);
+    EXPECT_FALSE(IsIndexed(L"Maker"));
     delete &flash;
     EXPECT_EQ(database.FlashCollection().Count(), 0u);
     EXPECT_FALSE(IsIndexed(L"Ident"));

@@ -37,9 +37,9 @@ TEST_F(VVersionsTest, DocumentWithoutKnownCategoryIsSkippedWithANote) {
     Read("\n <ODX MODEL-VERSION=\"2.0.1\"/>");
     EXPECT_EQ(Diagnostics(), "test.odx:2:2 warning no-category");
     EXPECT_TRUE(m_result.documents.empty());
-    Read(Document("<VEHICLE-INFO-SPEC ID=\"V\"><SHORT-NAME>V</SHORT-NAME></VEHICLE-INFO-SPEC>"));
+    Read(Document("<ECU-CONFIG ID=\"E\"><SHORT-NAME>E</SHORT-NAME></ECU-CONFIG>"));
     EXPECT_EQ(Diagnostics(), "test.odx:1:1 warning no-category");
-    EXPECT_EQ(m_result.unknownElements, (std::map<std::string, std::size_t>{{"VEHICLE-INFO-SPEC", 1}}));
+    EXPECT_EQ(m_result.unknownElements, (std::map<std::string, std::size_t>{{"ECU-CONFIG", 1}}));
 }
 
 TEST_F(VVersionsTest, UnknownCategoryBesideAKnownOneIsLeftOut) {

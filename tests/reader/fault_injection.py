@@ -31,7 +31,7 @@ GRAMMAR = pathlib.Path(__file__).resolve().parent.parent / "samples" / "grammar.
 FREE_TYPES = ("text", "reference", "id", "day", None)  # of these, every text is a value
 # The second of these adds to the first; of everything else but wrappers it is left out.
 ADDING = ("DIAG-DATA-DICTIONARY-SPEC", "DIAG-COMM-SNREF", "DIAG-VARIABLE-SNREF", "MEM")
-NOT_IN_THE_MODEL = {"CATALOG", "VEHICLE-INFO-SPEC"}
+NOT_IN_THE_MODEL = {"CATALOG"}
 
 
 class Element:
