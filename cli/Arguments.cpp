@@ -69,7 +69,7 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments) {
     command.add_flag("--json", arguments.isJson, "Answer as JSON on standard output");
     command.add_flag("--strict", arguments.isStrict, "End with status 3 when the files have errors");
     command.add_flag("--quiet", arguments.isQuiet, "No diagnostics and no progress on standard error");
-    command.set_version_flag("--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
+    command.set_version_flag("-V,--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
 }
 
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments) {

@@ -33,6 +33,10 @@ struct VArguments {
     std::string diagComm;               ///< --diag-comm
     std::string job;                    ///< --job, a MULTIPLE-ECU-JOB
     std::string flash;                  ///< --flash
+    std::string failOn = "error";       ///< --fail-on of `check`
+    std::vector<std::string> ignored;   ///< --ignore of `check`: codes
+    std::vector<std::string> only;      ///< --only of `check`: codes; all without one
+    std::string baseline;               ///< --baseline of `check`: an earlier answer
     std::string format;                 ///< --format of `check`; "" for text, or JSON with --json
     std::optional<int> range;           ///< --range, a search range of output parameters
 

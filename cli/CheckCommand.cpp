@@ -1,19 +1,48 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <cli/Baseline.h>
 #include <cli/Commands.h>
 #include <cli/JsonWriter.h>
 #include <cli/Load.h>
+#include <cli/NearNames.h>
 #include <cli/ProgressBar.h>
 #include <cli/Sarif.h>
 #include <cli/Text.h>
 #include <diagkit/check/Check.h>
+#include <diagkit/check/Codes.h>
 
 namespace NCli {
 namespace {
 
 using VDiagnostics = std::vector<NReader::VDiagnostic>;
+
+bool IsJson(VArguments const& arguments) { return arguments.isJson || arguments.format == "json"; }
+
+std::vector<std::string> AllCodes() {
+    std::vector<std::string> codes;
+    for (NCheck::VCode const& code : NCheck::Codes()) {
+        codes.emplace_back(code.code);
+    }
+    return codes;
+}
+
+void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
+                   std::vector<std::string> const& choices, char const* help) {
+    CLI::Option* const option = command.add_option(name, value, help);
+    option->check(CLI::IsMember(choices))->type_name("WORD");
+    arguments.choices[option] = choices;
+}
+
+void DeclareCodes(CLI::App& command, VArguments& arguments, char const* name, std::vector<std::string>& codes,
+                  char const* help) {
+    CLI::Option* const option = command.add_option(name, codes, help);
+    option->type_name("CODE")->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    arguments.choices[option] = AllCodes();
+}
 
 void WriteDiagnostic(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) {
     json.Object([&] {
@@ -50,36 +79,88 @@ VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
     return NCheck::CheckDatabase(result, bar.Progress(arguments.isQuiet));
 }
 
-} // namespace
-
-void DeclareCheck(CLI::App& command, VArguments& arguments) {
-    DeclareFiles(command, arguments);
-    std::vector<std::string> const formats{"text", "json", "sarif"};
-    auto* const format =
-        command.add_option("--format", arguments.format, "How to answer: text, json or sarif (SARIF 2.1.0)");
-    format->check(CLI::IsMember(formats))->type_name("FORMAT");
-    arguments.choices[format] = formats;
+bool IsAmong(std::vector<std::string> const& codes, std::string const& code) {
+    return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
-VStatus RunCheck(VArguments const& arguments, VOutput& output) {
-    bool const isJson = arguments.isJson || arguments.format == "json";
-    if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
-        output.Complain("--json and --format " + arguments.format + " exclude each other; see --help");
-        return VStatus::Usage;
-    }
-    NReader::VReadResult result;
-    if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
-        return status;
-    }
-    VDiagnostics const diagnostics = Check(arguments, result);
+/// What the call asks about. What is not asked about covers nothing of the baseline.
+VDiagnostics Selected(VArguments const& arguments, VDiagnostics diagnostics, VBaseline& baseline) {
+    auto const isLeftOut = [&](NReader::VDiagnostic const& diagnostic) {
+        return IsAmong(arguments.ignored, diagnostic.code) ||
+               (!arguments.only.empty() && !IsAmong(arguments.only, diagnostic.code)) || baseline.Covers(diagnostic);
+    };
+    diagnostics.erase(std::remove_if(diagnostics.begin(), diagnostics.end(), isLeftOut), diagnostics.end());
+    return diagnostics;
+}
+
+void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, VOutput& output) {
     if (arguments.format == "sarif") {
         WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteSarif(json, diagnostics); });
-    } else if (isJson) {
+    } else if (IsJson(arguments)) {
         WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteAsJson(json, diagnostics); });
     } else {
         WriteText(diagnostics, output);
     }
-    return CountErrors(diagnostics) > 0 ? VStatus::NotThere : VStatus::Done;
+}
+
+/// What a program reads is whole, whatever the files are; for people the reason is enough.
+void WriteRefusal(VArguments const& arguments, VDiagnostics const& diagnostics, VOutput& output) {
+    if (arguments.format == "sarif" || IsJson(arguments)) {
+        WriteAnswer(arguments, diagnostics, output);
+    } else if (!arguments.isQuiet) {
+        PrintDiagnostics(diagnostics);
+    }
+}
+
+/// Null, or what is wrong with the call.
+std::string WrongUsage(VArguments const& arguments) {
+    if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
+        return fmt::format("--json and --format {} exclude each other", arguments.format);
+    }
+    for (std::vector<std::string> const* const codes : {&arguments.ignored, &arguments.only}) {
+        for (std::string const& code : *codes) {
+            if (NCheck::FindCode(code) == nullptr) {
+                return fmt::format("unknown code '{}'{}", Shown(code), NearOrAllNote(code, AllCodes()));
+            }
+        }
+    }
+    return "";
+}
+
+bool Fails(VArguments const& arguments, VDiagnostics const& diagnostics) {
+    return CountErrors(diagnostics) > 0 || (arguments.failOn == "warning" && !diagnostics.empty());
+}
+
+} // namespace
+
+void DeclareCheck(CLI::App& command, VArguments& arguments) {
+    DeclareFiles(command, arguments);
+    DeclareChoice(command, arguments, "--format", arguments.format, {"text", "json", "sarif"},
+                  "How to answer: text, json or sarif (SARIF 2.1.0)");
+    DeclareChoice(command, arguments, "--fail-on", arguments.failOn, {"error", "warning"},
+                  "What gives status 1: error, the default, or warning");
+    DeclareCodes(command, arguments, "--ignore", arguments.ignored, "A code that does not count; may be repeated");
+    DeclareCodes(command, arguments, "--only", arguments.only, "A code that counts alone; may be repeated");
+    command
+        .add_option("--baseline", arguments.baseline,
+                    "An earlier answer in JSON or SARIF, whose findings no longer count")
+        ->type_name("ANSWER");
+}
+
+VStatus RunCheck(VArguments const& arguments, VOutput& output) {
+    if (std::string const wrong = WrongUsage(arguments); !wrong.empty()) {
+        output.Complain(wrong + "; see --help");
+        return VStatus::Usage;
+    }
+    VBaseline baseline = arguments.baseline.empty() ? VBaseline() : VBaseline(arguments.baseline);
+    NReader::VReadResult result;
+    if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
+        WriteRefusal(arguments, result.diagnostics, output);
+        return status;
+    }
+    VDiagnostics const diagnostics = Selected(arguments, Check(arguments, result), baseline);
+    WriteAnswer(arguments, diagnostics, output);
+    return Fails(arguments, diagnostics) ? VStatus::NotThere : VStatus::Done;
 }
 
 } // namespace NCli

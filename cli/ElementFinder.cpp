@@ -7,11 +7,11 @@
 
 #include <fmt/format.h>
 
-#include <diagkit/check/Views.h>
 #include <cli/Columns.h>
 #include <cli/Layers.h>
 #include <cli/NearNames.h>
 #include <cli/Text.h>
+#include <diagkit/check/Views.h>
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Odx.h>
 #include <diagkit/reader/Utf8.h>

@@ -20,13 +20,6 @@ NReader::VReadResult Read(VArguments const& arguments, bool keepsElements) {
     return NReader::ReadOdx(arguments.files, options);
 }
 
-void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
-    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        std::string const line = LineOf(diagnostic);
-        std::fwrite(line.data(), 1, line.size(), stderr);
-    }
-}
-
 /// Whether the command may go on with what was read.
 VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VReadResult const& result) {
     if (result.database == nullptr) {
@@ -63,12 +56,15 @@ VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadR
     return Judge(arguments, output, result);
 }
 
+void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
+        std::string const line = LineOf(diagnostic);
+        std::fwrite(line.data(), 1, line.size(), stderr);
+    }
+}
+
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
     result = Read(arguments, true);
-    bool const isRefused = result.database == nullptr || (arguments.isStrict && CountErrors(result.diagnostics) > 0);
-    if (isRefused && !arguments.isQuiet) {
-        PrintDiagnostics(result.diagnostics);
-    }
     return Judge(arguments, output, result);
 }
 

@@ -11,9 +11,10 @@ namespace NCli {
 /// `Done` only, and then has a database.
 VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
-/// The same with every element kept, for a command whose answer holds the diagnostics: they go to standard error only
-/// when it does not go on.
+/// The same with every element kept, for a command whose answer holds the diagnostics: none go to standard error.
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
+
+void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics); ///< on standard error
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever the data holds
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);

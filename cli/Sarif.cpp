@@ -19,29 +19,6 @@ bool StaysInUri(char character) {
            (character >= 'a' && character <= 'z') || kPlain.find(character) != std::string_view::npos;
 }
 
-std::string UriOf(std::string const& file) {
-    std::filesystem::path const path = std::filesystem::u8path(file);
-    std::string const generic = path.generic_u8string();
-    std::string uri = !path.is_absolute() ? "" : generic.front() == '/' ? "file://" : "file:///";
-    for (char const character : generic) {
-        if (StaysInUri(character)) {
-            uri += character;
-        } else {
-            uri += fmt::format("%{:02X}", static_cast<unsigned char>(character));
-        }
-    }
-    return uri;
-}
-
-/// SARIF takes single braces in a message for placeholders.
-std::string MessageOf(std::string const& text) {
-    std::string message;
-    for (char const character : text) {
-        message.append(character == '{' || character == '}' ? 2 : 1, character);
-    }
-    return message;
-}
-
 void WriteRule(VJsonWriter& json, NCheck::VCode const& code) {
     json.Object([&] {
         json.Member("id", code.code);
@@ -60,7 +37,7 @@ void WriteDriver(VJsonWriter& json) {
 
 void WriteLocation(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) {
     json.Object("physicalLocation", [&] {
-        json.Object("artifactLocation", [&] { json.Member("uri", UriOf(diagnostic.file)); });
+        json.Object("artifactLocation", [&] { json.Member("uri", SarifUriOf(diagnostic.file)); });
         if (diagnostic.line != 0) {
             json.Object("region", [&] {
                 json.Member("startLine", diagnostic.line);
@@ -77,7 +54,7 @@ void WriteResult(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) {
             json.Member("ruleIndex", code - NCheck::Codes().data());
         }
         json.Member("level", SeverityText(diagnostic.severity));
-        json.Object("message", [&] { json.Member("text", MessageOf(diagnostic.message)); });
+        json.Object("message", [&] { json.Member("text", SarifMessageOf(diagnostic.message)); });
         json.Array("locations", [&] { json.Object([&] { WriteLocation(json, diagnostic); }); });
     });
 }
@@ -92,6 +69,28 @@ void WriteRun(VJsonWriter& json, std::vector<NReader::VDiagnostic> const& diagno
 }
 
 } // namespace
+
+std::string SarifUriOf(std::string const& file) {
+    std::filesystem::path const path = std::filesystem::u8path(file);
+    std::string const generic = path.generic_u8string();
+    std::string uri = !path.is_absolute() ? "" : generic.front() == '/' ? "file://" : "file:///";
+    for (char const character : generic) {
+        if (StaysInUri(character)) {
+            uri += character;
+        } else {
+            uri += fmt::format("%{:02X}", static_cast<unsigned char>(character));
+        }
+    }
+    return uri;
+}
+
+std::string SarifMessageOf(std::string const& text) {
+    std::string message;
+    for (char const character : text) {
+        message.append(character == '{' || character == '}' ? 2 : 1, character);
+    }
+    return message;
+}
 
 void WriteSarif(VJsonWriter& json, std::vector<NReader::VDiagnostic> const& diagnostics) {
     json.Object([&] {

@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <cli/Call.h>
 #include <cli/Commands.h>
 #include <cli/HelpTable.h>
 #include <cli/NearNames.h>
@@ -41,7 +42,7 @@ constexpr std::array kCommands{
 // clang-format on
 
 void Declare(CLI::App& program, VArguments& arguments) {
-    program.set_version_flag("--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
+    program.set_version_flag("-V,--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.allow_windows_style_options(false); // a path may begin with '/' everywhere
     program.get_formatter()->label("SUBCOMMAND", "COMMAND");
@@ -78,10 +79,10 @@ std::string ValueMessage(CLI::ParseError const& error) {
     bool const isAboutCount = dynamic_cast<CLI::ArgumentMismatch const*>(&error) != nullptr;
     std::string const option = text.substr(0, text.find(':'));
     if (isAboutCount && text.find("missing") != std::string::npos) {
-        return option + " wants a value";
+        return option + " requires an argument";
     }
     if (isAboutCount && text.find("At Most 1") != std::string::npos) {
-        return option + " may be given once";
+        return option + " is given more than once";
     }
     return Shown(std::string_view(text));
 }
@@ -94,13 +95,13 @@ std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) 
     auto const option = std::find_if(left.begin(), left.end(), isOption);
     auto const word = std::find_if_not(left.begin(), left.end(), isOption);
     if (parsed.empty() && word != left.end()) {
-        return fmt::format("no command '{}'{}", Shown(*word), NearOrAllNote(*word, NamesOf(kCommands)));
+        return fmt::format("unknown command '{}'{}", Shown(*word), NearOrAllNote(*word, NamesOf(kCommands)));
     }
     if (option != left.end()) {
-        return fmt::format("no option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));
+        return fmt::format("unknown option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));
     }
     if (word != left.end()) {
-        return fmt::format("'{}' is one argument too many", Shown(*word));
+        return fmt::format("unexpected argument '{}'", Shown(*word));
     }
     return parsed.empty() ? fmt::format("a command is required{}", NearOrAllNote("", NamesOf(kCommands)))
                           : ValueMessage(error);
@@ -115,6 +116,7 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
         return VStatus::Done;
     }
     try {
+        words = CommandFirst(std::move(words), program);
         std::reverse(words.begin(), words.end()); // CLI11 takes the last word first
         program.parse(std::move(words));
     } catch (CLI::CallForHelp const&) {

@@ -19,7 +19,7 @@ from program import DATA, IS_POSIX, PROGRAM, is_for_windows, main, run
 
 class HelpAndVersion(unittest.TestCase):
     def test_version_of_program_and_of_commands(self):
-        for arguments in (["--version"], ["info", "--version"], ["view", "--version"]):
+        for arguments in (["--version"], ["-V"], ["info", "--version"], ["--version", "info"], ["view", "-V"]):
             done = run(*arguments)
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             self.assertRegex(done.stdout, r"\Adiagkit \d+\.\d+\.\d+\n\Z")
@@ -37,6 +37,33 @@ class HelpAndVersion(unittest.TestCase):
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             for option in ("--json", "--strict", "--quiet", "--help", "--version"):
                 self.assertIn(option, done.stdout)
+
+    def test_help_is_a_word_as_well(self):
+        self.assertEqual(run("help").stdout, run("--help").stdout)
+        for arguments in (["help", "view"], ["--quiet", "help", "view"], ["--help", "view"]):
+            done = run(*arguments)
+            self.assertEqual((done.returncode, done.stdout, done.stderr), (0, run("view", "--help").stdout, ""))
+
+    def test_help_knows_no_other_words_than_commands(self):
+        self.assertEqual(run("help", "veiw").returncode, 2)
+        self.assertIn("unknown command 'veiw'", run("help", "veiw").stderr)
+
+    def test_options_stand_before_the_command_as_well(self):
+        sample = str(DATA / "signals.odx-d")
+        after = run("view", "dops", sample, "--layer", "LampLeft", "--json", "--quiet")
+        self.assertEqual(after.returncode, 0)
+        for arguments in (
+            ["--quiet", "--json", "--layer", "LampLeft", "view", "dops", sample],
+            ["--layer=LampLeft", "view", "--json", "dops", "--quiet", sample],
+            ["--max-depth", "50", "--quiet", "view", "dops", "--layer", "LampLeft", "--json", sample],
+        ):
+            before = run(*arguments)
+            self.assertEqual((before.returncode, before.stdout, before.stderr), (0, after.stdout, ""))
+
+    def test_a_value_before_the_command_may_be_called_like_one(self):
+        done = run("--layer", "view", "layers", str(DATA / "signals.odx-d"))
+        self.assertEqual(done.returncode, 2)
+        self.assertIn("unknown option '--layer'", done.stderr)
 
     def test_help_of_a_command_tells_the_limits_with_their_defaults(self):
         limits = (

@@ -16,6 +16,7 @@ LIBRARIES = {
     "libzip": ("libzip-dev", "libzip"),
     "CLI11": ("libcli11-dev", "cli11"),
     "fmt": ("libfmt-dev", "fmt"),
+    "nlohmann_json": ("nlohmann-json3-dev", "nlohmann-json"),
     "GTest": ("libgtest-dev", "gtest"),
     "benchmark": ("libbenchmark-dev", "benchmark"),
 }

@@ -40,7 +40,7 @@ ROOMS = {
             "diagkit/logging",
             "diagkit/model",
         ],
-        [r"CLI/\S+", r"fmt/\S+"],
+        [r"CLI/\S+", r"fmt/\S+", r"nlohmann/\S+"],
     ),
     "fuzz": (
         [
