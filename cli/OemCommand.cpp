@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
-#include <filesystem>
+#include <map>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -10,15 +11,22 @@
 #include <cli/Load.h>
 #include <cli/OemAnswer.h>
 #include <cli/Text.h>
-#include <diagkit/reader/Ascii.h>
+#include <diagkit/model/Reference.h>
+#include <diagkit/reader/Folder.h>
+#include <diagkit/reader/Naming.h>
+#include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
 namespace NCli {
 namespace {
 
-namespace fs = std::filesystem;
-
 using NDIAGKIT::VOemReport;
+
+/// A database by the name of its file or folder.
+struct VNamedFiles {
+    std::string name;
+    std::vector<std::string> files;
+};
 
 VOemReport ReportOf(NReader::VReadResult const& result) {
     return NDIAGKIT::VOemChecker().Report(result.database->GetOdx());
@@ -64,57 +72,69 @@ void WriteError(std::string const& file, std::string const& reason, bool isJson,
     }
 }
 
-bool IsNamedLikeOdx(fs::path const& path) {
-    std::string extension = path.extension().u8string();
-    std::transform(extension.begin(), extension.end(), extension.begin(), NReader::Lower);
-    return extension == ".pdx" || extension == ".zip" || extension == ".xml" || extension.rfind(".odx", 0) == 0;
+/// Whether a reference names another of the documents.
+bool DoReferToOneAnother(NReader::VReadResult const& result) {
+    std::map<std::wstring, std::string> fileOf;
+    for (NReader::VDocumentInfo const& document : result.documents) {
+        fileOf.emplace(NReader::FromUtf8(document.shortName), document.file);
+    }
+    return std::any_of(result.elements.begin(), result.elements.end(), [&](NODX201::VOdxElement* element) {
+        auto* const reference = dynamic_cast<NODX201::VLink*>(element);
+        auto const* const byId =
+            reference != nullptr ? dynamic_cast<NODX201::VOdxLink const*>(&reference->GetLink()) : nullptr;
+        auto const target = byId != nullptr ? fileOf.find(byId->GetDocref()) : fileOf.end();
+        return target != fileOf.end() &&
+               target->second != result.database->GetDocumentName(NReader::PositionOf(*element));
+    });
 }
 
-/// The files that a name stands for: those in a folder that are named like ODX, by name; otherwise itself.
-std::vector<std::string> FilesOf(std::string const& name) {
-    std::error_code error;
-    fs::directory_iterator const folder(fs::u8path(name), error);
-    if (error) {
-        return {name}; // a file, or something whose reading says why it is none
+/// The databases that a name stands for: the documents of a folder are one where they refer to one another; otherwise
+/// each file is one.
+std::vector<VNamedFiles> DatabasesOf(std::string const& name, VArguments const& arguments) {
+    std::vector<VNamedFiles> databases;
+    VNamedFiles folder{name, {}};
+    for (std::string const& file : NReader::FilesOf(name)) {
+        (NReader::IsPackageName(file) || file == name ? databases.emplace_back(VNamedFiles{file, {}}) : folder)
+            .files.push_back(file);
     }
-    std::vector<std::string> files;
-    for (fs::directory_entry const& entry : folder) {
-        if (IsNamedLikeOdx(entry.path())) {
-            files.push_back(entry.path().generic_u8string());
-        }
+    NReader::VReadOptions options = arguments.readOptions;
+    options.keepsElements = true;
+    NReader::VReadResult const together =
+        folder.files.size() > 1 ? NReader::ReadOdx(folder.files, options) : NReader::VReadResult();
+    if (together.database != nullptr && DoReferToOneAnother(together)) {
+        databases.push_back(std::move(folder));
+        return databases;
     }
-    std::sort(files.begin(), files.end());
-    return files;
+    for (std::string const& file : folder.files) {
+        databases.push_back({file, {file}});
+    }
+    std::sort(databases.begin(), databases.end(),
+              [](VNamedFiles const& a, VNamedFiles const& b) { return a.name < b.name; });
+    return databases;
 }
 
-/// A file as a database of its own.
-VStatus RunOne(std::string const& file, VArguments const& arguments, VOutput& output) {
+VStatus RunOne(VNamedFiles const& database, VArguments const& arguments, VOutput& output) {
     VArguments one = arguments;
-    one.files = {file};
+    one.files = database.files;
     NReader::VReadResult result;
     VStatus const status = Load(one, output, result);
     if (status == VStatus::Done) {
-        WriteAnswer(file, ReportOf(result), arguments.isJson, output);
+        WriteAnswer(database.name, ReportOf(result), arguments.isJson, output);
     } else {
-        WriteError(file, ReasonOf(result), arguments.isJson, output);
+        WriteError(database.name, ReasonOf(result), arguments.isJson, output);
     }
     return status;
 }
 
-/// Every file as a database of its own; what is worst about one is the status of all.
+/// Every database for itself; what is worst about one is the status of all.
 VStatus RunEach(VArguments const& arguments, VOutput& output) {
     VStatus status = VStatus::Done;
     for (std::string const& name : arguments.files) {
-        std::vector<std::string> const files = FilesOf(name);
-        if (files.empty()) {
-            output.Complain(fmt::format("{}: the folder holds no ODX document or package", Shown(name)));
-            status = std::max(status, VStatus::NotThere);
-        }
-        for (std::string const& file : files) {
+        for (VNamedFiles const& database : DatabasesOf(name, arguments)) {
             if (output.HasFailed()) {
                 return status;
             }
-            status = std::max(status, RunOne(file, arguments, output));
+            status = std::max(status, RunOne(database, arguments, output));
         }
     }
     return status;
@@ -124,8 +144,10 @@ VStatus RunEach(VArguments const& arguments, VOutput& output) {
 
 void DeclareOem(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
-    command.add_flag("--each", arguments.isEach,
-                     "Every FILE, and every one in a FOLDER, is a database of its own; with --json one line each");
+    command.add_flag(
+        "--each", arguments.isEach,
+        "Every FILE is a database of its own, and so are the documents of a folder that refer to one another; "
+        "with --json one line each");
 }
 
 VStatus RunOem(VArguments const& arguments, VOutput& output) {

@@ -21,6 +21,7 @@ set(public_headers
     diagkit/conformance/Reference.h
     diagkit/query/FilePlace.h
     diagkit/reader/Diagnostic.h
+    diagkit/reader/Folder.h
     diagkit/reader/Limits.h
     diagkit/reader/OdxReader.h
     diagkit/reader/Utf8.h

@@ -7,7 +7,7 @@
 #include <system_error>
 #include <utility>
 
-#include <diagkit/reader/Ascii.h>
+#include <diagkit/reader/Folder.h>
 
 namespace NReader {
 
@@ -56,14 +56,6 @@ std::optional<VFailure> ReadHead(fs::path const& path, std::string& head) {
 
 bool IsLikeZip(std::string_view head) { return head == "PK\3\4" || head == "PK\5\6"; }
 
-bool IsPackageName(std::string const& file) {
-    std::string suffix = fs::u8path(file).extension().u8string();
-    for (char& character : suffix) {
-        character = Lower(character);
-    }
-    return suffix == ".pdx" || suffix == ".zip";
-}
-
 /// Why there is nothing to read by that name, if so.
 std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code const& error) {
     if (!fs::exists(status)) {
@@ -71,7 +63,7 @@ std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code co
         return VFailure{&NCode::NoFile, isTold ? "cannot be read: " + error.message() : "no such file"};
     }
     if (fs::is_directory(status)) {
-        return VFailure{&NCode::NoFile, "is a folder; name the ODX documents or packages in it"};
+        return VFailure{&NCode::NoFile, "the folder holds no ODX document or package"};
     }
     if (fs::is_fifo(status)) {
         return VFailure{&NCode::NoFile, "is a pipe, which cannot be read twice; save it to a file first"};

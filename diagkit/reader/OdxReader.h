@@ -52,7 +52,8 @@ struct VReadResult {
     std::vector<NODX201::VOdxElement*> elements;
 };
 
-/// Reads ODX documents and PDX packages as one database, in the order given. The names are paths in UTF-8.
+/// Reads ODX documents and PDX packages as one database, in the order given. The names are paths in UTF-8. A folder
+/// stands for the documents and packages directly in it; see `FilesOf`.
 ///
 /// A file is a package when it starts like a zip archive, whatever its name; anything else is read as XML. What can be
 /// loaded is loaded, and the rest reported: only a file that is not readable as ODX at all is refused, and then nothing

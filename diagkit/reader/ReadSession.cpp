@@ -8,6 +8,7 @@
 #include <thread>
 #include <utility>
 
+#include <diagkit/reader/Folder.h>
 #include <diagkit/reader/InputFile.h>
 #include <diagkit/reader/ReadWorker.h>
 
@@ -31,13 +32,10 @@ std::uint64_t SizeOf(std::vector<VFile> const& files) {
 } // namespace
 
 bool VReadSession::Read(std::vector<std::string> const& files) {
-    for (std::string const& name : files) {
-        m_files.push_back({name});
-        m_files.back().repeated = EarlierNameOf(name);
-        if (m_files.back().repeated.empty()) {
-            m_files.back().failure = AddFile(name);
+    for (std::string const& fileOrFolder : files) {
+        for (std::string const& file : FilesOf(fileOrFolder)) {
+            Add(file);
         }
-        m_files.back().number = m_reading.database->AddDocumentName(name); // what it says comes after its documents
     }
     m_all = SizeOf(m_files);
     ReadDocuments();
@@ -46,6 +44,15 @@ bool VReadSession::Read(std::vector<std::string> const& files) {
         areRead = AdoptFile(file) && areRead;
     }
     return areRead;
+}
+
+void VReadSession::Add(std::string const& name) {
+    m_files.push_back({name});
+    m_files.back().repeated = EarlierNameOf(name);
+    if (m_files.back().repeated.empty()) {
+        m_files.back().failure = AddFile(name);
+    }
+    m_files.back().number = m_reading.database->AddDocumentName(name); // what it says comes after its documents
 }
 
 /// The name under which the call has named the same file before; "" for a new one, and for what is no plain file.

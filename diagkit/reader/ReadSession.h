@@ -16,7 +16,7 @@
 
 namespace NReader {
 
-/// A file that the caller named.
+/// A file of the call, or of a folder that the call names.
 struct VFile {
     std::string name;
     std::uint32_t number = 0;          // of the name, for what is said of the whole file
@@ -50,6 +50,7 @@ public:
 private:
     friend class VReadWorker;
 
+    void Add(std::string const& name);
     std::string EarlierNameOf(std::string const& name);
     std::optional<VFailure> AddFile(std::string const& name);
     std::optional<VFailure> AddPackage(std::string const& name);

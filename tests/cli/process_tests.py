@@ -359,7 +359,8 @@ class OemOfEach(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             for name, content in {
                 "b.odx-d": (databases / "Psa.odx-d").read_bytes(),
-                "a.xml": b"<ODX",
+                "a.xml": b"<ODX>",
+                "index.xml": b"<CATALOG/>",
                 "c.PDX": b"PK\3\4",
                 "notes.txt": b"not looked at",
             }.items():
@@ -383,14 +384,53 @@ class OemOfEach(unittest.TestCase):
     def test_a_folder_without_odx_is_named(self):
         with tempfile.TemporaryDirectory() as folder:
             (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
-            message = f"diagkit: {folder}: the folder holds no ODX document or package\n"
-            for options in ([], ["--json"], ["--quiet"]):
-                done = run("oem", "--each", folder, *options)
-                self.assertEqual((done.returncode, done.stdout, done.stderr), (1, "", message))
+            reason = "the folder holds no ODX document or package"
+            done = run("oem", "--each", folder, "--json", "--quiet")
+            self.assertEqual((done.returncode, json.loads(done.stdout)), (3, {"file": folder, "error": reason}))
             beside = run("oem", "--each", folder, "gates.odx-d")
-            self.assertEqual((beside.returncode, beside.stderr), (1, message))
-            self.assertEqual(beside.stdout, "gates.odx-d: Unknown (36): no heuristic matches\n")
-            self.assertEqual(run("oem", "--each", "absent.odx", folder).returncode, 3)
+            self.assertEqual((beside.returncode, beside.stderr), (3, f"{folder}: error: {reason} [no-file]\n"))
+            lines = [f"{folder}: not answered for: {reason}", "gates.odx-d: Unknown (36): no heuristic matches"]
+            self.assertEqual(beside.stdout.splitlines(), lines)
+
+    def test_documents_of_a_folder_that_refer_to_one_another_are_one_database(self):
+        shapes = {"alone": "", "together": ' DOCREF="A" DOCTYPE="CONTAINER"'}
+        for shape, docref in shapes.items():
+            with self.subTest(shape), tempfile.TemporaryDirectory() as folder:
+                self.write_container(folder, "A", "")
+                self.write_container(folder, "B", f'<IMPORT-REF ID-REF="A.S"{docref}/>')
+                done = run("oem", "--each", "--json", "--quiet", folder)
+                files = [json.loads(line)["file"] for line in done.stdout.splitlines()]
+                alone = [f"{folder}/A.odx-d", f"{folder}/B.odx-d"]
+                self.assertEqual(files, alone if shape == "alone" else [folder])
+
+    @staticmethod
+    def write_container(folder, name, reference):
+        (pathlib.Path(folder) / f"{name}.odx-d").write_text(
+            f'<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="{name}"><SHORT-NAME>{name}</SHORT-NAME>'
+            f'<ECU-SHARED-DATAS><ECU-SHARED-DATA ID="{name}.S"><SHORT-NAME>S</SHORT-NAME>'
+            f"<IMPORT-REFS>{reference}</IMPORT-REFS></ECU-SHARED-DATA></ECU-SHARED-DATAS></DIAG-LAYER-CONTAINER></ODX>",
+            encoding="utf-8",
+        )
+
+
+class Folders(unittest.TestCase):
+    def test_a_folder_is_the_files_in_it(self):
+        names = ["gates.odx-d", "signals.odx-d"]
+        with tempfile.TemporaryDirectory() as folder:
+            for name in names:
+                (pathlib.Path(folder) / name).write_bytes((DATA / name).read_bytes())
+            (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
+            for command in (["layers"], ["info"], ["check"], ["view", "dops", "--layer", "LampLeft"]):
+                together = run(*command, folder, "--json", "--quiet")
+                named = run(*command, *[f"{folder}/{name}" for name in names], "--json", "--quiet")
+                self.assertEqual((together.returncode, together.stdout), (named.returncode, named.stdout))
+                self.assertNotEqual(together.stdout, "")
+
+    def test_a_folder_without_odx_cannot_be_read(self):
+        with tempfile.TemporaryDirectory() as folder:
+            done = run("layers", folder)
+        reason = "error: the folder holds no ODX document or package [no-file]"
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (3, "", f"{folder}: {reason}\n"))
 
 
 @unittest.skipUnless(IS_POSIX, "needs pseudo terminals")

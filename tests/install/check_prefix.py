@@ -25,7 +25,7 @@ PUBLIC = {
     "util": {"Assertion.h", "CheckedCast.h", "Utf16.h"},
     "tools/oem": {"Manufacturer.h", "OemChecker.h", "OemReport.h"},
     "conformance": {"Conformance.h", "Reference.h"},
-    "reader": {"Diagnostic.h", "Limits.h", "OdxReader.h", "Utf8.h"},
+    "reader": {"Diagnostic.h", "Folder.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
     "query": {"FilePlace.h"},
 }

@@ -44,10 +44,10 @@ TEST_F(VBadInputTest, MissingFileIsRefused) {
     ExpectRefused("absent.odx:0:0 error no-file", "no such file");
 }
 
-TEST_F(VBadInputTest, FolderIsRefused) {
+TEST_F(VBadInputTest, FolderWithoutOdxIsRefused) {
     std::filesystem::create_directory(Path("folder"));
     ReadFiles({Path("folder")});
-    ExpectRefused("folder:0:0 error no-file", "is a folder");
+    ExpectRefused("folder:0:0 error no-file", "the folder holds no ODX document or package");
 }
 
 TEST_F(VBadInputTest, EmptyFileIsRefused) {
