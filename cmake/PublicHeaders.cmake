@@ -20,6 +20,7 @@ set(public_headers
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
     diagkit/query/FilePlace.h
+    diagkit/query/InheritanceGraph.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Folder.h
     diagkit/reader/Limits.h

@@ -6,6 +6,7 @@
 #include <diagkit/check/Check.h>
 #include <diagkit/check/Cycles.h>
 #include <diagkit/memory/Odx.h>
+#include <diagkit/query/InheritanceGraph.h>
 #include <diagkit/tools/DiagCommView.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
@@ -170,6 +171,15 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
     NCheck::FindCycles(database);
     NDIAGKIT::VOemChecker checker;
     Require(checker.GetManufacturer(database.GetOdx()) == checker.Report(database.GetOdx()).manufacturer);
+
+    NQuery::VInheritanceGraph const graph = NQuery::InheritanceGraphOf(database);
+    VBudget parts(kSteps / (1 + graph.nodes.size() + graph.edges.size()));
+    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) {
+        if (parts.Take()) {
+            NQuery::VInheritanceGraph const part = NQuery::PartAround(graph, layer);
+            Require(!part.nodes.empty() && part.nodes.size() <= graph.nodes.size());
+        }
+    });
 
     VBudget views(kSteps);
     ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { ViewLayer(layer, views); });

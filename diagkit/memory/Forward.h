@@ -13,6 +13,7 @@ namespace NMemory {
 #define ODX_LINK_IN_LAYER(name, tag, target, value, element) class VMem##name;
 #define ODX_LINK_IN_DIAG_COMM(name, tag, target, value, element) class VMem##name;
 #define ODX_EXTRA_LINK(name, target, targetClass, tag, value, element) class VMem##name;
+#define ODX_EXTRA_LINK_WITH(name, tag, target, targetClass) class VMem##name;
 #define ODX_EXTRA_LINK_BY_HAND(name, tag, value, element) class VMem##name;
 #define ODX_PARENT_REF(name, target, value, type) class VMem##name;
 #define ODX_UNTYPED_PARENT_REF(name, target, value) class VMem##name;

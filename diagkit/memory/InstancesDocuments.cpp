@@ -18,6 +18,17 @@ namespace NMemory {
 
 #include <diagkit/memory/InstancesEnd.def>
 
+template <>
+bool IsTargetOf<Tag::EcuProxyRef, VMemInfoComponent>(NODX201::VReferencable& element) {
+    return IsOfClass<VMemInfoComponent>(element) &&
+           (element.GetOdxTag() == Tag::EcuProxy || element.GetOdxTag() == Tag::InfoComponent);
+}
+
+template <>
+bool IsTargetOf<Tag::GatewayLogicalLinkRef, VMemLogicalLink>(NODX201::VReferencable& element) {
+    return IsOfClass<VMemLogicalLink>(element) && element.GetOdxTag() != Tag::MemberLogicalLink;
+}
+
 bool VMemImportRef::HasDiagLayer() const { return FindById(); }
 
 } // namespace NMemory

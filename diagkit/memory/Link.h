@@ -95,6 +95,12 @@ bool IsOfClass(NODX201::VReferencable& element) {
 template <>
 bool IsOfClass<NODX201::VDiagComm>(NODX201::VReferencable& element);
 
+/// The same for a reference of this tag, which may want one of several kinds of a class.
+template <NODX201::VOdxTagEnum Tag, class Target>
+bool IsTargetOf(NODX201::VReferencable& element) {
+    return IsOfClass<Target>(element);
+}
+
 /// The target of a reference by ID that stands at `from`, or null. The order of places searched: the document that
 /// DOCREF and DOCTYPE name, then whatever bears the name of DOCREF; without DOCREF the own layer, the own document, the
 /// imported layers; and last the whole database.
@@ -154,7 +160,7 @@ public:
     /// See the function of this name.
     VDoubt FindDoubt() const {
         auto const* const link = std::get_if<VMemOdxLink>(&m_form);
-        return link != nullptr ? NMemory::FindDoubt(this->GetDatabase(), *link, &IsOfClass<Target>)
+        return link != nullptr ? NMemory::FindDoubt(this->GetDatabase(), *link, &IsTargetOf<Tag, Target>)
                                : VDoubt{nullptr, nullptr};
     }
 
@@ -171,8 +177,9 @@ protected:
         auto const* const link = m_isSevered ? nullptr : std::get_if<VMemOdxLink>(&m_form);
         if (m_generation != database.GetGeneration()) {
             auto& self = const_cast<VMemLink&>(*this);
-            m_target =
-                link != nullptr ? dynamic_cast<Target*>(ResolveId(database, *link, self, &IsOfClass<Target>)) : nullptr;
+            m_target = link != nullptr
+                           ? dynamic_cast<Target*>(ResolveId(database, *link, self, &IsTargetOf<Tag, Target>))
+                           : nullptr;
             m_generation = database.GetGeneration();
         }
         return m_target != nullptr;

@@ -44,6 +44,7 @@ constexpr VKindOfTag kByTag[] = {
     {"IMPORT-REF", "layer"},
     {"KEY-DOP-REF", "DATA-OBJECT-PROP"},
     {"LAYER-REF", "layer"},
+    {"LINK-COMPARAM-REF", "COMPARAM"},
     {"PARENT-REF", "layer"},
     {"READ-DYN-DEF-MESSAGE-REF", "DIAG-COMM"},
     {"RELATED-DIAG-COMM-REF", "DIAG-COMM"},

@@ -18,6 +18,7 @@ VElementType const& LinkType();
 #define ODX_CLASS(name, tag, base, names, value, element, type) VElementType const& TypeOf(NMemory::VMem##name*);
 #define ODX_EXTRA(name, contract, names, value, element, type) VElementType const& TypeOf(NMemory::VMem##name*);
 #define ODX_LINK_WITH(name, tag, target) VElementType const& TypeOf(NMemory::VMem##name*);
+#define ODX_EXTRA_LINK_WITH(name, tag, target, targetClass) VElementType const& TypeOf(NMemory::VMem##name*);
 #define ODX_PARENT_REF(name, target, value, type) VElementType const& TypeOf(NMemory::VMem##name*);
 #define ODX_UNTYPED_PARENT_REF(name, target, value) VElementType const& TypeOf(NMemory::VMem##name*);
 #include <diagkit/model/Facts.def>

@@ -348,9 +348,7 @@ std::set<std::string> const kNeverCounted = {
     // Names of what always has a kind.
     "DiagCodedType", "Param", "ParentRef",
     // The form by short name, which only later versions or odd data have.
-    "DopBaseSnref",
-    // A part of VEHICLE-INFO-SPEC.
-    "PhysicalVehicleLink"};
+    "DopBaseSnref"};
 
 /// The samples hold no VEHICLE-INFO-SPEC.
 std::set<std::string> const kOfVehicleInfo = {

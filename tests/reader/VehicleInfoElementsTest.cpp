@@ -160,5 +160,130 @@ TEST_F(VVehicleInfoElementsTest, ConnectorsAndTheirPins) {
     EXPECT_STREQ(Get<VMemVehicleConnectorPin>(L"Q").GetPinNumber(), L"14");
 }
 
+// Links
+
+std::string LogicalLink(std::string const& id, std::string const& type, std::string const& content) {
+    return "<LOGICAL-LINK ID=\"" + id + "\"" + type + "><SHORT-NAME>" + id + "</SHORT-NAME>" + content +
+           "</LOGICAL-LINK>";
+}
+
+constexpr char kGateway[] = " xsi:type=\"GATEWAY-LOGICAL-LINK\"";
+constexpr char kMember[] = " xsi:type=\"MEMBER-LOGICAL-LINK\"";
+constexpr char kBusRef[] = "<PHYSICAL-VEHICLE-LINK-REF ID-REF=\"Bus\"/>";
+constexpr char kBus[] =
+    "<VEHICLE-CONNECTORS><VEHICLE-CONNECTOR><SHORT-NAME>Socket</SHORT-NAME><VEHICLE-CONNECTOR-PINS>"
+    "<VEHICLE-CONNECTOR-PIN ID=\"P\" TYPE=\"K\"><SHORT-NAME>P</SHORT-NAME><PIN_NUMBER>7</PIN_NUMBER>"
+    "</VEHICLE-CONNECTOR-PIN></VEHICLE-CONNECTOR-PINS></VEHICLE-CONNECTOR></VEHICLE-CONNECTORS>"
+    "<PHYSICAL-VEHICLE-LINKS><PHYSICAL-VEHICLE-LINK ID=\"Bus\" TYPE=\"ISO_9141_2_UART\"><SHORT-NAME>Bus</SHORT-NAME>"
+    "<VEHICLE-CONNECTOR-PIN-REFS><VEHICLE-CONNECTOR-PIN-REF ID-REF=\"P\"/></VEHICLE-CONNECTOR-PIN-REFS>"
+    "<LINK-COMPARAM-REFS><LINK-COMPARAM-REF ID-REF=\"CP\"><VALUE>5</VALUE><DESC><p>d</p></DESC></LINK-COMPARAM-REF>"
+    "</LINK-COMPARAM-REFS></PHYSICAL-VEHICLE-LINK></PHYSICAL-VEHICLE-LINKS>";
+constexpr char kComparams[] =
+    "<COMPARAM-SPEC ID=\"CS\"><SHORT-NAME>CS</SHORT-NAME><COMPARAMS><COMPARAM ID=\"CP\"><SHORT-NAME>CP</SHORT-NAME>"
+    "</COMPARAM></COMPARAMS></COMPARAM-SPEC>";
+
+class VVehicleLinksTest : public VVehicleInfoElementsTest {
+protected:
+    /// LOGICAL-LINKS, and groups of them, beside a PHYSICAL-VEHICLE-LINK.
+    void ReadLinks(std::string const& components, std::string const& links, std::string const& groups = "") {
+        Read({Document(kComparams, "2.2.0"),
+              Container("<PROTOCOLS><PROTOCOL ID=\"UDS\"><SHORT-NAME>UDS</SHORT-NAME></PROTOCOL></PROTOCOLS>"
+                        "<FUNCTIONAL-GROUPS><FUNCTIONAL-GROUP ID=\"FG\"><SHORT-NAME>FG</SHORT-NAME></FUNCTIONAL-GROUP>"
+                        "</FUNCTIONAL-GROUPS><BASE-VARIANTS><BASE-VARIANT ID=\"BV\"><SHORT-NAME>BV</SHORT-NAME>"
+                        "</BASE-VARIANT></BASE-VARIANTS>",
+                        "2.2.0"),
+              VehicleInfo(components, VehicleInformation("\n<LOGICAL-LINKS>" + links + "</LOGICAL-LINKS>" + groups) +
+                                          VehicleInformation(kBus))});
+    }
+};
+
+TEST_F(VVehicleLinksTest, PhysicalVehicleLinks) {
+    ReadLinks("", LogicalLink("L", "", kBusRef));
+    EXPECT_EQ(Diagnostics(), "");
+    auto& bus = Get<VMemPhysicalVehicleLink>(L"Bus");
+    EXPECT_STREQ(bus.GetType(), L"ISO_9141_2_UART");
+    VMemVehicleConnectorPinLink& pin = At(bus.VehicleConnectorPinLinkCollection(), 0);
+    ASSERT_TRUE(pin.HasVehicleConnectorPin());
+    EXPECT_STREQ(pin.GetVehicleConnectorPin().GetPinNumber(), L"7");
+    VMemLinkComparamRef& comparam = At(bus.LinkComparamRefCollection(), 0);
+    EXPECT_STREQ(comparam.GetValue(), L"5");
+    EXPECT_STREQ(comparam.GetDesc(), L"<p>d</p>");
+    ASSERT_TRUE(comparam.HasComparam());
+    EXPECT_STREQ(comparam.GetComparam().GetShortName(), L"CP");
+    EXPECT_EQ(comparam.GetOdxTag(), VOdxTagEnum::LinkComparamRef);
+}
+
+TEST_F(VVehicleLinksTest, LogicalLinks) {
+    ReadLinks("<INFO-COMPONENTS>" + InfoComponent("E", "ECU-PROXY") + "</INFO-COMPONENTS>",
+              LogicalLink("G", kGateway, std::string(kBusRef) + "<SEMANTIC>central</SEMANTIC>") +
+                  LogicalLink("M", kMember,
+                              "<GATEWAY-LOGICAL-LINK-REFS><GATEWAY-LOGICAL-LINK-REF ID-REF=\"G\"/>"
+                              "</GATEWAY-LOGICAL-LINK-REFS>" +
+                                  std::string(kBusRef) +
+                                  "<PROTOCOL-REF ID-REF=\"UDS\"/><FUNCTIONAL-GROUP-REF ID-REF=\"FG\"/>"
+                                  "<BASE-VARIANT-REF ID-REF=\"BV\"/><ECU-PROXY-REFS><ECU-PROXY-REF ID-REF=\"E\"/>"
+                                  "</ECU-PROXY-REFS><LINK-COMPARAM-REFS><LINK-COMPARAM-REF ID-REF=\"CP\">"
+                                  "<VALUE>6</VALUE></LINK-COMPARAM-REF></LINK-COMPARAM-REFS>"));
+    EXPECT_EQ(Diagnostics(), "");
+    auto& gateway = Get<VMemLogicalLink>(L"G");
+    EXPECT_EQ(gateway.GetOdxTag(), VOdxTagEnum::GatewayLogicalLink);
+    EXPECT_STREQ(gateway.GetSemantic(), L"central");
+    EXPECT_FALSE(gateway.HasProtocolRef());
+    auto& member = Get<VMemLogicalLink>(L"M");
+    EXPECT_EQ(member.GetOdxTag(), VOdxTagEnum::MemberLogicalLink);
+    EXPECT_TRUE(member.GetPhysicalVehicleLinkRef().HasPhysicalVehicleLink());
+    ASSERT_TRUE(member.GetProtocolRef().HasProtocol());
+    EXPECT_STREQ(member.GetProtocolRef().GetProtocol().GetShortName(), L"UDS");
+    EXPECT_EQ(member.GetProtocolRef().GetOdxTag(), VOdxTagEnum::LinkProtocolRef);
+    EXPECT_TRUE(member.GetFunctionalGroupRef().HasFunctionalGroup());
+    EXPECT_TRUE(member.GetBaseVariantRef().HasBaseVariant());
+    EXPECT_TRUE(At(member.EcuProxyLinkCollection(), 0).HasEcuProxy());
+    EXPECT_TRUE(At(member.GatewayLogicalLinkLinkCollection(), 0).HasGatewayLogicalLink());
+    EXPECT_STREQ(At(member.LinkComparamRefCollection(), 0).GetValue(), L"6");
+    EXPECT_EQ(Count(L"LOGICAL-LINK"), 2U);
+}
+
+TEST_F(VVehicleLinksTest, OnlyAGatewayHasASemantic) {
+    std::string const semantic = std::string(kBusRef) + "<SEMANTIC>s</SEMANTIC>";
+    ReadLinks("", LogicalLink("M", kMember, semantic));
+    EXPECT_EQ(Diagnostics(), "3.odx:3:16 error contradicting-type");
+    ReadLinks("", LogicalLink("G", kGateway, kBusRef) + LogicalLink("N", "", semantic));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VVehicleLinksTest, ReferencesToOneKindDoNotTakeAnother) {
+    std::string const components = "<INFO-COMPONENTS>" + InfoComponent("O", "OEM") + "</INFO-COMPONENTS>";
+    std::string const proxies = "<ECU-PROXY-REFS>\n<ECU-PROXY-REF ID-REF=\"O\"/></ECU-PROXY-REFS>";
+    ReadLinks(components, LogicalLink("L", "", kBusRef + proxies));
+    EXPECT_EQ(Diagnostics(), "3.odx:4:1 error reference-kind");
+    EXPECT_NE(Message(0).find("which is the INFO-COMPONENT 'O' and no ECU-PROXY"), std::string::npos) << Message(0);
+    std::string const gateways =
+        "<GATEWAY-LOGICAL-LINK-REFS>\n<GATEWAY-LOGICAL-LINK-REF ID-REF=\"M\"/></GATEWAY-LOGICAL-LINK-REFS>";
+    ReadLinks("", LogicalLink("M", kMember, kBusRef) + LogicalLink("L", "", gateways + kBusRef));
+    EXPECT_EQ(Diagnostics(), "3.odx:4:1 error reference-kind");
+}
+
+TEST_F(VVehicleLinksTest, ReferencesToOneKindTakeWhatDoesNotSayItsKind) {
+    ReadLinks("<INFO-COMPONENTS>" + InfoComponent("N", "") + "</INFO-COMPONENTS>",
+              LogicalLink("G", "", kBusRef) +
+                  LogicalLink("L", "",
+                              "<GATEWAY-LOGICAL-LINK-REFS><GATEWAY-LOGICAL-LINK-REF ID-REF=\"G\"/>"
+                              "</GATEWAY-LOGICAL-LINK-REFS>" +
+                                  std::string(kBusRef) +
+                                  "<ECU-PROXY-REFS><ECU-PROXY-REF ID-REF=\"N\"/></ECU-PROXY-REFS>"));
+    EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VVehicleLinksTest, GroupsOfLinks) {
+    ReadLinks("", LogicalLink("L", "", kBusRef),
+              "<ECU-GROUPS><ECU-GROUP OID=\"g\"><SHORT-NAME>Body</SHORT-NAME><LOGICAL-LINK-REFS>"
+              "<LOGICAL-LINK-REF ID-REF=\"L\"/></LOGICAL-LINK-REFS></ECU-GROUP></ECU-GROUPS>");
+    EXPECT_EQ(Diagnostics(), "");
+    VMemEcuGroup& group = At(Information().EcuGroupCollection(), 0);
+    EXPECT_STREQ(group.GetShortName(), L"Body");
+    EXPECT_STREQ(group.GetOid(), L"g");
+    EXPECT_TRUE(At(group.LogicalLinkLinkCollection(), 0).HasLogicalLink());
+}
+
 } // namespace
 } // namespace NTest

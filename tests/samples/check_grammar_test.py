@@ -151,65 +151,7 @@ VARIATIONS = {
 }
 
 # A category that no sample document has.
-VEHICLE = """<?xml version="1.0" encoding="UTF-8"?>
-<ODX MODEL-VERSION="2.0.1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">
-  <VEHICLE-INFO-SPEC ID="Vehicle">
-    <SHORT-NAME>Vehicle</SHORT-NAME>
-    <INFO-COMPONENTS>
-      <INFO-COMPONENT ID="Vehicle.Wiper" xsi:type="ECU-PROXY"><SHORT-NAME>Wiper</SHORT-NAME></INFO-COMPONENT>
-      <INFO-COMPONENT ID="Vehicle.Model" xsi:type="VEHICLE-MODEL"><SHORT-NAME>Model</SHORT-NAME></INFO-COMPONENT>
-    </INFO-COMPONENTS>
-    <VEHICLE-INFORMATIONS>
-      <VEHICLE-INFORMATION>
-        <SHORT-NAME>Saloon</SHORT-NAME>
-        <INFO-COMPONENT-REFS><INFO-COMPONENT-REF ID-REF="Vehicle.Model"/></INFO-COMPONENT-REFS>
-        <VEHICLE-CONNECTORS>
-          <VEHICLE-CONNECTOR>
-            <SHORT-NAME>Socket</SHORT-NAME>
-            <VEHICLE-CONNECTOR-PINS>
-              <VEHICLE-CONNECTOR-PIN ID="Vehicle.Pin6" TYPE="HI"><SHORT-NAME>High</SHORT-NAME><PIN_NUMBER>6</PIN_NUMBER></VEHICLE-CONNECTOR-PIN>
-              <VEHICLE-CONNECTOR-PIN ID="Vehicle.Pin14" TYPE="LOW"><SHORT-NAME>Low</SHORT-NAME><PIN_NUMBER>14</PIN_NUMBER></VEHICLE-CONNECTOR-PIN>
-            </VEHICLE-CONNECTOR-PINS>
-          </VEHICLE-CONNECTOR>
-        </VEHICLE-CONNECTORS>
-        <LOGICAL-LINKS>
-          <LOGICAL-LINK ID="Vehicle.Gateway" xsi:type="GATEWAY-LOGICAL-LINK">
-            <SHORT-NAME>Gateway</SHORT-NAME>
-            <PHYSICAL-VEHICLE-LINK-REF ID-REF="Vehicle.Bus"/>
-            <SEMANTIC>central</SEMANTIC>
-          </LOGICAL-LINK>
-          <LOGICAL-LINK ID="Vehicle.WiperLink" xsi:type="MEMBER-LOGICAL-LINK">
-            <SHORT-NAME>WiperLink</SHORT-NAME>
-            <GATEWAY-LOGICAL-LINK-REFS><GATEWAY-LOGICAL-LINK-REF ID-REF="Vehicle.Gateway"/></GATEWAY-LOGICAL-LINK-REFS>
-            <PHYSICAL-VEHICLE-LINK-REF ID-REF="Vehicle.Bus"/>
-            <PROTOCOL-REF ID-REF="UdsOnCan" DOCREF="UdsOnCan" DOCTYPE="LAYER"/>
-            <BASE-VARIANT-REF ID-REF="FrontWiper" DOCREF="WiperFamily" DOCTYPE="CONTAINER"/>
-            <ECU-PROXY-REFS><ECU-PROXY-REF ID-REF="Vehicle.Wiper"/></ECU-PROXY-REFS>
-            <LINK-COMPARAM-REFS>
-              <LINK-COMPARAM-REF ID-REF="BodyCommunication.Parameter.P2Max" DOCREF="BodyCommunication"><VALUE>60</VALUE></LINK-COMPARAM-REF>
-            </LINK-COMPARAM-REFS>
-          </LOGICAL-LINK>
-        </LOGICAL-LINKS>
-        <ECU-GROUPS>
-          <ECU-GROUP>
-            <SHORT-NAME>Body</SHORT-NAME>
-            <LOGICAL-LINK-REFS><LOGICAL-LINK-REF ID-REF="Vehicle.WiperLink"/></LOGICAL-LINK-REFS>
-          </ECU-GROUP>
-        </ECU-GROUPS>
-        <PHYSICAL-VEHICLE-LINKS>
-          <PHYSICAL-VEHICLE-LINK ID="Vehicle.Bus" TYPE="ISO_11898_2_DWCAN">
-            <SHORT-NAME>Bus</SHORT-NAME>
-            <VEHICLE-CONNECTOR-PIN-REFS>
-              <VEHICLE-CONNECTOR-PIN-REF ID-REF="Vehicle.Pin6"/>
-              <VEHICLE-CONNECTOR-PIN-REF ID-REF="Vehicle.Pin14"/>
-            </VEHICLE-CONNECTOR-PIN-REFS>
-          </PHYSICAL-VEHICLE-LINK>
-        </PHYSICAL-VEHICLE-LINKS>
-      </VEHICLE-INFORMATION>
-    </VEHICLE-INFORMATIONS>
-  </VEHICLE-INFO-SPEC>
-</ODX>
-"""
+VEHICLE = pathlib.Path(__file__).resolve().parent / "Vehicle.odx-v"
 
 
 class GrammarTest(unittest.TestCase):
@@ -246,10 +188,10 @@ class GrammarTest(unittest.TestCase):
                 self.assertEqual(faults(self.change(document, old, new)), [])
 
     def test_vehicle_information(self):
-        document = self.folder / "Vehicle.odx-v"
-        document.write_text(VEHICLE, encoding="utf-8")
-        self.assertEqual(faults([*DOCUMENTS, document]), [])
-        document.write_text(VEHICLE.replace("GATEWAY-LOGICAL-LINK\"", "MEMBER-LOGICAL-LINK\""), encoding="utf-8")
+        self.assertEqual(faults([*DOCUMENTS, VEHICLE]), [])
+        document = self.folder / VEHICLE.name
+        text = VEHICLE.read_text(encoding="utf-8")
+        document.write_text(text.replace("GATEWAY-LOGICAL-LINK\"", "MEMBER-LOGICAL-LINK\""), encoding="utf-8")
         found = [message for _, _, message in faults([*DOCUMENTS, document])]
         self.assertEqual(found, [
             "SEMANTIC must not stand here in LOGICAL-LINK; expected BASE-VARIANT-REF or ECU-PROXY-REFS or FUNCTIONAL-GROUP-REF"
