@@ -7,6 +7,7 @@
 
 #include <cli/Layers.h>
 #include <cli/Text.h>
+#include <diagkit/model/ParentRefs.h>
 
 namespace NCli {
 namespace {
