@@ -24,8 +24,8 @@ struct VArguments {
     bool isQuiet = false;
     NReader::VReadOptions readOptions; ///< the limits
 
-    std::string kind;                   ///< KIND of `view` and `resolve`
-    std::string name;                   ///< NAME of `resolve`
+    std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
+    std::string name;                   ///< NAME of `resolve` and `explain`
     std::optional<std::string> table;   ///< TABLE of `enums`; an empty one is a name, too
     std::optional<std::string> literal; ///< LITERAL or VALUE of `enums`
     std::string layer;                  ///< --layer: a short name or an ID, as of all selections
@@ -42,6 +42,7 @@ struct VArguments {
 
     bool isDictionary = false;            ///< --dictionary of `traverse`
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
+    std::uint64_t maxCandidates = 1000;   ///< --max-candidates of `explain`
     bool isEach = false;                  ///< --each of `oem`
 
     /// What a word or an option may be where it is one of a few.

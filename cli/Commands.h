@@ -20,6 +20,9 @@ VStatus RunView(VArguments const& arguments, VOutput& output);
 void DeclareResolve(CLI::App& command, VArguments& arguments);
 VStatus RunResolve(VArguments const& arguments, VOutput& output);
 
+void DeclareExplain(CLI::App& command, VArguments& arguments);
+VStatus RunExplain(VArguments const& arguments, VOutput& output);
+
 void DeclareTraverse(CLI::App& command, VArguments& arguments);
 VStatus RunTraverse(VArguments const& arguments, VOutput& output);
 

@@ -32,7 +32,7 @@ VDiagCommSelection SelectDiagComm(VArguments const& arguments, NMemory::VDatabas
         selection.job = FindJob(database, arguments.job, output);
         selection.diagComm = selection.job;
     } else {
-        selection.diagComm = FindDiagComm(database, *selection.layer, arguments.diagComm, output);
+        selection.diagComm = FindDiagComm(database, *selection.layer, arguments.diagComm, arguments.layer, output);
     }
     return selection;
 }

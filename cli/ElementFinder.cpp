@@ -11,6 +11,7 @@
 #include <cli/Layers.h>
 #include <cli/NearNames.h>
 #include <cli/Text.h>
+#include <cli/WhyNot.h>
 #include <diagkit/check/Views.h>
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Odx.h>
@@ -54,13 +55,15 @@ bool IsNamed(VAnyCandidate const& candidate, std::wstring_view wanted) {
            wanted == ByPlaceAndId(candidate);
 }
 
-std::string MissingMessage(std::string_view kind, std::wstring_view wanted, std::vector<VAnyCandidate> const& all) {
+/// With a note that explains it, and near names.
+std::string MissingMessage(std::string_view kind, std::wstring_view wanted, std::vector<VAnyCandidate> const& all,
+                           std::string const& whyNot = "") {
     std::vector<std::wstring_view> names;
     for (VAnyCandidate const& candidate : all) {
         names.emplace_back(candidate.element->GetShortName());
         names.emplace_back(candidate.element->GetId());
     }
-    return fmt::format("no {} has the short name or ID '{}'{}", kind, Shown(wanted), NearNote(wanted, names));
+    return fmt::format("no {} has the short name or ID '{}'{}{}", kind, Shown(wanted), whyNot, NearNote(wanted, names));
 }
 
 /// Whether a way to name elements tells these apart.
@@ -201,7 +204,7 @@ NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string c
 }
 
 NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, std::string const& name,
-                                 VOutput const& output) {
+                                 std::string const& layerInCall, VOutput const& output) {
     VCandidates<NODX201::VDiagComm> visible;
     for (NODX201::VDiagComm* const diagComm : NCheck::DiagCommsIn(layer)) {
         visible.push_back({diagComm});
@@ -218,8 +221,9 @@ NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLay
         output.Complain(fmt::format("'{}' is a MULTIPLE-ECU-JOB; use --job instead of --diag-comm", Shown(wanted)));
         return nullptr;
     }
+    std::string const whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, wanted, layerInCall);
     output.Complain(
-        fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible))));
+        fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible), whyNot)));
     return nullptr;
 }
 

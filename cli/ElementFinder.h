@@ -22,8 +22,8 @@ NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& n
 NMemory::VMemMultipleEcuJob* FindJob(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
 
 /// The first DIAG-COMM of this short name among those visible in the layer; where none has the name, the one of this
-/// ID.
+/// ID. Messages call the layer as the call does.
 NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, std::string const& name,
-                                 VOutput const& output);
+                                 std::string const& layerInCall, VOutput const& output);
 
 } // namespace NCli

@@ -8,18 +8,20 @@
 
 namespace NCli {
 
-void WriteEntry(VJsonWriter& json, NODX201::VOdxElement const& element) {
+void WriteEntryMembers(VJsonWriter& json, NODX201::VOdxElement const& element) {
     NODX201::VDiagLayer const* const layer = LayerAround(element);
     std::string const tag = TagTextOf(element);
-    json.Object([&] {
-        json.TextOrNull("short_name", element.GetShortName());
-        json.Member("element", tag);
-        json.TextOrNull("id", IdOf(element));
-        json.TextOrNull("layer", layer != nullptr ? layer->GetShortName() : L"");
-        if (tag == "PARAM") {
-            json.TextOrNull("type", NODX201::OdxTypeText(element.GetOdxTag()));
-        }
-    });
+    json.TextOrNull("short_name", element.GetShortName());
+    json.Member("element", tag);
+    json.TextOrNull("id", IdOf(element));
+    json.TextOrNull("layer", layer != nullptr ? layer->GetShortName() : L"");
+    if (tag == "PARAM") {
+        json.TextOrNull("type", NODX201::OdxTypeText(element.GetOdxTag()));
+    }
+}
+
+void WriteEntry(VJsonWriter& json, NODX201::VOdxElement const& element) {
+    json.Object([&] { WriteEntryMembers(json, element); });
 }
 
 void WriteEntryOrNull(VJsonWriter& json, std::string_view name, NODX201::VOdxElement const* element) {
@@ -29,6 +31,12 @@ void WriteEntryOrNull(VJsonWriter& json, std::string_view name, NODX201::VOdxEle
     } else {
         json.Value(nullptr);
     }
+}
+
+void WritePlaceMembers(VJsonWriter& json, NQuery::VFilePlace const& place) {
+    json.TextOrNull("file", place.file);
+    json.Member("line", place.line);
+    json.Member("column", place.column);
 }
 
 } // namespace NCli

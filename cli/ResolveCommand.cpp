@@ -19,6 +19,7 @@
 #include <cli/Selections.h>
 #include <cli/Text.h>
 #include <cli/ViewText.h>
+#include <cli/WhyNot.h>
 #include <diagkit/model/DiagVariables.h>
 #include <diagkit/model/Dops.h>
 #include <diagkit/model/Params.h>
@@ -42,6 +43,7 @@ struct VAnswer {
     std::vector<std::wstring_view> names; ///< those visible there
     std::string path{};                   ///< how the search got to what was found, where that is more than its owners
     NODX201::VOdxElement const* other = nullptr; ///< what has the name but is of another kind; null when nothing is
+    std::string whyNot{};                        ///< what becomes of the name on its way to a layer; "" for nothing
 };
 
 template <class Element>
@@ -68,17 +70,22 @@ struct VQuestion {
 
 /// An answer looked up in a layer.
 template <class Resolve, class Names>
-VAnswer InLayer(VQuestion& question, Resolve resolve, Names names) {
+VAnswer InLayer(VQuestion& question, NQuery::VInheritedKind kind, Resolve resolve, Names names) {
     NODX201::VDiagLayer* const layer = FindLayer(question.database, question.arguments.layer, question.output);
     if (layer == nullptr) {
         return {};
     }
-    return {true, ElementOf(resolve(*layer)), Titled(*layer), names(*layer)};
+    VAnswer answer{true, ElementOf(resolve(*layer)), Titled(*layer), names(*layer)};
+    if (answer.found == nullptr) {
+        answer.whyNot = WhyNotNote(question.database, *layer, kind, question.name, question.arguments.layer);
+    }
+    return answer;
 }
 
 VAnswer ResolveDop(VQuestion& question) {
     return InLayer(
-        question, [&](auto& layer) { return question.resolver.ResolveDopBaseSnref(question.name.c_str(), layer); },
+        question, NQuery::VInheritedKind::Dop,
+        [&](auto& layer) { return question.resolver.ResolveDopBaseSnref(question.name.c_str(), layer); },
         [](auto& layer) {
             NDIAGKIT::VOpBuildDopView builder;
             return NamesIn(*std::unique_ptr<NDIAGKIT::VDopView>(builder.CreateDopView(layer)));
@@ -88,7 +95,7 @@ VAnswer ResolveDop(VQuestion& question) {
 VAnswer ResolveDataObjectProp(VQuestion& question) {
     NODX201::VOdxElement const* other = nullptr;
     VAnswer answer = InLayer(
-        question,
+        question, NQuery::VInheritedKind::Dop,
         [&](auto& layer) { return question.resolver.ResolveDataObjectPropSnref(question.name.c_str(), layer); },
         [&](auto& layer) {
             NDIAGKIT::VOpBuildDopView builder;
@@ -109,7 +116,8 @@ VAnswer ResolveDataObjectProp(VQuestion& question) {
 
 VAnswer ResolveDiagComm(VQuestion& question) {
     return InLayer(
-        question, [&](auto& layer) { return question.resolver.ResolveDiagCommSnref(question.name.c_str(), layer); },
+        question, NQuery::VInheritedKind::DiagComm,
+        [&](auto& layer) { return question.resolver.ResolveDiagCommSnref(question.name.c_str(), layer); },
         [](auto& layer) {
             NDIAGKIT::VOpBuildDiagCommView builder;
             return NamesIn(*std::unique_ptr<NDIAGKIT::VDiagCommView>(builder.CreateDiagCommView(layer)));
@@ -118,7 +126,8 @@ VAnswer ResolveDiagComm(VQuestion& question) {
 
 VAnswer ResolveDiagVariable(VQuestion& question) {
     return InLayer(
-        question, [&](auto& layer) { return question.resolver.ResolveDiagVariableSnref(question.name.c_str(), layer); },
+        question, NQuery::VInheritedKind::DiagVariable,
+        [&](auto& layer) { return question.resolver.ResolveDiagVariableSnref(question.name.c_str(), layer); },
         [](auto& layer) {
             NDIAGKIT::VOpBuildDiagVariableView builder;
             return NamesIn(*std::unique_ptr<NDIAGKIT::VDiagVariableView>(builder.CreateDiagVariableView(layer)));
@@ -227,8 +236,8 @@ std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
         return fmt::format("{}, where it is {}", missing, WithArticle(TagTextOf(*answer.other)));
     }
     std::size_t const count = std::set<std::wstring_view>(answer.names.begin(), answer.names.end()).size();
-    return fmt::format("{}, where {} {} visible{}", missing, Counted(count, "name"), count == 1 ? "is" : "are",
-                       NearNote(question.name, answer.names));
+    return fmt::format("{}, where {} {} visible{}{}", missing, Counted(count, "name"), count == 1 ? "is" : "are",
+                       answer.whyNot, NearNote(question.name, answer.names));
 }
 
 void WriteText(VAnswer const& answer, VOutput& output) {

@@ -3,7 +3,6 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include <cli/Output.h>
@@ -12,15 +11,6 @@
 /// Views as text for people.
 
 namespace NCli {
-
-/// Entries that are a layer's own though they stand in another one, each with a note that says why.
-using VReferencedEntries = std::unordered_map<NODX201::VOdxElement const*, std::string>;
-
-/// The entries of a layer's view in groups by the layer they stand in: the own ones first, those that it refers to
-/// included, then the others in the order in which they first occur.
-void WriteEntriesByOrigin(std::string_view title, NODX201::VDiagLayer const& layer,
-                          std::vector<NODX201::VOdxElement const*> const& entries, VReferencedEntries const& referenced,
-                          VOutput& output);
 
 /// The entries of a view in view order, each with a note.
 void WriteEntries(std::string_view title, std::vector<NODX201::VOdxElement const*> const& entries,

@@ -12,6 +12,7 @@ set(internal_headers
     diagkit/tools/ListViewImpl.h
     diagkit/tools/ParamRecursivSearchVisitor.h
     diagkit/tools/ViewBuilder.h
+    diagkit/tools/WayGraph.h
 )
 set(public_headers
     diagkit/check/Check.h
@@ -19,8 +20,11 @@ set(public_headers
     diagkit/check/Cycles.h
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
+    diagkit/query/Explain.h
     diagkit/query/FilePlace.h
     diagkit/query/InheritanceGraph.h
+    diagkit/query/InheritedKind.h
+    diagkit/query/LayerView.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Folder.h
     diagkit/reader/Limits.h

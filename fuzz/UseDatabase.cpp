@@ -7,6 +7,8 @@
 #include <diagkit/check/Cycles.h>
 #include <diagkit/memory/Odx.h>
 #include <diagkit/query/InheritanceGraph.h>
+#include <diagkit/query/Explain.h>
+#include <diagkit/query/LayerView.h>
 #include <diagkit/tools/DiagCommView.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
@@ -24,7 +26,8 @@
 namespace NFuzz {
 namespace {
 
-constexpr std::size_t kSteps = 2000; // of each part
+constexpr std::size_t kSteps = 2000;    // of each part
+constexpr std::size_t kQuestions = 200; // that look at all layers
 
 void Require(bool isTrue) {
     if (!isTrue) {
@@ -129,6 +132,28 @@ void ViewLayer(NODX201::VDiagLayer& layer, VBudget& budget) {
     }
 }
 
+/// A view with reasons, and why its first names are what they are.
+void ExplainLayer(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, VBudget& budget) {
+    using NQuery::VInheritedKind;
+    for (VInheritedKind const kind : {VInheritedKind::DiagComm, VInheritedKind::DiagVariable,
+                                      VInheritedKind::GlobalNegResponse, VInheritedKind::Dop}) {
+        NQuery::VLayerView const view = NQuery::ViewOf(layer, kind);
+        Require(view.entries.size() == NQuery::EntriesOf(layer, kind).size());
+        for (auto const* const entries : {&view.entries, &view.hidden, &view.excluded}) {
+            std::size_t count = 0;
+            for (NQuery::VViewEntry const& entry : *entries) {
+                if (++count > 5 || !budget.Take()) { // each answer looks at all layers
+                    break;
+                }
+                NQuery::VExplanation const explanation =
+                    NQuery::Explain(database, layer, kind, entry.element->GetShortName(), 20);
+                Require(!explanation.candidates.empty());
+                Require(entries != &view.entries || explanation.visible.has_value());
+            }
+        }
+    }
+}
+
 /// Walks a layer until the budget is used up.
 class VBudgetedWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
@@ -183,6 +208,8 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
 
     VBudget views(kSteps);
     ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { ViewLayer(layer, views); });
+    VBudget questions(kQuestions);
+    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { ExplainLayer(database, layer, questions); });
     for (NODX201::VDiagLayerContainer& container : database.GetOdx().DiagLayerContainerCollection()) {
         NDIAGKIT::VProtocolView protocols(container);
         UseNamed(protocols, views);

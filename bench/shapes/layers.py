@@ -119,6 +119,30 @@ def lattice(count):
     }
 
 
+def levels_with_two_parents(count):
+    """So many levels of two BASE-VARIANTs, each with both of the level above as parents: no pass takes them."""
+
+    def level(index):
+        refs = many(2, lambda side: parent("BASE-VARIANT", f"L{index - 1}.{side}")) if index else ""
+        comms = "" if index else service("Read", id_="L0.Read")
+        return many(2, lambda side: layer("BASE-VARIANT", f"L{index}.{side}", PARENT_REFS=refs,
+                                          DIAG_COMMS=comms.replace("L0.Read", f"L0.{side}.Read")))
+
+    last = layer("ECU-VARIANT", "V0", PARENT_REFS=parent("BASE-VARIANT", f"L{count - 1}.0"))
+    return {"c.odx-d": container({"BASE-VARIANTS": many(count, level), "ECU-VARIANTS": last})}
+
+
+def circles_of_parents(count):
+    """BASE-VARIANTs of which each has the two next ones as parents, and the last ones the first."""
+
+    def one(index):
+        refs = many(2, lambda step: parent("BASE-VARIANT", f"B{(index + step + 1) % count}"))
+        return layer("BASE-VARIANT", f"B{index}", DIAG_COMMS=service("Read", id_=f"B{index}.Read"), PARENT_REFS=refs)
+
+    last = layer("ECU-VARIANT", "V0", PARENT_REFS=parent("BASE-VARIANT", "B0"))
+    return {"c.odx-d": container({"BASE-VARIANTS": many(count, one), "ECU-VARIANTS": last})}
+
+
 def long_name_of_a_child(count):
     """A short name that is as long as there are PARENT-REFs in its layer."""
     name = "V" + "x" * (40 * count)

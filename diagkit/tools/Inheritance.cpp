@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <unordered_set>
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/DiagVariables.h>
@@ -219,6 +220,24 @@ std::vector<VParent> ParentsOf(VLayerOfKind const& layer) {
     return parents;
 }
 
+std::vector<VLayerOfKind> LayersAbove(VLayerOfKind const& layer) {
+    std::vector<VLayerOfKind> layers{layer};
+    std::unordered_set<NODX201::VDiagLayer const*> met{layer.layer};
+    for (std::size_t index = 0; index < layers.size(); ++index) {
+        NODX201::VParentRefCollection* const parentRefs = ParentRefsOf(VLayerOfKind(layers[index]), false);
+        if (parentRefs == nullptr) {
+            continue;
+        }
+        for (NODX201::VParentRef& parentRef : *parentRefs) {
+            auto const parent = ParentBy(parentRef);
+            if (parent.has_value() && met.insert(parent->layer).second) {
+                layers.push_back(*parent);
+            }
+        }
+    }
+    return layers;
+}
+
 namespace {
 
 // What a layer has of its own, by kind of element.
@@ -381,7 +400,8 @@ public:
         }
         for (NODX201::VNotInheritedDiagComm& notInherited : parentRef.NotInheritedDiagCommCollection()) {
             NODX201::ILink& link = notInherited.GetDiagCommSnref().GetLink();
-            if (auto const* const snref = dynamic_cast<NODX201::VSnref*>(&link)) {
+            auto const* const snref = dynamic_cast<NODX201::VSnref*>(&link);
+            if (snref != nullptr && m_inheritance.LooksAt(snref->GetShortName())) {
                 std::uint32_t const name = m_inheritance.NumberOf(snref->GetShortName());
                 At(m_level.excludedBy, name) = m_level.reference;
                 m_notes.Exclude(name, notInherited);
@@ -445,6 +465,9 @@ template <class Kind>
 VInheritance<Kind>::VInheritance() = default;
 
 template <class Kind>
+VInheritance<Kind>::VInheritance(std::wstring_view shortName) : m_shortName(shortName) {}
+
+template <class Kind>
 VInheritance<Kind>::~VInheritance() = default;
 
 template <class Kind>
@@ -475,6 +498,17 @@ typename VInheritance<Kind>::VElements VInheritance<Kind>::OwnOf(VLayerOfKind la
     return own;
 }
 
+/// What a layer has of its own, as far as it counts.
+template <class Kind>
+typename VInheritance<Kind>::VElements VInheritance<Kind>::LookedAtOf(VLayerOfKind layer) const {
+    VElements own = OwnOf(layer);
+    if (m_shortName.has_value()) {
+        auto const isOther = [this](Element const* element) { return !LooksAt(element->GetShortName()); };
+        own.erase(std::remove_if(own.begin(), own.end(), isOther), own.end());
+    }
+    return own;
+}
+
 template <class Kind>
 typename VInheritance<Kind>::VList const& VInheritance<Kind>::Kept(VLayerOfKind layer, std::size_t level) {
     auto const kept = m_kept.find(layer.layer);
@@ -490,7 +524,7 @@ typename VInheritance<Kind>::VList const& VInheritance<Kind>::Kept(VLayerOfKind 
 template <class Kind>
 template <class Notes>
 typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, std::size_t level, Notes& notes) {
-    VList list{OwnOf(layer), {}};
+    VList list{LookedAtOf(layer), {}};
     NODX201::VParentRefCollection* const parentRefs = WalkedParentRefs(layer, Kind::kRow);
     if (parentRefs == nullptr && Kind::kRow.showsOwnDoubles && !Notes::kAreTaken) {
         return list;

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -105,6 +106,10 @@ DIAGKIT_EXPORT bool InheritsFrom(VLayerKinds layer, VLayerKinds parent);
 /// The parents from which a layer takes anything by any row of the table, in the order of its PARENT-REFs.
 DIAGKIT_EXPORT std::vector<VParent> ParentsOf(VLayerOfKind const& layer);
 
+/// The layer and all layers that chains of PARENT-REFs lead to, whatever they bring, each once. The layer comes first,
+/// and each PARENT-REF leads to one of the list.
+DIAGKIT_EXPORT std::vector<VLayerOfKind> LayersAbove(VLayerOfKind const& layer);
+
 /// DIAG-COMMs: what the DIAG-COMMS of a layer hold or refer to.
 struct DIAGKIT_EXPORT VInheritedDiagComms {
     using Element = NODX201::VDiagComm;
@@ -160,6 +165,7 @@ public:
     using VElements = std::vector<Element*>;
 
     VInheritance();
+    explicit VInheritance(std::wstring_view shortName); ///< of elements of this short name alone: much cheaper
     ~VInheritance();
     VInheritance(VInheritance const&) = delete;
     VInheritance& operator=(VInheritance const&) = delete;
@@ -205,10 +211,13 @@ private:
 
     template <class Notes>
     VList Make(VLayerOfKind layer, std::size_t level, Notes& notes);
+    VElements LookedAtOf(VLayerOfKind layer) const;
+    bool LooksAt(std::wstring_view shortName) const { return !m_shortName.has_value() || *m_shortName == shortName; }
     VList const& Kept(VLayerOfKind layer, std::size_t level);
     std::uint32_t NumberOf(std::wstring_view shortName);
     void NumberNames(VList& list);
 
+    std::optional<std::wstring> m_shortName;                        // of all that counts; none for any
     std::unordered_map<NODX201::VDiagLayer const*, VList> m_kept;   // parents
     std::unordered_map<std::wstring_view, std::uint32_t> m_numbers; // of short names, whose texts are the model's
     std::array<VLevel, kLevels> m_levels;

@@ -2,102 +2,161 @@
 #include <diagkit/tools/InheritanceNotes.h>
 
 #include <algorithm>
+#include <limits>
+#include <map>
+#include <unordered_set>
 #include <utility>
 
 #include <diagkit/model/Layers.h>
 #include <diagkit/model/ParentRefs.h>
+#include <diagkit/tools/WayGraph.h>
 
 namespace NDIAGKIT {
 
-/// Goes all ways up from a layer, and judges each own element of a name that it meets.
+/// Goes the ways up from a layer, and judges each own element of a name that it meets.
 template <class Kind>
 class VInheritanceNotes<Kind>::VWayFinder {
 public:
-    VWayFinder(VInheritanceNotes& notes, VLayerOfKind layer, std::wstring_view shortName)
-        : m_notes(notes), m_start(layer), m_shortName(shortName) {}
+    VWayFinder(VInheritanceNotes& notes, VLayerOfKind layer, std::wstring_view shortName, std::size_t most)
+        : m_notes(notes), m_shortName(shortName), m_mostWays(most),
+          m_mostSteps(most <= kNoLimit / kStepsOfWay ? kStepsOfWay * most : kNoLimit) {
+        for (VLayerOfKind const& above : LayersAbove(layer)) {
+            m_numbers.try_emplace(above.layer, m_layers.size());
+            m_layers.push_back(LayerWith(above));
+        }
+    }
 
-    std::vector<VWay> Walk() {
-        GoInPasses(m_start);
-        GoAsTheyStand(m_start, 0);
-        return std::move(m_ways);
+    VWays Find() {
+        m_found.leftOut = 0;
+        Go(InPasses(), 1);
+        Go(AsTheyStand(), 2);
+        return std::move(m_found);
     }
 
 private:
-    void GoInPasses(VLayerOfKind const& layer) {
-        AddOwn(layer);
-        for (std::vector<VParent> const& pass : Kind::kRow.ParentsOf(layer)) {
-            for (VParent const& parent : pass) {
-                Enter(parent, [&] { GoInPasses(parent.layer); });
-            }
-        }
-    }
+    static constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+    static constexpr std::size_t kStepsOfWay = 100; // what all ways may have on average
 
-    /// `missing` counts the PARENT-REFs on the way that no pass takes: without one, the way has been gone in passes.
-    void GoAsTheyStand(VLayerOfKind const& layer, int missing) {
-        if (missing != 0) {
-            AddOwn(layer);
-        }
-        NODX201::VParentRefCollection* const parentRefs = ParentRefsOf(layer);
-        if (parentRefs == nullptr) {
-            return;
-        }
-        for (NODX201::VParentRef& parentRef : *parentRefs) {
-            if (auto const parent = ParentBy(parentRef)) {
-                int const more = Kind::kRow.TakesFrom(layer.kind, parent->kind) ? 0 : 1;
-                Enter({&parentRef, *parent}, [&] { GoAsTheyStand(*parent, missing + more); });
-            }
-        }
-    }
+    struct VLayer {
+        VLayerOfKind layer;
+        std::vector<VCandidate const*> own;
+        /// What a PARENT-REF offers; made when it is first asked for.
+        std::map<std::pair<NODX201::VParentRef const*, NODX201::VOdxElement const*>, VCandidate const*> offers;
+        bool knowsOffers = false;
+    };
 
-    template <class Go>
-    void Enter(VParent const& parent, Go const& go) {
-        bool const isEntered = parent.layer.layer == m_start.layer ||
-                               std::any_of(m_path.begin(), m_path.end(), [&parent](VParent const& step) {
-                                   return step.layer.layer == parent.layer.layer;
-                               });
-        if (isEntered) {
-            return;
-        }
-        m_path.push_back(parent);
-        go();
-        m_path.pop_back();
-    }
-
-    void AddOwn(VLayerOfKind const& layer) {
-        std::vector<NODX201::VOdxElement*> seen;
+    /// The layer with its own elements of the name, each once.
+    VLayer LayerWith(VLayerOfKind const& layer) {
+        VLayer found{layer, {}, {}};
+        std::unordered_set<NODX201::VOdxElement const*> seen;
         for (VCandidate const* const candidate : Named(layer)) {
-            bool const isOwn = !candidate->parent.has_value();
-            if (isOwn && std::find(seen.begin(), seen.end(), candidate->element) == seen.end()) {
-                seen.push_back(candidate->element);
-                m_ways.push_back(Judge(layer, *candidate));
+            if (!candidate->parent.has_value() && seen.insert(candidate->element).second) {
+                found.own.push_back(candidate);
             }
         }
+        return found;
+    }
+
+    /// The ways that the passes take.
+    VWayGraph InPasses() const {
+        VWayGraph graph(m_layers.size());
+        for (std::size_t number = 0; number < m_layers.size(); ++number) {
+            graph.SetGoals(number, m_layers[number].own.size());
+            for (std::vector<VParent> const& pass : Kind::kRow.ParentsOf(m_layers[number].layer)) {
+                for (VParent const& parent : pass) {
+                    graph.Add(number, {parent, m_numbers.at(parent.layer.layer)});
+                }
+            }
+        }
+        return graph;
+    }
+
+    /// The ways with a PARENT-REF that no pass takes. Each layer has two states: before such a PARENT-REF, and after.
+    VWayGraph AsTheyStand() const {
+        VWayGraph graph(m_layers.size(), 2);
+        for (std::size_t number = 0; number < m_layers.size(); ++number) {
+            VLayerOfKind const& layer = m_layers[number].layer;
+            graph.SetGoals(2 * number + 1, m_layers[number].own.size());
+            NODX201::VParentRefCollection* const parentRefs = ParentRefsOf(layer, false);
+            if (parentRefs == nullptr) {
+                continue;
+            }
+            for (NODX201::VParentRef& parentRef : *parentRefs) {
+                if (auto const parent = ParentBy(parentRef)) {
+                    std::size_t const to = 2 * m_numbers.at(parent->layer);
+                    std::size_t const missing = Kind::kRow.TakesFrom(layer.kind, parent->kind) ? 0 : 1;
+                    graph.Add(2 * number, {{&parentRef, *parent}, to + missing});
+                    graph.Add(2 * number + 1, {{&parentRef, *parent}, to + 1});
+                }
+            }
+        }
+        return graph;
+    }
+
+    void Go(VWayGraph graph, std::size_t statesOfLayer) {
+        constexpr std::size_t kStart = 0;
+        graph.Prune(kStart);
+        std::size_t const before = m_found.ways.size();
+        bool const isWhole = graph.Walk(kStart, [&](std::size_t state, VWayGraph::VWayEdges const& way) {
+            return AddOwn(m_layers[state / statesOfLayer], way);
+        });
+        if (isWhole || !m_found.leftOut.has_value()) {
+            return;
+        }
+        std::optional<std::uint64_t> const count = graph.Count(kStart);
+        m_found.leftOut = count.has_value() ? std::optional(Rest(*count, m_found.ways.size() - before)) : std::nullopt;
+    }
+
+    std::uint64_t Rest(std::uint64_t count, std::size_t given) const {
+        constexpr std::uint64_t kMost = VWayGraph::kMostCounted;
+        return count == kMost ? kMost : std::min(*m_found.leftOut + (count - given), kMost);
+    }
+
+    /// False when there is no room for all of them.
+    bool AddOwn(VLayer const& owner, VWayGraph::VWayEdges const& way) {
+        for (VCandidate const* const own : owner.own) {
+            if (m_found.ways.size() >= m_mostWays || m_steps > m_mostSteps) {
+                return false;
+            }
+            m_steps += way.size();
+            m_found.ways.push_back(Judge(owner, way, *own));
+        }
+        return true;
     }
 
     /// Follows an own element of the last layer of the way down to the first.
-    VWay Judge(VLayerOfKind const& owner, VCandidate const& own) {
-        VWay way{own.element, m_path, VFate::Visible, nullptr, nullptr, nullptr};
+    VWay Judge(VLayer const& owner, VWayGraph::VWayEdges const& edges, VCandidate const& own) {
+        VWay way{own.element, PathOf(edges), VFate::Visible, nullptr, nullptr, nullptr};
         if (own.hiddenBy != nullptr) {
-            return Stopped(way, VFate::Hidden, owner, own.hiddenBy->element, nullptr);
+            return Stopped(std::move(way), VFate::Hidden, owner.layer, own.hiddenBy->element, nullptr);
         }
-        for (std::size_t step = m_path.size(); step-- > 0;) {
-            VLayerOfKind const& heir = step == 0 ? m_start : m_path[step - 1].layer;
-            VParent const& parent = m_path[step];
-            if (!Kind::kRow.TakesFrom(heir.kind, parent.layer.kind)) {
-                return Stopped(way, VFate::NoPass, heir, nullptr, parent.parentRef);
+        for (std::size_t step = way.path.size(); step-- > 0;) {
+            VLayer& heir = step == 0 ? m_layers.front() : m_layers[m_numbers.at(way.path[step - 1].layer.layer)];
+            VParent const& parent = way.path[step];
+            if (!Kind::kRow.TakesFrom(heir.layer.kind, parent.layer.kind)) {
+                return Stopped(std::move(way), VFate::NoPass, heir.layer, nullptr, parent.parentRef);
             }
             VCandidate const* const offer = OfferedTo(heir, parent, *own.element);
             if (offer == nullptr) { // the parent is named again, and has brought it before
-                return Stopped(way, VFate::Hidden, heir, own.element, nullptr);
+                return Stopped(std::move(way), VFate::Hidden, heir.layer, own.element, nullptr);
             }
             if (offer->hiddenBy != nullptr) {
-                return Stopped(way, VFate::Hidden, heir, offer->hiddenBy->element, nullptr);
+                return Stopped(std::move(way), VFate::Hidden, heir.layer, offer->hiddenBy->element, nullptr);
             }
             if (offer->exclusion != nullptr) {
-                return Stopped(way, VFate::Excluded, heir, nullptr, offer->exclusion);
+                return Stopped(std::move(way), VFate::Excluded, heir.layer, nullptr, offer->exclusion);
             }
         }
         return way;
+    }
+
+    static std::vector<VParent> PathOf(VWayGraph::VWayEdges const& edges) {
+        std::vector<VParent> path;
+        path.reserve(edges.size());
+        for (VWayGraph::VEdge const* const edge : edges) {
+            path.push_back(edge->parent);
+        }
+        return path;
     }
 
     static VWay Stopped(VWay way, VFate fate, VLayerOfKind const& at, NODX201::VOdxElement* by,
@@ -109,14 +168,17 @@ private:
         return way;
     }
 
-    VCandidate const* OfferedTo(VLayerOfKind const& heir, VParent const& parent, NODX201::VOdxElement& element) {
-        for (VCandidate const* const candidate : Named(heir)) {
-            bool const isThere = candidate->parent.has_value() && candidate->parent->parentRef == parent.parentRef;
-            if (isThere && candidate->element == &element) {
-                return candidate;
+    VCandidate const* OfferedTo(VLayer& heir, VParent const& parent, NODX201::VOdxElement const& element) {
+        if (!heir.knowsOffers) {
+            for (VCandidate const* const candidate : Named(heir.layer)) {
+                if (candidate->parent.has_value()) {
+                    heir.offers.try_emplace({candidate->parent->parentRef, candidate->element}, candidate);
+                }
             }
+            heir.knowsOffers = true;
         }
-        return nullptr;
+        auto const offer = heir.offers.find({parent.parentRef, &element});
+        return offer != heir.offers.end() ? offer->second : nullptr;
     }
 
     std::vector<VCandidate const*> const& Named(VLayerOfKind const& layer) {
@@ -127,10 +189,13 @@ private:
     }
 
     VInheritanceNotes& m_notes;
-    VLayerOfKind const m_start;
     std::wstring_view const m_shortName;
-    std::vector<VParent> m_path;
-    std::vector<VWay> m_ways;
+    std::size_t const m_mostWays;
+    std::size_t const m_mostSteps;
+    std::vector<VLayer> m_layers; // that asked about first
+    std::unordered_map<NODX201::VDiagLayer const*, std::size_t> m_numbers;
+    std::size_t m_steps = 0;
+    VWays m_found;
 };
 
 template <class Kind>
@@ -155,8 +220,8 @@ std::vector<VParent> VInheritanceNotes<Kind>::PathOf(VCandidate const& candidate
 }
 
 template <class Kind>
-std::vector<VWay> VInheritanceNotes<Kind>::WaysOf(VLayerOfKind layer, std::wstring_view shortName) {
-    return VWayFinder(*this, layer, shortName).Walk();
+VWays VInheritanceNotes<Kind>::WaysOf(VLayerOfKind layer, std::wstring_view shortName, std::size_t most) {
+    return VWayFinder(*this, layer, shortName, most).Find();
 }
 
 template <class Kind>

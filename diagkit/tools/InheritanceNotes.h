@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <deque>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -32,7 +35,20 @@ struct VWay {
     NODX201::VOdxElement* decidedBy; ///< the NOT-INHERITED-DIAG-COMM, or the PARENT-REF without a pass; null otherwise
 };
 
+/// The ways of a short name to a layer.
+struct VWays {
+    std::vector<VWay> ways;
+    /// How many more there are: exact up to 2^53 - 1, which stands for more as well. None where
+    /// PARENT-REFs run in circles and there may be more: only going all ways would tell.
+    std::optional<std::uint64_t> leftOut = 0;
+};
+
+/// How many ways are given where nobody asks for another number.
+inline constexpr std::size_t kMostWays = 1000;
+
 /// Tells how elements of one kind come to layers. Each layer's merge is noted when it is first asked for, and kept.
+///
+/// With a `VInheritance` of one short name, only that one can be asked for.
 ///
 /// An object serves any number of layers, for as long as nothing in the model changes and the `VInheritance` lives that
 /// it was made with. It owns no element. What it hands out by reference lives as long as it does.
@@ -56,9 +72,12 @@ public:
     /// on which it could come; no way enters a layer twice. First the ways that the passes take, depth first, in the
     /// order in which they look; then those with a PARENT-REF that no pass takes, each layer before its parents, these
     /// as their PARENT-REFs stand. PARENT-REFs without a target, and of no known kind, lead nowhere. An element that a
-    /// layer lists twice counts once; of several own ones of the name the first counts and hides the others. It takes
-    /// as long as there are ways, which in odd data are many more than layers.
-    std::vector<VWay> WaysOf(VLayerOfKind layer, std::wstring_view shortName);
+    /// layer lists twice counts once; of several own ones of the name the first counts and hides the others.
+    ///
+    /// In odd data there are many more ways than layers. They are counted, and the first `most` are given: fewer when
+    /// they have more than a hundred PARENT-REFs each, or where many PARENT-REFs run in circles and lead to dead ends.
+    /// So it takes time in proportion to the layers, their PARENT-REFs and what is given.
+    VWays WaysOf(VLayerOfKind layer, std::wstring_view shortName, std::size_t most = kMostWays);
 
 private:
     struct VLayerNotes {

@@ -7,6 +7,7 @@ _diagkit() {
     layers) options="--help --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     view) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
     resolve) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
+    explain) options="--help --layer --max-candidates --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comm diag-variable global-neg-response dop" ;;
     traverse) options="--help --layer --dictionary --max-visits --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     oem) options="--help --each --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
@@ -30,6 +31,7 @@ _diagkit() {
     --job) answers="" ;;
     --flash) answers="" ;;
     --range) answers="0 1 2 3 4 5" ;;
+    --max-candidates) answers="" ;;
     --max-visits) answers="" ;;
     --format) answers="text json sarif" ;;
     --fail-on) answers="error warning" ;;
@@ -38,7 +40,7 @@ _diagkit() {
     --baseline) answers="" ;;
     *)
         if ((COMP_CWORD == 1)); then
-            answers="info layers view resolve traverse oem enums check --help --version"
+            answers="info layers view resolve explain traverse oem enums check --help --version"
         elif [[ $word == -* ]]; then
             answers=$options
         elif ((COMP_CWORD == 2)); then

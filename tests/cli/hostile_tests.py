@@ -47,12 +47,13 @@ for line in sys.stdin:
 
 
 class Call:
-    """What `diagkit info` with these options came to: its status, diagnostics, and the most memory that it had."""
+    """What `diagkit info`, or another question, with these options came to: its status, diagnostics, and the most
+    memory that it had."""
 
     runner = None
 
-    def __init__(self, path, *options):
-        words = [*PROGRAM, "info", "--json", str(path), *options]
+    def __init__(self, path, *options, question=("info",)):
+        words = [*PROGRAM, *question, "--json", str(path), *options]
         print(json.dumps(words), file=Call.runner.stdin, flush=True)
         self.status, self.lines, self.memory, self.seconds = json.loads(Call.runner.stdout.readline())
 
@@ -239,6 +240,40 @@ class Hostile(unittest.TestCase):
         self.assertLess(call.seconds, LONGEST)
 
     # Entities
+
+    def explain(self, layers):
+        """Asks for Read in V0, of BASE-VARIANTs whose parents these are, which no pass takes; Top alone has it."""
+        def layer(name, parents):
+            refs = "".join(f'<PARENT-REF ID-REF="{parent}" xsi:type="BASE-VARIANT-REF"/>' for parent in parents)
+            comms = '<DIAG-SERVICE ID="Read"><SHORT-NAME>Read</SHORT-NAME></DIAG-SERVICE>' if name == "Top" else ""
+            return (f'<BASE-VARIANT ID="{name}"><SHORT-NAME>{name}</SHORT-NAME><DIAG-COMMS>{comms}</DIAG-COMMS>'
+                    f"<PARENT-REFS>{refs}</PARENT-REFS></BASE-VARIANT>")
+
+        head = HEAD.replace(b"<ODX ", b'<ODX xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" ')
+        text = "".join(layer(name, parents) for name, parents in {**layers, "Top": []}.items())
+        path = self.write("ways.odx", head, f"<BASE-VARIANTS>{text}</BASE-VARIANTS>".encode(), TAIL)
+        call = Call(path, "--layer", "V0", "--quiet", question=("explain", "diag-comm", "Read"))
+        self.assertEqual(call.status, 1, call.lines)
+        self.assertLess(call.seconds, LONGEST)
+        if IS_MEASURED:
+            self.assertLess(call.memory - self.least, 400 * MEBIBYTE)
+
+    def test_ways_that_double_at_each_level_are_counted(self):
+        levels = {f"V{level}": [f"V{level + 1}"] * 2 for level in range(20000)}
+        self.explain({**levels, "V20000": ["Top"]})
+
+    def test_a_chain_of_parents_is_no_deeper_than_its_memory(self):
+        chain = {f"V{level}": [f"V{level + 1}"] for level in range(100000)}
+        self.explain({**chain, "V100000": ["Top"]})
+
+    def test_layers_that_are_all_parents_of_each_other_end(self):
+        names = [f"V{number}" for number in range(150)]
+        self.explain({**{name: names for name in names}, "V1": [*names, "Top"]})
+
+    def test_long_ways_in_a_large_circle_end(self):
+        names = [f"V{number}" for number in range(20000)]
+        ring = {name: [names[number - 1], names[number - 2]] for number, name in enumerate(names)}
+        self.explain({**ring, "V10000": ["V9999", "V9998", "Top"]})
 
     def test_entities_that_multiply_are_not_expanded(self):
         entities = b'<!ENTITY a0 "ha">' + b"".join(

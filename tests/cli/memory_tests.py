@@ -122,6 +122,11 @@ class MemoryThatRunsOut(unittest.TestCase):
         self.see_as_text_and_json("resolve", "diag-comm", "DIAG-SERVICE-2000", self.folder / "services.odx-d",
                                   "--layer", "P")
 
+    def test_explain(self):
+        self.see_as_text_and_json("explain", "diag-comm", "DIAG-SERVICE-1999", self.folder / "services.odx-d",
+                                  "--layer", "P")
+        self.see_as_text_and_json("explain", "diag-comm", "ReadTroubleCodes", SAMPLE, "--layer", "FrontWiperBasic")
+
     def test_traverse(self):
         self.see_as_text_and_json("traverse", self.folder / "services.odx-d", "--layer", "P")
 

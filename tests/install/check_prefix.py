@@ -27,7 +27,13 @@ PUBLIC = {
     "conformance": {"Conformance.h", "Reference.h"},
     "reader": {"Diagnostic.h", "Folder.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
-    "query": {"FilePlace.h", "InheritanceGraph.h"},
+    "query": {
+        "Explain.h",
+        "FilePlace.h",
+        "InheritanceGraph.h",
+        "InheritedKind.h",
+        "LayerView.h",
+    },
 }
 FILES = """
     LIB/libdiagkit_check.a LIB/libdiagkit_conformance.a LIB/libdiagkit_memory.a LIB/libdiagkit_query.a

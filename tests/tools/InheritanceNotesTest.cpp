@@ -68,7 +68,9 @@ std::wstring Lines(Things const& things) {
 class VInheritanceNotesTest : public VGraphTest {
 protected:
     std::wstring Candidates(wchar_t const* layer) { return Lines(m_notes.CandidatesOf(Layer(layer))); }
-    std::wstring Ways(wchar_t const* layer, wchar_t const* name) { return Lines(m_notes.WaysOf(Layer(layer), name)); }
+    std::wstring Ways(wchar_t const* layer, wchar_t const* name) {
+        return Lines(m_notes.WaysOf(Layer(layer), name).ways);
+    }
 
     NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDiagComms> m_inheritance;
     NDIAGKIT::VInheritanceNotes<NDIAGKIT::VInheritedDiagComms> m_notes{m_inheritance};
@@ -163,7 +165,7 @@ TEST_F(VInheritanceNotesTest, WaysThatNoPassTakesComeLast) {
 Read@Bv<Bv visible
 Read@Uds<Bv<Uds hidden in Bv by Read@Bv
 Read@Uds<Uds no pass in Ecu)");
-    EXPECT_EQ(m_notes.WaysOf(Layer(L"Ecu"), L"Read").back().decidedBy,
+    EXPECT_EQ(m_notes.WaysOf(Layer(L"Ecu"), L"Read").ways.back().decidedBy,
               &*NDIAGKIT::ParentRefsOf(Layer(L"Ecu"))->Begin());
 }
 
@@ -192,7 +194,7 @@ void CompareWithViews(MakeGraph makeGraph) {
                     continue;
                 }
                 visible.push_back(candidate.element);
-                std::vector<VWay> ways = notes.WaysOf(graph->Layer(layer.name), candidate.element->GetShortName());
+                std::vector<VWay> ways = notes.WaysOf(graph->Layer(layer.name), candidate.element->GetShortName()).ways;
                 ways.erase(std::remove_if(ways.begin(), ways.end(),
                                           [](VWay const& way) { return way.fate != VFate::Visible; }),
                            ways.end());

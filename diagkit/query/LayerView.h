@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <vector>
+
+#include <diagkit/model/Forward.h>
+#include <diagkit/query/InheritedKind.h>
+#include <diagkit/tools/InheritanceNotes.h>
+
+/// What is visible in a layer, with the reasons.
+
+namespace NQuery {
+
+/// An element as a layer has it, or would have it.
+struct VViewEntry {
+    NODX201::VOdxElement* element;
+    std::vector<NDIAGKIT::VParent> path; ///< from the layer to the one that has the element; empty for an own one
+    NODX201::VOdxElement* hiddenBy;      ///< of a hidden one, what the layer has under its short name; null otherwise
+    NODX201::VOdxElement* exclusion;     ///< of an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
+};
+
+/// A view and what is left out of it.
+struct VLayerView {
+    std::vector<VViewEntry> entries; ///< what is visible, in view order
+    /// What the layer's own elements and its parents offer besides, in the order in which the passes look. What is
+    /// visible after all is in neither list; what is offered several times is in one, once, as it was offered first.
+    std::vector<VViewEntry> hidden;
+    std::vector<VViewEntry> excluded;
+};
+
+/// The view of a layer, with reasons. It points into the model.
+VLayerView ViewOf(NODX201::VDiagLayer& layer, VInheritedKind kind);
+
+/// What is visible in a layer, in view order.
+std::vector<NODX201::VOdxElement*> EntriesOf(NODX201::VDiagLayer& layer, VInheritedKind kind);
+
+} // namespace NQuery
