@@ -20,6 +20,7 @@ set(public_headers
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
     diagkit/query/FilePlace.h
+    diagkit/query/Uses.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Limits.h
     diagkit/reader/OdxReader.h
