@@ -25,7 +25,7 @@ struct VArguments {
     NReader::VReadOptions readOptions; ///< the limits
 
     std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
-    std::string name;                   ///< NAME of `resolve` and `explain`
+    std::string name;                   ///< NAME of `resolve`, `explain` and `uses`
     std::optional<std::string> table;   ///< TABLE of `enums`; an empty one is a name, too
     std::optional<std::string> literal; ///< LITERAL or VALUE of `enums`
     std::string layer;                  ///< --layer: a short name or an ID, as of all selections
@@ -44,6 +44,8 @@ struct VArguments {
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
     std::uint64_t maxCandidates = 1000;   ///< --max-candidates of `explain`
     bool isEach = false;                  ///< --each of `oem`
+    std::string tag;                      ///< --kind of `uses`: a tag of ODX, "" for any
+    bool isUnused = false;                ///< --unused of `uses`
 
     /// What a word or an option may be where it is one of a few.
     std::map<CLI::Option const*, std::vector<std::string>> choices;

@@ -35,4 +35,7 @@ VStatus RunOem(VArguments const& arguments, VOutput& output);
 void DeclareCheck(CLI::App& command, VArguments& arguments);
 VStatus RunCheck(VArguments const& arguments, VOutput& output);
 
+void DeclareUses(CLI::App& command, VArguments& arguments);
+VStatus RunUses(VArguments const& arguments, VOutput& output);
+
 } // namespace NCli

@@ -37,6 +37,15 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
     return VStatus::Unreadable;
 }
 
+VStatus LoadAndTell(VArguments const& arguments, bool keepsElements, VOutput const& output,
+                    NReader::VReadResult& result) {
+    result = Read(arguments, keepsElements);
+    if (!arguments.isQuiet) {
+        PrintDiagnostics(result.diagnostics);
+    }
+    return Judge(arguments, output, result);
+}
+
 } // namespace
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic) { return Shown(FormatDiagnostic(diagnostic)) + "\n"; }
@@ -49,11 +58,11 @@ std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
 }
 
 VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
-    result = Read(arguments, false);
-    if (!arguments.isQuiet) {
-        PrintDiagnostics(result.diagnostics);
-    }
-    return Judge(arguments, output, result);
+    return LoadAndTell(arguments, false, output, result);
+}
+
+VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
+    return LoadAndTell(arguments, true, output, result);
 }
 
 void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {

@@ -11,7 +11,10 @@ namespace NCli {
 /// `Done` only, and then has a database.
 VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
-/// The same with every element kept, for a command whose answer holds the diagnostics: none go to standard error.
+/// The same with every element kept, for a command that looks at all of them.
+VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
+
+/// The same for a command whose answer holds the diagnostics: none go to standard error.
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
 void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics); ///< on standard error

@@ -39,6 +39,7 @@ constexpr std::array kCommands{
     VCommand{"oem",      "Whose habits a database shows, and why no other's",             &DeclareOem,      &RunOem},
     VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
     VCommand{"check",    "Everything that is wrong with the files, or looks like it",    &DeclareCheck,    &RunCheck},
+    VCommand{"uses",     "The references that lead to an element, or what none leads to",   &DeclareUses,     &RunUses},
 };
 // clang-format on
 

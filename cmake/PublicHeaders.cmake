@@ -25,6 +25,7 @@ set(public_headers
     diagkit/query/InheritanceGraph.h
     diagkit/query/InheritedKind.h
     diagkit/query/LayerView.h
+    diagkit/query/Uses.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Folder.h
     diagkit/reader/Limits.h

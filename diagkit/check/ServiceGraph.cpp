@@ -6,6 +6,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include <diagkit/check/Messages.h>
 #include <diagkit/model/Params.h>
 
 namespace NCheck {
@@ -25,19 +26,7 @@ void VServiceGraph::AddService(NODX201::VDiagService& service) {
     VNode const node = m_elements.size();
     m_elements.push_back(nullptr);
     m_to.emplace_back();
-    if (service.HasRequestRef() && service.GetRequestRef().HasRequest()) {
-        AddWay(node, service.GetRequestRef().GetRequest());
-    }
-    for (NODX201::VPosResponseLink& link : service.PosResponseLinkCollection()) {
-        if (link.HasPosResponse()) {
-            AddWay(node, link.GetPosResponse());
-        }
-    }
-    for (NODX201::VNegResponseLink& link : service.NegResponseLinkCollection()) {
-        if (link.HasNegResponse()) {
-            AddWay(node, link.GetNegResponse());
-        }
-    }
+    ForEachMessage(service, [this, node](NODX201::VReferencable& message) { AddWay(node, message); });
 }
 
 void VServiceGraph::AddWay(VNode from, NODX201::VReferencable& to) {
@@ -195,7 +184,7 @@ void VServiceGraph::CollectNames() {
         }
         for (NODX201::VParam& param : *params) {
             if (dynamic_cast<NODX201::VValue*>(&param) != nullptr) {
-                m_holders[param.GetShortName()].insert(node);
+                m_holders[param.GetShortName()].emplace(node, &param);
             }
         }
     }
@@ -234,29 +223,59 @@ void VServiceGraph::LookBelow(VGroup group) {
     }
 }
 
-/// Looks at whatever is fewer.
-bool VServiceGraph::HasCommon(std::unordered_set<VNode> const& holders) const {
+/// Whether `take` says so for one of the parameters that stand in what was looked at last; looks at whatever is fewer.
+template <class Take>
+bool VServiceGraph::AnyBelow(VHolders const& holders, Take take) const {
     if (holders.size() < m_below.size()) {
-        return std::any_of(holders.begin(), holders.end(), [this](VNode node) { return m_isBelow.count(node) != 0; });
+        return std::any_of(holders.begin(), holders.end(), [&](VHolders::value_type const& holder) {
+            return m_isBelow.count(holder.first) != 0 && take(*holder.second);
+        });
     }
-    return std::any_of(m_below.begin(), m_below.end(), [&holders](VNode node) { return holders.count(node) != 0; });
+    return std::any_of(m_below.begin(), m_below.end(), [&](VNode node) {
+        auto const holder = holders.find(node);
+        return holder != holders.end() && take(*holder->second);
+    });
+}
+
+std::optional<VServiceGraph::VGroup> VServiceGraph::GroupOf(NODX201::VEnvDataDesc& envDataDesc) const {
+    auto const node = m_nodes.find(&envDataDesc);
+    return node != m_nodes.end() ? std::optional(m_groups[m_components[node->second]]) : std::nullopt;
 }
 
 std::optional<bool> VServiceGraph::HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName) {
-    auto const node = m_nodes.find(&envDataDesc);
-    if (node == m_nodes.end()) {
+    std::optional<VGroup> const group = GroupOf(envDataDesc);
+    if (!group.has_value()) {
         return std::nullopt;
     }
-    VGroup const group = m_groups[m_components[node->second]];
-    auto const known = m_answers.find({group, shortName});
+    auto const known = m_answers.find({*group, shortName});
     if (known != m_answers.end()) {
         return known->second;
     }
-    LookBelow(group);
+    LookBelow(*group);
     auto const holders = m_holders.find(shortName);
-    bool const hasParam = holders != m_holders.end() && HasCommon(holders->second);
-    m_answers.emplace(std::pair(group, shortName), hasParam);
+    bool const hasParam =
+        holders != m_holders.end() && AnyBelow(holders->second, [](NODX201::VOdxElement&) { return true; });
+    m_answers.emplace(VQuestion(*group, shortName), hasParam);
     return hasParam;
+}
+
+std::vector<NODX201::VOdxElement*> const& VServiceGraph::ParamsFor(NODX201::VEnvDataDesc& envDataDesc,
+                                                                   std::wstring_view shortName) {
+    static std::vector<NODX201::VOdxElement*> const none;
+    std::optional<VGroup> const group = GroupOf(envDataDesc);
+    auto const holders = m_holders.find(shortName);
+    if (!group.has_value() || holders == m_holders.end()) {
+        return none;
+    }
+    auto const [answer, isNew] = m_params.try_emplace({*group, shortName});
+    if (isNew) {
+        LookBelow(*group);
+        AnyBelow(holders->second, [&params = answer->second](NODX201::VOdxElement& param) {
+            params.push_back(&param);
+            return false;
+        });
+    }
+    return answer->second;
 }
 
 } // namespace NCheck

@@ -24,6 +24,10 @@ public:
     /// to; nothing where none leads to it.
     std::optional<bool> HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName);
 
+    /// All these parameters; of several in one STRUCTURE or message, the first.
+    std::vector<NODX201::VOdxElement*> const& ParamsFor(NODX201::VEnvDataDesc& envDataDesc,
+                                                        std::wstring_view shortName);
+
 private:
     using VNode = std::size_t;
     /// Nodes that lead to one another, in whatever circles, are one component.
@@ -32,6 +36,9 @@ private:
     using VGroup = std::size_t;
 
     class VComponentSearch;
+
+    using VHolders = std::unordered_map<VNode, NODX201::VOdxElement*>; ///< the parameters that nodes have
+    using VQuestion = std::pair<VGroup, std::wstring_view>;
 
     void AddService(NODX201::VDiagService& service);
     void AddWay(VNode from, NODX201::VReferencable& to);
@@ -42,18 +49,21 @@ private:
     void CollectNames();
     std::vector<VNode> ServicesOf(VGroup group) const;
     void LookBelow(VGroup group);
-    bool HasCommon(std::unordered_set<VNode> const& holders) const;
+    std::optional<VGroup> GroupOf(NODX201::VEnvDataDesc& envDataDesc) const;
+    template <class Take>
+    bool AnyBelow(VHolders const& holders, Take take) const;
 
     std::vector<NODX201::VReferencable*> m_elements; // by node; null for a service
     std::vector<std::vector<VNode>> m_to;            // by node
     std::unordered_map<NODX201::VReferencable*, VNode> m_nodes;
-    std::unordered_map<std::wstring_view, std::unordered_set<VNode>> m_holders; // of VALUE parameters, by short name
-    std::vector<VComponent> m_components;                                       // by node
-    std::vector<VGroup> m_groups;                                               // by component
-    std::vector<std::vector<VGroup>> m_groupContainers;                         // by group; empty for that of a service
-    std::vector<VNode> m_groupService; // by group; the service where it is that of one
+    std::unordered_map<std::wstring_view, VHolders> m_holders; // of VALUE parameters, by short name
+    std::vector<VComponent> m_components;                      // by node
+    std::vector<VGroup> m_groups;                              // by component
+    std::vector<std::vector<VGroup>> m_groupContainers;        // by group; empty for that of a service
+    std::vector<VNode> m_groupService;                         // by group; the service where it is that of one
     std::map<std::vector<VGroup>, VGroup> m_groupsByContainers;
-    std::map<std::pair<VGroup, std::wstring_view>, bool> m_answers;
+    std::map<VQuestion, bool> m_answers;
+    std::map<VQuestion, std::vector<NODX201::VOdxElement*>> m_params;
     std::vector<VNode> m_below; // what the services of the group that was asked about last lead to
     std::unordered_set<VNode> m_isBelow;
     std::optional<VGroup> m_asked;

@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include <diagkit/check/ReadingPlaces.h>
 #include <diagkit/check/Topics.h>
 #include <diagkit/check/VisibleNames.h>
 #include <diagkit/memory/Flash.h>
@@ -14,6 +15,7 @@ namespace {
 /// A reference by short name, and in how many of the layers tried it names nothing.
 struct VPending {
     NODX201::VLink* reference;
+    VWantedName wanted;
     NODX201::VDiagLayer* latest = nullptr; ///< of the layers tried
     std::size_t tried = 0;
     std::size_t failed = 0;
@@ -21,88 +23,27 @@ struct VPending {
     NMemory::VMemMultipleEcuJobSpec* spec = nullptr; ///< that it stands in, and that does not have the name itself
 };
 
-/// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
-/// Null where there is none.
-NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference) {
-    NODX201::VOdxElement* anchor = nullptr;
-    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
-        bool const isAnchor = dynamic_cast<NODX201::VDiagComm*>(object) != nullptr ||
-                              dynamic_cast<NODX201::VRequest*>(object) != nullptr ||
-                              dynamic_cast<NODX201::VResponse*>(object) != nullptr ||
-                              dynamic_cast<NODX201::VDopBase*>(object) != nullptr ||
-                              dynamic_cast<NODX201::VDiagVariable*>(object) != nullptr;
-        if (isAnchor) {
-            anchor = dynamic_cast<NODX201::VOdxElement*>(object); // the outermost: ENV-DATA stands in an ENV-DATA-DESC
-        }
+/// What messages say that a reference wants.
+char const* TextOf(VWantedName wanted) {
+    switch (wanted) {
+    case VWantedName::Dop:
+        return "no DOP of that name is visible";
+    case VWantedName::DataObjectProp:
+        return "no DATA-OBJECT-PROP of that name is visible";
+    case VWantedName::DiagComm:
+        return "no DIAG-COMM of that name is visible";
+    case VWantedName::Protocol:
+        return "there is no PROTOCOL of that name in the container nor among the parents";
+    case VWantedName::Table:
+        return "there is no TABLE of that name among its own and its parents'";
+    case VWantedName::ParamOfMessages:
+        return "no DIAG-SERVICE that leads to it has an output parameter of that name";
+    case VWantedName::OutParam:
+        return "the DIAG-COMM has no output parameter of that name";
+    case VWantedName::InParam:
+        break;
     }
-    return anchor;
-}
-
-/// The layers in which a reference of flash data is read.
-std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& reference) {
-    std::vector<NODX201::VDiagLayer*> layers;
-    for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
-        auto* const connector = dynamic_cast<NMemory::VMemEcuMemConnector*>(object);
-        if (connector == nullptr) {
-            continue;
-        }
-        for (NMemory::VMemDiagLayerLink& link : connector->DiagLayerLinkCollection()) {
-            if (link.HasDiagLayer()) {
-                layers.push_back(&link.GetDiagLayer());
-            }
-        }
-    }
-    return layers;
-}
-
-/// The layers that the jobs of a MULTIPLE-ECU-JOB-SPEC run in; nothing when one of them is not loaded.
-std::optional<std::vector<NODX201::VDiagLayer*>> LayersOfJobs(NMemory::VMemMultipleEcuJobSpec& spec) {
-    std::vector<NODX201::VDiagLayer*> layers;
-    for (NMemory::VMemMultipleEcuJob& job : spec.MultipleEcuJobCollection()) {
-        for (NMemory::VMemDiagLayerLink& link : job.DiagLayerLinkCollection()) {
-            if (!link.HasDiagLayer()) {
-                return std::nullopt;
-            }
-            layers.push_back(&link.GetDiagLayer());
-        }
-    }
-    return layers;
-}
-
-struct VWanted {
-    bool (*is)(NODX201::VLink& reference);
-    char const* what;
-};
-
-template <class Link>
-bool Is(NODX201::VLink& reference) {
-    return dynamic_cast<Link*>(&reference) != nullptr;
-}
-
-/// The PARAM-SNREF of an ENV-DATA-DESC, which is read in whatever message leads to it.
-bool IsOfEnvDataDesc(NODX201::VLink& reference) {
-    return dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner()) != nullptr;
-}
-
-/// The references that layers resolve, and what they want there.
-constexpr VWanted kWanted[] = {
-    {&Is<NODX201::VDopBaseLink>, "no DOP of that name is visible"},
-    {&Is<NODX201::VDataObjectPropLink>, "no DATA-OBJECT-PROP of that name is visible"},
-    {&Is<NODX201::VDiagCommLink>, "no DIAG-COMM of that name is visible"},
-    {&Is<NMemory::VMemProtocolSnref>, "there is no PROTOCOL of that name in the container nor among the parents"},
-    {&Is<NODX201::VTableLink>, "there is no TABLE of that name among its own and its parents'"},
-    {&IsOfEnvDataDesc, "no DIAG-SERVICE that leads to it has an output parameter of that name"},
-    {&Is<NODX201::VOutParamIfLink>, "the DIAG-COMM has no output parameter of that name"},
-    {&Is<NMemory::VMemInParamIfLink>, "the DIAG-COMM has no input parameter of that name"},
-};
-
-char const* WantedBy(NODX201::VLink& reference) {
-    for (VWanted const& row : kWanted) {
-        if (row.is(reference)) {
-            return row.what;
-        }
-    }
-    return nullptr;
+    return "the DIAG-COMM has no input parameter of that name";
 }
 
 std::string Named(NODX201::VLink& reference) {
@@ -115,8 +56,9 @@ public:
     explicit VShortNameReferences(VChecked const& checked) : m_checked(checked) {
         for (NODX201::VOdxElement* const element : checked.elements) {
             auto* const reference = dynamic_cast<NODX201::VLink*>(element);
-            if (reference != nullptr && IsByShortName(*reference) && WantedBy(*reference) != nullptr) {
-                Add(*reference);
+            auto const wanted = reference != nullptr ? WantedNameOf(*reference) : std::nullopt;
+            if (wanted.has_value()) {
+                Add(*reference, *wanted);
             }
         }
     }
@@ -146,14 +88,9 @@ private:
         VIndices pending{};
     };
 
-    static bool IsByShortName(NODX201::VLink& reference) {
-        auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
-        return snref != nullptr && *snref->GetShortName() != L'\0';
-    }
-
-    void Add(NODX201::VLink& reference) {
+    void Add(NODX201::VLink& reference, VWantedName wanted) {
         std::size_t const index = m_pending.size();
-        m_pending.push_back({&reference});
+        m_pending.push_back({&reference, wanted});
         if (NODX201::VDiagLayer* const home = NDIAGKIT::LayerOf(reference)) {
             m_at[home].push_back(index);
             if (NODX201::VOdxElement* const anchor = AnchorOf(reference)) {
@@ -172,7 +109,6 @@ private:
 
     /// What the dictionary of the job's document does not have, the layers in which its jobs run may.
     void AddOfSpec(NMemory::VMemMultipleEcuJobSpec& spec, std::size_t index) {
-        NODX201::VLink& reference = *m_pending[index].reference;
         auto const [known, isNew] = m_specs.try_emplace(&spec, spec);
         VSpec& of = known->second;
         if (isNew && of.layers.has_value()) {
@@ -180,52 +116,24 @@ private:
                 m_specsOf[layer].insert(&of);
             }
         }
-        if (IsOfEnvDataDesc(reference) || of.names.Resolves(reference) || !of.layers.has_value()) {
+        VPending& pending = m_pending[index];
+        if (pending.wanted == VWantedName::ParamOfMessages || of.names.Find(*pending.reference) != nullptr ||
+            !of.layers.has_value()) {
             return;
         }
-        m_pending[index].spec = &spec;
+        pending.spec = &spec;
         of.pending.push_back(index);
     }
 
     void TryIn(NODX201::VDiagLayer& layer) {
         VVisibleNames names(layer, m_checked.views);
-        TryAt(layer, names, layer);
         if (auto const specs = m_specsOf.find(&layer); specs != m_specsOf.end()) {
             for (VSpec const* const spec : specs->second) {
                 Try(spec->pending, names, layer);
             }
         }
-        for (NODX201::VDiagComm* const diagComm : names.DiagComms()) {
-            TryAt(*diagComm, names, layer);
-            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
-                TryMessages(*service, names, layer);
-            }
-        }
-        for (NODX201::VDopBase* const dop : names.Dops()) {
-            TryAt(*dop, names, layer);
-        }
-        for (NODX201::VDiagVariable* const variable : m_checked.views.diagVariables.EntriesOf(layer)) {
-            TryAt(*variable, names, layer);
-        }
-        for (NODX201::VGlobalNegResponse* const response : m_checked.views.globalNegResponses.EntriesOf(layer)) {
-            TryAt(*response, names, layer);
-        }
-    }
-
-    void TryMessages(NODX201::VDiagService& service, VVisibleNames& names, NODX201::VDiagLayer& layer) {
-        if (service.HasRequestRef() && service.GetRequestRef().HasRequest()) {
-            TryAt(service.GetRequestRef().GetRequest(), names, layer);
-        }
-        for (NODX201::VPosResponseLink& link : service.PosResponseLinkCollection()) {
-            if (link.HasPosResponse()) {
-                TryAt(link.GetPosResponse(), names, layer);
-            }
-        }
-        for (NODX201::VNegResponseLink& link : service.NegResponseLinkCollection()) {
-            if (link.HasNegResponse()) {
-                TryAt(link.GetNegResponse(), names, layer);
-            }
-        }
+        ForEachPlaceIn(layer, names, m_checked.views,
+                       [&](NODX201::VOdxElement const& place) { TryAt(place, names, layer); });
     }
 
     /// Tries the references that stand in an element, once in each layer.
@@ -262,13 +170,13 @@ private:
             return;
         }
         bool const isNowhere = pending.failed == pending.tried;
-        if (!isNowhere && Is<NMemory::VMemProtocolSnref>(*pending.reference)) {
+        if (!isNowhere && pending.wanted == VWantedName::Protocol) {
             return; // it says for which PROTOCOL something holds, and not every layer has that one
         }
         char const* const rest = isNowhere ? "" : "; it is in the other layers that see the reference";
-        findings.Add(
-            PositionOf(*pending.reference), isNowhere ? NCode::UnresolvedShortName : NCode::ShortNameNotEverywhere,
-            Named(*pending.reference) + ", but " + WantedBy(*pending.reference) + ' ' + PlacesOf(pending) + rest);
+        findings.Add(PositionOf(*pending.reference),
+                     isNowhere ? NCode::UnresolvedShortName : NCode::ShortNameNotEverywhere,
+                     Named(*pending.reference) + ", but " + TextOf(pending.wanted) + ' ' + PlacesOf(pending) + rest);
     }
 
     static std::string PlacesOf(VPending const& pending) {

@@ -3,6 +3,8 @@
 
 #include <unordered_set>
 
+#include <diagkit/check/Messages.h>
+#include <diagkit/check/ReadingPlaces.h>
 #include <diagkit/reader/Containment.h>
 #include <diagkit/tools/ParamWalk.h>
 
@@ -33,11 +35,13 @@ std::vector<NDIAGKIT::VLayerOfKind> WithAncestors(NODX201::VDiagLayer& layer) {
     return layers;
 }
 
-VNames ProtocolsFor(NODX201::VDiagLayer& layer) {
-    VNames names;
-    auto const see = [&names](NDIAGKIT::VLayerOfKind const& candidate) {
+using VElementsByName = std::unordered_map<std::wstring_view, NODX201::VOdxElement*>;
+
+VElementsByName ProtocolsFor(NODX201::VDiagLayer& layer) {
+    VElementsByName protocols;
+    auto const see = [&protocols](NDIAGKIT::VLayerOfKind const& candidate) {
         if (candidate.kind == NDIAGKIT::VLayerKinds::Protocol) {
-            names.insert(candidate.layer->GetShortName());
+            protocols.emplace(candidate.layer->GetShortName(), candidate.layer);
         }
     };
     for (NDIAGKIT::VLayerOfKind const& ancestor : WithAncestors(layer)) {
@@ -46,65 +50,69 @@ VNames ProtocolsFor(NODX201::VDiagLayer& layer) {
     for (NODX201::VDiagLayer& beside : dynamic_cast<NODX201::VDiagLayerCollection&>(*layer.GetOwner())) {
         see(beside);
     }
-    return names;
+    return protocols;
 }
 
-VNames TablesFor(NODX201::VDiagLayer& layer) {
-    VNames names;
+VElementsByName TablesFor(NODX201::VDiagLayer& layer) {
+    VElementsByName tables;
     for (NDIAGKIT::VLayerOfKind const& ancestor : WithAncestors(layer)) {
         if (ancestor.layer->HasDiagDataDictionarySpec()) {
-            for (NODX201::VTable const& table : ancestor.layer->GetDiagDataDictionarySpec().TableCollection()) {
-                names.insert(table.GetShortName());
+            for (NODX201::VTable& table : ancestor.layer->GetDiagDataDictionarySpec().TableCollection()) {
+                tables.emplace(table.GetShortName(), &table);
             }
         }
     }
-    return names;
+    return tables;
 }
 
-/// Collects the names of all VALUE parameters below others.
-class VNameCollector : public NDIAGKIT::VParamWalk {
+/// Collects all VALUE parameters below others; of one name the one that is met first.
+class VParamCollector : public NDIAGKIT::VParamWalk {
 public:
-    VNameCollector(NDIAGKIT::IDopFinder& dops, VNames& names) : VParamWalk(dops), m_names(names) {}
+    VParamCollector(NDIAGKIT::IDopFinder& dops, VElementsByName& params) : VParamWalk(dops), m_params(params) {}
 
-    void WalkAll(NODX201::VParamCollection& params) {
-        for (NODX201::VParam& param : params) {
-            Walk(param);
+    /// The parameters of messages, and then what they contain.
+    void WalkAll(std::vector<NODX201::VParamCollection*> const& messages) {
+        for (NODX201::VParamCollection* const params : messages) {
+            for (NODX201::VParam& param : *params) {
+                if (auto* const value = dynamic_cast<NODX201::VValue*>(&param)) {
+                    m_params.emplace(value->GetShortName(), value);
+                }
+            }
+        }
+        for (NODX201::VParamCollection* const params : messages) {
+            for (NODX201::VParam& param : *params) {
+                Walk(param);
+            }
         }
     }
 
 protected:
     void VisitValue(NODX201::VValue& param) override {
-        m_names.insert(param.GetShortName());
+        m_params.emplace(param.GetShortName(), &param);
         WalkBelow(param);
     }
 
 private:
-    VNames& m_names;
+    VElementsByName& m_params;
 };
 
-void WalkService(VNameCollector& collector, NODX201::VDiagService& service, bool isInput) {
+void WalkService(VParamCollector& collector, NODX201::VDiagService& service, bool isInput) {
+    if (!isInput) {
+        std::vector<NODX201::VParamCollection*> responses;
+        ForEachResponse(service, [&](auto& response) { responses.push_back(&response.ParamCollection()); });
+        collector.WalkAll(responses);
+    }
     if (service.HasRequestRef() && service.GetRequestRef().HasRequest()) {
-        collector.WalkAll(service.GetRequestRef().GetRequest().ParamCollection());
-    }
-    if (isInput) {
-        return;
-    }
-    for (NODX201::VPosResponseLink& link : service.PosResponseLinkCollection()) {
-        if (link.HasPosResponse()) {
-            collector.WalkAll(link.GetPosResponse().ParamCollection());
-        }
-    }
-    for (NODX201::VNegResponseLink& link : service.NegResponseLinkCollection()) {
-        if (link.HasNegResponse()) {
-            collector.WalkAll(link.GetNegResponse().ParamCollection());
-        }
+        collector.WalkAll({&service.GetRequestRef().GetRequest().ParamCollection()});
     }
 }
 
 template <class Params>
-void WalkJobParams(VNameCollector& collector, VNames& names, NDIAGKIT::IDopFinder& dops, Params& params) {
+void WalkJobParams(VParamCollector& collector, VElementsByName& found, NDIAGKIT::IDopFinder& dops, Params& params) {
     for (auto& param : params) {
-        names.insert(param.GetShortName());
+        found.emplace(param.GetShortName(), &param);
+    }
+    for (auto& param : params) {
         NODX201::VDopBase* const dop = param.HasDopBaseRef() ? dops.Find(param.GetDopBaseRef()) : nullptr;
         if (dop != nullptr) {
             collector.WalkIn(*dop);
@@ -118,34 +126,54 @@ VVisibleNames::VVisibleNames(NODX201::VDiagLayer& layer, VViews& views)
     : m_layer(layer), m_diagComms(views.diagComms.EntriesOf(layer)), m_dops(views.dops.EntriesOf(layer)),
       m_diagCommsByName(ByShortName(m_diagComms)), m_dopsByName(ByShortName(m_dops)) {}
 
-std::optional<bool> VVisibleNames::Resolves(NODX201::VLink& reference) {
+std::optional<NODX201::VOdxElement*> VVisibleNames::FindOne(NODX201::VLink& reference) {
     std::wstring_view const name = NameIn(reference);
     if (dynamic_cast<NODX201::VDopBaseLink*>(&reference) != nullptr) {
-        return FindDop(name) != nullptr;
+        return FindDop(name);
     }
     if (dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr) {
-        return dynamic_cast<NODX201::VDataObjectProp*>(FindDop(name)) != nullptr;
+        return dynamic_cast<NODX201::VDataObjectProp*>(FindDop(name));
     }
     if (dynamic_cast<NODX201::VDiagCommLink*>(&reference) != nullptr) {
-        return FindDiagComm(name) != nullptr;
+        return FindDiagComm(name);
     }
     if (dynamic_cast<NMemory::VMemProtocolSnref*>(&reference) != nullptr) {
-        return HasProtocol(name);
+        return FindProtocol(name);
     }
     if (dynamic_cast<NODX201::VTableLink*>(&reference) != nullptr) {
-        return HasTable(name);
-    }
-    if (auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner())) {
-        if (!m_services.has_value()) {
-            m_services.emplace(m_diagComms, static_cast<NDIAGKIT::IDopFinder&>(*this));
-        }
-        return m_services->HasParamFor(*envDataDesc, name);
+        return FindTable(name);
     }
     NODX201::VDiagComm* const diagComm = DiagCommBeside(reference);
     if (diagComm == nullptr) {
         return std::nullopt;
     }
-    return HasParam(*diagComm, name, dynamic_cast<NMemory::VMemInParamIfLink*>(&reference) != nullptr);
+    return FindParam(*diagComm, name, dynamic_cast<NMemory::VMemInParamIfLink*>(&reference) != nullptr);
+}
+
+std::optional<bool> VVisibleNames::Resolves(NODX201::VLink& reference) {
+    if (auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner())) {
+        return Services().HasParamFor(*envDataDesc, NameIn(reference));
+    }
+    std::optional<NODX201::VOdxElement*> const target = FindOne(reference);
+    return target.has_value() ? std::optional<bool>(*target != nullptr) : std::nullopt;
+}
+
+std::vector<NODX201::VOdxElement*> const& VVisibleNames::TargetsOf(NODX201::VLink& reference) {
+    if (auto* const envDataDesc = dynamic_cast<NODX201::VEnvDataDesc*>(reference.GetOwner())) {
+        return Services().ParamsFor(*envDataDesc, NameIn(reference));
+    }
+    m_targets.clear();
+    if (NODX201::VOdxElement* const target = FindOne(reference).value_or(nullptr)) {
+        m_targets.push_back(target);
+    }
+    return m_targets;
+}
+
+VServiceGraph& VVisibleNames::Services() {
+    if (!m_services.has_value()) {
+        m_services.emplace(m_diagComms, static_cast<NDIAGKIT::IDopFinder&>(*this));
+    }
+    return *m_services;
 }
 
 NODX201::VDopBase* VVisibleNames::FindDop(std::wstring_view shortName) const { return FindIn(m_dopsByName, shortName); }
@@ -154,18 +182,18 @@ NODX201::VDiagComm* VVisibleNames::FindDiagComm(std::wstring_view shortName) con
     return FindIn(m_diagCommsByName, shortName);
 }
 
-bool VVisibleNames::HasProtocol(std::wstring_view shortName) {
+NODX201::VOdxElement* VVisibleNames::FindProtocol(std::wstring_view shortName) {
     if (!m_protocols.has_value()) {
         m_protocols = ProtocolsFor(m_layer);
     }
-    return m_protocols->count(shortName) != 0;
+    return FindIn(*m_protocols, shortName);
 }
 
-bool VVisibleNames::HasTable(std::wstring_view shortName) {
+NODX201::VOdxElement* VVisibleNames::FindTable(std::wstring_view shortName) {
     if (!m_tables.has_value()) {
         m_tables = TablesFor(m_layer);
     }
-    return m_tables->count(shortName) != 0;
+    return FindIn(*m_tables, shortName);
 }
 
 NODX201::VDopBase* VVisibleNames::Find(NODX201::VDopBaseLink& link) {
@@ -174,15 +202,8 @@ NODX201::VDopBase* VVisibleNames::Find(NODX201::VDopBaseLink& link) {
 }
 
 NODX201::VDiagComm* VVisibleNames::DiagCommBeside(NODX201::VLink& reference) const {
-    NODX201::VOdxObject* const owner = reference.GetOwner();
-    if (auto* const relation = dynamic_cast<NODX201::VCommRelation*>(owner)) {
-        return relation->HasDiagCommLink() ? TargetOf(relation->GetDiagCommLink()) : nullptr;
-    }
-    if (auto* const parameter = dynamic_cast<NODX201::VMatchingParameter*>(owner)) {
-        return parameter->HasDiagCommSnref() ? TargetOf(parameter->GetDiagCommSnref()) : nullptr;
-    }
-    auto* const ident = dynamic_cast<NMemory::VMemIdentDesc*>(owner);
-    return ident != nullptr && ident->HasDiagCommSnref() ? TargetOf(ident->GetDiagCommSnref()) : nullptr;
+    NODX201::VDiagCommLink* const link = DiagCommLinkBeside(reference);
+    return link != nullptr ? TargetOf(*link) : nullptr;
 }
 
 NODX201::VDiagComm* VVisibleNames::TargetOf(NODX201::VDiagCommLink& link) const {
@@ -192,27 +213,28 @@ NODX201::VDiagComm* VVisibleNames::TargetOf(NODX201::VDiagCommLink& link) const 
     return link.HasDiagComm(m_layer) ? &link.GetDiagComm() : nullptr;
 }
 
-bool VVisibleNames::HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput) {
+NODX201::VOdxElement* VVisibleNames::FindParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName,
+                                               bool isInput) {
     auto known = m_params.find({&diagComm, isInput});
     if (known == m_params.end()) {
         known = m_params.emplace(std::make_pair(&diagComm, isInput), ParamsOf(diagComm, isInput)).first;
     }
-    return known->second.count(shortName) != 0;
+    return FindIn(known->second, shortName);
 }
 
-VNames VVisibleNames::ParamsOf(NODX201::VDiagComm& diagComm, bool isInput) {
-    VNames names;
-    VNameCollector collector(*this, names);
+VElementsByName VVisibleNames::ParamsOf(NODX201::VDiagComm& diagComm, bool isInput) {
+    VElementsByName params;
+    VParamCollector collector(*this, params);
     if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&diagComm)) {
         WalkService(collector, *service, isInput);
     } else if (auto* const job = dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm)) {
         if (isInput) {
-            WalkJobParams(collector, names, *this, job->InputParamCollection());
+            WalkJobParams(collector, params, *this, job->InputParamCollection());
         } else {
-            WalkJobParams(collector, names, *this, job->OutputParamCollection());
+            WalkJobParams(collector, params, *this, job->OutputParamCollection());
         }
     }
-    return names;
+    return params;
 }
 
 VNamesOfSpec::VNamesOfSpec(NMemory::VMemMultipleEcuJobSpec& spec) {
@@ -223,10 +245,12 @@ VNamesOfSpec::VNamesOfSpec(NMemory::VMemMultipleEcuJobSpec& spec) {
     }
 }
 
-bool VNamesOfSpec::Resolves(NODX201::VLink& reference) const {
+NODX201::VDopBase* VNamesOfSpec::Find(NODX201::VLink& reference) const {
     NODX201::VDopBase* const dop = FindIn(m_dops, NameIn(reference));
-    bool const isDataObjectProp = dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr;
-    return dop != nullptr && (!isDataObjectProp || dynamic_cast<NODX201::VDataObjectProp*>(dop) != nullptr);
+    if (dynamic_cast<NODX201::VDataObjectPropLink*>(&reference) != nullptr) {
+        return dynamic_cast<NODX201::VDataObjectProp*>(dop);
+    }
+    return dynamic_cast<NODX201::VDopBaseLink*>(&reference) != nullptr ? dop : nullptr;
 }
 
 } // namespace NCheck

@@ -28,25 +28,35 @@ public:
     /// no DIAG-SERVICE of the layer leads: jobs make their answers themselves.
     std::optional<bool> Resolves(NODX201::VLink& reference);
 
+    /// What such a reference names; nothing when it does not resolve. Several parameters for the one of an
+    /// ENV-DATA-DESC: those of the name in all that the messages of the services lead to that lead to it. Of parameters
+    /// of one name, a DIAG-COMM has the first: those of the responses go before those of the request, and those of a
+    /// message itself before what they contain. Valid until the next question.
+    std::vector<NODX201::VOdxElement*> const& TargetsOf(NODX201::VLink& reference);
+
     std::vector<NODX201::VDiagComm*> const& DiagComms() const { return m_diagComms; }
     std::vector<NODX201::VDopBase*> const& Dops() const { return m_dops; }
 
 private:
+    using VElementsByName = std::unordered_map<std::wstring_view, NODX201::VOdxElement*>;
     template <class Element>
     using VByName = std::unordered_map<std::wstring_view, Element*>;
 
     NODX201::VDopBase* Find(NODX201::VDopBaseLink& link) override;
     NODX201::VDopBase* FindDop(std::wstring_view shortName) const;
     NODX201::VDiagComm* FindDiagComm(std::wstring_view shortName) const;
-    bool HasProtocol(std::wstring_view shortName);
-    bool HasTable(std::wstring_view shortName);
-    std::optional<bool> HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName);
+    NODX201::VOdxElement* FindProtocol(std::wstring_view shortName);
+    NODX201::VOdxElement* FindTable(std::wstring_view shortName);
+    VServiceGraph& Services();
+
+    /// For references to anything but the parameters of an ENV-DATA-DESC. Nothing where `Resolves` says nothing.
+    std::optional<NODX201::VOdxElement*> FindOne(NODX201::VLink& reference);
 
     /// The DIAG-COMM that stands beside a reference to one of its parameters; null when it does not resolve.
     NODX201::VDiagComm* DiagCommBeside(NODX201::VLink& reference) const;
     NODX201::VDiagComm* TargetOf(NODX201::VDiagCommLink& link) const;
-    bool HasParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput);
-    VNames ParamsOf(NODX201::VDiagComm& diagComm, bool isInput);
+    NODX201::VOdxElement* FindParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput);
+    VElementsByName ParamsOf(NODX201::VDiagComm& diagComm, bool isInput);
 
     NODX201::VDiagLayer& m_layer;
     std::vector<NODX201::VDiagComm*> m_diagComms;
@@ -55,10 +65,11 @@ private:
     VByName<NODX201::VDopBase> m_dopsByName;
 
     // Filled when first asked for.
-    std::optional<VNames> m_protocols;
-    std::optional<VNames> m_tables;
+    std::optional<VElementsByName> m_protocols;
+    std::optional<VElementsByName> m_tables;
     std::optional<VServiceGraph> m_services;
-    std::map<std::pair<NODX201::VDiagComm*, bool>, VNames> m_params; ///< output or input parameters
+    std::map<std::pair<NODX201::VDiagComm*, bool>, VElementsByName> m_params; ///< output or input parameters
+    std::vector<NODX201::VOdxElement*> m_targets;                             ///< of the latest question
 };
 
 /// What short names of DOPs mean in a MULTIPLE-ECU-JOB-SPEC by itself: its dictionary.
@@ -66,7 +77,8 @@ class VNamesOfSpec {
 public:
     explicit VNamesOfSpec(NMemory::VMemMultipleEcuJobSpec& spec);
 
-    bool Resolves(NODX201::VLink& reference) const; ///< REQUIRES: a reference to a DOP by short name
+    /// Null when it means none, and for a reference to anything but a DOP. REQUIRES: a reference by short name.
+    NODX201::VDopBase* Find(NODX201::VLink& reference) const;
 
 private:
     std::unordered_map<std::wstring_view, NODX201::VDopBase*> m_dops;

@@ -154,6 +154,16 @@ public:
         m_generation = 0;
     }
 
+    /// What a reference by ID names, also where it is severed; null where that is nothing, and for one by short name.
+    Target* FindEvenSevered() const {
+        auto const* const link = std::get_if<VMemOdxLink>(&m_form);
+        if (link == nullptr || !m_isSevered) {
+            return link != nullptr && FindById() ? m_target : nullptr;
+        }
+        auto& self = const_cast<VMemLink&>(*this);
+        return dynamic_cast<Target*>(ResolveId(this->GetDatabase(), *link, self, &IsOfClass<Target>));
+    }
+
     /// Whether this is a reference by ID that finds its target.
     bool ResolvesById() const { return Snref() == nullptr && FindById(); }
 

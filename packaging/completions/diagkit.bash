@@ -12,6 +12,8 @@ _diagkit() {
     oem) options="--help --each --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
     check) options="--help --format --fail-on --ignore --only --baseline --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    check) options="--help --format --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    uses) options="--help --kind --layer --unused --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     esac
     case $previous in
     --max-file-size) answers="" ;;
@@ -41,6 +43,10 @@ _diagkit() {
     *)
         if ((COMP_CWORD == 1)); then
             answers="info layers view resolve explain traverse oem enums check --help --version"
+    --kind) answers="" ;;
+    *)
+        if ((COMP_CWORD == 1)); then
+            answers="info layers view resolve traverse oem enums check uses --help --version"
         elif [[ $word == -* ]]; then
             answers=$options
         elif ((COMP_CWORD == 2)); then

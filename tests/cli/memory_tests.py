@@ -138,6 +138,11 @@ class MemoryThatRunsOut(unittest.TestCase):
         for form in ("text", "json", "sarif"):
             self.see("check", self.folder / "faults.odx-d", "--format", form)
 
+    def test_uses(self):
+        self.see_as_text_and_json("uses", "P", self.folder / "services.odx-d")
+        self.see_as_text_and_json("uses", "DIAG-SERVICE-2000", self.folder / "services.odx-d")
+        self.see_as_text_and_json("uses", "--unused", SAMPLE)
+
     def test_a_search_that_goes_deep(self):
         def value(name, target):
             return f'<PARAM xsi:type="VALUE"><SHORT-NAME>{name}</SHORT-NAME><DOP-REF ID-REF="{target}"/></PARAM>'

@@ -217,6 +217,8 @@ class Writing(unittest.TestCase):
         ["check", "gates.odx-d"],
         ["check", "gates.odx-d", "--format", "json"],
         ["check", "gates.odx-d", "--format", "sarif"],
+        ["uses", "Amp", "signals.odx-d"],
+        ["uses", "--unused", "uses.odx-d"],
     )
 
     def answering_calls(self):
@@ -321,7 +323,7 @@ class Steering(unittest.TestCase):
                 f'ID="P"><SHORT-NAME>P{self.TURNING}Q</SHORT-NAME></PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>',
                 encoding="utf-8",
             )
-            for call in (["layers"], ["traverse", "--layer", "P"], ["check"]):
+            for call in (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"]):
                 done = run(*call, path)
                 written = done.stdout + done.stderr
                 self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)

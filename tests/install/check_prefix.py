@@ -33,6 +33,7 @@ PUBLIC = {
         "InheritanceGraph.h",
         "InheritedKind.h",
         "LayerView.h",
+        "Uses.h",
     },
 }
 FILES = """

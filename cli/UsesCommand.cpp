@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <filesystem>
+#include <string_view>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <cli/AnyElement.h>
+#include <cli/Commands.h>
+#include <cli/ElementFinder.h>
+#include <cli/Entry.h>
+#include <cli/Load.h>
+#include <cli/ProgressBar.h>
+#include <cli/Text.h>
+#include <cli/UsesText.h>
+#include <diagkit/query/FilePlace.h>
+#include <diagkit/query/Uses.h>
+
+namespace NCli {
+namespace {
+
+/// Whether a word can be one of FILE...: something of that name is there, or it is spelt as files of ODX are.
+bool MayBeFile(std::string const& word) {
+    std::error_code ignored;
+    if (word.find_first_of("/\\") != std::string::npos || std::filesystem::exists(word, ignored)) {
+        return true;
+    }
+    std::size_t const dot = word.rfind('.');
+    std::string const extension = dot != std::string::npos ? word.substr(dot) : "";
+    return extension.substr(0, 4) == ".odx" || extension == ".xml" || extension == ".pdx" || extension == ".zip";
+}
+
+/// What is wrong with the call; "" when nothing is. The first word is NAME or, with --unused, the first of the files.
+std::string UsageMistake(VArguments const& arguments) {
+    if (arguments.isUnused && (!arguments.layer.empty() || !arguments.tag.empty())) {
+        return std::string("--unused and ") + (arguments.layer.empty() ? "--kind" : "--layer") + " exclude each other";
+    }
+    if (!arguments.isUnused && arguments.name.empty()) {
+        return "NAME is required without --unused";
+    }
+    if (arguments.isUnused && !arguments.name.empty() && !MayBeFile(arguments.name)) {
+        return fmt::format("--unused takes no NAME such as '{}'", Shown(std::string_view(arguments.name)));
+    }
+    bool const hasFile = !arguments.files.empty() || (arguments.isUnused && !arguments.name.empty());
+    return hasFile ? "" : "FILE is required";
+}
+
+void WriteReference(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::VUse const& use) {
+    NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, *use.reference);
+    json.Object([&] {
+        WriteEntryOrNull(json, "from", use.from);
+        json.Member("tag", TagTextOf(*use.reference));
+        json.Member("file", place.file);
+        json.Member("line", place.line);
+        json.Member("column", place.column);
+        if (use.layers.has_value()) {
+            json.ArrayOf("layers", *use.layers, [&json](NODX201::VDiagLayer const* layer) {
+                json.Value(std::wstring_view(layer->GetShortName()));
+            });
+        } else {
+            json.Member("layers", nullptr);
+        }
+    });
+}
+
+void WriteEntriesAsJson(std::string_view name, std::vector<NODX201::VOdxElement*> const& elements, VOutput& output) {
+    WriteJson(output, [&](VJsonWriter& json) {
+        json.Object([&] {
+            json.ArrayOf(name, elements, [&json](NODX201::VOdxElement const* element) { WriteEntry(json, *element); });
+        });
+    });
+}
+
+NQuery::VUses::VProgress ProgressOf(VProgressBar& bar, VArguments const& arguments) {
+    return bar.Progress(arguments.isQuiet);
+}
+
+VStatus AnswerUnused(VArguments const& arguments, NReader::VReadResult const& result, VOutput& output) {
+    VProgressBar bar;
+    NQuery::VUses const uses(*result.database, result.elements, ProgressOf(bar, arguments));
+    if (arguments.isJson) {
+        WriteEntriesAsJson("unused", uses.Unused(), output);
+    } else {
+        WriteUnused(*result.database, uses.Unused(), output);
+    }
+    return VStatus::Done;
+}
+
+VStatus AnswerUses(VArguments const& arguments, NReader::VReadResult const& result, NODX201::VOdxElement const& element,
+                   VOutput& output) {
+    NMemory::VDatabase& database = *result.database;
+    VProgressBar bar;
+    std::vector<NQuery::VUse> const uses =
+        NQuery::VUses(database, result.elements, ProgressOf(bar, arguments)).Of(element);
+    if (!arguments.isJson) {
+        WriteUses(database, element, uses, output);
+        return VStatus::Done;
+    }
+    WriteJson(output, [&](VJsonWriter& json) {
+        json.Object([&] {
+            WriteEntryOrNull(json, "entry", &element);
+            json.ArrayOf("references", uses, [&](NQuery::VUse const& use) { WriteReference(json, database, use); });
+        });
+    });
+    return VStatus::Done;
+}
+
+VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& result, VOutput& output) {
+    NODX201::VDiagLayer* layer = nullptr;
+    if (!arguments.layer.empty()) {
+        layer = FindLayer(*result.database, arguments.layer, output);
+        if (layer == nullptr) {
+            return VStatus::NotThere;
+        }
+    }
+    VAnyName const name{arguments.name, arguments.tag, layer};
+    std::vector<NODX201::VOdxElement*> const found = FindElements(result, name);
+    if (found.size() == 1) {
+        return AnswerUses(arguments, result, *found.front(), output);
+    }
+    ComplainOfName(result, name, found, output);
+    if (arguments.isJson) {
+        WriteEntriesAsJson("candidates", found, output);
+    }
+    return VStatus::NotThere;
+}
+
+} // namespace
+
+void DeclareUses(CLI::App& command, VArguments& arguments) {
+    command.add_option("NAME", arguments.name, "An ID, or a short name; none with --unused")->type_name("");
+    command.add_option("--kind", arguments.tag, "The tag of the element, where several kinds bear the name")
+        ->type_name("TAG");
+    DeclareLayer(command, arguments);
+    command.add_flag("--unused", arguments.isUnused, "What no reference leads to in any layer");
+    DeclareFiles(command, arguments);
+    command.get_option("FILE")->required(false); // CLI11 takes the first of them for NAME with --unused as well
+    command.footer("uses NAME FILE... or uses --unused FILE...");
+}
+
+VStatus RunUses(VArguments const& arguments, VOutput& output) {
+    if (std::string const mistake = UsageMistake(arguments); !mistake.empty()) {
+        output.Complain(mistake + "; see --help");
+        return VStatus::Usage;
+    }
+    VArguments loading = arguments;
+    if (arguments.isUnused && !arguments.name.empty()) {
+        loading.files.insert(loading.files.begin(), arguments.name);
+    }
+    NReader::VReadResult result;
+    if (VStatus const status = LoadElements(loading, output, result); status != VStatus::Done) {
+        return status;
+    }
+    return arguments.isUnused ? AnswerUnused(arguments, result, output) : AnswerName(arguments, result, output);
+}
+
+} // namespace NCli

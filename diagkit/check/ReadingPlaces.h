@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <diagkit/check/Messages.h>
+#include <diagkit/check/Views.h>
+#include <diagkit/check/VisibleNames.h>
+#include <diagkit/memory/DiagComms.h>
+#include <diagkit/model/Reference.h>
+
+/// Where references by short name stand, and which layers read what stands there.
+
+namespace NCheck {
+
+/// The kinds of reference by short name that are read in layers.
+enum class VWantedName {
+    Dop,
+    DataObjectProp,
+    DiagComm,
+    Protocol,
+    Table,
+    ParamOfMessages, ///< the PARAM-SNREF of an ENV-DATA-DESC, which is read in whatever message leads to it
+    OutParam,
+    InParam,
+};
+
+/// What a reference by short name wants; nothing for a reference by ID, one that names nothing, and one that is not
+/// read in layers.
+std::optional<VWantedName> WantedNameOf(NODX201::VLink& reference);
+
+/// The reference to a DIAG-COMM beside one to a parameter of it; null where there is none.
+NODX201::VDiagCommLink* DiagCommLinkBeside(NODX201::VLink& reference);
+
+/// The SESSION or ident that a reference of flash data names in its FLASH; null where that is nothing, and for any
+/// other reference. Asks the resolver of the database.
+NODX201::VOdxElement* TargetInFlash(NODX201::VLink& reference);
+
+/// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
+/// Null where there is none.
+NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference);
+
+/// The layers in which a reference of flash data is read.
+std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& reference);
+
+/// The layers that the jobs of a MULTIPLE-ECU-JOB-SPEC run in; nothing when one of them is not loaded.
+std::optional<std::vector<NODX201::VDiagLayer*>> LayersOfJobs(NMemory::VMemMultipleEcuJobSpec& spec);
+
+/// Calls `take` with everything in which a layer reads the references that stand there: the layer itself, what its
+/// views hold, and the messages of its services. Some come several times.
+template <class Take>
+void ForEachPlaceIn(NODX201::VDiagLayer& layer, VVisibleNames const& names, VViews& views, Take take) {
+    take(layer);
+    for (NODX201::VDiagComm* const diagComm : names.DiagComms()) {
+        take(*diagComm);
+        if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
+            ForEachMessage(*service, take);
+        }
+    }
+    for (NODX201::VDopBase* const dop : names.Dops()) {
+        take(*dop);
+    }
+    for (NODX201::VDiagVariable* const variable : views.diagVariables.EntriesOf(layer)) {
+        take(*variable);
+    }
+    for (NODX201::VGlobalNegResponse* const response : views.globalNegResponses.EntriesOf(layer)) {
+        take(*response);
+    }
+}
+
+} // namespace NCheck

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include <diagkit/check/ReadingPlaces.h>
+#include <diagkit/query/LayerRuns.h>
+
+namespace NQuery {
+
+/// What references by short name mean in layers, from the side of what they mean.
+///
+/// References that mean the same in every layer, because they want the same kind of element of the same name, share one
+/// name. What is kept is what each name means in which layers, and which layers read what stands in which place: the
+/// uses of an element are the references of those names that are read where the names mean it. So nothing is kept for
+/// each reference in each layer.
+class VUsesByName {
+public:
+    explicit VUsesByName(std::vector<NODX201::VDiagLayer*> layers); ///< all of the database, in document order
+
+    /// Takes a reference that wants this. Null, or what the dictionary of the MULTIPLE-ECU-JOB-SPEC around it has of
+    /// its name, which is then all that it means.
+    NODX201::VOdxElement* Add(NODX201::VLink& reference, NCheck::VWantedName wanted);
+
+    /// Looks all up in one layer after the other, and calls `layerDone` after each.
+    template <class LayerDone>
+    void LookUp(LayerDone layerDone) {
+        NCheck::VViews views;
+        for (std::uint32_t number = 0; number < m_layers.size(); ++number) {
+            LookUpIn(number, views);
+            layerDone();
+        }
+    }
+
+    std::vector<NODX201::VDiagLayer*> const& Layers() const { return m_layers; }
+
+    /// Calls `take(reference, layers)` for every reference that means the element in a layer, in no order and some
+    /// several times, with other layers each.
+    template <class Take>
+    void ForEachUse(NODX201::VOdxElement const& target, Take take) const {
+        ForEachMeaningOf(target, [&](VMeaning const& meaning) { ForEachReader(meaning, take); });
+    }
+
+    /// Calls `take(target, anyUse)` for every element that names mean and every name that means it; `anyUse(test)` says
+    /// whether the test holds for a reference of the name that means it in a layer.
+    template <class Take>
+    void ForEachTarget(Take take) const {
+        for (auto const& [target, meanings] : m_meaningsOf) {
+            for (VMeaning const* const meaning : meanings) {
+                auto const anyUse = [this, meaning = meaning](auto test) { return AnyReader(*meaning, test); };
+                take(*target, anyUse);
+            }
+        }
+        for (auto const& [targets, meanings] : m_meaningsOfSets) {
+            for (NODX201::VOdxElement* const target : targets) {
+                for (VMeaning const& meaning : meanings) {
+                    auto const anyUse = [this, &meaning](auto test) { return AnyReader(meaning, test); };
+                    take(*target, anyUse);
+                }
+            }
+        }
+    }
+
+private:
+    struct VName;
+
+    /// The layers in which a name means an element, or all elements of a set.
+    struct VMeaning {
+        VName const* name;
+        VLayerRuns layers{};
+    };
+
+    /// Something that references stand in, the layers that read it, and the names that the references have.
+    struct VPlace {
+        VLayerRuns layers{};
+        std::optional<std::uint32_t> latest{}; ///< of the layers that were looked at
+        std::vector<VName*> names{};           ///< some several times
+    };
+
+    /// A reference, the layer or the like that it stands in, and what of it other layers see.
+    struct VReader {
+        NODX201::VLink* reference;
+        VPlace const* home;
+        VPlace const* anchor; ///< null where there is none
+    };
+
+    struct VName {
+        explicit VName(NCheck::VWantedName wantedName) : wanted(wantedName) {}
+
+        NCheck::VWantedName wanted;
+        std::vector<VReader> readers{};
+        std::optional<std::uint32_t> latest{};  ///< of the layers that were looked at
+        void const* latestTarget = nullptr;     ///< element or set
+        VMeaning* latestMeaning = nullptr;      ///< of the latest target
+        std::map<void const*, VMeaning*> all{}; ///< where there are several, by target
+    };
+
+    /// What references must have in common to share a name.
+    struct VKey {
+        NCheck::VWantedName wanted;
+        std::wstring_view shortName;
+        std::wstring_view diagComm;              ///< the name of the one beside a reference to a parameter
+        NODX201::VOdxObject const* in = nullptr; ///< that DIAG-COMM itself, or the ENV-DATA-DESC around
+
+        bool operator==(VKey const& other) const {
+            return wanted == other.wanted && shortName == other.shortName && diagComm == other.diagComm &&
+                   in == other.in;
+        }
+    };
+    struct VHash {
+        std::size_t operator()(VKey const& key) const;
+    };
+
+    using VTargets = std::vector<NODX201::VOdxElement*>;
+    using VSet = std::pair<VTargets const, std::deque<VMeaning>>;
+
+    /// The dictionary of a MULTIPLE-ECU-JOB-SPEC, and whether the layers of its jobs are known.
+    struct VSpec {
+        explicit VSpec(NMemory::VMemMultipleEcuJobSpec& spec) : names(spec), layers(NCheck::LayersOfJobs(spec)) {}
+
+        NCheck::VNamesOfSpec names;
+        std::optional<std::vector<NODX201::VDiagLayer*>> layers;
+    };
+
+    static VKey KeyOf(NODX201::VLink& reference, NCheck::VWantedName wanted);
+    void Read(VName& name, NODX201::VLink& reference, VPlace& home, VPlace* anchor);
+    static void AddName(VPlace& place, VName& name);
+    NODX201::VOdxElement* AddOfSpec(VName& name, NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec);
+    void AddOfConnector(VName& name, NODX201::VLink& reference);
+    VPlace& PlaceIn(NODX201::VOdxElement const& element, std::vector<NODX201::VDiagLayer*> const& layers);
+
+    void LookUpIn(std::uint32_t layer, NCheck::VViews& views);
+    void Visit(VPlace& place, std::uint32_t layer, NCheck::VVisibleNames& names);
+    void LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleNames& names);
+    void NoteTarget(VName& name, std::uint32_t layer, NODX201::VOdxElement const& target);
+    void NoteSet(VName& name, std::uint32_t layer, VTargets const& targets);
+    VSet& SetOf(VTargets const& targets);
+    template <class Make>
+    static VMeaning& MeaningOf(VName& name, void const* target, Make make);
+
+    template <class Take>
+    void ForEachMeaningOf(NODX201::VOdxElement const& target, Take take) const;
+    template <class Take>
+    static void ForEachReader(VMeaning const& meaning, Take take);
+    template <class Test>
+    static bool AnyReader(VMeaning const& meaning, Test test);
+
+    std::vector<NODX201::VDiagLayer*> m_layers;
+    std::unordered_map<VKey, VName, VHash> m_names;
+    std::unordered_map<NODX201::VOdxElement const*, VPlace> m_places;
+    std::unordered_map<NODX201::VDiagLayer const*, std::vector<VPlace*>> m_placesBeside; // that the layer reads as well
+    std::map<NMemory::VMemMultipleEcuJobSpec*, VSpec> m_specs;
+
+    std::deque<VMeaning> m_meanings;
+    std::unordered_map<NODX201::VOdxElement const*, std::vector<VMeaning const*>> m_meaningsOf;
+    std::map<VTargets, std::deque<VMeaning>> m_meaningsOfSets;
+    std::unordered_map<NODX201::VOdxElement const*, std::vector<VSet const*>> m_setsOf;
+    std::unordered_map<VTargets const*, VSet*> m_setsHere; // of the layer that is looked at
+};
+
+template <class Take>
+void VUsesByName::ForEachMeaningOf(NODX201::VOdxElement const& target, Take take) const {
+    if (auto const meanings = m_meaningsOf.find(&target); meanings != m_meaningsOf.end()) {
+        for (VMeaning const* const meaning : meanings->second) {
+            take(*meaning);
+        }
+    }
+    if (auto const sets = m_setsOf.find(&target); sets != m_setsOf.end()) {
+        for (VSet const* const set : sets->second) {
+            for (VMeaning const& meaning : set->second) {
+                take(meaning);
+            }
+        }
+    }
+}
+
+template <class Take>
+void VUsesByName::ForEachReader(VMeaning const& meaning, Take take) {
+    for (VReader const& reader : meaning.name->readers) {
+        VLayerRuns const layers =
+            reader.anchor != nullptr
+                ? VLayerRuns::Common(VLayerRuns::Joined(reader.home->layers, reader.anchor->layers), meaning.layers)
+                : VLayerRuns::Common(reader.home->layers, meaning.layers);
+        if (!layers.IsEmpty()) {
+            take(*reader.reference, meaning.name->wanted, layers);
+        }
+    }
+}
+
+template <class Test>
+bool VUsesByName::AnyReader(VMeaning const& meaning, Test test) {
+    for (VReader const& reader : meaning.name->readers) {
+        bool const isRead = reader.home->layers.Meets(meaning.layers) ||
+                            (reader.anchor != nullptr && reader.anchor->layers.Meets(meaning.layers));
+        if (isRead && test(*reader.reference)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace NQuery
