@@ -121,6 +121,7 @@ void WalkParts(VWalk& walk, NODX201::VOdxElement& odxElement) {
         CHILD(LongName)
 #define ODX_LINK_WITH(name, tag, target) If<NODX201::V##name>(odxElement, PARTS
 #define ODX_EXTRA(name, contract, names, value, element, type) Never(PARTS
+#define ODX_EXTRA_LINK_WITH(name, tag, target, targetClass) Never(PARTS
 #define ODX_END                                                                                                        \
     });
 #define ODX_EXCLUSION(name, reference, link, value, element)                                                           \
