@@ -26,6 +26,13 @@ CLI::Option& DeclareSize(CLI::App& command, char const* name, std::uint64_t& siz
 
 } // namespace
 
+void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
+                   std::vector<std::string> const& choices, char const* help) {
+    CLI::Option* const option = command.add_option(name, value, help);
+    option->check(CLI::IsMember(choices))->type_name("WORD");
+    arguments.choices[option] = choices;
+}
+
 CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& count, char const* help) {
     auto const take = [name, &count](std::string const& text) {
         char const* const end = text.data() + text.size();

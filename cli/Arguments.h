@@ -37,7 +37,7 @@ struct VArguments {
     std::vector<std::string> ignored;   ///< --ignore of `check`: codes
     std::vector<std::string> only;      ///< --only of `check`: codes; all without one
     std::string baseline;               ///< --baseline of `check`: an earlier answer
-    std::string format;                 ///< --format of `check`; "" for text, or JSON with --json
+    std::string format;                 ///< --format of `check` and `graph`; "" for none said
     std::optional<int> range;           ///< --range, a search range of output parameters
 
     bool isDictionary = false;            ///< --dictionary of `traverse`
@@ -58,6 +58,10 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
 
 /// --layer alone, for commands that look at nothing else.
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
+
+/// An option that takes one of a few words.
+void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
+                   std::vector<std::string> const& choices, char const* help);
 
 /// An option that takes a number: digits alone.
 CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& count, char const* help);

@@ -30,13 +30,6 @@ std::vector<std::string> AllCodes() {
     return codes;
 }
 
-void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
-                   std::vector<std::string> const& choices, char const* help) {
-    CLI::Option* const option = command.add_option(name, value, help);
-    option->check(CLI::IsMember(choices))->type_name("WORD");
-    arguments.choices[option] = choices;
-}
-
 void DeclareCodes(CLI::App& command, VArguments& arguments, char const* name, std::vector<std::string>& codes,
                   char const* help) {
     CLI::Option* const option = command.add_option(name, codes, help);

@@ -14,6 +14,9 @@ VStatus RunInfo(VArguments const& arguments, VOutput& output);
 
 VStatus RunLayers(VArguments const& arguments, VOutput& output);
 
+void DeclareGraph(CLI::App& command, VArguments& arguments);
+VStatus RunGraph(VArguments const& arguments, VOutput& output);
+
 void DeclareView(CLI::App& command, VArguments& arguments);
 VStatus RunView(VArguments const& arguments, VOutput& output);
 

@@ -32,6 +32,7 @@ struct VCommand {
 constexpr std::array kCommands{
     VCommand{"info",     "Documents, model versions and how many elements of each kind", &DeclareFiles,    &RunInfo},
     VCommand{"layers",   "The diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
+    VCommand{"graph",    "A picture of what inherits from what",                         &DeclareGraph,    &RunGraph},
     VCommand{"view",     "What is visible in a layer, with the layer it comes from",     &DeclareView,     &RunView},
     VCommand{"resolve",  "What a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
     VCommand{"explain",  "Why a short name means what it means in a layer, or nothing",  &DeclareExplain,  &RunExplain},

@@ -111,6 +111,11 @@ class MemoryThatRunsOut(unittest.TestCase):
     def test_layers(self):
         self.see_as_text_and_json("layers", self.folder / "layers.odx-d")
 
+    def test_graph(self):
+        for form in ("dot", "mermaid"):
+            self.see("graph", self.folder / "layers.odx-d", "--format", form)
+        self.see("graph", SAMPLE, "--json", "--layer", "FrontWiper")
+
     def test_a_layer_that_is_not_there(self):
         self.see("view", "dops", self.folder / "layers.odx-d", "--layer", "PROTOCOL-1000")
 

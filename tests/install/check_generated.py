@@ -66,6 +66,7 @@ def check_bash(own, commands):
                 check(option.choices, command.name, "FILE", option.name, "")
     check(["diag-comms", "diag-variables"], "view", "diag-")
     check(["text", "json", "sarif"], "check", "file.pdx", "--format", "")
+    check(["svg", "dot", "mermaid"], "graph", "file.pdx", "--format", "")
 
 
 def check_fish(commands):

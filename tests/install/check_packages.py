@@ -14,7 +14,7 @@ import zipfile
 
 from project import EMULATOR, EXE, ROOT, SAMPLE, empty, expect, run, run_program, version, write_preparation
 
-FIELDS = ["Package", "Version", "Architecture", "Depends"]
+FIELDS = ["Package", "Version", "Architecture", "Depends", "Recommends"]
 
 
 def make(build, folder):
@@ -79,6 +79,8 @@ def check_debian(made, root):
     expect("libc6" in fields[library]["Depends"], f"{library} depends on {fields[library]['Depends']}")
     for name in ("libc6", "libexpat1", "libzip4", "libfmt9", own):
         expect(name in fields["diagkit"]["Depends"], f"diagkit depends on {fields['diagkit']['Depends']}")
+    recommended = {name: fields[name]["Recommends"] for name in fields if fields[name]["Recommends"]}
+    expect(recommended == {"diagkit": "graphviz"}, f"recommended are {recommended}")
     for name in (own, "libexpat1-dev", "libzip-dev", "pkg-config"):
         expect(name in fields["libdiagkit-dev"]["Depends"].split(", "), f"{name} is not among the dependencies")
 

@@ -26,6 +26,7 @@ ANSWERS = {
     "./run": ["FrontWiperRainLight", "SwitchHeadlamps"],
     "./run info": ["WiperFlash.odx-f", "DIAG-SERVICE"],
     "./run layers": ["BodyElectronics"],
+    "./run graph": ["digraph", "FrontWiperRainLight"],
     "./run view diag-comms": ["CalibrateParkPosition", "SessionLibrary"],
     "./run resolve dop": ["WiperMode"],
     "./run traverse": ["ReadWiperStatus"],
