@@ -2,13 +2,15 @@
 #include <fuzz/UseDatabase.h>
 
 #include <cstdlib>
+#include <unordered_set>
 
 #include <diagkit/check/Check.h>
 #include <diagkit/check/Cycles.h>
 #include <diagkit/memory/Odx.h>
-#include <diagkit/query/InheritanceGraph.h>
 #include <diagkit/query/Explain.h>
+#include <diagkit/query/InheritanceGraph.h>
 #include <diagkit/query/LayerView.h>
+#include <diagkit/query/Uses.h>
 #include <diagkit/tools/DiagCommView.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
@@ -188,6 +190,27 @@ void ForEachLayer(NODX201::VOdx& odx, Use use) {
     }
 }
 
+/// Every use of an element must be a reference of the database, of the layers one at least, and an element without any
+/// use is unused where it may be.
+void AskForUses(NReader::VReadResult const& result, VBudget& budget) {
+    NQuery::VUses const uses(*result.database, result.elements);
+    std::vector<NODX201::VOdxElement*> const unused = uses.Unused();
+    std::unordered_set<NODX201::VOdxElement const*> const areUnused(unused.begin(), unused.end());
+    for (NODX201::VOdxElement const* const element : result.elements) {
+        if (!budget.Take()) {
+            return;
+        }
+        for (NQuery::VUse const& use : uses.Of(*element)) {
+            Require(!use.layers.has_value() || !use.layers->empty());
+            NODX201::VOdxObject const* object = use.reference;
+            while (object != nullptr && object != element) {
+                object = object->GetOwner();
+            }
+            Require(object != nullptr || areUnused.count(element) == 0);
+        }
+    }
+}
+
 } // namespace
 
 std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
@@ -222,6 +245,8 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
     }
     VBudget references(kSteps);
     ResolveReferences(result, references);
+    VBudget uses(kSteps);
+    AskForUses(result, uses);
     VBudget walks(kSteps);
     ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) { VBudgetedWalk(layer, walks).Run(); });
     return diagnostics;

@@ -284,6 +284,27 @@ def names_that_do_not_resolve(count):
     return base(DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=structure("S", params)))
 
 
+def one_name_for_each_variant(count):
+    """References by one short name, which means another DOP in each of as many variants."""
+    params = many(count, lambda index: value(f"P{index}", by_name("Dop")))
+    above = layer(
+        "BASE-VARIANT",
+        "Base",
+        DIAG_COMMS=service("Service", "Request"),
+        REQUESTS=message("REQUEST", "Request", params),
+    )
+    variants = many(
+        count,
+        lambda index: layer(
+            "ECU-VARIANT",
+            f"V{index}",
+            DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop", f"Dop{index}")),
+            PARENT_REFS=parent("BASE-VARIANT", "Base"),
+        ),
+    )
+    return {"c.odx-d": container({"BASE-VARIANTS": above, "ECU-VARIANTS": variants})}
+
+
 def related_diag_comms(count):
     """A chain of services, each of which is related to the next one."""
     related = (

@@ -4,52 +4,16 @@
 #include <algorithm>
 #include <functional>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 #include <diagkit/check/ReadingPlaces.h>
+#include <diagkit/query/Used.h>
 #include <diagkit/query/UsesByName.h>
 #include <diagkit/reader/Containment.h>
 #include <diagkit/reader/LinkTargets.h>
 
 namespace NQuery {
 namespace {
-
-using Tag = NODX201::VOdxTagEnum;
-
-/// The kinds of which an element may be unused.
-bool MayBeUnused(NODX201::VOdxElement const& element) {
-    switch (element.GetOdxTag()) {
-    case Tag::DataObjectProp:
-    case Tag::DtcDop:
-    case Tag::Structure:
-    case Tag::EndOfPduField:
-    case Tag::StaticField:
-    case Tag::DynamicLengthField:
-    case Tag::DynamicEndmarkerField:
-    case Tag::Mux:
-    case Tag::EnvDataDesc:
-    case Tag::Table:
-    case Tag::Unit:
-    case Tag::PhysicalDimension:
-    case Tag::Request:
-    case Tag::PosResponse:
-    case Tag::NegResponse:
-    case Tag::FunctClass:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool StandsIn(NODX201::VOdxObject const& inner, NODX201::VOdxObject const& outer) {
-    for (NODX201::VOdxObject const* object = &inner; object != nullptr; object = object->GetOwner()) {
-        if (object == &outer) {
-            return true;
-        }
-    }
-    return false;
-}
 
 NODX201::VOdxElement* NamedAround(NODX201::VLink const& reference) {
     for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
@@ -66,7 +30,7 @@ NODX201::VOdxElement* NamedAround(NODX201::VLink const& reference) {
 class VUses::VIndex {
 public:
     VIndex(NMemory::VDatabase& database, std::vector<NODX201::VOdxElement*> const& elements, VProgress const& progress)
-        : m_byName(NReader::LayersOf(database)) {
+        : m_byName(NReader::LayersOf(database), m_used) {
         for (NODX201::VOdxElement* const element : elements) {
             if (auto* const reference = dynamic_cast<NODX201::VLink*>(element)) {
                 Add(*reference);
@@ -100,49 +64,13 @@ public:
     }
 
     std::vector<NODX201::VOdxElement*> Unused() const {
-        VUsed used;
-        for (auto first = m_direct.begin(); first != m_direct.end();) {
-            auto const end = std::find_if(first, m_direct.end(), [target = first->target](VDirect const& direct) {
-                return direct.target != target;
-            });
-            used.Note(*first->target, [first, end](auto test) {
-                return std::any_of(first, end, [&test](VDirect const& direct) { return test(*direct.reference); });
-            });
-            first = end;
-        }
-        m_byName.ForEachTarget(
-            [&used](NODX201::VOdxElement const& target, auto const& anyUse) { used.Note(target, anyUse); });
         std::vector<NODX201::VOdxElement*> unused;
         std::copy_if(m_mayBeUnused.begin(), m_mayBeUnused.end(), std::back_inserter(unused),
-                     [&used](NODX201::VOdxElement const* element) { return !used.Has(*element); });
+                     [this](NODX201::VOdxElement const* element) { return !m_used.Has(*element); });
         return unused;
     }
 
 private:
-    /// Which elements are used, as what leads to them is told.
-    class VUsed {
-    public:
-        /// Elements inside which the target stands, and itself, are used when a reference that leads to it stands
-        /// outside: `any(test)` says whether the test holds for one of these references.
-        template <class Any>
-        void Note(NODX201::VOdxElement const& target, Any any) {
-            for (NODX201::VOdxObject const* object = &target; object != nullptr; object = object->GetOwner()) {
-                auto const* const whole = dynamic_cast<NODX201::VOdxElement const*>(object);
-                if (whole == nullptr || !MayBeUnused(*whole) || Has(*whole)) {
-                    continue;
-                }
-                if (any([whole](NODX201::VLink const& reference) { return !StandsIn(reference, *whole); })) {
-                    m_used.insert(whole);
-                }
-            }
-        }
-
-        bool Has(NODX201::VOdxElement const& element) const { return m_used.count(&element) != 0; }
-
-    private:
-        std::unordered_set<NODX201::VOdxElement const*> m_used;
-    };
-
     /// A reference that means the same wherever it is read.
     struct VDirect {
         NODX201::VOdxElement const* target;
@@ -167,6 +95,7 @@ private:
         }
         if (target != nullptr) {
             m_direct.push_back({target, &reference, number});
+            m_used.Use(*target, [&reference](auto test) { return test(reference); });
         }
     }
 
@@ -208,6 +137,7 @@ private:
     }
 
     std::vector<VDirect> m_direct; // by target and in document order
+    VUsed m_used;
     VUsesByName m_byName;
     std::unordered_map<NODX201::VLink const*, std::uint32_t> m_numbers; // of references by short name
     std::vector<NODX201::VOdxElement*> m_mayBeUnused;                   // in document order

@@ -28,7 +28,8 @@ Element* ElementAround(NODX201::VLink const& reference) {
 
 } // namespace
 
-VUsesByName::VUsesByName(std::vector<NODX201::VDiagLayer*> layers) : m_layers(std::move(layers)) {}
+VUsesByName::VUsesByName(std::vector<NODX201::VDiagLayer*> layers, VUsed& used)
+    : m_layers(std::move(layers)), m_used(used) {}
 
 std::size_t VUsesByName::VHash::operator()(VKey const& key) const {
     std::hash<std::wstring_view> const hash;
@@ -69,17 +70,30 @@ NODX201::VOdxElement* VUsesByName::Add(NODX201::VLink& reference, VWantedName wa
 
 void VUsesByName::Read(VName& name, NODX201::VLink& reference, VPlace& home, VPlace* anchor) {
     name.readers.push_back({&reference, &home, anchor});
-    AddName(home, name);
+    AddTo(home, name, reference);
     if (anchor != nullptr) {
-        AddName(*anchor, name);
+        AddTo(*anchor, name, reference);
     }
 }
 
-/// References of one name that stand in one place nearly always follow one another.
-void VUsesByName::AddName(VPlace& place, VName& name) {
-    if (place.names.empty() || place.names.back() != &name) {
-        place.names.push_back(&name);
+void VUsesByName::AddTo(VPlace& place, VName& name, NODX201::VLink& reference) {
+    if (place.groups.empty() || place.groups.back().name != &name) {
+        place.groups.push_back({&name, place.references.size(), 0});
     }
+    place.references.push_back(&reference);
+    place.groups.back().end = place.references.size();
+}
+
+/// A place outside of layers; `layersOf` tells, when it is new, which layers read it.
+template <class LayersOf>
+VUsesByName::VPlace& VUsesByName::PlaceIn(NODX201::VOdxElement const& element, LayersOf layersOf) {
+    auto const [place, isNew] = m_places.try_emplace(&element);
+    if (isNew) {
+        for (NODX201::VDiagLayer* const layer : layersOf()) {
+            m_placesBeside[layer].push_back(&place->second);
+        }
+    }
+    return place->second;
 }
 
 NODX201::VOdxElement* VUsesByName::AddOfSpec(VName& name, NODX201::VLink& reference,
@@ -89,27 +103,16 @@ NODX201::VOdxElement* VUsesByName::AddOfSpec(VName& name, NODX201::VLink& refere
         return dop;
     }
     if (name.wanted != VWantedName::ParamOfMessages && of.layers.has_value()) {
-        Read(name, reference, PlaceIn(spec, *of.layers), nullptr);
+        Read(name, reference, PlaceIn(spec, [&of] { return *of.layers; }), nullptr);
     }
     return nullptr;
 }
 
 void VUsesByName::AddOfConnector(VName& name, NODX201::VLink& reference) {
     if (auto* const connector = ElementAround<NMemory::VMemEcuMemConnector>(reference)) {
-        Read(name, reference, PlaceIn(*connector, NCheck::LayersOfConnector(reference)), nullptr);
+        Read(name, reference, PlaceIn(*connector, [&reference] { return NCheck::LayersOfConnector(reference); }),
+             nullptr);
     }
-}
-
-/// A place outside of layers that these layers read.
-VUsesByName::VPlace& VUsesByName::PlaceIn(NODX201::VOdxElement const& element,
-                                          std::vector<NODX201::VDiagLayer*> const& layers) {
-    auto const [place, isNew] = m_places.try_emplace(&element);
-    if (isNew) {
-        for (NODX201::VDiagLayer* const layer : layers) {
-            m_placesBeside[layer].push_back(&place->second);
-        }
-    }
-    return place->second;
 }
 
 void VUsesByName::LookUpIn(std::uint32_t layer, NCheck::VViews& views) {
@@ -134,8 +137,9 @@ void VUsesByName::Visit(VPlace& place, std::uint32_t layer, NCheck::VVisibleName
     }
     place.latest = layer;
     place.layers.Add(layer);
-    for (VName* const name : place.names) {
-        LookUpName(*name, layer, names);
+    for (VGroup const& group : place.groups) {
+        LookUpName(*group.name, layer, names);
+        Settle(place, group);
     }
 }
 
@@ -144,6 +148,7 @@ void VUsesByName::LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleN
         return;
     }
     name.latest = layer;
+    name.here = nullptr;
     VTargets const& targets = names.TargetsOf(*name.readers.front().reference);
     if (targets.size() == 1) {
         NoteTarget(name, layer, *targets.front());
@@ -152,9 +157,31 @@ void VUsesByName::LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleN
     }
 }
 
-/// The meaning of a name that has this target; `make` makes it when it is the first in any layer.
+/// Uses what the references of the group mean in the layer that is looked at.
+void VUsesByName::Settle(VPlace const& place, VGroup const& group) {
+    VMeaning* const meaning = group.name->here;
+    if (meaning == nullptr || meaning->isSettled) {
+        return;
+    }
+    auto const any = [&place, &group](auto test) {
+        auto const begin = place.references.begin();
+        return std::any_of(begin + static_cast<std::ptrdiff_t>(group.first),
+                           begin + static_cast<std::ptrdiff_t>(group.end),
+                           [&test](NODX201::VLink const* reference) { return test(*reference); });
+    };
+    if (meaning->target != nullptr) {
+        meaning->isSettled = m_used.Use(*meaning->target, any);
+        return;
+    }
+    meaning->isSettled = true;
+    for (NODX201::VOdxElement const* const target : *meaning->targets) {
+        meaning->isSettled = m_used.Use(*target, any) && meaning->isSettled;
+    }
+}
+
+/// In this layer the name means what has this address; `make` makes the meaning when it is the first such layer.
 template <class Make>
-VUsesByName::VMeaning& VUsesByName::MeaningOf(VName& name, void const* target, Make make) {
+void VUsesByName::Mean(VName& name, std::uint32_t layer, void const* target, Make make) {
     if (name.latestTarget != target) {
         VMeaning*& meaning = name.all[target];
         if (meaning == nullptr) {
@@ -163,17 +190,17 @@ VUsesByName::VMeaning& VUsesByName::MeaningOf(VName& name, void const* target, M
         name.latestMeaning = meaning;
         name.latestTarget = target;
     }
-    return *name.latestMeaning;
+    name.here = name.latestMeaning;
+    name.here->layers.Add(layer);
 }
 
 void VUsesByName::NoteTarget(VName& name, std::uint32_t layer, NODX201::VOdxElement const& target) {
-    auto const make = [&]() -> VMeaning& {
+    Mean(name, layer, &target, [&]() -> VMeaning& {
         std::vector<VMeaning const*>& meanings = m_meaningsOf[&target];
-        m_meanings.push_back({&name});
+        m_meanings.push_back({&name, &target, nullptr});
         meanings.push_back(&m_meanings.back());
         return m_meanings.back();
-    };
-    MeaningOf(name, &target, make).layers.Add(layer);
+    });
 }
 
 void VUsesByName::NoteSet(VName& name, std::uint32_t layer, VTargets const& targets) {
@@ -181,8 +208,9 @@ void VUsesByName::NoteSet(VName& name, std::uint32_t layer, VTargets const& targ
     if (set == nullptr) {
         set = &SetOf(targets);
     }
-    auto const make = [&]() -> VMeaning& { return set->second.emplace_back(VMeaning{&name}); };
-    MeaningOf(name, set, make).layers.Add(layer);
+    Mean(name, layer, set, [&]() -> VMeaning& {
+        return set->second.emplace_back(VMeaning{&name, nullptr, &set->first});
+    });
 }
 
 VUsesByName::VSet& VUsesByName::SetOf(VTargets const& targets) {

@@ -13,6 +13,7 @@
 
 #include <diagkit/check/ReadingPlaces.h>
 #include <diagkit/query/LayerRuns.h>
+#include <diagkit/query/Used.h>
 
 namespace NQuery {
 
@@ -24,7 +25,8 @@ namespace NQuery {
 /// each reference in each layer.
 class VUsesByName {
 public:
-    explicit VUsesByName(std::vector<NODX201::VDiagLayer*> layers); ///< all of the database, in document order
+    /// All layers of the database, in document order, and who is told what they use; he must outlive this object.
+    VUsesByName(std::vector<NODX201::VDiagLayer*> layers, VUsed& used);
 
     /// Takes a reference that wants this. Null, or what the dictionary of the MULTIPLE-ECU-JOB-SPEC around it has of
     /// its name, which is then all that it means.
@@ -49,40 +51,32 @@ public:
         ForEachMeaningOf(target, [&](VMeaning const& meaning) { ForEachReader(meaning, take); });
     }
 
-    /// Calls `take(target, anyUse)` for every element that names mean and every name that means it; `anyUse(test)` says
-    /// whether the test holds for a reference of the name that means it in a layer.
-    template <class Take>
-    void ForEachTarget(Take take) const {
-        for (auto const& [target, meanings] : m_meaningsOf) {
-            for (VMeaning const* const meaning : meanings) {
-                auto const anyUse = [this, meaning = meaning](auto test) { return AnyReader(*meaning, test); };
-                take(*target, anyUse);
-            }
-        }
-        for (auto const& [targets, meanings] : m_meaningsOfSets) {
-            for (NODX201::VOdxElement* const target : targets) {
-                for (VMeaning const& meaning : meanings) {
-                    auto const anyUse = [this, &meaning](auto test) { return AnyReader(meaning, test); };
-                    take(*target, anyUse);
-                }
-            }
-        }
-    }
-
 private:
+    using VTargets = std::vector<NODX201::VOdxElement*>;
     struct VName;
 
     /// The layers in which a name means an element, or all elements of a set.
     struct VMeaning {
         VName const* name;
+        NODX201::VOdxElement const* target; ///< null where it is a set
+        VTargets const* targets;            ///< the set
         VLayerRuns layers{};
+        bool isSettled = false; ///< no other reference would use anything more
     };
 
-    /// Something that references stand in, the layers that read it, and the names that the references have.
+    /// References of one name that follow one another in a place.
+    struct VGroup {
+        VName* name;
+        std::size_t first; ///< in the place
+        std::size_t end;
+    };
+
+    /// Something that references stand in, and the layers that read it.
     struct VPlace {
         VLayerRuns layers{};
         std::optional<std::uint32_t> latest{}; ///< of the layers that were looked at
-        std::vector<VName*> names{};           ///< some several times
+        std::vector<NODX201::VLink*> references{};
+        std::vector<VGroup> groups{}; ///< of the references
     };
 
     /// A reference, the layer or the like that it stands in, and what of it other layers see.
@@ -100,6 +94,7 @@ private:
         std::optional<std::uint32_t> latest{};  ///< of the layers that were looked at
         void const* latestTarget = nullptr;     ///< element or set
         VMeaning* latestMeaning = nullptr;      ///< of the latest target
+        VMeaning* here = nullptr;               ///< in the latest layer; null where it means nothing
         std::map<void const*, VMeaning*> all{}; ///< where there are several, by target
     };
 
@@ -119,7 +114,6 @@ private:
         std::size_t operator()(VKey const& key) const;
     };
 
-    using VTargets = std::vector<NODX201::VOdxElement*>;
     using VSet = std::pair<VTargets const, std::deque<VMeaning>>;
 
     /// The dictionary of a MULTIPLE-ECU-JOB-SPEC, and whether the layers of its jobs are known.
@@ -132,28 +126,29 @@ private:
 
     static VKey KeyOf(NODX201::VLink& reference, NCheck::VWantedName wanted);
     void Read(VName& name, NODX201::VLink& reference, VPlace& home, VPlace* anchor);
-    static void AddName(VPlace& place, VName& name);
+    static void AddTo(VPlace& place, VName& name, NODX201::VLink& reference);
     NODX201::VOdxElement* AddOfSpec(VName& name, NODX201::VLink& reference, NMemory::VMemMultipleEcuJobSpec& spec);
     void AddOfConnector(VName& name, NODX201::VLink& reference);
-    VPlace& PlaceIn(NODX201::VOdxElement const& element, std::vector<NODX201::VDiagLayer*> const& layers);
+    template <class LayersOf>
+    VPlace& PlaceIn(NODX201::VOdxElement const& element, LayersOf layersOf);
 
     void LookUpIn(std::uint32_t layer, NCheck::VViews& views);
     void Visit(VPlace& place, std::uint32_t layer, NCheck::VVisibleNames& names);
     void LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleNames& names);
+    void Settle(VPlace const& place, VGroup const& group);
     void NoteTarget(VName& name, std::uint32_t layer, NODX201::VOdxElement const& target);
     void NoteSet(VName& name, std::uint32_t layer, VTargets const& targets);
     VSet& SetOf(VTargets const& targets);
     template <class Make>
-    static VMeaning& MeaningOf(VName& name, void const* target, Make make);
+    static void Mean(VName& name, std::uint32_t layer, void const* target, Make make);
 
     template <class Take>
     void ForEachMeaningOf(NODX201::VOdxElement const& target, Take take) const;
     template <class Take>
     static void ForEachReader(VMeaning const& meaning, Take take);
-    template <class Test>
-    static bool AnyReader(VMeaning const& meaning, Test test);
 
     std::vector<NODX201::VDiagLayer*> m_layers;
+    VUsed& m_used;
     std::unordered_map<VKey, VName, VHash> m_names;
     std::unordered_map<NODX201::VOdxElement const*, VPlace> m_places;
     std::unordered_map<NODX201::VDiagLayer const*, std::vector<VPlace*>> m_placesBeside; // that the layer reads as well
@@ -193,18 +188,6 @@ void VUsesByName::ForEachReader(VMeaning const& meaning, Take take) {
             take(*reader.reference, meaning.name->wanted, layers);
         }
     }
-}
-
-template <class Test>
-bool VUsesByName::AnyReader(VMeaning const& meaning, Test test) {
-    for (VReader const& reader : meaning.name->readers) {
-        bool const isRead = reader.home->layers.Meets(meaning.layers) ||
-                            (reader.anchor != nullptr && reader.anchor->layers.Meets(meaning.layers));
-        if (isRead && test(*reader.reference)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 } // namespace NQuery

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <diagkit/check/Check.h>
+#include <diagkit/query/Uses.h>
 
 #include "faults/FailEverywhere.h"
 #include "faults/Sample.h"
@@ -50,6 +51,19 @@ TEST(LoadFaultsTest, CheckingTheSample) {
         FailEverywhere([&] { result.database->StartNewResolver(); }, [&] { NCheck::CheckDatabase(result); });
     EXPECT_GT(failures, 1000u);
     EXPECT_EQ(NCheck::CheckDatabase(result).size(), before);
+}
+
+TEST(LoadFaultsTest, FindingTheUsesInTheSample) {
+    NReader::VReadResult const result = NReader::ReadOdx({kSample}, OneThread());
+    NODX201::VOdxElement const& element = *result.elements.back();
+    auto const ask = [&] {
+        NQuery::VUses const uses(*result.database, result.elements);
+        return std::make_pair(uses.Of(element).size(), uses.Unused().size());
+    };
+    auto const before = ask();
+    std::size_t const failures = FailEverywhere([&] { result.database->StartNewResolver(); }, [&] { ask(); });
+    EXPECT_GT(failures, 1000u);
+    EXPECT_EQ(ask(), before);
 }
 
 } // namespace

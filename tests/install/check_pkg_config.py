@@ -49,7 +49,7 @@ def main():
         flags = run("pkg-config", "--cflags", "--libs", *linking, package).split()
         run(compiler, "-std=c++17", *WARNINGS, *sources, "-o", folder / f"{program}{EXE}", *flags)
 
-    packages = ["diagkit", "diagkit-memory", "diagkit-conformance", "diagkit-reader", "diagkit-check"]
+    packages = ["diagkit", "diagkit-memory", "diagkit-conformance", "diagkit-reader", "diagkit-check", "diagkit-query"]
     for package in packages:
         expect(run("pkg-config", "--modversion", package) == f"{version()}\n", f"{package} has another version")
         run("pkg-config", "--validate", package)
@@ -62,7 +62,7 @@ def main():
     build("app", "diagkit-reader", write_readme_program(folder))
     build("own_model", "diagkit-conformance", *own_model())
     for program, source in examples().items():
-        build(program, "diagkit-reader", source)
+        build(program, "diagkit-query", source)
     run_stranger_programs(folder)
     run_readme_program(folder / "app")
     run_examples(folder, [*examples(), "own_model"])

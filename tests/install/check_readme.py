@@ -33,6 +33,7 @@ ANSWERS = {
     "./run oem": ["VDaimlerHeuristic", "decides"],
     "./run enums Addressing": ["FUNCTIONAL-OR-PHYSICAL"],
     "./run check": ["0 errors"],
+    "./run uses --unused": ["0 in all"],
     "./run --help": ["traverse"],
     "cmake --install": ["bin/diagkit"],
 }
