@@ -23,17 +23,17 @@ namespace {
 
 using NQuery::VViewEntry;
 
-NODX201::VDiagLayer* ParentOf(VViewEntry const& entry) {
-    return entry.path.empty() ? nullptr : entry.path.front().layer.layer;
-}
+using VPath = std::vector<NDIAGKIT::VParent>;
+
+NODX201::VDiagLayer* ParentOn(VPath const& path) { return path.empty() ? nullptr : path.front().layer.layer; }
 
 std::string TitleOfOwner(NODX201::VOdxElement const& element) {
     NODX201::VDiagLayer const* const owner = LayerAround(element);
     return owner != nullptr ? Titled(*owner) : "-";
 }
 
-std::string ViaOf(VViewEntry const& entry) {
-    NODX201::VDiagLayer const* const parent = ParentOf(entry);
+std::string ViaOf(VViewEntry const& entry, VPath const& path) {
+    NODX201::VDiagLayer const* const parent = ParentOn(path);
     return parent == nullptr || parent == LayerAround(*entry.element) ? "" : "via " + Titled(*parent);
 }
 
@@ -67,7 +67,7 @@ private:
 VGroup OwnGroup(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind) {
     VGroup group("Own");
     for (VViewEntry const& entry : view.entries) {
-        if (entry.path.empty()) {
+        if (view.PathOf(entry).empty()) {
             bool const isReferenced = LayerAround(*entry.element) != &layer;
             group.Add(*entry.element,
                       {isReferenced ? fmt::format("{} to {}", kind.reference, TitleOfOwner(*entry.element)) : ""});
@@ -82,12 +82,13 @@ std::vector<VGroup> InheritedGroups(NQuery::VLayerView const& view) {
     std::vector<VGroup> groups;
     std::map<std::pair<NODX201::VDiagLayer const*, NODX201::VDiagLayer const*>, std::size_t> ways;
     for (VViewEntry const& entry : view.entries) {
-        if (entry.path.empty()) {
+        if (view.PathOf(entry).empty()) {
             continue;
         }
-        auto const [way, isNew] = ways.try_emplace({LayerAround(*entry.element), ParentOf(entry)}, groups.size());
+        auto const [way, isNew] =
+            ways.try_emplace({LayerAround(*entry.element), ParentOn(view.PathOf(entry))}, groups.size());
         if (isNew) {
-            std::string const via = ViaOf(entry);
+            std::string const via = ViaOf(entry, view.PathOf(entry));
             groups.emplace_back("Inherited from " + TitleOfOwner(*entry.element) + (via.empty() ? "" : " " + via));
         }
         groups[way->second].Add(*entry.element, {});
@@ -98,8 +99,8 @@ std::vector<VGroup> InheritedGroups(NQuery::VLayerView const& view) {
 VGroup HiddenGroup(NQuery::VLayerView const& view, VInheritedKindRow const& kind) {
     VGroup group(fmt::format("Hidden by a {} of the same name", kind.noun));
     for (VViewEntry const& entry : view.hidden) {
-        group.Add(*entry.element,
-                  {"from " + TitleOfOwner(*entry.element), ViaOf(entry), "hidden by " + TitleOfOwner(*entry.hiddenBy)});
+        group.Add(*entry.element, {"from " + TitleOfOwner(*entry.element), ViaOf(entry, view.PathOf(entry)),
+                                   "hidden by " + TitleOfOwner(*entry.hiddenBy)});
     }
     return group;
 }
@@ -107,7 +108,7 @@ VGroup HiddenGroup(NQuery::VLayerView const& view, VInheritedKindRow const& kind
 VGroup ExcludedGroup(NQuery::VLayerView const& view) {
     VGroup group("Excluded by NOT-INHERITED-DIAG-COMMS");
     for (VViewEntry const& entry : view.excluded) {
-        group.Add(*entry.element, {"from " + TitleOfOwner(*entry.element), ViaOf(entry)});
+        group.Add(*entry.element, {"from " + TitleOfOwner(*entry.element), ViaOf(entry, view.PathOf(entry))});
     }
     return group;
 }
@@ -128,11 +129,11 @@ void WriteText(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer,
     ExcludedGroup(view).Write(output);
 }
 
-void WriteViewEntry(VJsonWriter& json, VViewEntry const& entry, NMemory::VDatabase const& database) {
+void WriteViewEntry(VJsonWriter& json, VViewEntry const& entry, VPath const& path, NMemory::VDatabase const& database) {
     NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, *entry.element);
     json.Object([&] {
         WriteEntryMembers(json, *entry.element);
-        json.ArrayOf("via", entry.path, [&json](NDIAGKIT::VParent const& step) {
+        json.ArrayOf("via", path, [&json](NDIAGKIT::VParent const& step) {
             json.Value(std::wstring_view(step.layer.layer->GetShortName()));
         });
         json.TextOrNull("file", place.file);
@@ -148,7 +149,7 @@ void WriteViewEntry(VJsonWriter& json, VViewEntry const& entry, NMemory::VDataba
 
 void WriteAsJson(VJsonWriter& json, NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer,
                  VInheritedKindRow const& kind, NMemory::VDatabase const& database) {
-    auto const write = [&](VViewEntry const& entry) { WriteViewEntry(json, entry, database); };
+    auto const write = [&](VViewEntry const& entry) { WriteViewEntry(json, entry, view.PathOf(entry), database); };
     json.Object([&] {
         json.Member("view", kind.views);
         json.Name("context");

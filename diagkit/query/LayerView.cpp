@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include <diagkit/check/Views.h>
 #include <diagkit/query/ForKind.h>
@@ -25,14 +27,19 @@ void SortByShortName(std::vector<VCandidate const*>& candidates) {
 template <class Kind>
 class VViewMaker {
 public:
-    explicit VViewMaker(NODX201::VDiagLayer& layer) : m_candidates(m_notes.CandidatesOf(layer)) {}
+    explicit VViewMaker(NODX201::VDiagLayer& layer) : m_candidates(m_inheritance.CandidatesOf(layer)) {
+        m_view.ways.emplace_back();
+        m_ways.emplace(0, 0);
+    }
 
     VLayerView Make() {
         TakeVisible();
-        for (VCandidate const& candidate : m_candidates) {
-            if (!candidate.isVisible && m_told.insert(candidate.element).second) {
-                bool const isHidden = candidate.hiddenBy != nullptr; // the passes look for the name first
-                (isHidden ? m_view.hidden : m_view.excluded).push_back(EntryFor(candidate));
+        ForgetWhatIsVisible();
+        std::unordered_set<NODX201::VOdxElement const*> told;
+        for (VCandidate const* const candidate : m_leftOut) {
+            if (told.insert(candidate->element).second) {
+                bool const isHidden = candidate->hiddenBy != nullptr; // the passes look for the name first
+                (isHidden ? m_view.hidden : m_view.excluded).push_back(EntryFor(*candidate));
             }
         }
         return std::move(m_view);
@@ -41,10 +48,13 @@ public:
 private:
     void TakeVisible() {
         std::vector<VCandidate const*> visible;
+        visible.reserve(m_candidates.size());
         for (VCandidate const& candidate : m_candidates) {
+            bool const hidesItself = candidate.hiddenBy != nullptr && candidate.hiddenBy->element == candidate.element;
             if (candidate.isVisible) {
                 visible.push_back(&candidate);
-                m_told.insert(candidate.element);
+            } else if (!hidesItself) {
+                m_leftOut.push_back(&candidate);
             }
         }
         if constexpr (std::is_same_v<Kind, NDIAGKIT::VInheritedDops>) {
@@ -56,17 +66,47 @@ private:
         }
     }
 
+    /// What another PARENT-REF brings after all, and what is the layer's own under a name that it has already.
+    void ForgetWhatIsVisible() {
+        std::unordered_set<NODX201::VOdxElement const*> leftOut;
+        for (VCandidate const* const candidate : m_leftOut) {
+            leftOut.insert(candidate->element);
+        }
+        if (leftOut.empty()) {
+            return;
+        }
+        for (VViewEntry const& entry : m_view.entries) {
+            leftOut.erase(entry.element);
+        }
+        auto const isVisible = [&leftOut](VCandidate const* candidate) {
+            return leftOut.count(candidate->element) == 0;
+        };
+        m_leftOut.erase(std::remove_if(m_leftOut.begin(), m_leftOut.end(), isVisible), m_leftOut.end());
+    }
+
     VViewEntry EntryFor(VCandidate const& candidate) {
         bool const isHidden = !candidate.isVisible && candidate.hiddenBy != nullptr;
         bool const isExcluded = !candidate.isVisible && !isHidden;
-        return {candidate.element, m_notes.PathOf(candidate), isHidden ? candidate.hiddenBy->element : nullptr,
+        return {candidate.element, WayOf(candidate), isHidden ? candidate.hiddenBy->element : nullptr,
                 isExcluded ? candidate.exclusion : nullptr};
     }
 
+    std::size_t WayOf(VCandidate const& candidate) {
+        if (candidate.way != m_lastWay.first) { // neighbours mostly came on the same way
+            auto const [way, isNew] = m_ways.try_emplace(candidate.way, m_view.ways.size());
+            if (isNew) {
+                m_view.ways.push_back(m_inheritance.WayOf(candidate));
+            }
+            m_lastWay = *way;
+        }
+        return m_lastWay.second;
+    }
+
     NDIAGKIT::VInheritance<Kind> m_inheritance;
-    NDIAGKIT::VInheritanceNotes<Kind> m_notes{m_inheritance};
-    std::deque<VCandidate> const& m_candidates;
-    std::unordered_set<NODX201::VOdxElement const*> m_told;
+    std::deque<VCandidate> m_candidates;
+    std::vector<VCandidate const*> m_leftOut;
+    std::unordered_map<std::uint32_t, std::size_t> m_ways; // by their numbers
+    std::pair<std::uint32_t, std::size_t> m_lastWay{0, 0};
     VLayerView m_view;
 };
 

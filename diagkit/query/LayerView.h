@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include <diagkit/model/Forward.h>
@@ -14,9 +15,9 @@ namespace NQuery {
 /// An element as a layer has it, or would have it.
 struct VViewEntry {
     NODX201::VOdxElement* element;
-    std::vector<NDIAGKIT::VParent> path; ///< from the layer to the one that has the element; empty for an own one
-    NODX201::VOdxElement* hiddenBy;      ///< of a hidden one, what the layer has under its short name; null otherwise
-    NODX201::VOdxElement* exclusion;     ///< of an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
+    std::size_t way;                 ///< on which it came, by number; see `VLayerView::PathOf`
+    NODX201::VOdxElement* hiddenBy;  ///< of a hidden one, what the layer has under its short name; null otherwise
+    NODX201::VOdxElement* exclusion; ///< of an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
 };
 
 /// A view and what is left out of it.
@@ -26,6 +27,12 @@ struct VLayerView {
     /// visible after all is in neither list; what is offered several times is in one, once, as it was offered first.
     std::vector<VViewEntry> hidden;
     std::vector<VViewEntry> excluded;
+
+    /// The ways on which all of these came, each once, the empty one of own elements first.
+    std::vector<std::vector<NDIAGKIT::VParent>> ways;
+
+    /// The way of an entry, PARENT-REF by PARENT-REF: from the layer to the one that has the element.
+    std::vector<NDIAGKIT::VParent> const& PathOf(VViewEntry const& entry) const { return ways[entry.way]; }
 };
 
 /// The view of a layer, with reasons. It points into the model.

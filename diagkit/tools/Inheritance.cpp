@@ -324,43 +324,61 @@ namespace {
 
 /// What a merge notes when nobody asks: nothing.
 struct VNoNotes {
+    using VOfParents = VNoNotes;
     static constexpr bool kAreTaken = false;
+    static constexpr bool kHaveWays = false;
 
-    static void StartReference(NODX201::VParentRef&, VLayerOfKind const&, int) {}
+    static void StartReference(VParent const&, int) {}
     static void StartExclusions() {}
     static void Exclude(std::uint32_t, NODX201::VOdxElement&) {}
-    static void Add(NODX201::VOdxElement&, std::uint32_t, bool) {}
+    static void Add(NODX201::VOdxElement&, std::uint32_t, bool, std::uint32_t) {}
+};
+
+/// What is noted of the parents of a layer whose merge is: on which ways their entries came.
+struct VWayNotes : VNoNotes {
+    using VOfParents = VWayNotes;
+    static constexpr bool kHaveWays = true;
 };
 
 class VNotes {
 public:
+    using VOfParents = VWayNotes;
     static constexpr bool kAreTaken = true;
+    static constexpr bool kHaveWays = true;
 
-    void StartReference(NODX201::VParentRef& parentRef, VLayerOfKind const& parent, int pass) {
-        m_parent = VParent{&parentRef, parent};
+    void StartReference(VParent const& parent, int pass) {
+        m_parent = parent;
         m_pass = pass;
     }
     void StartExclusions() { m_exclusions.clear(); }
     void Exclude(std::uint32_t name, NODX201::VOdxElement& exclusion) { m_exclusions.try_emplace(name, &exclusion); }
 
-    void Add(NODX201::VOdxElement& element, std::uint32_t name, bool isVisible) {
-        auto const holder = m_holders.find(name);
-        auto const exclusion = m_exclusions.find(name);
-        candidates.push_back({&element, m_parent, m_pass, isVisible,
-                              holder != m_holders.end() ? holder->second : nullptr,
-                              exclusion != m_exclusions.end() ? exclusion->second : nullptr});
-        if (isVisible) {
-            m_holders.try_emplace(name, &candidates.back());
+    void Add(NODX201::VOdxElement& element, std::uint32_t name, bool isVisible, std::uint32_t way) {
+        if (name >= m_holders.size()) {
+            m_holders.resize(std::max<std::size_t>(name + std::size_t{1}, 2 * m_holders.size()));
+        }
+        VCandidate const*& holder = m_holders[name];
+        candidates.push_back({&element, m_parent, m_pass, isVisible, holder, ExclusionOf(name), way});
+        if (isVisible && holder == nullptr) {
+            holder = &candidates.back();
         }
     }
 
     std::deque<VCandidate> candidates;
 
 private:
+    NODX201::VOdxElement* ExclusionOf(std::uint32_t name) const {
+        if (m_exclusions.empty()) {
+            return nullptr;
+        }
+        auto const exclusion = m_exclusions.find(name);
+        return exclusion != m_exclusions.end() ? exclusion->second : nullptr;
+    }
+
     std::optional<VParent> m_parent; // that is being looked at
     int m_pass = 0;
     std::unordered_map<std::uint32_t, NODX201::VOdxElement*> m_exclusions; // of the reference, by name
-    std::unordered_map<std::uint32_t, VCandidate const*> m_holders;        // of names
+    std::vector<VCandidate const*> m_holders;                              // of names, by number
 };
 
 } // namespace
@@ -380,7 +398,7 @@ public:
         std::size_t kept = 0;
         for (std::size_t index = 0; index < m_list.elements.size(); ++index) {
             bool const isVisible = Hold(m_list.names[index]) || Kind::kRow.showsOwnDoubles;
-            m_notes.Add(*m_list.elements[index], m_list.names[index], isVisible);
+            m_notes.Add(*m_list.elements[index], m_list.names[index], isVisible, 0);
             if (isVisible) {
                 m_list.elements[kept] = m_list.elements[index];
                 m_list.names[kept] = m_list.names[index];
@@ -389,6 +407,9 @@ public:
         }
         m_list.elements.resize(kept);
         m_list.names.resize(kept);
+        if constexpr (Notes::kHaveWays) {
+            m_list.ways.resize(kept);
+        }
     }
 
     /// In force until the next call.
@@ -409,7 +430,8 @@ public:
         }
     }
 
-    void Inherit(VList const& offered) {
+    void Inherit(VParent const& parent, VList const& offered) {
+        VLongerWays ways(m_inheritance.m_ways, parent);
         auto const [seen, isFirst] = m_excluded.try_emplace(&offered);
         // Named once more, a parent can only bring what was excluded before.
         VList const again = std::move(seen->second);
@@ -418,23 +440,58 @@ public:
         for (std::size_t index = 0; index < candidates.elements.size(); ++index) {
             std::uint32_t const name = candidates.names[index];
             Element& element = *candidates.elements[index];
-            if (IsHeld(name)) {
-                if constexpr (Notes::kAreTaken) {
-                    m_notes.Add(element, name, false);
-                    seen->second.Add(element, name);
-                }
-                continue;
-            }
-            bool const isExcluded = IsInNotInheritedList(name);
-            m_notes.Add(element, name, !isExcluded);
-            (isExcluded ? seen->second : m_list).Add(element, name);
-            if (!isExcluded) {
+            std::uint32_t const wayOfParent = Notes::kHaveWays ? candidates.ways[index] : 0;
+            std::uint32_t const way = Notes::kHaveWays ? ways.Longer(wayOfParent) : 0;
+            bool const isHeld = IsHeld(name);
+            bool const isVisible = !isHeld && !IsInNotInheritedList(name);
+            m_notes.Add(element, name, isVisible, way);
+            if (isVisible) {
+                Add(m_list, element, name, way);
                 Hold(name);
+            } else if (!isHeld || Notes::kAreTaken) {
+                Add(seen->second, element, name, wayOfParent);
             }
         }
     }
 
 private:
+    /// The ways that begin with a PARENT-REF, by what they go on with.
+    class VLongerWays {
+    public:
+        VLongerWays(std::vector<VWayStep>& ways, VParent const& parent) : m_ways(ways), m_parent(parent) {}
+
+        std::uint32_t Longer(std::uint32_t next) {
+            if (m_longer == 0 || next != m_next) { // neighbours mostly came on the same way
+                m_next = next;
+                m_longer = NumberOf(next);
+            }
+            return m_longer;
+        }
+
+    private:
+        std::uint32_t NumberOf(std::uint32_t next) {
+            auto const [number, isNew] = m_numbers.try_emplace(next, 0);
+            if (isNew) {
+                m_ways.push_back({m_parent, next});
+                number->second = static_cast<std::uint32_t>(m_ways.size());
+            }
+            return number->second;
+        }
+
+        std::vector<VWayStep>& m_ways;
+        VParent const& m_parent;
+        std::unordered_map<std::uint32_t, std::uint32_t> m_numbers;
+        std::uint32_t m_next = 0;
+        std::uint32_t m_longer = 0;
+    };
+
+    static void Add(VList& list, Element& element, std::uint32_t name, std::uint32_t way) {
+        list.Add(element, name);
+        if constexpr (Notes::kHaveWays) {
+            list.ways.push_back(way);
+        }
+    }
+
     /// The mark of a name, which may be a new one.
     std::uint32_t& At(std::vector<std::uint32_t>& marks, std::uint32_t name) {
         if (name >= marks.size()) {
@@ -485,8 +542,17 @@ std::deque<VCandidate> VInheritance<Kind>::CandidatesOf(VLayerOfKind layer) {
 }
 
 template <class Kind>
+std::vector<VParent> VInheritance<Kind>::WayOf(VCandidate const& candidate) const {
+    std::vector<VParent> path;
+    for (std::uint32_t way = candidate.way; way != 0; way = m_ways[way - 1].next) {
+        path.push_back(m_ways[way - 1].parent);
+    }
+    return path;
+}
+
+template <class Kind>
 typename VInheritance<Kind>::VElements const& VInheritance<Kind>::EntriesOfParent(VLayerOfKind layer) {
-    return Kept(layer, 0).elements;
+    return Kept<VNoNotes>(layer, 0).elements;
 }
 
 template <class Kind>
@@ -510,23 +576,28 @@ typename VInheritance<Kind>::VElements VInheritance<Kind>::LookedAtOf(VLayerOfKi
 }
 
 template <class Kind>
+template <class Notes>
 typename VInheritance<Kind>::VList const& VInheritance<Kind>::Kept(VLayerOfKind layer, std::size_t level) {
-    auto const kept = m_kept.find(layer.layer);
-    if (kept != m_kept.end()) {
+    VKept& known = Notes::kHaveWays ? m_keptWithWays : m_kept;
+    auto const kept = known.find(layer.layer);
+    if (kept != known.end()) {
         return kept->second;
     }
-    VNoNotes noNotes;
-    VList list = Make(layer, level, noNotes);
+    Notes notes;
+    VList list = Make(layer, level, notes);
     NumberNames(list);
-    return m_kept.emplace(layer.layer, std::move(list)).first->second;
+    return known.emplace(layer.layer, std::move(list)).first->second;
 }
 
 template <class Kind>
 template <class Notes>
 typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, std::size_t level, Notes& notes) {
-    VList list{LookedAtOf(layer), {}};
+    VList list{LookedAtOf(layer), {}, {}};
     NODX201::VParentRefCollection* const parentRefs = WalkedParentRefs(layer, Kind::kRow);
     if (parentRefs == nullptr && Kind::kRow.showsOwnDoubles && !Notes::kAreTaken) {
+        if constexpr (Notes::kHaveWays) {
+            list.ways.resize(list.elements.size());
+        }
         return list;
     }
     VMerge<Notes> merge(*this, m_levels[level], list, notes);
@@ -537,9 +608,10 @@ typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, 
                    if (Kind::kRow.appliesExclusions) {
                        merge.SetNotInheritedList(parentRef);
                    }
-                   if (auto const parent = ParentBy(parentRef, kinds)) {
-                       notes.StartReference(parentRef, *parent, pass);
-                       merge.Inherit(Kept(*parent, level + 1));
+                   if (auto const target = ParentBy(parentRef, kinds)) {
+                       VParent const parent{&parentRef, *target};
+                       notes.StartReference(parent, pass);
+                       merge.Inherit(parent, Kept<typename Notes::VOfParents>(*target, level + 1));
                    }
                });
     return list;

@@ -150,6 +150,7 @@ struct VCandidate {
     bool isVisible;                  ///< whether it is an entry of the view
     VCandidate const* hiddenBy;      ///< what the layer has under its short name already; null when there is nothing
     NODX201::VOdxElement* exclusion; ///< the NOT-INHERITED-DIAG-COMM of the PARENT-REF that names it; null without one
+    std::uint32_t way;               ///< on which it came, as `VInheritance::WayOf` numbers them; 0 for an own one
 };
 
 /// What is visible of one kind in layers: the own elements in document order, then what the parents offer, pass by pass
@@ -185,16 +186,27 @@ public:
     /// each other: they may be moved, not copied. Those of the parents are noted by asking for them.
     std::deque<VCandidate> CandidatesOf(VLayerOfKind layer);
 
+    /// The way of a candidate that this object gave, PARENT-REF by PARENT-REF: from the layer whose candidate it is to
+    /// the one that has the element. Empty for an own one. Candidates that came on the same way have its number.
+    std::vector<VParent> WayOf(VCandidate const& candidate) const;
+
 private:
     struct VList {
         VElements elements;
         std::vector<std::uint32_t> names; // of the elements, by number
+        std::vector<std::uint32_t> ways;  // on which they came, by number; none where nobody asks
 
         void Add(Element& element, std::uint32_t name) {
             elements.push_back(&element);
             names.push_back(name);
         }
     };
+    /// The first PARENT-REF of a way, and the number of the way from there; 0 is the empty one.
+    struct VWayStep {
+        VParent parent;
+        std::uint32_t next;
+    };
+    using VKept = std::unordered_map<NODX201::VDiagLayer const*, VList>;
     /// What is held and excluded on one level of the way up: while a layer is being merged, its parents are, each a
     /// level above. By the number of the name, the latest merge that holds it and the latest reference that excludes
     /// it.
@@ -213,12 +225,15 @@ private:
     VList Make(VLayerOfKind layer, std::size_t level, Notes& notes);
     VElements LookedAtOf(VLayerOfKind layer) const;
     bool LooksAt(std::wstring_view shortName) const { return !m_shortName.has_value() || *m_shortName == shortName; }
+    template <class Notes>
     VList const& Kept(VLayerOfKind layer, std::size_t level);
     std::uint32_t NumberOf(std::wstring_view shortName);
     void NumberNames(VList& list);
 
     std::optional<std::wstring> m_shortName;                        // of all that counts; none for any
-    std::unordered_map<NODX201::VDiagLayer const*, VList> m_kept;   // parents
+    VKept m_kept;                                                   // parents
+    VKept m_keptWithWays;                                           // parents as notes want them
+    std::vector<VWayStep> m_ways;                                   // by number, which begins at 1
     std::unordered_map<std::wstring_view, std::uint32_t> m_numbers; // of short names, whose texts are the model's
     std::array<VLevel, kLevels> m_levels;
 };

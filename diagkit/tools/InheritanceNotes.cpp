@@ -210,13 +210,8 @@ std::deque<VCandidate> const& VInheritanceNotes<Kind>::CandidatesOf(VLayerOfKind
 }
 
 template <class Kind>
-std::vector<VParent> VInheritanceNotes<Kind>::PathOf(VCandidate const& candidate) {
-    std::vector<VParent> path;
-    for (VCandidate const* step = &candidate; step->parent.has_value();) {
-        path.push_back(*step->parent);
-        step = NotesOf(step->parent->layer).visible.at(candidate.element);
-    }
-    return path;
+std::vector<VParent> VInheritanceNotes<Kind>::PathOf(VCandidate const& candidate) const {
+    return m_inheritance.WayOf(candidate);
 }
 
 template <class Kind>
@@ -233,9 +228,6 @@ typename VInheritanceNotes<Kind>::VLayerNotes const& VInheritanceNotes<Kind>::No
     notes.candidates = m_inheritance.CandidatesOf(layer);
     for (VCandidate const& candidate : notes.candidates) {
         notes.byName[candidate.element->GetShortName()].push_back(&candidate);
-        if (candidate.isVisible) {
-            notes.visible.try_emplace(candidate.element, &candidate);
-        }
     }
     return m_notes.emplace(layer.layer, std::move(notes)).first->second;
 }

@@ -64,9 +64,8 @@ public:
     /// view, in its order (`VDopView` has an order of its own).
     std::deque<VCandidate> const& CandidatesOf(VLayerOfKind layer);
 
-    /// The way of a candidate of a layer, PARENT-REF by PARENT-REF: from the layer to the one that has the element.
-    /// Empty for an own one.
-    std::vector<VParent> PathOf(VCandidate const& candidate);
+    /// The way of a candidate; see `VInheritance::WayOf`.
+    std::vector<VParent> PathOf(VCandidate const& candidate) const;
 
     /// All own elements of this short name, of the layer and of every layer that PARENT-REFs lead to, each on every way
     /// on which it could come; no way enters a layer twice. First the ways that the passes take, depth first, in the
@@ -82,7 +81,6 @@ public:
 private:
     struct VLayerNotes {
         std::deque<VCandidate> candidates;
-        std::unordered_map<NODX201::VOdxElement const*, VCandidate const*> visible;
         std::unordered_map<std::wstring_view, std::vector<VCandidate const*>> byName;
     };
     class VWayFinder;

@@ -17,14 +17,14 @@ using NQuery::VViewEntry;
 std::wstring Print(VLayerView const& view) {
     std::wstring text;
     for (VViewEntry const& entry : view.entries) {
-        text += L"\n" + IdOfElement(*entry.element) + PrintPath(entry.path);
+        text += L"\n" + IdOfElement(*entry.element) + PrintPath(view.PathOf(entry));
     }
     for (VViewEntry const& entry : view.hidden) {
-        text +=
-            L"\nhidden " + IdOfElement(*entry.element) + PrintPath(entry.path) + L" by " + IdOfElement(*entry.hiddenBy);
+        text += L"\nhidden " + IdOfElement(*entry.element) + PrintPath(view.PathOf(entry)) + L" by " +
+                IdOfElement(*entry.hiddenBy);
     }
     for (VViewEntry const& entry : view.excluded) {
-        text += L"\nexcluded " + IdOfElement(*entry.element) + PrintPath(entry.path);
+        text += L"\nexcluded " + IdOfElement(*entry.element) + PrintPath(view.PathOf(entry));
     }
     return text;
 }
