@@ -19,6 +19,7 @@ set(public_headers
     diagkit/check/Cycles.h
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
+    diagkit/query/Content.h
     diagkit/query/FilePlace.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Limits.h
