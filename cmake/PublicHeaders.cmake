@@ -20,6 +20,7 @@ set(public_headers
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
     diagkit/query/Content.h
+    diagkit/query/Diff.h
     diagkit/query/FilePlace.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Limits.h

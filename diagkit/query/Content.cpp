@@ -164,6 +164,11 @@ NODX201::VOdxElement* TargetOf(NODX201::VLink& reference, NODX201::VDiagLayer* l
     return known != nullptr && known->follow != nullptr ? known->follow(reference, layer) : nullptr;
 }
 
+bool HasContent(NODX201::VLink& reference) {
+    VContentClass const* const known = ClassOf(reference);
+    return known != nullptr && known->table != nullptr;
+}
+
 bool IsReadInLayer(NODX201::VLink& reference) {
     VContentClass const* const known = ClassOf(reference);
     return known != nullptr && known->isReadInLayer && IsByShortName(reference);

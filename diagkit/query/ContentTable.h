@@ -58,6 +58,9 @@ VContentTable ContentTableOf(VContentFact const (&facts)[Count]) {
     return ContentTableOf(facts, Count);
 }
 
+/// Whether references of this class may hold more than their attributes.
+bool HasContent(NODX201::VLink& reference);
+
 /// The name that a reference bears in this row.
 wchar_t const* TagIn(VContentRow const& row, NODX201::VLink& reference);
 /// Whether an item of the collection stands in the wrapper of this row.

@@ -27,7 +27,7 @@ PUBLIC = {
     "conformance": {"Conformance.h", "Reference.h"},
     "reader": {"Diagnostic.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
-    "query": {"Content.h", "FilePlace.h"},
+    "query": {"Content.h", "Diff.h", "FilePlace.h"},
 }
 FILES = """
     LIB/libdiagkit_check.a LIB/libdiagkit_conformance.a LIB/libdiagkit_memory.a LIB/libdiagkit_query.a
