@@ -32,4 +32,7 @@ VStatus RunOem(VArguments const& arguments, VOutput& output);
 void DeclareCheck(CLI::App& command, VArguments& arguments);
 VStatus RunCheck(VArguments const& arguments, VOutput& output);
 
+void DeclareDiff(CLI::App& command, VArguments& arguments);
+VStatus RunDiff(VArguments const& arguments, VOutput& output);
+
 } // namespace NCli

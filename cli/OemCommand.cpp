@@ -1,22 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
-#include <filesystem>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <cli/Commands.h>
+#include <cli/Folder.h>
 #include <cli/JsonWriter.h>
 #include <cli/Load.h>
 #include <cli/OemAnswer.h>
 #include <cli/Text.h>
-#include <diagkit/reader/Ascii.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
 namespace NCli {
 namespace {
-
-namespace fs = std::filesystem;
 
 using NDIAGKIT::VOemReport;
 
@@ -62,29 +59,6 @@ void WriteError(std::string const& file, std::string const& reason, bool isJson,
     } else {
         output.Write(fmt::format("{}: not answered for: {}\n", Shown(file), reason));
     }
-}
-
-bool IsNamedLikeOdx(fs::path const& path) {
-    std::string extension = path.extension().u8string();
-    std::transform(extension.begin(), extension.end(), extension.begin(), NReader::Lower);
-    return extension == ".pdx" || extension == ".zip" || extension == ".xml" || extension.rfind(".odx", 0) == 0;
-}
-
-/// The files that a name stands for: those in a folder that are named like ODX, by name; otherwise itself.
-std::vector<std::string> FilesOf(std::string const& name) {
-    std::error_code error;
-    fs::directory_iterator const folder(fs::u8path(name), error);
-    if (error) {
-        return {name}; // a file, or something whose reading says why it is none
-    }
-    std::vector<std::string> files;
-    for (fs::directory_entry const& entry : folder) {
-        if (IsNamedLikeOdx(entry.path())) {
-            files.push_back(entry.path().generic_u8string());
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
 }
 
 /// A file as a database of its own.

@@ -202,7 +202,7 @@ struct VResolveKind {
 };
 
 // clang-format off
-constexpr std::array kKinds{
+constexpr std::array kResolveKinds{
     VResolveKind{"dop",              kLayerSelection,           &ResolveDop},
     VResolveKind{"data-object-prop", kLayerSelection,           &ResolveDataObjectProp},
     VResolveKind{"diag-comm",        kLayerSelection,           &ResolveDiagComm},
@@ -266,15 +266,15 @@ VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output
 } // namespace
 
 void DeclareResolve(CLI::App& command, VArguments& arguments) {
-    DeclareKind(command, arguments, NamesOf(kKinds), "What the name stands for");
+    DeclareKind(command, arguments, NamesOf(kResolveKinds), "What the name stands for");
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
     DeclareSelections(command, arguments);
     DeclareFiles(command, arguments);
-    command.footer(SelectionsOf(kKinds) + "\n" + kRangesHelp);
+    command.footer(SelectionsOf(kResolveKinds) + "\n" + kRangesHelp);
 }
 
 VStatus RunResolve(VArguments const& arguments, VOutput& output) {
-    VResolveKind const* const kind = FittingKind("resolve", kKinds, arguments, output);
+    VResolveKind const* const kind = FittingKind("resolve", kResolveKinds, arguments, output);
     if (kind == nullptr) {
         return VStatus::Usage;
     }

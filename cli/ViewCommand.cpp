@@ -19,7 +19,7 @@ struct VViewKind {
 };
 
 // clang-format off
-constexpr std::array kKinds{
+constexpr std::array kViewKinds{
     VViewKind{"diag-comms",           kLayerSelection,            &ViewDiagComms},
     VViewKind{"diag-variables",       kLayerSelection,            &ViewDiagVariables},
     VViewKind{"global-neg-responses", kLayerSelection,            &ViewGlobalNegResponses},
@@ -48,14 +48,14 @@ void WriteViewAsJson(std::string_view kind, NODX201::VOdxElement const& context,
 }
 
 void DeclareView(CLI::App& command, VArguments& arguments) {
-    DeclareKind(command, arguments, NamesOf(kKinds), "What to view");
+    DeclareKind(command, arguments, NamesOf(kViewKinds), "What to view");
     DeclareSelections(command, arguments);
     DeclareFiles(command, arguments);
-    command.footer(SelectionsOf(kKinds) + "\n" + kRangesHelp);
+    command.footer(SelectionsOf(kViewKinds) + "\n" + kRangesHelp);
 }
 
 VStatus RunView(VArguments const& arguments, VOutput& output) {
-    VViewKind const* const kind = FittingKind("view", kKinds, arguments, output);
+    VViewKind const* const kind = FittingKind("view", kViewKinds, arguments, output);
     if (kind == nullptr) {
         return VStatus::Usage;
     }

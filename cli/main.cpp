@@ -37,6 +37,7 @@ constexpr std::array kCommands{
     VCommand{"oem",      "Whose habits a database shows, and why no other's",             &DeclareOem,      &RunOem},
     VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
     VCommand{"check",    "Everything that is wrong with the files, or looks like it",    &DeclareCheck,    &RunCheck},
+    VCommand{"diff",     "What changed between two databases, as seen from each layer",  &DeclareDiff,     &RunDiff},
 };
 // clang-format on
 

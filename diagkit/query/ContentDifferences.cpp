@@ -55,6 +55,8 @@ private:
     struct VFrame {
         VSteps steps;
         VHash key;
+        NODX201::VOdxElement* old;
+        NODX201::VOdxElement* now;
         std::size_t pathLength;
         std::size_t next = 0;
     };
@@ -64,7 +66,7 @@ private:
         VSeen const newSeen{&now, &m_newFrom};
         VHash const key = m_differences.KeyOf(oldSeen, newSeen);
         if (m_onPath.insert(key).second) { // met again inside itself, it counts by its short name
-            m_frames.push_back({m_differences.StepsBetween(oldSeen, newSeen), key, pathLength});
+            m_frames.push_back({m_differences.StepsBetween(oldSeen, newSeen), key, &old, &now, pathLength});
         }
     }
 
@@ -75,7 +77,8 @@ private:
         }
         bool const isTooFar = m_frames.size() > kMostReferences || ++m_visits > kMostVisits;
         if (step.oldTarget == nullptr) {
-            m_details.push_back({m_path, step.oldText, step.newText});
+            VFrame const& frame = m_frames.back();
+            m_details.push_back({m_path, step.oldText, step.newText, frame.old, frame.now, frame.pathLength});
         } else if (isTooFar) {
             m_details.push_back({m_path, step.oldTarget->GetShortName(), step.newTarget->GetShortName()});
         } else {

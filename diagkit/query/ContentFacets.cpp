@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/query/ContentFacets.h>
 
+#include <algorithm>
 #include <cwchar>
 
 #include <diagkit/memory/Layers.h>
@@ -34,6 +35,12 @@ bool IsPlural(std::wstring_view wrapper, std::wstring_view tag, std::wstring_vie
         return wrapper.size() == item.size() + 1 && wrapper.back() == L'S' && wrapper.substr(0, item.size()) == item;
     };
     return isOf(tag) || isOf(shortTag);
+}
+
+/// The attributes of references, which no other element has: a reference counts by what it leads to.
+bool IsOfReference(wchar_t const* attribute) {
+    return IsTag(attribute, L"ID-REF") || IsTag(attribute, L"DOCREF") || IsTag(attribute, L"DOCTYPE") ||
+           IsTag(attribute, L"REVISION") || IsTag(attribute, L"SHORT-NAME");
 }
 
 /// Elements that are as good as a wrapper: paths do not name them.
@@ -105,13 +112,14 @@ VHash const& VSeenFrom::Meaning() {
     return m_meaning;
 }
 
-bool VFacets::Counts(VContentPart const& part, bool isNamed, bool isOfReference) const {
+bool VFacets::Counts(VContentPart const& part, bool isNamed) const {
     bool const isAttribute = part.role == VPartRole::Attribute;
-    if (part.role == VPartRole::Instruction || (isAttribute && isOfReference)) {
+    if (part.role == VPartRole::Instruction) {
         return false;
     }
     if (isAttribute && *part.wrapper == L'\0') {
-        return !IsTag(part.tag, L"OID") && (m_options.comparesIds || !IsTag(part.tag, L"ID"));
+        return !IsOfReference(part.tag) && !IsTag(part.tag, L"OID") &&
+               (m_options.comparesIds || !IsTag(part.tag, L"ID"));
     }
     if (part.role == VPartRole::Text) {
         return !(isNamed && IsTag(part.tag, L"SHORT-NAME")) &&
@@ -144,14 +152,18 @@ std::uint32_t VFacets::ComponentOf(VContentPart const& part) {
 
 bool VFacets::AddReference(VContentPart const& part, VSeenFrom& from, std::vector<VFacet>& facets) {
     auto& reference = static_cast<NODX201::VLink&>(*part.element);
-    bool const isReadByDops = IsReadByDops(reference);
+    auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
+    bool const isReadByDops = snref != nullptr && IsReadByDops(reference);
     VFacet facet;
     facet.kind = VFacet::VKind::Reference;
     facet.isItem = part.isItem;
     facet.component = ComponentOf(part);
     facet.element = &reference;
-    NODX201::VOdxElement* const target = isReadByDops ? from.TargetOf(reference) : TargetOf(reference, nullptr);
-    if (auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink()); snref != nullptr) {
+    NODX201::VOdxElement* target = nullptr;
+    if (snref == nullptr || isReadByDops) {
+        target = isReadByDops ? from.TargetOf(reference) : TargetOf(reference, nullptr);
+    }
+    if (snref != nullptr) {
         facet.name = snref->GetShortName();
         facet.isMissing = isReadByDops && target == nullptr;
     } else {
@@ -169,10 +181,9 @@ bool VFacets::AddReference(VContentPart const& part, VSeenFrom& from, std::vecto
 
 bool VFacets::Read(NODX201::VOdxElement& element, VSeenFrom& from, bool isNamed, std::vector<VFacet>& facets) {
     std::size_t const start = facets.size();
-    bool const isOfReference = dynamic_cast<NODX201::VLink*>(&element) != nullptr;
     bool dependsOnLayer = false;
     auto const take = [&](VContentPart const& part, bool isOfTransparent, auto const& again) -> void {
-        if (!Counts(part, isNamed && !isOfTransparent, isOfReference)) {
+        if (!Counts(part, isNamed && !isOfTransparent)) {
             return;
         }
         if (part.role == VPartRole::Reference) {
@@ -200,12 +211,30 @@ bool VFacets::Read(NODX201::VOdxElement& element, VSeenFrom& from, bool isNamed,
     return dependsOnLayer;
 }
 
+namespace {
+
+bool IsOfSameName(VFacet const& a, VFacet const& b) {
+    return a.component == b.component && a.isItem == b.isItem && std::wcscmp(a.name, b.name) == 0;
+}
+
+} // namespace
+
+// Few are compared with each other, which takes no memory; that is nearly always so.
 void VFacets::NumberItems(std::vector<VFacet>& facets, std::size_t start) {
-    m_counts.clear();
+    constexpr std::size_t kFew = 16;
+    if (facets.size() - start <= kFew) {
+        for (std::size_t i = start; i < facets.size(); ++i) {
+            auto const at = facets.begin() + static_cast<std::ptrdiff_t>(i);
+            auto const begin = facets.begin() + static_cast<std::ptrdiff_t>(start);
+            auto const isSame = [&at](VFacet const& other) { return IsOfSameName(other, *at); };
+            at->number = at->isItem ? static_cast<std::uint32_t>(std::count_if(begin, at, isSame)) + 1 : 0;
+        }
+        return;
+    }
+    std::unordered_map<VHash, std::uint32_t, VHashOfHash> counts;
     for (std::size_t i = start; i < facets.size(); ++i) {
         if (VFacet& facet = facets[i]; facet.isItem) {
-            VHash const key = Mixed(HashOf(facet.component), facet.HasName() ? HashOf(facet.name) : VHash());
-            facet.number = ++m_counts[key];
+            facet.number = ++counts[Mixed(HashOf(facet.component), HashOf(facet.name))];
         }
     }
 }

@@ -111,16 +111,15 @@ private:
         }
     };
 
-    bool Counts(VContentPart const& part, bool isNamed, bool isOfReference) const;
+    bool Counts(VContentPart const& part, bool isNamed) const;
     std::uint32_t ComponentOf(VContentPart const& part);
     bool AddReference(VContentPart const& part, VSeenFrom& from, std::vector<VFacet>& facets);
-    void NumberItems(std::vector<VFacet>& facets, std::size_t start);
+    static void NumberItems(std::vector<VFacet>& facets, std::size_t start);
 
     VDiffOptions const& m_options;
     std::vector<VComponent> m_components;
     std::unordered_map<VNames, std::uint32_t, VHashOfNames> m_byPointers; // tags are texts that live for ever
     std::unordered_map<std::wstring, std::uint32_t> m_byText;
-    std::unordered_map<VHash, std::uint32_t, VHashOfHash> m_counts;
 };
 
 /// Whether elements of this kind are data that references are followed to: messages, DOPs, units, tables, FUNCT-CLASSs.

@@ -41,6 +41,12 @@ struct VDetail {
     std::wstring path;
     std::optional<std::wstring> oldText; ///< of an element its short name, or else what it holds; nothing where absent
     std::optional<std::wstring> newText; ///< the same
+
+    /// The data that the last reference on the path leads to, or the entry itself: several entries that lead to the
+    /// same data tell the same of it. Null for a difference that is not looked into any further.
+    NODX201::VOdxElement* oldPlace = nullptr;
+    NODX201::VOdxElement* newPlace = nullptr;
+    std::size_t placeLength = 0; ///< of the part of the path that leads to it
 };
 
 /// An entry of a view that is not as it was.

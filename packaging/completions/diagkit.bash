@@ -11,6 +11,7 @@ _diagkit() {
     oem) options="--help --each --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
     check) options="--help --format --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    diff) options="--help --old --new --layer --to-layer --ignore --ids --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     esac
     case $previous in
     --max-file-size) answers="" ;;
@@ -32,9 +33,13 @@ _diagkit() {
     --range) answers="0 1 2 3 4 5" ;;
     --max-visits) answers="" ;;
     --format) answers="text json sarif" ;;
+    --old) answers="" ;;
+    --new) answers="" ;;
+    --to-layer) answers="" ;;
+    --ignore) answers="long-names descriptions admin-data order" ;;
     *)
         if ((COMP_CWORD == 1)); then
-            answers="info layers view resolve traverse oem enums check --help --version"
+            answers="info layers view resolve traverse oem enums check diff --help --version"
         elif [[ $word == -* ]]; then
             answers=$options
         elif ((COMP_CWORD == 2)); then
