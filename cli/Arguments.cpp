@@ -101,6 +101,10 @@ void DeclareFiles(CLI::App& command, VArguments& arguments) {
     command.add_option("FILE", arguments.files, "ODX documents, PDX packages and folders of them; together they form one database")
         ->required()
         ->type_name("");
+    DeclareLimits(command, arguments);
+}
+
+void DeclareLimits(CLI::App& command, VArguments& arguments) {
     for (VLimitRow const& row : kLimits) {
         std::uint64_t& limit = arguments.readOptions.*row.limit;
         CLI::Option& option = row.isSize ? DeclareSize(command, row.name, limit, row.help)

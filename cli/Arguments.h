@@ -47,6 +47,13 @@ struct VArguments {
     std::string tag;                      ///< --kind of `uses`: a tag of ODX, "" for any
     bool isUnused = false;                ///< --unused of `uses`
 
+    std::vector<std::string> oldFiles; ///< --old of `diff`
+    std::vector<std::string> newFiles; ///< --new of `diff`
+    std::vector<std::string> layers;   ///< --layer of `diff`, which may be given more than once
+    std::string toLayer;               ///< --to-layer of `diff`
+    std::vector<std::string> ignored;  ///< --ignore of `diff`
+    bool comparesIds = false;          ///< --ids of `diff`
+
     /// What a word or an option may be where it is one of a few.
     std::map<CLI::Option const*, std::vector<std::string>> choices;
 
@@ -71,5 +78,8 @@ void DeclareSelections(CLI::App& command, VArguments& arguments);
 
 /// FILE... and the limits of reading, for commands that work on a database.
 void DeclareFiles(CLI::App& command, VArguments& arguments);
+
+/// The limits alone.
+void DeclareLimits(CLI::App& command, VArguments& arguments);
 
 } // namespace NCli

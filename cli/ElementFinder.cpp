@@ -163,14 +163,41 @@ NODX201::VDiagComm const* DiagCommOfLayers(NMemory::VDatabase& database, std::ws
     return nullptr;
 }
 
-} // namespace
-
-NODX201::VDiagLayer* FindLayer(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
+VCandidates<NODX201::VDiagLayer> LayerCandidates(NMemory::VDatabase& database) {
     VCandidates<NODX201::VDiagLayer> layers;
     for (VPlacedLayer const& placed : LayersOf(database)) {
         layers.push_back({placed.layer, placed.container});
     }
-    return FindOne({"layer", "CONTAINER"}, layers, name, output);
+    return layers;
+}
+
+} // namespace
+
+NODX201::VDiagLayer* FindLayer(NMemory::VDatabase& database, std::string const& name, VOutput const& output) {
+    return FindOne({"layer", "CONTAINER"}, LayerCandidates(database), name, output);
+}
+
+std::vector<NODX201::VDiagLayer*> FindLayerInEither(NMemory::VDatabase& oldDatabase, NMemory::VDatabase& newDatabase,
+                                                    std::string const& name, VOutput const& output) {
+    std::wstring const wanted = NReader::FromUtf8(name);
+    std::vector<NODX201::VDiagLayer*> found;
+    VCandidates<NODX201::VDiagLayer> all;
+    for (NMemory::VDatabase* const database : {&oldDatabase, &newDatabase}) {
+        VCandidates<NODX201::VDiagLayer> const layers = LayerCandidates(*database);
+        VCandidates<NODX201::VDiagLayer> const fitting = Fitting(layers, wanted);
+        if (fitting.size() > 1) {
+            output.Complain(AmbiguousMessage({"layer", "CONTAINER"}, wanted, AnyOf(fitting)));
+            return {};
+        }
+        if (fitting.size() == 1) {
+            found.push_back(fitting.front().element);
+        }
+        all.insert(all.end(), layers.begin(), layers.end());
+    }
+    if (found.empty()) {
+        output.Complain(MissingMessage("layer of either database", wanted, AnyOf(all)));
+    }
+    return found;
 }
 
 NODX201::VDiagLayerContainer* FindContainer(NMemory::VDatabase& database, std::string const& name,

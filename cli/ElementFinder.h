@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <cli/Output.h>
 #include <diagkit/memory/Database.h>
@@ -16,6 +17,10 @@ namespace NCli {
 // name it right, when there is none or when several fit.
 
 NODX201::VDiagLayer* FindLayer(NMemory::VDatabase& database, std::string const& name, VOutput const& output);
+/// The layers of two databases that the name fits, one of each at most. Empty, with a message, when neither has one or
+/// when several of one database fit.
+std::vector<NODX201::VDiagLayer*> FindLayerInEither(NMemory::VDatabase& oldDatabase, NMemory::VDatabase& newDatabase,
+                                                    std::string const& name, VOutput const& output);
 NODX201::VDiagLayerContainer* FindContainer(NMemory::VDatabase& database, std::string const& name,
                                             VOutput const& output);
 NMemory::VMemFlash* FindFlash(NMemory::VDatabase& database, std::string const& name, VOutput const& output);

@@ -41,6 +41,7 @@ constexpr std::array kCommands{
     VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
     VCommand{"check",    "Everything that is wrong with the files, or looks like it",    &DeclareCheck,    &RunCheck},
     VCommand{"uses",     "The references that lead to an element, or what none leads to",   &DeclareUses,     &RunUses},
+    VCommand{"diff",     "What changed between two databases, as seen from each layer",  &DeclareDiff,     &RunDiff},
 };
 // clang-format on
 

@@ -21,6 +21,8 @@ set(public_headers
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
     diagkit/query/Explain.h
+    diagkit/query/Content.h
+    diagkit/query/Diff.h
     diagkit/query/FilePlace.h
     diagkit/query/InheritanceGraph.h
     diagkit/query/InheritedKind.h

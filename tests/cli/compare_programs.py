@@ -37,6 +37,7 @@ OF_LAYER = (
 
 SAMPLE = "samples/WiperDatabase.pdx"
 OF_SAMPLE = (
+    ["diff", "--json", "--layer", "FrontWiper", "--to-layer", "FrontWiperRainLight"],
     ["view", "protocols", "--layer", "FrontWiper"],
     ["view", "protocols", "--container", "BodyProtocols"],
     ["view", "sessions", "--flash", "WiperFlash"],

@@ -139,6 +139,10 @@ class MemoryThatRunsOut(unittest.TestCase):
         self.see_as_text_and_json("oem", SAMPLE)
         self.see("oem", "--each", "--json", "--quiet", self.folder)
 
+    def test_diff(self):
+        self.see_as_text_and_json("diff", self.folder / "services.odx-d", self.folder / "layers.odx-d")
+        self.see_as_text_and_json("diff", SAMPLE, "--layer", "FrontWiper", "--to-layer", "FrontWiperRainLight")
+
     def test_check(self):
         for form in ("text", "json", "sarif"):
             self.see("check", self.folder / "faults.odx-d", "--format", form)

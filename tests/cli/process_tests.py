@@ -28,11 +28,11 @@ class HelpAndVersion(unittest.TestCase):
         done = run("--help")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertRegex(done.stdout, r"(?m)^Commands:$")
-        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "enums", "check"):
+        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "enums", "check", "diff"):
             self.assertRegex(done.stdout, rf"(?m)^ +{command} ")
 
     def test_help_of_a_command_names_its_options(self):
-        for command in ("info", "layers", "view", "traverse", "check"):
+        for command in ("info", "layers", "view", "traverse", "check", "diff"):
             done = run(command, "--help")
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             for option in ("--json", "--strict", "--quiet", "--help", "--version"):
@@ -78,7 +78,7 @@ class HelpAndVersion(unittest.TestCase):
             ("tag-size", "SIZE", "8M"),
             ("text-size", "SIZE", "256M"),
         )
-        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "check"):
+        for command in ("info", "layers", "view", "resolve", "traverse", "oem", "check", "diff"):
             text = run(command, "--help").stdout
             for name, kind, default in limits:
                 self.assertRegex(text, rf"(?m)^  --max-{name} {kind}(={default}| \[{default}\]) ")
@@ -219,6 +219,7 @@ class Writing(unittest.TestCase):
         ["check", "gates.odx-d", "--format", "sarif"],
         ["uses", "Amp", "signals.odx-d"],
         ["uses", "--unused", "uses.odx-d"],
+        ["diff", "gates.odx-d", "gates_copy.odx-d"],
     )
 
     def answering_calls(self):

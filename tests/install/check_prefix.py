@@ -28,6 +28,8 @@ PUBLIC = {
     "reader": {"Diagnostic.h", "Folder.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
     "query": {
+        "Content.h",
+        "Diff.h",
         "Explain.h",
         "FilePlace.h",
         "InheritanceGraph.h",

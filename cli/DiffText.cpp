@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <cli/DiffText.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include <cli/Columns.h>
+#include <cli/Layers.h>
+#include <cli/Text.h>
+
+namespace NCli {
+namespace {
+
+using NQuery::VChange;
+using NQuery::VChangeKind;
+using NQuery::VDetail;
+
+constexpr std::size_t kWidth = 80;
+constexpr std::size_t kMostNames = 20; ///< that a list tells; of more it tells how many
+
+/// A text with one blank for each white space in it, however long that is.
+std::string InOneLine(std::wstring const& text) {
+    std::wstring line;
+    for (wchar_t const character : text) {
+        bool const isSpace = character == L' ' || character == L'\t' || character == L'\r' || character == L'\n';
+        if (!isSpace) {
+            line += character;
+        } else if (!line.empty() && line.back() != L' ') {
+            line += L' ';
+        }
+    }
+    return Cut(Shown(line));
+}
+
+/// One edit, as far as all who see it see the same.
+struct VEdit {
+    VChangeKind kind = VChangeKind::Changed;
+    NODX201::VOdxElement* old = nullptr;
+    NODX201::VOdxElement* now = nullptr;
+    std::string name{};
+    std::string was{};
+    std::vector<std::string> details{};
+    std::set<std::string> told{};       ///< the same details
+    std::vector<std::string> through{}; ///< entries that lead to it
+    std::vector<NODX201::VDiagLayer const*> layers{};
+};
+
+/// Finds the edits behind what the layers see: what many layers inherit, or many entries refer to, is told once.
+class VEdits {
+public:
+    explicit VEdits(NQuery::VDiff const& diff) {
+        for (NQuery::VLayerChange const& layer : diff.layers) {
+            for (NQuery::VViewChanges const& view : layer.views) {
+                for (VChange const& change : view.changes) {
+                    Add(change, layer.newLayer);
+                }
+            }
+        }
+    }
+
+    std::vector<VEdit> const& Edits() const { return m_edits; }
+
+private:
+    using VKey = std::tuple<VChangeKind, NODX201::VOdxElement*, NODX201::VOdxElement*>;
+    using VIndices = std::vector<std::size_t>;
+
+    void Add(VChange const& change, NODX201::VDiagLayer const* layer) {
+        if (change.details == nullptr) {
+            NoteLayer(EditOf(change.kind, change.oldElement, change.newElement, change), layer);
+            return;
+        }
+        auto const [known, isNew] = m_byDetails.try_emplace(change.details.get());
+        if (isNew) {
+            known->second = AddDetails(change);
+        }
+        for (std::size_t const index : known->second) {
+            NoteLayer(index, layer);
+        }
+    }
+
+    VIndices AddDetails(VChange const& change) {
+        std::set<std::size_t> indices;
+        for (VDetail const& detail : *change.details) {
+            bool const isInside = detail.oldPlace != nullptr && detail.oldPlace != change.oldElement;
+            std::size_t const index = isInside
+                                          ? EditOf(VChangeKind::Changed, detail.oldPlace, detail.newPlace, change)
+                                          : EditOf(VChangeKind::Changed, change.oldElement, change.newElement, change);
+            AddDetail(m_edits[index], detail);
+            if (indices.insert(index).second && isInside) {
+                m_edits[index].through.push_back(
+                    fmt::format("{} {}", TagTextOf(*change.newElement), Shown(change.shortName)));
+            }
+        }
+        return {indices.begin(), indices.end()};
+    }
+
+    static void AddDetail(VEdit& edit, VDetail const& detail) {
+        std::size_t const start = std::min(detail.placeLength, detail.path.size());
+        std::wstring path = detail.path.substr(start);
+        if (!path.empty() && path.front() == L'/') {
+            path.erase(0, 1);
+        }
+        std::string text = LineOf(Shown(path), detail);
+        if (edit.told.insert(text).second) {
+            edit.details.push_back(std::move(text));
+        }
+    }
+
+    /// What came has a plus before it, what went a minus. The name of an item is not repeated.
+    static std::string LineOf(std::string const& path, VDetail const& detail) {
+        auto const isNamed = [&path](std::string const& text) {
+            std::string const end = '[' + text + ']';
+            return path.size() >= end.size() && path.compare(path.size() - end.size(), end.size(), end) == 0;
+        };
+        std::string const place = path.empty() ? "" : path + ": ";
+        if (detail.oldText.has_value() && detail.newText.has_value()) {
+            std::string const old = InOneLine(*detail.oldText);
+            std::string const now = InOneLine(*detail.newText);
+            bool const isLong = place.size() + old.size() + now.size() + 8 > kWidth;
+            return fmt::format("    {}{}{} -> {}", place, isLong && !place.empty() ? "\n      " : "", old, now);
+        }
+        std::string const text =
+            InOneLine(detail.oldText.has_value() ? *detail.oldText : detail.newText.value_or(L"nothing"));
+        char const sign = detail.oldText.has_value() ? '-' : '+';
+        return isNamed(text) ? fmt::format("  {} {}", sign, path) : fmt::format("  {} {}{}", sign, place, text);
+    }
+
+    std::size_t EditOf(VChangeKind kind, NODX201::VOdxElement* old, NODX201::VOdxElement* now, VChange const& change) {
+        auto const [known, isNew] = m_byPlace.try_emplace(VKey(kind, old, now), m_edits.size());
+        if (isNew) {
+            VEdit edit{kind, old, now};
+            bool const isEntry = old == change.oldElement && now == change.newElement;
+            edit.name = isEntry ? Shown(change.shortName) : ShownName(*now);
+            edit.was = change.was != nullptr ? Shown(change.was) : "";
+            m_edits.push_back(std::move(edit));
+        }
+        return known->second;
+    }
+
+    void NoteLayer(std::size_t index, NODX201::VDiagLayer const* layer) {
+        auto& layers = m_edits[index].layers;
+        if (layers.empty() || layers.back() != layer) {
+            layers.push_back(layer);
+        }
+    }
+
+    std::vector<VEdit> m_edits; // in the order in which they were met
+    std::map<VKey, std::size_t> m_byPlace;
+    std::unordered_map<void const*, VIndices> m_byDetails;
+};
+
+/// Names with commas between, in lines of the width.
+std::string Listed(std::string const& start, std::vector<std::string> const& names) {
+    std::string text;
+    std::string line = start;
+    std::size_t const shown = std::min(names.size(), kMostNames);
+    for (std::size_t i = 0; i < shown; ++i) {
+        std::string const word = names[i] + (i + 1 < names.size() ? "," : "");
+        if (line.size() + 1 + word.size() > kWidth) {
+            text += line + '\n';
+            line = "   ";
+        }
+        line += ' ' + word;
+    }
+    if (names.size() > shown) {
+        line += fmt::format(" and {} more", names.size() - shown);
+    }
+    return text + line + '\n';
+}
+
+std::string WhereOf(NODX201::VOdxElement const& element) {
+    NODX201::VDiagLayer const* const layer = LayerAround(element);
+    return layer != nullptr ? Titled(*layer) : "outside layers";
+}
+
+/// Where an element stands; a layer stands for itself.
+std::string InLayer(NODX201::VOdxElement const& element) {
+    NODX201::VDiagLayer const* const layer = LayerAround(element);
+    return layer != nullptr ? ", in " + Titled(*layer) : "";
+}
+
+std::string HeadingOf(VEdit const& edit) {
+    NODX201::VOdxElement const& known = edit.now != nullptr ? *edit.now : *edit.old;
+    std::string const what = fmt::format("{} {}", TagTextOf(known), edit.name);
+    switch (edit.kind) {
+    case VChangeKind::Added:
+        return fmt::format("added: {}{}", what, InLayer(known));
+    case VChangeKind::Removed:
+        return fmt::format("removed: {}{}", what, InLayer(known));
+    case VChangeKind::Renamed:
+        return fmt::format("renamed: {}, formerly {}{}", what, edit.was, InLayer(known));
+    case VChangeKind::Moved:
+        return fmt::format("moved: {}, from {} to {}", what, WhereOf(*edit.old), WhereOf(*edit.now));
+    case VChangeKind::Changed:
+        return fmt::format("changed: {}{}", what, InLayer(known));
+    }
+    return what;
+}
+
+void WriteEdit(VEdit const& edit, VOutput& output) {
+    output.Write(output.Heading(HeadingOf(edit)) + '\n');
+    for (std::string const& detail : edit.details) {
+        output.Write(detail + '\n');
+    }
+    if (!edit.through.empty()) {
+        output.Write(Listed("  through", edit.through));
+    }
+    std::vector<std::string> layers;
+    for (NODX201::VDiagLayer const* const layer : edit.layers) {
+        layers.push_back(ShownName(*layer));
+    }
+    output.Write(Listed(fmt::format("  seen in {}:", Counted(layers.size(), "layer")), layers) + '\n');
+}
+
+/// A layer that is there on one side alone, or under another name.
+void WriteLayer(NQuery::VLayerChange const& layer, VOutput& output) {
+    switch (layer.kind) {
+    case VChangeKind::Added:
+        output.Write(fmt::format("added: {}\n", Titled(*layer.newLayer)));
+        break;
+    case VChangeKind::Removed:
+        output.Write(fmt::format("removed: {}\n", Titled(*layer.oldLayer)));
+        break;
+    case VChangeKind::Renamed:
+        output.Write(fmt::format("renamed: {}, formerly {}\n", Titled(*layer.newLayer), ShownName(*layer.oldLayer)));
+        break;
+    case VChangeKind::Changed:
+    case VChangeKind::Moved:
+        break;
+    }
+}
+
+} // namespace
+
+void WriteDiff(NQuery::VDiff const& diff, VOutput& output) {
+    if (diff.IsEqual()) {
+        output.Write("No differences\n");
+        return;
+    }
+    std::size_t others = 0;
+    for (NQuery::VLayerChange const& layer : diff.layers) {
+        WriteLayer(layer, output);
+        others += layer.kind == VChangeKind::Changed ? 0 : 1;
+    }
+    output.Write(others > 0 ? "\n" : "");
+    VEdits const edits(diff);
+    for (VEdit const& edit : edits.Edits()) {
+        WriteEdit(edit, output);
+    }
+    output.Write(
+        fmt::format("{} in {}", Counted(edits.Edits().size(), "edit"), Counted(diff.layers.size() - others, "layer")));
+    output.Write(others > 0 ? fmt::format("; {} added, removed or renamed\n", Counted(others, "layer")) : "\n");
+}
+
+} // namespace NCli
