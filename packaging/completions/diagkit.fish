@@ -125,7 +125,7 @@ complete -c diagkit -n '__fish_seen_subcommand_from traverse' -l max-text-size -
 complete -c diagkit -n '__fish_seen_subcommand_from traverse' -l max-diagnostics -x -d 'Errors, and as many warnings, that are told; default 100000'
 complete -c diagkit -f -n __fish_use_subcommand -a oem -d 'Whose habits a database shows, and why no other\'s'
 complete -c diagkit -n '__fish_seen_subcommand_from oem' -l help -d 'Print this help message and exit'
-complete -c diagkit -n '__fish_seen_subcommand_from oem' -l each -d 'Every FILE, and every one in a FOLDER, is a database of its own; with --json one line each'
+complete -c diagkit -n '__fish_seen_subcommand_from oem' -l each -d 'Every FILE is a database of its own, and so are the documents of a folder that refer to one another; with --json one line each'
 complete -c diagkit -n '__fish_seen_subcommand_from oem' -l json -d 'Answer as JSON on standard output'
 complete -c diagkit -n '__fish_seen_subcommand_from oem' -l strict -d 'End with status 3 when the files have errors'
 complete -c diagkit -n '__fish_seen_subcommand_from oem' -l quiet -d 'No diagnostics and no progress on standard error'
