@@ -15,6 +15,7 @@
 #include <diagkit/memory/References.h>
 #include <diagkit/memory/Tables.h>
 #include <diagkit/memory/Units.h>
+#include <diagkit/memory/VehicleInfo.h>
 
 namespace NReader {
 namespace {
@@ -39,6 +40,7 @@ std::unordered_map<std::type_index, VFindTarget> const& Rows() {
 #define ODX_LINK_WITH(name, tag, target) DIAGKIT_ROW(name)
 #define ODX_LINK_IN_LAYER(name, tag, target, value, element) DIAGKIT_ROW(name)
 #define ODX_EXTRA_LINK(name, target, targetClass, tag, value, element) DIAGKIT_ROW(name)
+#define ODX_EXTRA_LINK_WITH(name, tag, target, targetClass) DIAGKIT_ROW(name)
 #define ODX_PARENT_REF(name, target, value, type) DIAGKIT_ROW(name)
 #define ODX_UNTYPED_PARENT_REF(name, target, value) DIAGKIT_ROW(name)
 #include <diagkit/model/Facts.def>

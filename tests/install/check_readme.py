@@ -29,6 +29,7 @@ ANSWERS = {
     "./run graph": ["digraph", "FrontWiperRainLight"],
     "./run view diag-comms": ["CalibrateParkPosition", "SessionLibrary"],
     "./run resolve dop": ["WiperMode"],
+    "./run explain dop": ["WiperMode"],
     "./run traverse": ["ReadWiperStatus"],
     "./run oem": ["VDaimlerHeuristic", "decides"],
     "./run enums Addressing": ["FUNCTIONAL-OR-PHYSICAL"],

@@ -53,5 +53,21 @@ TEST_F(VUsesElsewhereTest, AConnectorsReferencesAreReadInItsLayersAndInItsFlash)
     EXPECT_EQ(Uses("S"), "DIAG-COMM-SNREF from SD in V\n");
 }
 
+TEST_F(VUsesElsewhereTest, ALinkOfAVehicleLeadsToWhatItNames) {
+    Read({Document("<COMPARAM-SPEC ID=\"CS\"><SHORT-NAME>CS</SHORT-NAME><COMPARAMS>" + Xml("COMPARAM", "CP") +
+                       "</COMPARAMS></COMPARAM-SPEC>",
+                   "2.2.0"),
+          ContainerOfLayers(LayerXml("BASE-VARIANT", "B")),
+          Document("<VEHICLE-INFO-SPEC ID=\"VS\"><SHORT-NAME>VS</SHORT-NAME><VEHICLE-INFORMATIONS>"
+                   "<VEHICLE-INFORMATION><SHORT-NAME>VI</SHORT-NAME><LOGICAL-LINKS>"
+                   "<LOGICAL-LINK xsi:type=\"MEMBER-LOGICAL-LINK\" ID=\"LL\"><SHORT-NAME>LL</SHORT-NAME>"
+                   "<BASE-VARIANT-REF ID-REF=\"B\"/><LINK-COMPARAM-REFS><LINK-COMPARAM-REF ID-REF=\"CP\">"
+                   "<VALUE>5</VALUE></LINK-COMPARAM-REF></LINK-COMPARAM-REFS></LOGICAL-LINK></LOGICAL-LINKS>"
+                   "</VEHICLE-INFORMATION></VEHICLE-INFORMATIONS></VEHICLE-INFO-SPEC>",
+                   "2.2.0")});
+    EXPECT_EQ(Uses("CP"), "LINK-COMPARAM-REF from LL\n");
+    EXPECT_EQ(Uses("B"), "BASE-VARIANT-REF from LL\n");
+}
+
 } // namespace
 } // namespace NTest
