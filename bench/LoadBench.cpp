@@ -14,6 +14,8 @@
 #include <expat.h>
 
 #include <diagkit/check/Check.h>
+#include <diagkit/memory/Dops.h>
+#include <diagkit/query/Diff.h>
 #include <diagkit/query/Uses.h>
 #include <diagkit/reader/OdxReader.h>
 #include <diagkit/reader/Package.h>
@@ -23,11 +25,12 @@
 /// Loads files once, or does what loading them takes at least, and prints what it cost as JSON. One run a process, so
 /// that the peak of its memory means this run alone; `load` runs it.
 ///
-///     diagkit_load_bench read|parse|load:THREADS|check|unused FILE...
+///     diagkit_load_bench read|parse|load:THREADS|check|unused|diff FILE...
 ///
 /// `read` takes the bytes in, `parse` has expat parse them too with handlers that do nothing. Packages are unpacked in
 /// both, and the pieces are as large as the reader's. `check` and `unused` load with one thread and tell what checking
-/// takes then, and finding the elements to which no reference leads.
+/// takes then, and finding the elements to which no reference leads; `diff` loads twice, changes ten elements of one,
+/// and tells what comparing takes.
 
 namespace {
 
@@ -108,11 +111,35 @@ std::size_t CountUnused(NReader::VReadResult const& result) {
     return NQuery::VUses(*result.database, result.elements).Unused().size();
 }
 
+NReader::VReadResult LoadedFor(std::vector<std::string> const& files, bool keepsElements) {
+    NReader::VReadOptions options;
+    options.threads = 1;
+    options.keepsElements = keepsElements;
+    NReader::VReadResult result = NReader::ReadOdx(files, options);
+    if (result.database == nullptr) {
+        Fail("the files cannot be loaded");
+    }
+    return result;
+}
+
+/// Ten DATA-OBJECT-PROPs, all over the database, get another description.
+void ChangeTen(std::vector<NODX201::VOdxElement*> const& elements) {
+    std::vector<NMemory::VMemDataObjectProp*> dops;
+    for (NODX201::VOdxElement* const element : elements) {
+        if (auto* const dop = dynamic_cast<NMemory::VMemDataObjectProp*>(element)) {
+            dops.push_back(dop);
+        }
+    }
+    for (std::size_t i = 0; i < 10; ++i) {
+        dops.at(i * dops.size() / 10)->SetDesc(L"<p>changed</p>");
+    }
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
     if (count < 3) {
-        Fail("diagkit_load_bench read|parse|load:THREADS|check|unused FILE...");
+        Fail("diagkit_load_bench read|parse|load:THREADS|check|unused|diff FILE...");
     }
     std::string const mode = arguments[1];
     std::vector<std::string> const files(arguments + 2, arguments + count);
@@ -150,6 +177,17 @@ int main(int count, char** arguments) {
         stop();
         if (result.database == nullptr || (mode == "check" && found != 0)) {
             Fail("the files cannot be checked without a finding");
+        }
+    } else if (mode == "diff") {
+        NReader::VReadResult const old = LoadedFor(files, false);
+        NReader::VReadResult const now = LoadedFor(files, true);
+        ChangeTen(now.elements);
+        start = Seconds();
+        cpuStart = NBench::ProcessorSeconds();
+        NQuery::VDiff const diff = NQuery::DiffDatabases(*old.database, *now.database);
+        stop();
+        if (diff.IsEqual()) {
+            Fail("what was changed is not found");
         }
     } else {
         for (std::string const& file : files) {

@@ -40,6 +40,12 @@ struct VSides {
     std::vector<std::string> now;
 };
 
+/// What came of reading them.
+struct VRead {
+    NReader::VReadResult const& old;
+    NReader::VReadResult const& now;
+};
+
 /// What is wrong with the call; null for nothing.
 char const* WrongCall(VArguments const& arguments) {
     bool const hasSides = !arguments.oldFiles.empty() || !arguments.newFiles.empty();
@@ -156,27 +162,39 @@ void WriteAsJson(VJsonWriter& json, VSides const& sides, VDiff const& diff, bool
     });
 }
 
+std::size_t CountUnknown(NReader::VReadResult const& result) {
+    std::size_t count = 0;
+    for (auto const& [tag, times] : result.unknownElements) {
+        count += times;
+    }
+    return count;
+}
+
 /// What was looked at and could not be compared, on standard error.
-void TellWhatWasNotCompared(VDiff const& diff, VArguments const& arguments, VOutput const& output) {
+void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments const& arguments, VOutput const& output) {
     if (arguments.isQuiet) {
         return;
     }
-    auto const tell = [&output](std::size_t count, char const* noun, char const* what) {
+    auto const tell = [&output](std::size_t count, char const* noun, char const* side, char const* what) {
         if (count > 0) {
-            output.Complain(fmt::format("not compared: {} {}", Counted(count, noun), what));
+            output.Complain(fmt::format("not compared: {}{} {}", Counted(count, noun), side, what));
         }
     };
-    bool const isOneDatabase = !arguments.toLayer.empty();
-    tell(diff.unresolvedOld, "reference",
-         isOneDatabase ? "of the first layer lead nowhere" : "of the old database lead nowhere");
-    tell(diff.unresolvedNew, "reference",
-         isOneDatabase ? "of the second layer lead nowhere" : "of the new database lead nowhere");
-    tell(diff.tooDeep, "element", "inside too many others");
-    tell(diff.cutDetails, "change", "with more details than are told");
+    bool const isOneDatabase = &read.old == &read.now;
+    char const* const old = isOneDatabase ? "" : " of the old database";
+    char const* const now = isOneDatabase ? "" : " of the new database";
+    constexpr char const* kUnknown = "without a place in the model";
+    tell(CountUnknown(read.old), "element", old, kUnknown);
+    tell(isOneDatabase ? 0 : CountUnknown(read.now), "element", now, kUnknown);
+    tell(diff.unresolvedOld, "reference", isOneDatabase ? " of the first layer" : old, "to nothing");
+    tell(diff.unresolvedNew, "reference", isOneDatabase ? " of the second layer" : now, "to nothing");
+    tell(diff.tooDeep, "element", "", "inside too many others");
+    tell(diff.cutDetails, "change", "", "beyond the details that are told");
 }
 
-VStatus Answer(VArguments const& arguments, VSides const& sides, VDiff const& diff, VOutput& output) {
-    TellWhatWasNotCompared(diff, arguments, output);
+VStatus Answer(VArguments const& arguments, VRead const& read, VSides const& sides, VDiff const& diff,
+               VOutput& output) {
+    TellWhatWasNotCompared(diff, read, arguments, output);
     if (arguments.isJson) {
         WriteJson(output, [&](VJsonWriter& json) { WriteAsJson(json, sides, diff, !arguments.toLayer.empty()); });
     } else {
@@ -207,7 +225,7 @@ VStatus DiffTwoLayers(VArguments const& arguments, VSides const& sides, VOutput&
     if (now == nullptr) {
         return VStatus::NotThere;
     }
-    return Answer(arguments, sides, NQuery::DiffLayers(*old, *now, OptionsOf(arguments)), output);
+    return Answer(arguments, {result, result}, sides, NQuery::DiffLayers(*old, *now, OptionsOf(arguments)), output);
 }
 
 VStatus DiffTwoDatabases(VArguments const& arguments, VSides const& sides, VOutput& output) {
@@ -228,7 +246,7 @@ VStatus DiffTwoDatabases(VArguments const& arguments, VSides const& sides, VOutp
     }
     VProgressBar bar;
     options.progress = bar.Progress(arguments.isQuiet);
-    return Answer(arguments, sides, NQuery::DiffDatabases(*old.database, *now.database, options), output);
+    return Answer(arguments, {old, now}, sides, NQuery::DiffDatabases(*old.database, *now.database, options), output);
 }
 
 } // namespace

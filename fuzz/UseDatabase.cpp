@@ -7,6 +7,8 @@
 #include <diagkit/check/Check.h>
 #include <diagkit/check/Cycles.h>
 #include <diagkit/memory/Odx.h>
+#include <diagkit/query/Content.h>
+#include <diagkit/query/Diff.h>
 #include <diagkit/query/Explain.h>
 #include <diagkit/query/InheritanceGraph.h>
 #include <diagkit/query/LayerView.h>
@@ -211,6 +213,32 @@ void AskForUses(NReader::VReadResult const& result, VBudget& budget) {
     }
 }
 
+/// A database is equal to itself, and what differs between neighbours differs both ways.
+void CompareLayers(NMemory::VDatabase& database) {
+    constexpr std::size_t kMostPairs = 8;
+    Require(NQuery::DiffDatabases(database, database).IsEqual());
+    NODX201::VDiagLayer* before = nullptr;
+    std::size_t pairs = 0;
+    ForEachLayer(database.GetOdx(), [&](NODX201::VDiagLayer& layer) {
+        if (before != nullptr && ++pairs <= kMostPairs) {
+            bool const isEqual = NQuery::DiffLayers(*before, layer).IsEqual();
+            Require(isEqual == NQuery::DiffLayers(layer, *before).IsEqual());
+        }
+        before = &layer;
+    });
+}
+
+void AskForContents(std::vector<NODX201::VOdxElement*> const& elements) {
+    for (NODX201::VOdxElement* const element : elements) {
+        NQuery::ForEachPartOf(*element, [](NQuery::VContentPart const& part) {
+            Require((part.element != nullptr) != (part.text != nullptr));
+            if (part.role == NQuery::VPartRole::Reference) {
+                static_cast<void>(NQuery::TargetOf(dynamic_cast<NODX201::VLink&>(*part.element), nullptr));
+            }
+        });
+    }
+}
+
 } // namespace
 
 std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
@@ -243,6 +271,8 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
         NDIAGKIT::VSessionView sessions(flash);
         UseNamed(sessions, views);
     }
+    CompareLayers(database);
+    AskForContents(result.elements);
     VBudget references(kSteps);
     ResolveReferences(result, references);
     VBudget uses(kSteps);

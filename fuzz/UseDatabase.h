@@ -6,8 +6,8 @@
 namespace NFuzz {
 
 /// Does with a database what programs do: checks it, asks for its cycles and its manufacturer, builds every view of
-/// every layer, container and FLASH and finds what is in it, resolves every reference in every layer, and walks all
-/// layers. Each of these ends after a number of steps, so that hostile data do not take long. Answers that contradict
+/// every layer, container and FLASH and finds what is in it, compares it with itself and layers with each other, asks for
+/// the parts of every element, resolves every reference in every layer, and walks all layers. Each of these ends after a number of steps, so that hostile data do not take long. Answers that contradict
 /// one another end the program (`std::abort`), which is a finding.
 ///
 /// Wants a result with a database whose elements were kept. Returns what the check said.

@@ -9,9 +9,8 @@
 namespace NQuery {
 namespace {
 
-constexpr std::size_t kMostReferences = 1000; ///< that a path leads over
-constexpr std::size_t kMostVisits = 100'000;  ///< of pairs of elements for one entry
-constexpr std::size_t kLongestText = 200;     ///< of an element without a short name
+constexpr std::size_t kMostVisits = 100'000; ///< of pairs of elements for one entry
+constexpr std::size_t kLongestText = 200;    ///< of an element without a short name
 
 bool IsSameText(wchar_t const* a, wchar_t const* b) { return a == b || std::wcscmp(a, b) == 0; }
 
@@ -49,7 +48,7 @@ public:
         return std::move(m_details);
     }
 
-    bool IsCut() const { return m_isCut; }
+    bool HasCut() const { return m_hasCut || m_isCut; }
 
 private:
     struct VFrame {
@@ -81,6 +80,7 @@ private:
             m_details.push_back({m_path, step.oldText, step.newText, frame.old, frame.now, frame.pathLength});
         } else if (isTooFar) {
             m_details.push_back({m_path, step.oldTarget->GetShortName(), step.newTarget->GetShortName()});
+            m_hasCut = true;
         } else {
             Enter(*step.oldTarget, *step.newTarget, m_path.size());
         }
@@ -95,7 +95,8 @@ private:
     std::wstring m_path;
     std::vector<VDetail> m_details;
     std::size_t m_visits = 0;
-    bool m_isCut = false;
+    bool m_hasCut = false; // something is not looked into any further
+    bool m_isCut = false;  // nothing more is told
 };
 
 VContentDifferences::VDetails VContentDifferences::Between(VSeen const& old, VSeen const& now) {
@@ -105,7 +106,7 @@ VContentDifferences::VDetails VContentDifferences::Between(VSeen const& old, VSe
     }
     VEnumeration enumeration(*this, *old.from, *now.from);
     std::vector<VDetail> found = enumeration.Run(*old.element, *now.element);
-    m_cut += enumeration.IsCut() ? 1 : 0;
+    m_cut += enumeration.HasCut() ? 1 : 0;
     VDetails const details = found.empty() ? nullptr : std::make_shared<std::vector<VDetail> const>(std::move(found));
     m_details.emplace(key, details);
     return details;

@@ -83,13 +83,15 @@ struct VDiff {
     std::size_t unresolvedOld = 0; ///< references of the old database that lead nowhere
     std::size_t unresolvedNew = 0; ///< the same of the new one
     std::size_t tooDeep = 0;       ///< elements inside more than `kMostNested` others, which are left out
-    std::size_t cutDetails = 0;    ///< entries with more than `kMostDetails` differences, of which the first are told
+    std::size_t cutDetails = 0;    ///< entries of which the first `kMostDetails` are told, or that go on further down
 
     bool IsEqual() const { return layers.empty(); }
 };
 
 inline constexpr std::size_t kMostNested = 200;
 inline constexpr std::size_t kMostDetails = 1000;
+/// That a path leads over; what differs further down is told at the last one, with its name on both sides.
+inline constexpr std::size_t kMostReferences = 100;
 
 /// Compares the views of all layers. Layers are matched by short name and kind, the n-th of several with the n-th;
 /// entries of a view by short name likewise. Contents are compared as the layer sees them: references are followed to
