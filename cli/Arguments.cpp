@@ -98,7 +98,9 @@ void DeclareSelections(CLI::App& command, VArguments& arguments) {
 }
 
 void DeclareFiles(CLI::App& command, VArguments& arguments) {
-    command.add_option("FILE", arguments.files, "ODX documents, PDX packages and folders of them; together they form one database")
+    command
+        .add_option("FILE", arguments.files,
+                    "ODX documents, PDX packages and folders of them; together they form one database")
         ->required()
         ->type_name("");
     DeclareLimits(command, arguments);

@@ -23,7 +23,7 @@ using NQuery::VChangeKind;
 using NQuery::VDetail;
 
 constexpr std::size_t kWidth = 80;
-constexpr std::size_t kMostNames = 20; ///< that a list tells; of more it tells how many
+constexpr std::size_t kMostNamesListed = 20; ///< that a list tells; of more it tells how many
 
 /// A text with one blank for each white space in it, however long that is.
 std::string InOneLine(std::wstring const& text) {
@@ -160,7 +160,7 @@ private:
 std::string Listed(std::string const& start, std::vector<std::string> const& names) {
     std::string text;
     std::string line = start;
-    std::size_t const shown = std::min(names.size(), kMostNames);
+    std::size_t const shown = std::min(names.size(), kMostNamesListed);
     for (std::size_t i = 0; i < shown; ++i) {
         std::string const word = names[i] + (i + 1 < names.size() ? "," : "");
         if (line.size() + 1 + word.size() > kWidth) {

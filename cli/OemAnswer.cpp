@@ -45,7 +45,7 @@ constexpr std::array kManufacturers{
 };
 // clang-format on
 
-VManufacturerRow const& RowOf(VManufacturer manufacturer) {
+VManufacturerRow const& ManufacturerRowOf(VManufacturer manufacturer) {
     return *std::find_if(kManufacturers.begin(), kManufacturers.end() - 1,
                          [manufacturer](VManufacturerRow const& row) { return row.manufacturer == manufacturer; });
 }
@@ -66,7 +66,7 @@ std::vector<VOemHeuristicReport const*> MatchingIn(VOemReport const& report) {
 
 /// "Daimler (1)", "Porsche (Pag, 4)"
 std::string TitleOf(VManufacturer manufacturer) {
-    VManufacturerRow const& row = RowOf(manufacturer);
+    VManufacturerRow const& row = ManufacturerRowOf(manufacturer);
     return row.name == row.title ? fmt::format("{} ({})", row.title, CodeOf(manufacturer))
                                  : fmt::format("{} ({}, {})", row.title, row.name, CodeOf(manufacturer));
 }
@@ -181,7 +181,7 @@ void WriteReport(VOemReport const& report, VOutput& output) {
 }
 
 void WriteReportMembers(VJsonWriter& json, VOemReport const& report) {
-    json.Member("manufacturer", RowOf(report.manufacturer).name);
+    json.Member("manufacturer", ManufacturerRowOf(report.manufacturer).name);
     json.Member("code", CodeOf(report.manufacturer));
     json.TextOrNull("reason", ReasonOf(report));
     json.ArrayOf("heuristics", report.heuristics,
