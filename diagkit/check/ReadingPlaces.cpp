@@ -3,6 +3,8 @@
 
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/References.h>
+#include <diagkit/memory/VehicleInfo.h>
+#include <diagkit/tools/Inheritance.h>
 
 namespace NCheck {
 namespace {
@@ -55,6 +57,9 @@ NODX201::VDiagCommLink* DiagCommLinkBeside(NODX201::VLink& reference) {
     if (auto* const parameter = dynamic_cast<NODX201::VMatchingParameter*>(owner)) {
         return parameter->HasDiagCommSnref() ? &parameter->GetDiagCommSnref() : nullptr;
     }
+    if (auto* const component = dynamic_cast<NMemory::VMemMatchingComponent*>(owner)) {
+        return component->HasDiagCommRef() ? &component->GetDiagCommRef() : nullptr;
+    }
     auto* const ident = dynamic_cast<NMemory::VMemIdentDesc*>(owner);
     return ident != nullptr && ident->HasDiagCommSnref() ? &ident->GetDiagCommSnref() : nullptr;
 }
@@ -96,6 +101,10 @@ NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference) {
 
 std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& reference) {
     std::vector<NODX201::VDiagLayer*> layers;
+    auto* const component = dynamic_cast<NMemory::VMemMatchingComponent*>(reference.GetOwner());
+    if (component != nullptr && component->HasDiagCommRef() && component->GetDiagCommRef().ResolvesById()) {
+        return {NDIAGKIT::LayerOf(component->GetDiagCommRef().GetDiagComm())};
+    }
     for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
         auto* const connector = dynamic_cast<NMemory::VMemEcuMemConnector*>(object);
         if (connector == nullptr) {

@@ -41,7 +41,7 @@ NODX201::VOdxElement* TargetInFlash(NODX201::VLink& reference);
 /// Null where there is none.
 NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference);
 
-/// The layers in which a reference of flash data is read.
+/// The layers in which a reference of flash data is read, and of vehicle information: that of the DIAG-COMM beside it.
 std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& reference);
 
 /// The layers that the jobs of a MULTIPLE-ECU-JOB-SPEC run in; nothing when one of them is not loaded.

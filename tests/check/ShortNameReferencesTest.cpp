@@ -263,6 +263,25 @@ TEST_F(VShortNameReferencesTest, ToIdentsAndTheirParameters) {
               "parameter of that name in the layer 'B'");
 }
 
+TEST_F(VShortNameReferencesTest, OfVehicleInformationToParametersOfTheDiagCommBeside) {
+    auto const vehicle = [](std::string const& param) {
+        return "<ODX MODEL-VERSION=\"2.2.0\"><VEHICLE-INFO-SPEC ID=\"I\"><SHORT-NAME>I</SHORT-NAME><INFO-COMPONENTS>" +
+               Xml("INFO-COMPONENT", "E",
+                   "<MATCHING-COMPONENTS><MATCHING-COMPONENT>\n<OUT-PARAM-IF-SNREF SHORT-NAME=\"" + param +
+                       "\"/><DIAG-COMM-REF ID-REF=\"S\"/></MATCHING-COMPONENT></MATCHING-COMPONENTS>") +
+               "</INFO-COMPONENTS></VEHICLE-INFO-SPEC></ODX>";
+    };
+    std::string const layers = ContainerOfLayers(
+        LayerXml("BASE-VARIANT", "A") +
+        LayerXml("BASE-VARIANT", "B", InDictionary(Dops("D")) + WithRequest(Value("P", DopSnref("D")))));
+    CheckDocuments({layers, vehicle("P")});
+    EXPECT_EQ(Diagnostics(), "");
+    CheckDocuments({layers, vehicle("X")});
+    EXPECT_EQ(Finding(),
+              "2:1 error unresolved-short-name: OUT-PARAM-IF-SNREF names 'X', but the DIAG-COMM has no output "
+              "parameter of that name in the layer 'B'");
+}
+
 TEST_F(VShortNameReferencesTest, OfFlashDataForLayersThatAreNotThereAreNoFindingsOfTheirOwn) {
     CheckDocument(FlashDocument("X", "N"));
     ASSERT_EQ(m_result.diagnostics.size(), 1U) << Diagnostics();
