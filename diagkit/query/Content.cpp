@@ -10,6 +10,7 @@
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/Odx.h>
+#include <diagkit/memory/VehicleInfo.h>
 #include <diagkit/query/ContentTable.h>
 
 namespace NQuery {
@@ -25,6 +26,7 @@ VContentTable const& ContentOf(NMemory::VMemOdx*) {
         {W::Other, L"COMPARAM-SPEC", &F::Items<&T::ComparamSpecCollection>},
         {W::Other, L"FLASH", &F::Items<&T::FlashCollection>},
         {W::Other, L"MULTIPLE-ECU-JOB-SPEC", &F::Items<&T::MultipleEcuJobSpecCollection>},
+        {W::Other, L"VEHICLE-INFO-SPEC", &F::Items<&T::VehicleInfoSpecCollection>},
     };
     static VContentTable const table = ContentTableOf(facts);
     return table;
@@ -67,6 +69,7 @@ VContentClasses MakeClasses() {
 #define ODX_EXTRA(name, contract, names, value, element, type) TABLE(name)
 #define ODX_LINK_WITH(name, tag, target) TABLE(name) TARGET(name, target, false)
 #define ODX_EXTRA_LINK(name, target, targetClass, tag, value, element) TARGET(name, target, false)
+#define ODX_EXTRA_LINK_WITH(name, tag, target, targetClass) TABLE(name) TARGET(name, target, false)
 #define ODX_PARENT_REF(name, target, value, type) TABLE(name) TARGET(name, target, false)
 #define ODX_UNTYPED_PARENT_REF(name, target, value) TABLE(name) TARGET(name, target, false)
 #define ODX_EXCLUSION(name, reference, link, value, element) TABLE(name)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The contents of flash data.
+// The contents of flash data and of vehicles.
 
 #include <diagkit/memory/Flash.h>
+#include <diagkit/memory/VehicleInfo.h>
 #include <diagkit/query/ContentTable.h>
 
 namespace NQuery {
@@ -21,6 +22,7 @@ void LateboundOfDatafile(NODX201::VOdxElement& owner, VContentRow const& row, IP
 #include <diagkit/query/ContentTables.def>
 
 #include <diagkit/model/facts/Flash.def>
+#include <diagkit/model/facts/VehicleInfo.def>
 
 #include <diagkit/query/ContentTablesEnd.def>
 

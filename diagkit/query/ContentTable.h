@@ -191,6 +191,7 @@ VContentTable const& ContentOf(NMemory::VMemOdx*);
 #define ODX_CLASS(name, tag, base, names, value, element, type) VContentTable const& ContentOf(NMemory::VMem##name*);
 #define ODX_EXTRA(name, contract, names, value, element, type) VContentTable const& ContentOf(NMemory::VMem##name*);
 #define ODX_LINK_WITH(name, tag, target) VContentTable const& ContentOf(NMemory::VMem##name*);
+#define ODX_EXTRA_LINK_WITH(name, tag, target, targetClass) VContentTable const& ContentOf(NMemory::VMem##name*);
 #define ODX_PARENT_REF(name, target, value, type) VContentTable const& ContentOf(NMemory::VMem##name*);
 #define ODX_UNTYPED_PARENT_REF(name, target, value) VContentTable const& ContentOf(NMemory::VMem##name*);
 #define ODX_EXCLUSION(name, reference, link, value, element) VContentTable const& ContentOf(NMemory::VMem##name*);

@@ -64,7 +64,7 @@ std::vector<VLayerPair> Paired(VLayers const& old, VLayers const& now) {
 
 /// One side of a comparison.
 struct VSide {
-    VViewMaker maker;
+    VDiffViewMaker maker;
     std::unordered_set<NODX201::VOdxElement const*> missing; ///< references that lead nowhere
 };
 
@@ -98,10 +98,10 @@ public:
     VDiff Compare();
 
 private:
-    using VEntries = std::vector<VViewEntry>;
+    using VEntries = std::vector<VDiffEntry>;
     struct VMatch {
-        VViewEntry const* old;
-        VViewEntry const* now;
+        VDiffEntry const* old;
+        VDiffEntry const* now;
     };
 
     void NoteMatch(VLayerPair const& pair);
@@ -110,7 +110,7 @@ private:
     VHash SignatureOf(NODX201::VDiagLayer& layer, VSide& side);
     NODX201::VDiagLayer const* NowOf(NODX201::VDiagLayer const* layer) const;
     VHash OwnerOf(NODX201::VDiagLayer const* owner, NODX201::VDiagLayer const& seenFrom) const;
-    VContentHashes::VKnown ContentOf(VViewEntry const& entry, VSeenLayer& seen);
+    VContentHashes::VKnown ContentOf(VDiffEntry const& entry, VSeenLayer& seen);
 
     VLayerChange ComparePair(VLayerPair const& pair);
     std::vector<VChange> CompareViews(VDiffView view, VSeenLayer& old, VSeenLayer& now);
@@ -153,7 +153,7 @@ VHash VComparison::OwnerOf(NODX201::VDiagLayer const* owner, NODX201::VDiagLayer
     return known == NowOf(&seenFrom) ? HashOf(L"itself") : HashOf(reinterpret_cast<std::uintptr_t>(known));
 }
 
-VContentHashes::VKnown VComparison::ContentOf(VViewEntry const& entry, VSeenLayer& seen) {
+VContentHashes::VKnown VComparison::ContentOf(VDiffEntry const& entry, VSeenLayer& seen) {
     m_hashes.SetMissing(&seen.side.missing);
     VContentHashes::VKnown const known = m_hashes.Of(*entry.element, seen.from);
     m_hashes.SetMissing(nullptr);
@@ -166,7 +166,7 @@ VHash VComparison::SignatureOf(NODX201::VDiagLayer& layer, VSide& side) {
     VHash signature;
     for (VDiffView const view : kDiffViews) {
         std::unordered_map<VHash, std::uint64_t, VHashOfHash> counts;
-        for (VViewEntry const& entry : seen.views.views[static_cast<std::size_t>(view)]) {
+        for (VDiffEntry const& entry : seen.views.views[static_cast<std::size_t>(view)]) {
             VHash hash = Mixed(HashOf(static_cast<std::uint64_t>(view)), HashOf(entry.shortName));
             hash = Mixed(hash, HashOf(entry.protocol));
             hash = Mixed(hash, HashOf(++counts[hash]));
@@ -281,7 +281,7 @@ std::vector<VComparison::VMatch> VComparison::MatchNames(VEntries const& old, VE
     std::vector<VMatch> matches;
     matches.reserve(now.size());
     bool const areAlike = std::equal(old.begin(), old.end(), now.begin(), now.end(),
-                                     [](VViewEntry const& a, VViewEntry const& b) { return a.IsNamedAs(b); });
+                                     [](VDiffEntry const& a, VDiffEntry const& b) { return a.IsNamedAs(b); });
     if (areAlike) {
         for (std::size_t i = 0; i < now.size(); ++i) {
             matches.push_back({&old[i], &now[i]});
@@ -304,7 +304,7 @@ std::vector<VComparison::VMatch> VComparison::MatchNames(VEntries const& old, VE
         byName[{old[i].shortName, old[i].protocol}].places.push_back(i);
     }
     std::vector<bool> isMatched(old.size());
-    for (VViewEntry const& entry : now) {
+    for (VDiffEntry const& entry : now) {
         auto const found = byName.find({entry.shortName, entry.protocol});
         if (found == byName.end() || found->second.next == found->second.places.size()) {
             matches.push_back({nullptr, &entry});
