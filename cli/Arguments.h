@@ -34,7 +34,7 @@ struct VArguments {
     std::string job;                    ///< --job, a MULTIPLE-ECU-JOB
     std::string flash;                  ///< --flash
     std::string failOn = "error";       ///< --fail-on of `check`
-    std::vector<std::string> ignored;   ///< --ignore of `check`: codes
+    std::vector<std::string> ignored;   ///< --ignore: codes of `check`, what makes no difference to `diff`
     std::vector<std::string> only;      ///< --only of `check`: codes; all without one
     std::string baseline;               ///< --baseline of `check`: an earlier answer
     std::string format;                 ///< --format of `check` and `graph`; "" for none said
@@ -51,7 +51,6 @@ struct VArguments {
     std::vector<std::string> newFiles; ///< --new of `diff`
     std::vector<std::string> layers;   ///< --layer of `diff`, which may be given more than once
     std::string toLayer;               ///< --to-layer of `diff`
-    std::vector<std::string> ignored;  ///< --ignore of `diff`
     bool comparesIds = false;          ///< --ids of `diff`
 
     /// What a word or an option may be where it is one of a few.
