@@ -34,7 +34,7 @@ struct VArguments {
     std::string job;                    ///< --job, a MULTIPLE-ECU-JOB
     std::string flash;                  ///< --flash
     std::string failOn = "error";       ///< --fail-on of `check`
-    std::vector<std::string> ignored;   ///< --ignore: codes of `check`, words of `diff`
+    std::vector<std::string> ignored;   ///< --ignore: codes of `check`, what makes no difference to `diff`
     std::vector<std::string> only;      ///< --only of `check`: codes; all without one
     std::string baseline;               ///< --baseline of `check`: an earlier answer
     std::string format;                 ///< --format of `check` and `graph`; "" for none said

@@ -17,8 +17,6 @@
 namespace NQuery {
 namespace {
 
-using Tag = NODX201::VOdxTagEnum;
-
 using VLayers = std::vector<NODX201::VDiagLayer*>;
 
 VLayers LayersIn(NMemory::VDatabase& database) {
@@ -66,7 +64,7 @@ std::vector<VLayerPair> Paired(VLayers const& old, VLayers const& now) {
 
 /// One side of a comparison.
 struct VSide {
-    VComparedViewMaker maker;
+    VDiffViewMaker maker;
     std::unordered_set<NODX201::VOdxElement const*> missing; ///< references that lead nowhere
 };
 
@@ -100,10 +98,10 @@ public:
     VDiff Compare();
 
 private:
-    using VEntries = std::vector<VComparedEntry>;
+    using VEntries = std::vector<VDiffEntry>;
     struct VMatch {
-        VComparedEntry const* old;
-        VComparedEntry const* now;
+        VDiffEntry const* old;
+        VDiffEntry const* now;
     };
 
     void NoteMatch(VLayerPair const& pair);
@@ -112,7 +110,7 @@ private:
     VHash SignatureOf(NODX201::VDiagLayer& layer, VSide& side);
     NODX201::VDiagLayer const* NowOf(NODX201::VDiagLayer const* layer) const;
     VHash OwnerOf(NODX201::VDiagLayer const* owner, NODX201::VDiagLayer const& seenFrom) const;
-    VContentHashes::VKnown ContentOf(VComparedEntry const& entry, VSeenLayer& seen);
+    VContentHashes::VKnown ContentOf(VDiffEntry const& entry, VSeenLayer& seen);
 
     VLayerChange ComparePair(VLayerPair const& pair);
     std::vector<VChange> CompareViews(VDiffView view, VSeenLayer& old, VSeenLayer& now);
@@ -155,7 +153,7 @@ VHash VComparison::OwnerOf(NODX201::VDiagLayer const* owner, NODX201::VDiagLayer
     return known == NowOf(&seenFrom) ? HashOf(L"itself") : HashOf(reinterpret_cast<std::uintptr_t>(known));
 }
 
-VContentHashes::VKnown VComparison::ContentOf(VComparedEntry const& entry, VSeenLayer& seen) {
+VContentHashes::VKnown VComparison::ContentOf(VDiffEntry const& entry, VSeenLayer& seen) {
     m_hashes.SetMissing(&seen.side.missing);
     VContentHashes::VKnown const known = m_hashes.Of(*entry.element, seen.from);
     m_hashes.SetMissing(nullptr);
@@ -168,7 +166,7 @@ VHash VComparison::SignatureOf(NODX201::VDiagLayer& layer, VSide& side) {
     VHash signature;
     for (VDiffView const view : kDiffViews) {
         std::unordered_map<VHash, std::uint64_t, VHashOfHash> counts;
-        for (VComparedEntry const& entry : seen.views.views[static_cast<std::size_t>(view)]) {
+        for (VDiffEntry const& entry : seen.views.views[static_cast<std::size_t>(view)]) {
             VHash hash = Mixed(HashOf(static_cast<std::uint64_t>(view)), HashOf(entry.shortName));
             hash = Mixed(hash, HashOf(entry.protocol));
             hash = Mixed(hash, HashOf(++counts[hash]));
@@ -183,6 +181,7 @@ VHash VComparison::SignatureOf(NODX201::VDiagLayer& layer, VSide& side) {
 }
 
 void VComparison::MatchRenamed() {
+    using Tag = NODX201::VOdxTagEnum;
     for (Tag const kind :
          {Tag::EcuSharedData, Tag::Protocol, Tag::FunctionalGroup, Tag::BaseVariant, Tag::EcuVariant}) {
         MatchRenamed(kind);
@@ -282,7 +281,7 @@ std::vector<VComparison::VMatch> VComparison::MatchNames(VEntries const& old, VE
     std::vector<VMatch> matches;
     matches.reserve(now.size());
     bool const areAlike = std::equal(old.begin(), old.end(), now.begin(), now.end(),
-                                     [](VComparedEntry const& a, VComparedEntry const& b) { return a.IsNamedAs(b); });
+                                     [](VDiffEntry const& a, VDiffEntry const& b) { return a.IsNamedAs(b); });
     if (areAlike) {
         for (std::size_t i = 0; i < now.size(); ++i) {
             matches.push_back({&old[i], &now[i]});
@@ -305,7 +304,7 @@ std::vector<VComparison::VMatch> VComparison::MatchNames(VEntries const& old, VE
         byName[{old[i].shortName, old[i].protocol}].places.push_back(i);
     }
     std::vector<bool> isMatched(old.size());
-    for (VComparedEntry const& entry : now) {
+    for (VDiffEntry const& entry : now) {
         auto const found = byName.find({entry.shortName, entry.protocol});
         if (found == byName.end() || found->second.next == found->second.places.size()) {
             matches.push_back({nullptr, &entry});

@@ -14,8 +14,8 @@ namespace NQuery {
 namespace {
 
 template <class Element>
-std::vector<VComparedEntry> EntriesOf(std::vector<Element*> const& elements) {
-    std::vector<VComparedEntry> entries;
+std::vector<VDiffEntry> EntriesOf(std::vector<Element*> const& elements) {
+    std::vector<VDiffEntry> entries;
     entries.reserve(elements.size());
     for (Element* const element : elements) {
         entries.push_back({element, element->GetShortName()});
@@ -23,21 +23,21 @@ std::vector<VComparedEntry> EntriesOf(std::vector<Element*> const& elements) {
     return entries;
 }
 
-std::vector<VComparedEntry> ProtocolsIn(NODX201::VDiagLayer& layer) {
+std::vector<VDiffEntry> ProtocolsIn(NODX201::VDiagLayer& layer) {
     auto* const baseVariant = dynamic_cast<NODX201::VBaseVariant*>(&layer);
     if (baseVariant == nullptr) {
         return {};
     }
     NDIAGKIT::VProtocolView view(*baseVariant);
-    std::vector<VComparedEntry> entries;
+    std::vector<VDiffEntry> entries;
     for (NODX201::VProtocol& protocol : view) {
         entries.push_back({&protocol, protocol.GetShortName()});
     }
     return entries;
 }
 
-VComparedEntry EntryOf(NMemory::VMemComparamRef& reference) {
-    VComparedEntry entry{&reference, L""};
+VDiffEntry EntryOf(NMemory::VMemComparamRef& reference) {
+    VDiffEntry entry{&reference, L""};
     if (reference.HasComparam()) {
         entry.shortName = reference.GetComparam().GetShortName();
     } else if (auto const* const link = dynamic_cast<NODX201::VOdxLink const*>(&reference.GetLink()); link != nullptr) {
@@ -51,7 +51,7 @@ VComparedEntry EntryOf(NMemory::VMemComparamRef& reference) {
 }
 
 template <class Layer>
-bool AddOwnComparams(NODX201::VDiagLayer& layer, std::vector<VComparedEntry>& entries) {
+bool AddOwnComparams(NODX201::VDiagLayer& layer, std::vector<VDiffEntry>& entries) {
     auto* const known = dynamic_cast<Layer*>(&layer);
     if (known == nullptr) {
         return false;
@@ -62,8 +62,8 @@ bool AddOwnComparams(NODX201::VDiagLayer& layer, std::vector<VComparedEntry>& en
     return true;
 }
 
-std::vector<VComparedEntry> OwnComparams(NODX201::VDiagLayer& layer) {
-    std::vector<VComparedEntry> entries;
+std::vector<VDiffEntry> OwnComparams(NODX201::VDiagLayer& layer) {
+    std::vector<VDiffEntry> entries;
     static_cast<void>(AddOwnComparams<NMemory::VMemEcuVariant>(layer, entries) ||
                       AddOwnComparams<NMemory::VMemBaseVariant>(layer, entries) ||
                       AddOwnComparams<NMemory::VMemFunctionalGroup>(layer, entries) ||
@@ -75,8 +75,8 @@ std::vector<VComparedEntry> OwnComparams(NODX201::VDiagLayer& layer) {
 /// Keeps the first of a COMPARAM and PROTOCOL-SNREF.
 class VFirsts {
 public:
-    void Add(std::vector<VComparedEntry> const& entries) {
-        for (VComparedEntry const& entry : entries) {
+    void Add(std::vector<VDiffEntry> const& entries) {
+        for (VDiffEntry const& entry : entries) {
             if (m_known.emplace(std::pair(std::wstring_view(entry.shortName), std::wstring_view(entry.protocol)), true)
                     .second) {
                 firsts.push_back(entry);
@@ -84,7 +84,7 @@ public:
         }
     }
 
-    std::vector<VComparedEntry> firsts;
+    std::vector<VDiffEntry> firsts;
 
 private:
     std::map<std::pair<std::wstring_view, std::wstring_view>, bool> m_known;
@@ -92,11 +92,11 @@ private:
 
 } // namespace
 
-bool VComparedEntry::IsNamedAs(VComparedEntry const& other) const {
+bool VDiffEntry::IsNamedAs(VDiffEntry const& other) const {
     return std::wcscmp(shortName, other.shortName) == 0 && std::wcscmp(protocol, other.protocol) == 0;
 }
 
-VLayerViews VComparedViewMaker::ViewsOf(NODX201::VDiagLayer& layer) {
+VLayerViews VDiffViewMaker::ViewsOf(NODX201::VDiagLayer& layer) {
     VLayerViews made;
     made.dops = m_views.dops.EntriesOf(layer);
     made.views = {EntriesOf(m_views.diagComms.EntriesOf(layer)),
@@ -108,7 +108,7 @@ VLayerViews VComparedViewMaker::ViewsOf(NODX201::VDiagLayer& layer) {
     return made;
 }
 
-VComparedViewMaker::VComparams VComparedViewMaker::ComparamsIn(NODX201::VDiagLayer& layer) {
+VDiffViewMaker::VComparams VDiffViewMaker::ComparamsIn(NODX201::VDiagLayer& layer) {
     VFirsts firsts;
     firsts.Add(OwnComparams(layer));
     for (auto const& pass : NDIAGKIT::VInheritedDiagComms::kRow.ParentsOf(layer)) {
@@ -120,7 +120,7 @@ VComparedViewMaker::VComparams VComparedViewMaker::ComparamsIn(NODX201::VDiagLay
 }
 
 // Each kind of layer inherits from others alone, so this goes no deeper than there are kinds.
-VComparedViewMaker::VComparams const& VComparedViewMaker::ComparamsOfParent(NODX201::VDiagLayer& layer) {
+VDiffViewMaker::VComparams const& VDiffViewMaker::ComparamsOfParent(NODX201::VDiagLayer& layer) {
     if (auto const known = m_comparams.find(&layer); known != m_comparams.end()) {
         return known->second;
     }

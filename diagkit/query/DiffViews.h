@@ -13,12 +13,12 @@
 namespace NQuery {
 
 /// An entry of a view, and what it is matched by.
-struct VComparedEntry {
+struct VDiffEntry {
     NODX201::VOdxElement* element;
     wchar_t const* shortName;
     wchar_t const* protocol = L""; ///< the PROTOCOL-SNREF of a COMPARAM-REF
 
-    bool IsNamedAs(VComparedEntry const& other) const;
+    bool IsNamedAs(VDiffEntry const& other) const;
 };
 
 inline constexpr std::array kDiffViews = {VDiffView::DiagComms, VDiffView::DiagVariables, VDiffView::GlobalNegResponses,
@@ -26,17 +26,17 @@ inline constexpr std::array kDiffViews = {VDiffView::DiagComms, VDiffView::DiagV
 
 /// The views of one layer, in the order of `kDiffViews`.
 struct VLayerViews {
-    std::array<std::vector<VComparedEntry>, kDiffViews.size()> views;
+    std::array<std::vector<VDiffEntry>, kDiffViews.size()> views;
     std::vector<NODX201::VDopBase*> dops;
 };
 
 /// Makes the views of the layers of a database, parents being looked at once.
-class VComparedViewMaker {
+class VDiffViewMaker {
 public:
     VLayerViews ViewsOf(NODX201::VDiagLayer& layer);
 
 private:
-    using VComparams = std::vector<VComparedEntry>;
+    using VComparams = std::vector<VDiffEntry>;
 
     /// The layer's own COMPARAM-REFs, then those of its parents; of a COMPARAM and PROTOCOL-SNREF the first.
     VComparams ComparamsIn(NODX201::VDiagLayer& layer);

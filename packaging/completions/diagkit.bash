@@ -14,6 +14,7 @@ _diagkit() {
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
     check) options="--help --format --fail-on --ignore --only --baseline --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     uses) options="--help --kind --layer --unused --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    diff) options="--help --old --new --layer --to-layer --ignore --ids --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     esac
     case "${COMP_WORDS[1]} $previous" in
     *" --max-file-size") answers="" ;;
@@ -38,13 +39,17 @@ _diagkit() {
     *" --max-candidates") answers="" ;;
     *" --max-visits") answers="" ;;
     *" --fail-on") answers="error warning" ;;
-    *" --ignore") answers="ambiguous-document ambiguous-name containment-cycle contradicting-type document-type duplicate-id duplicate-member duplicate-short-name empty encoding excludes-nothing import-cycle misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
+    "check --ignore") answers="ambiguous-document ambiguous-name containment-cycle contradicting-type document-type duplicate-id duplicate-member duplicate-short-name empty encoding excludes-nothing import-cycle misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
+    "diff --ignore") answers="long-names descriptions admin-data order" ;;
     *" --only") answers="ambiguous-document ambiguous-name containment-cycle contradicting-type document-type duplicate-id duplicate-member duplicate-short-name empty encoding excludes-nothing import-cycle misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
     *" --baseline") answers="" ;;
     *" --kind") answers="" ;;
+    *" --old") answers="" ;;
+    *" --new") answers="" ;;
+    *" --to-layer") answers="" ;;
     *)
         if ((COMP_CWORD == 1)); then
-            answers="info layers graph view resolve explain traverse oem enums check uses --help --version"
+            answers="info layers graph view resolve explain traverse oem enums check uses diff --help --version"
         elif [[ $word == -* ]]; then
             answers=$options
         elif ((COMP_CWORD == 2)); then
