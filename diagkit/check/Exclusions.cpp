@@ -38,26 +38,26 @@ public:
     void Check(NODX201::VParentRef& parentRef, NODX201::VDiagLayer& parent) {
         if (parentRef.HasNotInheritedDiagCommCollection()) {
             for (NODX201::VNotInheritedDiagComm& exclusion : parentRef.NotInheritedDiagCommCollection()) {
-                Check(exclusion, exclusion.GetDiagCommSnref().GetLink(), parent, m_diagComms);
+                Check(exclusion, exclusion.GetDiagCommSnref(), parent, m_diagComms);
             }
         }
         if (parentRef.HasNotInheritedVariableCollection()) {
             for (NODX201::VNotInheritedVariable& exclusion : parentRef.NotInheritedVariableCollection()) {
-                Check(exclusion, exclusion.GetDiagVariableSnref().GetLink(), parent, m_variables);
+                Check(exclusion, exclusion.GetDiagVariableSnref(), parent, m_variables);
             }
         }
     }
 
 private:
     template <class Names>
-    void Check(NODX201::VOdxElement const& exclusion, NODX201::ILink const& link, NODX201::VDiagLayer& parent,
+    void Check(NODX201::VOdxElement const& exclusion, NODX201::VLink& reference, NODX201::VDiagLayer& parent,
                Names& names) {
-        auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&link);
+        auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());
         if (snref == nullptr) {
-            m_findings.Add(PositionOf(exclusion), NCode::ExcludesNothing,
+            m_findings.Add(PositionOf(reference), NCode::ExcludesNothing,
                            TagOf(exclusion) + " names its target by ID, which excludes nothing; name it by short name");
         } else if (*snref->GetShortName() != L'\0' && names.In(parent).count(snref->GetShortName()) == 0) {
-            m_findings.Add(PositionOf(exclusion), NCode::ExcludesNothing,
+            m_findings.Add(PositionOf(reference), NCode::ExcludesNothing,
                            TagOf(exclusion) + " names " + Quoted(snref->GetShortName()) + ", which the " +
                                Titled(parent) + " does not have");
         }

@@ -22,6 +22,12 @@ IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRe
 
 namespace {
 
+void CopyPositions(NODX201::VOdxElement& from, NODX201::VOdxElement& fromReference, VMemNode& to,
+                   VMemNode& toReference) {
+    to.SetPosition(dynamic_cast<VMemNode&>(from).GetPosition());
+    toReference.SetPosition(dynamic_cast<VMemNode&>(fromReference).GetPosition());
+}
+
 /// What a PARENT-REF holds besides its kind and its reference.
 void CopyContent(IMemParentRef& parentRef, IMemParentRef& changed) {
     NODX201::VParentRef& before = parentRef.ParentRef();
@@ -30,15 +36,15 @@ void CopyContent(IMemParentRef& parentRef, IMemParentRef& changed) {
         changed.MakeNotInheritedDiagCommCollection();
     }
     for (NODX201::VNotInheritedDiagComm& excluded : before.NotInheritedDiagCommCollection()) {
-        changed.AddNotInheritedDiagComm(ReferenceOf(excluded.GetDiagCommSnref().GetLink()))
-            .SetPosition(dynamic_cast<VMemNode&>(excluded).GetPosition());
+        auto& copy = changed.AddNotInheritedDiagComm(ReferenceOf(excluded.GetDiagCommSnref().GetLink()));
+        CopyPositions(excluded, excluded.GetDiagCommSnref(), copy, copy.GetDiagCommSnref());
     }
     if (before.HasNotInheritedVariableCollection()) {
         changed.MakeNotInheritedVariableCollection();
     }
     for (NODX201::VNotInheritedVariable& excluded : before.NotInheritedVariableCollection()) {
-        changed.AddNotInheritedVariable(ReferenceOf(excluded.GetDiagVariableSnref().GetLink()))
-            .SetPosition(dynamic_cast<VMemNode&>(excluded).GetPosition());
+        auto& copy = changed.AddNotInheritedVariable(ReferenceOf(excluded.GetDiagVariableSnref().GetLink()));
+        CopyPositions(excluded, excluded.GetDiagVariableSnref(), copy, copy.GetDiagVariableSnref());
     }
 }
 

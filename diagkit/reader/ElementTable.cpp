@@ -123,6 +123,8 @@ VElementType const& LinkType() {
 
 void NotePosition(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.Position()); }
 
+void NotePositionAround(VLoader& loader, NMemory::VMemNode& node) { node.SetPosition(loader.PositionAround()); }
+
 void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement& element) {
     NotePosition(loader, node);
     if (loader.Reading().keepsElements) {

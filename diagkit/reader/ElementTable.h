@@ -146,6 +146,7 @@ VElementType TableOf(VFact const (&facts)[Count]) {
 // For the rows' functions, which know the loader no further.
 
 void NotePosition(VLoader& loader, NMemory::VMemNode& node);
+void NotePositionAround(VLoader& loader, NMemory::VMemNode& node); ///< of what the tag being read stands in
 void NoteElement(VLoader& loader, NMemory::VMemNode& node, NODX201::VOdxElement& element);
 template <class Element>
 void NoteElement(VLoader& loader, Element& element) {

@@ -30,6 +30,8 @@ bool IsBlank(std::string_view text) {
 
 } // namespace
 
+NMemory::VPosition VLoader::PositionAround() const { return m_frames.back().position; }
+
 NMemory::VPosition VLoader::Position() const {
     if (m_replayed != nullptr) {
         return *m_replayed;

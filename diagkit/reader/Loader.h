@@ -32,7 +32,8 @@ public:
     // For the rows of the element tables.
 
     VDocumentReading& Reading() { return m_reading; }
-    NMemory::VPosition Position() const; ///< of the tag being read
+    NMemory::VPosition Position() const;       ///< of the tag being read
+    NMemory::VPosition PositionAround() const; ///< of the element that it stands in
     void SetModelVersion(std::string_view version);
     void Report(VCode const& code, std::string message);
     /// An ID reference or short-name reference as its attributes say, valid until the next call.

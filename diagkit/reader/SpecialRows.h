@@ -99,13 +99,21 @@ VOpened OpenParentRef(VLoader& loader, void* owner, VRow const&, VAttributes con
     return Opened(loader, dynamic_cast<VMemParentRef&>(untyped));
 }
 
+inline NMemory::VMemNode& ReferenceIn(NMemory::VMemNotInheritedDiagComm& excluded) {
+    return excluded.GetDiagCommSnref();
+}
+inline NMemory::VMemNode& ReferenceIn(NMemory::VMemNotInheritedVariable& excluded) {
+    return excluded.GetDiagVariableSnref();
+}
+
 // The exclusions are short-name references by ODX; an ID reference is kept too, as one that excludes nothing.
 template <class T, class Item, Item& (NMemory::IMemParentRef::*Add)(NMemory::VReference const&), bool IsByShortName>
 VOpened OpenExcluded(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
     NMemory::IMemParentRef& parentRef = VFactsOf<T>::Owner(owner);
     Item& excluded =
         (parentRef.*Add)(IsByShortName ? ShortNameReference(loader, attributes) : IdReference(loader, attributes));
-    NotePosition(loader, excluded);
+    NotePositionAround(loader, excluded);
+    NotePosition(loader, ReferenceIn(excluded));
     return {&excluded, &LinkType()};
 }
 

@@ -321,10 +321,12 @@ TEST_F(VReferencesTest, ParentRefWithoutTypeTakesTheKindOfItsTarget) {
     EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(shared)), "3:1");
     auto& excluded = At(shared.NotInheritedDiagCommCollection(), 0);
     EXPECT_STREQ(As<NODX201::VSnref>(excluded.GetDiagCommSnref().GetLink()).GetShortName(), L"S");
-    EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(excluded)), "5:1");
+    EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(excluded)), "4:27");
+    EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(excluded.GetDiagCommSnref())), "5:1");
     auto& variable = At(shared.NotInheritedVariableCollection(), 0);
     EXPECT_STREQ(As<NODX201::VSnref>(variable.GetDiagVariableSnref().GetLink()).GetShortName(), L"V");
-    EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(variable)), "6:25");
+    EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(variable)), "6:1");
+    EXPECT_EQ(PositionOf(As<NMemory::VMemNode>(variable.GetDiagVariableSnref())), "6:25");
     EXPECT_TRUE(As<NODX201::VProtocolRef>(At(parents, 1)).HasProtocol());
     EXPECT_FALSE(At(parents, 1).HasNotInheritedDiagCommCollection());
     EXPECT_TRUE(As<NODX201::VFunctionalGroupRef>(At(parents, 2)).HasFunctionalGroup());
