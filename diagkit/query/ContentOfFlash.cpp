@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The contents of flash data and of vehicles.
+// The contents of flash data.
 
 #include <diagkit/memory/Flash.h>
 #include <diagkit/query/ContentTable.h>

@@ -17,6 +17,8 @@
 namespace NQuery {
 namespace {
 
+using Tag = NODX201::VOdxTagEnum;
+
 using VLayers = std::vector<NODX201::VDiagLayer*>;
 
 VLayers LayersIn(NMemory::VDatabase& database) {
@@ -181,7 +183,6 @@ VHash VComparison::SignatureOf(NODX201::VDiagLayer& layer, VSide& side) {
 }
 
 void VComparison::MatchRenamed() {
-    using Tag = NODX201::VOdxTagEnum;
     for (Tag const kind :
          {Tag::EcuSharedData, Tag::Protocol, Tag::FunctionalGroup, Tag::BaseVariant, Tag::EcuVariant}) {
         MatchRenamed(kind);
