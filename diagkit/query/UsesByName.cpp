@@ -109,10 +109,10 @@ NODX201::VOdxElement* VUsesByName::AddOfSpec(VName& name, NODX201::VLink& refere
 }
 
 void VUsesByName::AddOfConnector(VName& name, NODX201::VLink& reference) {
-    if (auto* const connector = ElementAround<NMemory::VMemEcuMemConnector>(reference)) {
-        Read(name, reference, PlaceIn(*connector, [&reference] { return NCheck::LayersOfConnector(reference); }),
-             nullptr);
-    }
+    // The references of a connector are all read in its layers; any other one where it says itself.
+    NODX201::VOdxElement const* place = ElementAround<NMemory::VMemEcuMemConnector>(reference);
+    place = place != nullptr ? place : &reference;
+    Read(name, reference, PlaceIn(*place, [&reference] { return NCheck::LayersOfConnector(reference); }), nullptr);
 }
 
 void VUsesByName::LookUpIn(std::uint32_t layer, NCheck::VViews& views) {

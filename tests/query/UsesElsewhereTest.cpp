@@ -69,5 +69,20 @@ TEST_F(VUsesElsewhereTest, ALinkOfAVehicleLeadsToWhatItNames) {
     EXPECT_EQ(Uses("B"), "BASE-VARIANT-REF from LL\n");
 }
 
+TEST_F(VUsesElsewhereTest, AMatchingComponentsParameterIsThatOfItsDiagComm) {
+    Read({ContainerOfLayers(
+              LayerXml("BASE-VARIANT", "A") +
+              LayerXml("BASE-VARIANT", "B",
+                       DiagComms(Service("S", "<REQUEST-REF ID-REF=\"RQ\"/>")) + Request("RQ", Value("P", "")))),
+          Document("<VEHICLE-INFO-SPEC ID=\"I\"><SHORT-NAME>I</SHORT-NAME><INFO-COMPONENTS>" +
+                       Xml("INFO-COMPONENT", "E",
+                           "<MATCHING-COMPONENTS><MATCHING-COMPONENT><OUT-PARAM-IF-SNREF SHORT-NAME=\"P\"/>"
+                           "<DIAG-COMM-REF ID-REF=\"S\"/></MATCHING-COMPONENT></MATCHING-COMPONENTS>") +
+                       "</INFO-COMPONENTS></VEHICLE-INFO-SPEC>",
+                   "2.2.0")});
+    EXPECT_EQ(Uses("P"), "OUT-PARAM-IF-SNREF from E in B\n");
+    EXPECT_EQ(Uses("S"), "DIAG-COMM-REF from E\n");
+}
+
 } // namespace
 } // namespace NTest
