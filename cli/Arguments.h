@@ -56,6 +56,7 @@ struct VArguments {
     /// What a word or an option may be where it is one of a few.
     std::map<CLI::Option const*, std::vector<std::string>> choices;
 
+    bool IsText() const { return !isJson && (format.empty() || format == "text"); } ///< whether people read the answer
     int Range() const { return range.value_or(5); }
 };
 

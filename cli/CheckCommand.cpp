@@ -20,8 +20,6 @@ namespace {
 
 using VDiagnostics = std::vector<NReader::VDiagnostic>;
 
-bool IsJson(VArguments const& arguments) { return arguments.isJson || arguments.format == "json"; }
-
 std::vector<std::string> AllCodes() {
     std::vector<std::string> codes;
     for (NCheck::VCode const& code : NCheck::Codes()) {
@@ -89,19 +87,10 @@ VDiagnostics Selected(VArguments const& arguments, VDiagnostics diagnostics, VBa
 void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, VOutput& output) {
     if (arguments.format == "sarif") {
         WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteSarif(json, diagnostics); });
-    } else if (IsJson(arguments)) {
-        WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteAsJson(json, diagnostics); });
-    } else {
+    } else if (arguments.IsText()) {
         WriteText(diagnostics, output);
-    }
-}
-
-/// What a program reads is whole, whatever the files are; for people the reason is enough.
-void WriteRefusal(VArguments const& arguments, VDiagnostics const& diagnostics, VOutput& output) {
-    if (arguments.format == "sarif" || IsJson(arguments)) {
-        WriteAnswer(arguments, diagnostics, output);
-    } else if (!arguments.isQuiet) {
-        PrintDiagnostics(diagnostics);
+    } else {
+        WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteAsJson(json, diagnostics); });
     }
 }
 
@@ -148,7 +137,9 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output) {
     VBaseline baseline = arguments.baseline.empty() ? VBaseline() : VBaseline(arguments.baseline);
     NReader::VReadResult result;
     if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
-        WriteRefusal(arguments, result.diagnostics, output);
+        if (!arguments.IsText()) { // what a program reads is whole, whatever the files are
+            WriteAnswer(arguments, result.diagnostics, output);
+        }
         return status;
     }
     VDiagnostics const diagnostics = Selected(arguments, Check(arguments, result), baseline);

@@ -37,6 +37,13 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
     return VStatus::Unreadable;
 }
 
+void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
+        std::string const line = LineOf(diagnostic);
+        std::fwrite(line.data(), 1, line.size(), stderr);
+    }
+}
+
 VStatus LoadAndTell(VArguments const& arguments, bool keepsElements, VOutput const& output,
                     NReader::VReadResult& result) {
     result = Read(arguments, keepsElements);
@@ -65,15 +72,12 @@ VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader
     return LoadAndTell(arguments, true, output, result);
 }
 
-void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics) {
-    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
-        std::string const line = LineOf(diagnostic);
-        std::fwrite(line.data(), 1, line.size(), stderr);
-    }
-}
-
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
     result = Read(arguments, true);
+    bool const isRefused = result.database == nullptr || (arguments.isStrict && CountErrors(result.diagnostics) > 0);
+    if (isRefused && arguments.IsText() && !arguments.isQuiet) {
+        PrintDiagnostics(result.diagnostics);
+    }
     return Judge(arguments, output, result);
 }
 

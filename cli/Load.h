@@ -14,10 +14,9 @@ VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadR
 /// The same with every element kept, for a command that looks at all of them.
 VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
-/// The same for a command whose answer holds the diagnostics: none go to standard error.
+/// The same for a command whose answer holds the diagnostics. They go to standard error only in place of an answer:
+/// when it is a text, and the command does not go on.
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
-
-void PrintDiagnostics(std::vector<NReader::VDiagnostic> const& diagnostics); ///< on standard error
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever the data holds
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
