@@ -442,15 +442,21 @@ public:
             Element& element = *candidates.elements[index];
             std::uint32_t const wayOfParent = Notes::kHaveWays ? candidates.ways[index] : 0;
             std::uint32_t const way = Notes::kHaveWays ? ways.Longer(wayOfParent) : 0;
-            bool const isHeld = IsHeld(name);
-            bool const isVisible = !isHeld && !IsInNotInheritedList(name);
-            m_notes.Add(element, name, isVisible, way);
-            if (isVisible) {
-                Add(m_list, element, name, way);
-                Hold(name);
-            } else if (!isHeld || Notes::kAreTaken) {
-                Add(seen->second, element, name, wayOfParent);
+            if (IsHeld(name)) {
+                if constexpr (Notes::kAreTaken) {
+                    m_notes.Add(element, name, false, way);
+                    Add(seen->second, element, name, wayOfParent);
+                }
+                continue;
             }
+            bool const isExcluded = IsInNotInheritedList(name);
+            m_notes.Add(element, name, !isExcluded, way);
+            if (isExcluded) {
+                Add(seen->second, element, name, wayOfParent);
+                continue;
+            }
+            Add(m_list, element, name, way);
+            Hold(name);
         }
     }
 
