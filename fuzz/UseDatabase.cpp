@@ -215,7 +215,7 @@ void AskForUses(NReader::VReadResult const& result, VBudget& budget) {
 
 /// A database is equal to itself, and what differs between neighbours differs both ways.
 void CompareLayers(NMemory::VDatabase& database) {
-    constexpr std::size_t kMostPairs = 8;
+    constexpr std::size_t kMostPairs = 3;
     Require(NQuery::DiffDatabases(database, database).IsEqual());
     NODX201::VDiagLayer* before = nullptr;
     std::size_t pairs = 0;

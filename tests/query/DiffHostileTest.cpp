@@ -154,7 +154,8 @@ std::string Variants(int count, std::string const& bits, bool ownDops) {
     std::string variants;
     for (int variant = 0; variant < count; ++variant) {
         std::string const name = "V" + std::to_string(variant);
-        std::string const own = "<DATA-OBJECT-PROP ID=\"" + name + ".D\">" + Dop("D", bits).substr(25);
+        std::string const own =
+            "<DATA-OBJECT-PROP ID=\"" + name + ".D\">" + Dop("D", bits + std::to_string(variant)).substr(25);
         variants += LayerXml("ECU-VARIANT", name, (ownDops ? DopList(own) : "") + ParentRefs({{"BASE-VARIANT", "B"}}));
     }
     std::string const base = DopList(Dop("D", ownDops ? "8" : bits)) + DiagComms(ServiceXml("S")) +
@@ -174,10 +175,11 @@ TEST_F(VDiffHostileTest, WhatManyLayersInheritIsComparedOnceAndSharesItsDetails)
 TEST_F(VDiffHostileTest, AShortNameOfItsOwnInEachLayerIsComparedInEach) {
     NQuery::VDiff const diff = DiffOf(Variants(50, "8", true), Variants(50, "16", true));
     ASSERT_EQ(50U, diff.layers.size());
-    for (NQuery::VLayerChange const& layer : diff.layers) {
-        ASSERT_EQ(2U, layer.views.size());
-        EXPECT_EQ(L"REQUEST/PARAM[P]/DOP/DIAG-CODED-TYPE/BIT-LENGTH",
-                  layer.views.at(0).changes.at(0).details->front().path);
+    for (std::size_t variant = 0; variant < diff.layers.size(); ++variant) {
+        ASSERT_EQ(2U, diff.layers[variant].views.size());
+        NQuery::VDetail const& detail = diff.layers[variant].views.at(0).changes.at(0).details->front();
+        EXPECT_EQ(L"REQUEST/PARAM[P]/DOP/DIAG-CODED-TYPE/BIT-LENGTH", detail.path);
+        EXPECT_EQ(L"16" + std::to_wstring(variant), detail.newText);
     }
 }
 
