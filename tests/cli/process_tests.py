@@ -436,6 +436,26 @@ class Folders(unittest.TestCase):
         self.assertEqual((done.returncode, done.stdout, done.stderr), (3, "", f"{folder}: {reason}\n"))
 
 
+class SidesOfDiff(unittest.TestCase):
+    def test_the_side_that_cannot_be_read_is_named(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for sides, name in (([folder, "gates.odx-d"], "old"), (["gates.odx-d", folder], "new")):
+                done = run("diff", *sides)
+                self.assertEqual((done.returncode, done.stdout), (3, ""))
+                self.assertIn(f"diagkit: the {name} database cannot be used\n", done.stderr)
+                self.assertEqual(run("diff", *sides, "--quiet").stderr, "")
+
+    def test_folders_stand_for_their_documents_and_packages(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for name in ("gates.odx-d", "garage_old.odx-d"):
+                (pathlib.Path(folder) / name).write_bytes((DATA / name).read_bytes())
+            (pathlib.Path(folder) / "notes.txt").write_text("passed over", encoding="utf-8")
+            done = run("diff", "--json", folder, "--quiet", folder)
+            answer = json.loads(done.stdout)
+            self.assertTrue(answer["equal"])
+            self.assertEqual([pathlib.Path(file).name for file in answer["old"]], ["garage_old.odx-d", "gates.odx-d"])
+
+
 @unittest.skipUnless(IS_POSIX, "needs pseudo terminals")
 class Terminals(unittest.TestCase):
     def setUp(self):
