@@ -16,7 +16,8 @@ import sys
 from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, write_preparation
 
 # What stands in the commands for something of the user's, and something of the sample's for it.
-PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper"}
+PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "OLD": str(SAMPLE),
+                "NEW": str(SAMPLE)}
 
 # These run this test, or take long; check_packages.py runs the latter.
 ELSEWHERE = {"./test", "scripts/package"}
@@ -35,6 +36,7 @@ ANSWERS = {
     "./run enums Addressing": ["FUNCTIONAL-OR-PHYSICAL"],
     "./run check": ["0 errors"],
     "./run uses --unused": ["0 in all"],
+    "./run diff": ["No differences"],
     "./run --help": ["traverse"],
     "cmake --install": ["bin/diagkit"],
 }
