@@ -32,6 +32,7 @@ struct VDiffOptions {
     std::function<void(std::uint64_t done, std::uint64_t all)> progress{};
 };
 
+/// What became of an entry or a layer. Moved means: of the same content, owned by another layer.
 enum class VChangeKind { Added, Removed, Renamed, Changed, Moved };
 
 /// Where the content of an entry differs. The path leads from the entry down, by tags and short names:
@@ -60,14 +61,17 @@ struct VChange {
     std::shared_ptr<std::vector<VDetail> const> details;
 };
 
+/// What is compared of a layer: its views, and the COMPARAM-REFs that count in it.
 enum class VDiffView { DiagComms, DiagVariables, GlobalNegResponses, Dops, Protocols, Comparams };
 char const* NameOf(VDiffView view); ///< "diag-comms" and so on
 
+/// The changes of one view.
 struct VViewChanges {
     VDiffView view;
     std::vector<VChange> changes; ///< in view order of the new database, then what is gone in that of the old one
 };
 
+/// A layer that is not as it was.
 struct VLayerChange {
     VChangeKind kind;                ///< never `Moved`
     NODX201::VDiagLayer* oldLayer;   ///< null when added
