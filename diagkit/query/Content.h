@@ -31,7 +31,7 @@ struct VContentPart {
 /// Takes the parts of an element, one after another.
 class IPartSink {
 public:
-    virtual void Take(VContentPart const& part) = 0; ///< texts are valid during the call
+    virtual void Take(VContentPart const& part) = 0; ///< called for each
 
 protected:
     IPartSink() = default;
