@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <system_error>
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
@@ -31,10 +32,16 @@ std::string KeyOfResult(VJson const& result) {
                  result.at("message").at("text").get<std::string>());
 }
 
+VJson::array_t const& ListOf(VJson const& object, char const* member) {
+    return object.at(member).get_ref<VJson::array_t const&>(); // raises for anything else
+}
+
 /// The text is kept for as long as it is parsed: a baseline is as long as the answer that it was.
 VJson ReadJson(std::string const& file) {
-    std::ifstream stream(std::filesystem::u8path(file), std::ios::binary);
-    if (!stream) {
+    std::filesystem::path const path = std::filesystem::u8path(file);
+    std::error_code error;
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream || std::filesystem::is_directory(path, error)) {
         throw std::runtime_error(fmt::format("the baseline '{}' cannot be read", Shown(file)));
     }
     return VJson::parse(stream);
@@ -46,7 +53,7 @@ VBaseline::VBaseline(std::string const& file) {
     try {
         VJson const log = ReadJson(file);
         m_isSarif = log.contains("runs");
-        for (VJson const& finding : m_isSarif ? log.at("runs").at(0).at("results") : log.at("diagnostics")) {
+        for (VJson const& finding : m_isSarif ? ListOf(log.at("runs").at(0), "results") : ListOf(log, "diagnostics")) {
             ++m_left[m_isSarif ? KeyOfResult(finding) : KeyOfFinding(finding)];
         }
     } catch (VJson::exception const&) {

@@ -40,7 +40,7 @@ bool IsCommand(std::string const& word, CLI::App const& program) {
 std::vector<std::string> HelpAsOption(std::vector<std::string> words, CLI::App const& program) {
     words.erase(words.begin());
     auto const command = FindCommand(words, program);
-    if (command == words.end()) {
+    if (command == words.end() || *command == "help") {
         return {"--help"};
     }
     return IsCommand(*command, program) ? std::vector<std::string>{*command, "--help"} : words;

@@ -94,7 +94,7 @@ void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, V
     }
 }
 
-/// Null, or what is wrong with the call.
+/// What is wrong with the call; "" when nothing is.
 std::string WrongUsage(VArguments const& arguments) {
     if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
         return fmt::format("--json and --format {} exclude each other", arguments.format);
@@ -138,7 +138,7 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output) {
     NReader::VReadResult result;
     if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
         if (!arguments.IsText()) { // what a program reads is whole, whatever the files are
-            WriteAnswer(arguments, result.diagnostics, output);
+            WriteAnswer(arguments, Selected(arguments, result.diagnostics, baseline), output);
         }
         return status;
     }

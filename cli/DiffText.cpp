@@ -241,7 +241,7 @@ void WriteLayer(NQuery::VLayerChange const& layer, VOutput& output) {
 
 void WriteDiff(NQuery::VDiff const& diff, VOutput& output) {
     if (diff.IsEqual()) {
-        output.Write("No differences\n");
+        output.Write("No differences in what the layers see\n");
         return;
     }
     std::size_t others = 0;

@@ -67,8 +67,8 @@ void WriteGraph(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::V
 std::string FirstLineOf(std::string const& text) { return Shown(std::string_view(text).substr(0, text.find('\n'))); }
 
 /// Has Graphviz lay the graph out.
-VStatus WriteSvg(NQuery::VInheritanceGraph const& graph, VOutput& output) {
-    VProgramRun const run = RunProgram({"dot", "-Tsvg"}, DotTextOf(graph));
+VStatus WriteSvg(NQuery::VInheritanceGraph const& graph, NQuery::VInheritanceGraph const& whole, VOutput& output) {
+    VProgramRun const run = RunProgram({"dot", "-Tsvg"}, DotTextOf(graph, whole));
     switch (run.outcome) {
     case VProgramRun::VOutcome::Done:
         output.Write(run.output);
@@ -106,22 +106,23 @@ VStatus RunGraph(VArguments const& arguments, VOutput& output) {
     if (VStatus const status = Load(arguments, output, result); status != VStatus::Done) {
         return status;
     }
-    NQuery::VInheritanceGraph graph = NQuery::InheritanceGraphOf(*result.database);
+    NQuery::VInheritanceGraph const whole = NQuery::InheritanceGraphOf(*result.database);
+    NQuery::VInheritanceGraph graph = whole;
     if (!arguments.layer.empty()) {
         NODX201::VDiagLayer const* const layer = FindLayer(*result.database, arguments.layer, output);
         if (layer == nullptr) {
             return VStatus::NotThere;
         }
-        graph = NQuery::PartAround(graph, *layer);
+        graph = NQuery::PartAround(whole, *layer);
     }
     if (arguments.isJson) {
         WriteJson(output, [&](VJsonWriter& json) { WriteGraph(json, *result.database, graph); });
     } else if (arguments.format == "dot") {
-        output.Write(DotTextOf(graph));
+        output.Write(DotTextOf(graph, whole));
     } else if (arguments.format == "mermaid") {
-        output.Write(MermaidTextOf(graph));
+        output.Write(MermaidTextOf(graph, whole));
     } else {
-        return WriteSvg(graph, output);
+        return WriteSvg(graph, whole, output);
     }
     return VStatus::Done;
 }

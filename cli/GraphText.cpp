@@ -186,8 +186,7 @@ struct VMermaid {
 };
 
 template <class Language>
-std::string NodesIn(VInheritanceGraph const& graph) {
-    VNameCounts const counts = NameCountsOf(graph);
+std::string NodesIn(VInheritanceGraph const& graph, VNameCounts const& counts) {
     NODX201::VDiagLayerContainer const* container = nullptr;
     std::size_t containers = 0;
     std::string text;
@@ -207,8 +206,8 @@ std::string NodesIn(VInheritanceGraph const& graph) {
 }
 
 template <class Language>
-std::string TextIn(VInheritanceGraph const& graph) {
-    std::string text = Language::kStart + NodesIn<Language>(graph);
+std::string TextIn(VInheritanceGraph const& graph, VInheritanceGraph const& whole) {
+    std::string text = Language::kStart + NodesIn<Language>(graph, NameCountsOf(whole));
     for (VGraphEdge const& edge : graph.edges) {
         text += Language::Edge(edge);
     }
@@ -217,7 +216,11 @@ std::string TextIn(VInheritanceGraph const& graph) {
 
 } // namespace
 
-std::string DotTextOf(VInheritanceGraph const& graph) { return TextIn<VDot>(graph); }
-std::string MermaidTextOf(VInheritanceGraph const& graph) { return TextIn<VMermaid>(graph); }
+std::string DotTextOf(VInheritanceGraph const& graph, VInheritanceGraph const& whole) {
+    return TextIn<VDot>(graph, whole);
+}
+std::string MermaidTextOf(VInheritanceGraph const& graph, VInheritanceGraph const& whole) {
+    return TextIn<VMermaid>(graph, whole);
+}
 
 } // namespace NCli

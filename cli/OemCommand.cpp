@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
+#include <limits>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -12,9 +14,9 @@
 #include <cli/OemAnswer.h>
 #include <cli/Text.h>
 #include <diagkit/model/Reference.h>
+#include <diagkit/query/Content.h>
 #include <diagkit/reader/Folder.h>
 #include <diagkit/reader/Naming.h>
-#include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
 namespace NCli {
@@ -72,41 +74,90 @@ void WriteError(std::string const& file, std::string const& reason, bool isJson,
     }
 }
 
-/// Whether a reference names another of the documents.
-bool DoReferToOneAnother(NReader::VReadResult const& result) {
-    std::map<std::wstring, std::string> fileOf;
-    for (NReader::VDocumentInfo const& document : result.documents) {
-        fileOf.emplace(NReader::FromUtf8(document.shortName), document.file);
-    }
-    return std::any_of(result.elements.begin(), result.elements.end(), [&](NODX201::VOdxElement* element) {
-        auto* const reference = dynamic_cast<NODX201::VLink*>(element);
-        auto const* const byId =
-            reference != nullptr ? dynamic_cast<NODX201::VOdxLink const*>(&reference->GetLink()) : nullptr;
-        auto const target = byId != nullptr ? fileOf.find(byId->GetDocref()) : fileOf.end();
-        return target != fileOf.end() &&
-               target->second != result.database->GetDocumentName(NReader::PositionOf(*element));
-    });
-}
+/// Documents, by number, in sets of those that refer to one another, directly or through others.
+class VDocumentSets {
+public:
+    void Join(std::uint32_t a, std::uint32_t b) { m_first[FirstOf(std::max(a, b))] = FirstOf(std::min(a, b)); }
 
-/// The databases that a name stands for: the documents of a folder are one where they refer to one another; otherwise
-/// each file is one.
-std::vector<VNamedFiles> DatabasesOf(std::string const& name, VArguments const& arguments) {
-    std::vector<VNamedFiles> databases;
-    VNamedFiles folder{name, {}};
-    for (std::string const& file : NReader::FilesOf(name)) {
-        (NReader::IsPackageName(file) || file == name ? databases.emplace_back(VNamedFiles{file, {}}) : folder)
-            .files.push_back(file);
+    std::uint32_t FirstOf(std::uint32_t document) {
+        std::uint32_t first = document;
+        for (auto known = m_first.find(first); known != m_first.end() && known->second != first;
+             known = m_first.find(first)) {
+            first = known->second;
+        }
+        return m_first[document] = first;
     }
+
+private:
+    std::map<std::uint32_t, std::uint32_t> m_first; // or an earlier one of the same set
+};
+
+constexpr std::size_t kNoDocument = std::numeric_limits<std::size_t>::max();
+
+/// The files of documents in the sets in which they refer to one another; null when one of them cannot be read.
+std::optional<std::vector<std::vector<std::string>>> SetsOf(std::vector<std::string> const& files,
+                                                            VArguments const& arguments) {
     NReader::VReadOptions options = arguments.readOptions;
     options.keepsElements = true;
-    NReader::VReadResult const together =
-        folder.files.size() > 1 ? NReader::ReadOdx(folder.files, options) : NReader::VReadResult();
-    if (together.database != nullptr && DoReferToOneAnother(together)) {
-        databases.push_back(std::move(folder));
-        return databases;
+    NReader::VReadResult const result = NReader::ReadOdx(files, options);
+    if (result.database == nullptr) {
+        return std::nullopt;
     }
-    for (std::string const& file : folder.files) {
-        databases.push_back({file, {file}});
+    VDocumentSets documents;
+    std::map<std::string, std::uint32_t> numbers;
+    for (NODX201::VOdxElement* const element : result.elements) {
+        std::uint32_t const document = NReader::PositionOf(*element).document;
+        numbers.emplace(result.database->GetDocumentName({document, 0, 0}), document);
+        auto* const reference = dynamic_cast<NODX201::VLink*>(element);
+        NODX201::VOdxElement const* const target =
+            reference != nullptr ? NQuery::TargetOf(*reference, nullptr) : nullptr;
+        if (target != nullptr) {
+            documents.Join(document, NReader::PositionOf(*target).document);
+        }
+    }
+    std::map<std::size_t, std::vector<std::string>> sets;
+    for (std::string const& file : files) {
+        auto const number = numbers.find(file); // none for one that holds nothing
+        sets[number != numbers.end() ? documents.FirstOf(number->second) : kNoDocument - sets.size()].push_back(file);
+    }
+    std::vector<std::vector<std::string>> listed;
+    for (auto& [first, set] : sets) {
+        listed.push_back(std::move(set));
+    }
+    return listed;
+}
+
+bool CanBeRead(std::string const& file, VArguments const& arguments) {
+    return NReader::ReadOdx({file}, arguments.readOptions).database != nullptr;
+}
+
+/// The databases that a name stands for: the documents of a folder that refer to one another are one, and so is every
+/// other file.
+std::vector<VNamedFiles> DatabasesOf(std::string const& name, VArguments const& arguments) {
+    std::vector<VNamedFiles> databases;
+    std::vector<std::string> documents;
+    for (std::string const& file : NReader::FilesOf(name)) {
+        if (NReader::IsPackageName(file) || file == name) {
+            databases.push_back({file, {file}});
+        } else {
+            documents.push_back(file);
+        }
+    }
+    auto sets = documents.size() > 1 ? SetsOf(documents, arguments) : std::nullopt;
+    if (!sets.has_value() && documents.size() > 1) {
+        auto const refused = std::stable_partition(documents.begin(), documents.end(),
+                                                   [&](std::string const& file) { return CanBeRead(file, arguments); });
+        for (auto file = refused; file != documents.end(); ++file) {
+            databases.push_back({*file, {*file}});
+        }
+        documents.erase(refused, documents.end());
+        sets = SetsOf(documents, arguments);
+    }
+    for (std::vector<std::string> const& set : sets.value_or(std::vector<std::vector<std::string>>{documents})) {
+        if (!set.empty()) {
+            bool const isWhole = set.size() > 1 && set.size() == documents.size();
+            databases.push_back({isWhole ? name : fmt::format("{}", fmt::join(set, ", ")), set});
+        }
     }
     std::sort(databases.begin(), databases.end(),
               [](VNamedFiles const& a, VNamedFiles const& b) { return a.name < b.name; });

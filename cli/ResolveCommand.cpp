@@ -224,11 +224,6 @@ constexpr std::array kResolveKinds{
 };
 // clang-format on
 
-/// "a STRUCTURE", "an END-OF-PDU-FIELD"
-std::string WithArticle(std::string const& tag) {
-    return (std::string_view("AEIO").find(tag.front()) != std::string_view::npos ? "an " : "a ") + tag;
-}
-
 std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
     std::string const missing =
         fmt::format("no {} '{}' in {}", question.arguments.kind, Shown(question.name), answer.where);

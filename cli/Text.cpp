@@ -44,6 +44,10 @@ wchar_t const* IdOf(NODX201::VOdxElement const& element) {
     return referencable != nullptr ? referencable->GetId() : L"";
 }
 
+std::string WithArticle(std::string const& tag) {
+    return (std::string_view("AEIO").find(tag.front()) != std::string_view::npos ? "an " : "a ") + tag;
+}
+
 std::string Counted(std::size_t count, std::string_view noun) {
     return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
 }

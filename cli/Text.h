@@ -30,6 +30,9 @@ std::string TagTextOf(NODX201::VOdxElement const& element);
 /// @ID; "" for an element without one.
 wchar_t const* IdOf(NODX201::VOdxElement const& element);
 
+/// "a STRUCTURE", "an END-OF-PDU-FIELD"
+std::string WithArticle(std::string const& tag);
+
 /// "1 layer", "2 layers"
 std::string Counted(std::size_t count, std::string_view noun);
 

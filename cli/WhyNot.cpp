@@ -2,6 +2,7 @@
 #include <cli/WhyNot.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -26,13 +27,20 @@ std::string HiddenText(NDIAGKIT::VWay const& way, std::string const& at) {
     return fmt::format("is hidden in {} by that of {}", at, winner != nullptr ? Titled(*winner) : "-");
 }
 
-/// A word of a call as a shell takes it, where that is plain.
+/// A word of a call as a POSIX shell takes it.
 std::string Quoted(std::string const& word) {
     bool const isPlain = !word.empty() && std::all_of(word.begin(), word.end(), [](char character) {
         return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||
                (character >= 'a' && character <= 'z') || std::string_view("_-./:").find(character) != std::string::npos;
     });
-    return isPlain ? word : "'" + word + "'";
+    if (isPlain) {
+        return word;
+    }
+    std::string quoted = "'";
+    for (char const character : word) {
+        quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
+    }
+    return quoted + "'";
 }
 
 } // namespace
@@ -46,8 +54,8 @@ std::string FateOf(NDIAGKIT::VWay const& way, NODX201::VDiagLayer const& layer, 
     case NDIAGKIT::VFate::Excluded:
         return fmt::format("{} is excluded in {}", subject, at);
     case NDIAGKIT::VFate::NoPass:
-        return fmt::format("{} is not taken: {} {} takes no {} from a {}", subject, TagTextOf(*way.at), at, kind.noun,
-                           TagTextOf(*StepWithoutPass(way).layer.layer));
+        return fmt::format("{} is not taken: {} {} takes no {} from {}", subject, TagTextOf(*way.at), at, kind.noun,
+                           WithArticle(TagTextOf(*StepWithoutPass(way).layer.layer)));
     default:
         return subject + " is visible";
     }
@@ -60,7 +68,10 @@ NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways) {
         return stop == way.path.end() ? 0 : stop - way.path.begin() + 1;
     };
     return *std::min_element(ways.begin(), ways.end(), [&](NDIAGKIT::VWay const& left, NDIAGKIT::VWay const& right) {
-        return stepsLeft(left) < stepsLeft(right);
+        auto const rank = [&](NDIAGKIT::VWay const& way) {
+            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // what ODX forbids says least
+        };
+        return rank(left) < rank(right);
     });
 }
 

@@ -77,6 +77,13 @@ std::vector<std::string> OptionsOf(CLI::App const& program) {
     return names;
 }
 
+bool IsOptionOfACommand(CLI::App const& program, std::string const& word) {
+    auto const commands = program.get_subcommands(nullptr);
+    return std::any_of(commands.begin(), commands.end(), [&word](CLI::App const* command) {
+        return command->get_option_no_throw(word.substr(0, word.find('='))) != nullptr;
+    });
+}
+
 /// What CLI11 says, where it is about how many values an option has, in this program's words.
 std::string ValueMessage(CLI::ParseError const& error) {
     std::string const text = error.what();
@@ -100,6 +107,9 @@ std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) 
     auto const word = std::find_if_not(left.begin(), left.end(), isOption);
     if (parsed.empty() && word != left.end()) {
         return fmt::format("unknown command '{}'{}", Shown(*word), NearOrAllNote(*word, NamesOf(kCommands)));
+    }
+    if (option != left.end() && parsed.empty() && IsOptionOfACommand(program, *option)) {
+        return fmt::format("a command is required{}", NearOrAllNote("", NamesOf(kCommands)));
     }
     if (option != left.end()) {
         return fmt::format("unknown option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <string_view>
 #include <system_error>
 
 #include <diagkit/reader/Ascii.h>
@@ -55,14 +57,23 @@ std::string SuffixOf(fs::path const& path) {
     return suffix;
 }
 
+/// Of a document by what it holds; .odx for any.
+bool IsDocumentSuffix(std::string const& suffix) {
+    static constexpr std::string_view kSuffixes[] = {".odx",   ".odx-c",  ".odx-cs", ".odx-d", ".odx-e",
+                                                     ".odx-f", ".odx-fd", ".odx-m",  ".odx-v"};
+    return std::find(std::begin(kSuffixes), std::end(kSuffixes), suffix) != std::end(kSuffixes);
+}
+
 bool IsPackageSuffix(std::string const& suffix) { return suffix == ".pdx" || suffix == ".zip"; }
 
 bool IsOdx(fs::directory_entry const& entry) {
     std::error_code error;
+    if (entry.is_directory(error) || entry.path().filename().u8string().front() == '.') {
+        return false;
+    }
     std::string const suffix = SuffixOf(entry.path());
-    return !entry.is_directory(error) &&
-           (IsPackageSuffix(suffix) || suffix.rfind(".odx", 0) == 0 ||
-            (suffix == ".xml" && entry.is_regular_file(error) && HasOdxRoot(entry.path())));
+    return IsPackageSuffix(suffix) || IsDocumentSuffix(suffix) ||
+           (suffix == ".xml" && entry.is_regular_file(error) && HasOdxRoot(entry.path()));
 }
 
 } // namespace

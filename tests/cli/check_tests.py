@@ -92,13 +92,14 @@ class Baselines(unittest.TestCase):
         self.assertEqual(json.loads(done.stdout)["warnings"], 1)
 
     def test_what_is_none_is_said_to_be_none(self):
-        for content in ("", "{", "[]", "{}", "7", '{"diagnostics": 3}', '{"runs": []}', '{"diagnostics": [{}]}'):
+        for content in ("", "{", "[]", "{}", "7", '{"diagnostics": 3}', '{"diagnostics": {}}', '{"diagnostics": null}', '{"runs": []}', '{"diagnostics": [{}]}'):
             done = run("check", *FILES, "--baseline", self.write("none", content))
             self.assertEqual((done.returncode, done.stdout), (3, ""), content)
             self.assertRegex(done.stderr, r"\Adiagkit: '.*none' is no baseline: .*\n\Z")
-        done = run("check", *FILES, "--baseline", str(self.folder / "absent"))
-        self.assertEqual((done.returncode, done.stdout), (3, ""))
-        self.assertRegex(done.stderr, r"\Adiagkit: the baseline '.*absent' cannot be read\n\Z")
+        for path in (self.folder / "absent", self.folder):
+            done = run("check", *FILES, "--baseline", str(path))
+            self.assertEqual((done.returncode, done.stdout), (3, ""))
+            self.assertRegex(done.stderr, r"\Adiagkit: the baseline '.*' cannot be read\n\Z")
 
 
 class RefusedFiles(unittest.TestCase):
@@ -113,6 +114,11 @@ class RefusedFiles(unittest.TestCase):
         results = json.loads(done.stdout)["runs"][0]["results"]
         self.assertEqual((done.returncode, done.stderr), (3, ""))
         self.assertEqual([result["ruleId"] for result in results], ["no-file"])
+
+    def test_leave_out_what_does_not_count_all_the_same(self):
+        done = run("check", "warned.odx-d", "absent.odx-d", "--json", "--ignore", "short-name-characters")
+        codes = [finding["code"] for finding in json.loads(done.stdout)["diagnostics"]]
+        self.assertEqual((done.returncode, codes), (3, ["no-file"]))
 
     def test_are_told_on_standard_error_in_text(self):
         done = run("check", "absent.odx-d")

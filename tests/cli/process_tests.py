@@ -395,25 +395,33 @@ class OemOfEach(unittest.TestCase):
             lines = [f"{folder}: not answered for: {reason}", "gates.odx-d: Unknown (36): no heuristic matches"]
             self.assertEqual(beside.stdout.splitlines(), lines)
 
-    def test_documents_of_a_folder_that_refer_to_one_another_are_one_database(self):
-        shapes = {"alone": "", "together": ' DOCREF="A" DOCTYPE="CONTAINER"'}
-        for shape, docref in shapes.items():
-            with self.subTest(shape), tempfile.TemporaryDirectory() as folder:
-                self.write_container(folder, "A", "")
-                self.write_container(folder, "B", f'<IMPORT-REF ID-REF="A.S"{docref}/>')
-                done = run("oem", "--each", "--json", "--quiet", folder)
-                files = [json.loads(line)["file"] for line in done.stdout.splitlines()]
-                alone = [f"{folder}/A.odx-d", f"{folder}/B.odx-d"]
-                self.assertEqual(files, alone if shape == "alone" else [folder])
+    def each_in(self, documents):
+        """The names of the databases in a folder of documents, each with the names of those that it refers to."""
+        with tempfile.TemporaryDirectory() as folder:
+            for name, references in documents.items():
+                imports = "".join(f'<IMPORT-REF ID-REF="{target}.S"/>' for target in references)
+                content = (
+                    f'<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="{name}"><SHORT-NAME>{name}</SHORT-NAME>'
+                    f'<ECU-SHARED-DATAS><ECU-SHARED-DATA ID="{name}.S"><SHORT-NAME>S</SHORT-NAME>'
+                    f"<IMPORT-REFS>{imports}</IMPORT-REFS></ECU-SHARED-DATA></ECU-SHARED-DATAS>"
+                    f"</DIAG-LAYER-CONTAINER></ODX>"
+                )
+                content = "<ODX" if references == "broken" else content
+                (pathlib.Path(folder) / f"{name}.odx-d").write_text(content, encoding="utf-8")
+            done = run("oem", "--each", "--json", "--quiet", folder)
+            return [json.loads(line)["file"].replace(folder, "F") for line in done.stdout.splitlines()]
 
-    @staticmethod
-    def write_container(folder, name, reference):
-        (pathlib.Path(folder) / f"{name}.odx-d").write_text(
-            f'<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="{name}"><SHORT-NAME>{name}</SHORT-NAME>'
-            f'<ECU-SHARED-DATAS><ECU-SHARED-DATA ID="{name}.S"><SHORT-NAME>S</SHORT-NAME>'
-            f"<IMPORT-REFS>{reference}</IMPORT-REFS></ECU-SHARED-DATA></ECU-SHARED-DATAS></DIAG-LAYER-CONTAINER></ODX>",
-            encoding="utf-8",
-        )
+    def test_documents_of_a_folder_that_refer_to_one_another_are_one_database(self):
+        self.assertEqual(self.each_in({"A": "", "B": "A", "C": "B"}), ["F"])
+
+    def test_those_that_do_not_are_databases_of_their_own(self):
+        self.assertEqual(self.each_in({"A": "", "B": "", "C": "C"}), ["F/A.odx-d", "F/B.odx-d", "F/C.odx-d"])
+        names = ["F/A.odx-d, F/C.odx-d", "F/B.odx-d", "F/D.odx-d, F/E.odx-d"]
+        self.assertEqual(self.each_in({"A": "C", "B": "", "C": "", "D": "", "E": "D"}), names)
+
+    def test_those_that_cannot_be_read_separate_no_others(self):
+        self.assertEqual(self.each_in({"A": "", "B": "A", "Z": "broken"}), ["F", "F/Z.odx-d"])
+
 
 
 class Folders(unittest.TestCase):

@@ -28,7 +28,8 @@ protected:
 };
 
 TEST_F(VFolderTest, StandsForDocumentsAndPackagesInTheOrderOfTheirNames) {
-    for (std::string const name : {"c.odx-d", "a.pdx", "b.ODX", "d.zip", "B.odx-c", "e.odx-e", "notes.txt", "odx"}) {
+    for (std::string const name : {"c.odx-d", "a.pdx", "b.ODX", "d.zip", "B.odx-c", "e.odx-e", "notes.txt", "odx", "f.odx-d~", ".g.odx-d",
+                                   "h.odxfoo"}) {
         Write(name);
     }
     EXPECT_EQ("B.odx-c a.pdx b.ODX c.odx-d d.zip e.odx-e", Files());
