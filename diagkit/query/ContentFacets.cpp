@@ -179,9 +179,23 @@ bool VFacets::AddReference(VContentPart const& part, VSeenFrom& from, std::vecto
     return isReadByDops;
 }
 
+/// A PARAM without BYTE-POSITION stands where the one before it ends.
+void VFacets::AddPlace(NODX201::VOdxElement const& element, std::vector<VFacet>& facets) {
+    auto const before = m_before.find(&element);
+    if (before == m_before.end() || *before->second == L'\0') {
+        return;
+    }
+    VFacet facet;
+    facet.component = ComponentOf({VPartRole::Attribute, L"AFTER", L"", false, before->second, nullptr});
+    facet.text = before->second;
+    facets.push_back(facet);
+}
+
 bool VFacets::Read(NODX201::VOdxElement& element, VSeenFrom& from, bool isNamed, std::vector<VFacet>& facets) {
     std::size_t const start = facets.size();
     bool dependsOnLayer = false;
+    bool hasBytePosition = false;
+    wchar_t const* before = L"";
     auto const take = [&](VContentPart const& part, bool isOfTransparent, auto const& again) -> void {
         if (!Counts(part, isNamed && !isOfTransparent)) {
             return;
@@ -197,6 +211,11 @@ bool VFacets::Read(NODX201::VOdxElement& element, VSeenFrom& from, bool isNamed,
         VFacet facet;
         facet.isItem = part.isItem;
         facet.component = ComponentOf(part);
+        hasBytePosition = hasBytePosition || (part.role == VPartRole::Text && IsTag(part.tag, L"BYTE-POSITION"));
+        if (part.role == VPartRole::Element && IsTag(part.tag, L"PARAM")) {
+            m_before[part.element] = before;
+            before = part.element->GetShortName();
+        }
         if (part.role == VPartRole::Element) {
             facet.kind = VFacet::VKind::Element;
             facet.element = part.element;
@@ -207,6 +226,9 @@ bool VFacets::Read(NODX201::VOdxElement& element, VSeenFrom& from, bool isNamed,
         facets.push_back(facet);
     };
     ForEachPartOf(element, [&](VContentPart const& part) { take(part, false, take); });
+    if (!hasBytePosition) {
+        AddPlace(element, facets);
+    }
     NumberItems(facets, start);
     return dependsOnLayer;
 }

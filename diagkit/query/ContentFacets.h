@@ -114,12 +114,14 @@ private:
     bool Counts(VContentPart const& part, bool isNamed) const;
     std::uint32_t ComponentOf(VContentPart const& part);
     bool AddReference(VContentPart const& part, VSeenFrom& from, std::vector<VFacet>& facets);
+    void AddPlace(NODX201::VOdxElement const& element, std::vector<VFacet>& facets);
     static void NumberItems(std::vector<VFacet>& facets, std::size_t start);
 
     VDiffOptions const& m_options;
     std::vector<VComponent> m_components;
     std::unordered_map<VNames, std::uint32_t, VHashOfNames> m_byPointers; // tags are texts that live for ever
     std::unordered_map<std::wstring, std::uint32_t> m_byText;
+    std::unordered_map<NODX201::VOdxElement const*, wchar_t const*> m_before; // of PARAMs, the name of the one before
 };
 
 /// Whether elements of this kind are data that references are followed to: messages, DOPs, units, tables, FUNCT-CLASSs.

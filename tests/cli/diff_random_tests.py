@@ -341,8 +341,13 @@ class Database:
                 parts["LONG-NAME"] = entry["long"]
         elif tag == "COMPARAM-REF":
             parts["VALUE"] = entry["value"]
+        before = None
         for param in entry.get("params", ()):
-            parts[f"PARAM[{param['name']}]"] = (param["name"], ("PARAM", self.param(param, owner, seen_from)))
+            content = self.param(param, owner, seen_from)
+            if before is not None:  # no PARAM has a BYTE-POSITION, so each stands where the one before ends
+                content["@AFTER"] = before
+            before = param["name"]
+            parts[f"PARAM[{param['name']}]"] = (param["name"], ("PARAM", content))
         return (tag, parts)
 
     def param(self, param, owner, seen_from):

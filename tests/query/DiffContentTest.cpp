@@ -44,7 +44,14 @@ TEST_F(VDiffContentTest, ATextIsToldUnderItsOwnTag) {
 }
 
 TEST_F(VDiffContentTest, ItemsWithAShortNameAreMatchedByItWhateverTheirOrder) {
-    EXPECT_EQ("", Diff(Database(Const("P", "34") + Const("Q", "1")), Database(Const("Q", "1") + Const("P", "34"))));
+    std::string const p = Const("P", "34", "<BYTE-POSITION>0</BYTE-POSITION>");
+    std::string const q = Const("Q", "1", "<BYTE-POSITION>1</BYTE-POSITION>");
+    EXPECT_EQ("", Diff(Database(p + q), Database(q + p)));
+}
+
+TEST_F(VDiffContentTest, AParameterWithoutBytePositionStandsAfterTheOneBefore) {
+    EXPECT_EQ(Of("      REQUEST/PARAM[Q]/@AFTER: P -> null\n      REQUEST/PARAM[P]/@AFTER: null -> Q\n"),
+              Diff(Database(Const("P", "34") + Const("Q", "1")), Database(Const("Q", "1") + Const("P", "34"))));
 }
 
 TEST_F(VDiffContentTest, AnItemThatCameAndOneThatWentAreToldByTheirNames) {
