@@ -36,7 +36,6 @@ VJson::array_t const& ListOf(VJson const& object, char const* member) {
     return object.at(member).get_ref<VJson::array_t const&>(); // raises for anything else
 }
 
-/// The text is kept for as long as it is parsed: a baseline is as long as the answer that it was.
 VJson ReadJson(std::string const& file) {
     std::filesystem::path const path = std::filesystem::u8path(file);
     std::error_code error;

@@ -43,7 +43,6 @@ void WriteNode(VJsonWriter& json, NQuery::VGraphNode const& node) {
 }
 
 void WriteEdge(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::VGraphEdge const& edge) {
-    NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, *edge.parentRef);
     json.Object([&] {
         json.Member("child", edge.child);
         json.Member("parent", edge.parent);
@@ -51,9 +50,7 @@ void WriteEdge(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::VG
         json.Member("state", StateText(edge.state));
         json.Member("excluded_diag_comms", edge.excludedDiagComms);
         json.Member("excluded_variables", edge.excludedVariables);
-        json.Member("file", place.file);
-        json.Member("line", place.line);
-        json.Member("column", place.column);
+        WritePlaceMembers(json, NQuery::FilePlaceOf(database, *edge.parentRef));
     });
 }
 

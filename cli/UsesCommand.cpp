@@ -46,13 +46,10 @@ std::string UsageMistake(VArguments const& arguments) {
 }
 
 void WriteReference(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::VUse const& use) {
-    NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, *use.reference);
     json.Object([&] {
         WriteEntryOrNull(json, "from", use.from);
         json.Member("tag", TagTextOf(*use.reference));
-        json.Member("file", place.file);
-        json.Member("line", place.line);
-        json.Member("column", place.column);
+        WritePlaceMembers(json, NQuery::FilePlaceOf(database, *use.reference));
         if (use.layers.has_value()) {
             json.ArrayOf("layers", *use.layers, [&json](NODX201::VDiagLayer const* layer) {
                 json.Value(std::wstring_view(layer->GetShortName()));
