@@ -91,7 +91,7 @@ void DeclareGraph(CLI::App& command, VArguments& arguments) {
         .description("Only what this layer inherits from and what inherits from it: its short name or ID, or "
                      "CONTAINER/LAYER");
     DeclareChoice(command, arguments, "--format", arguments.format, {"svg", "dot", "mermaid"},
-                  "How to draw: svg, the default, which takes the program dot of Graphviz; dot or mermaid");
+                  "Output format: svg (the default; requires Graphviz), dot or mermaid");
 }
 
 VStatus RunGraph(VArguments const& arguments, VOutput& output) {

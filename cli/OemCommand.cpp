@@ -197,8 +197,8 @@ void DeclareOem(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
     command.add_flag(
         "--each", arguments.isEach,
-        "Every FILE is a database of its own, and so are the documents of a folder that refer to one another; "
-        "with --json one line each");
+        "Treat every FILE as a database of its own, and in a folder the documents that refer to one another; "
+        "with --json one line for each database");
 }
 
 VStatus RunOem(VArguments const& arguments, VOutput& output) {

@@ -169,8 +169,8 @@ VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& 
 
 void DeclareTraverse(CLI::App& command, VArguments& arguments) {
     DeclareLayer(command, arguments).required();
-    command.add_flag("--dictionary", arguments.isDictionary, "Only what the layer's DIAG-DATA-DICTIONARY-SPEC holds");
-    DeclareCount(command, "--max-visits", arguments.maxVisits, "End after so many visits, with status 3");
+    command.add_flag("--dictionary", arguments.isDictionary, "Walk only the layer's DIAG-DATA-DICTIONARY-SPEC");
+    DeclareCount(command, "--max-visits", arguments.maxVisits, "Stop after N visits, with status 3");
     DeclareFiles(command, arguments);
 }
 
