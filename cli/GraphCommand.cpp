@@ -71,14 +71,14 @@ VStatus WriteSvg(NQuery::VInheritanceGraph const& graph, NQuery::VInheritanceGra
         output.Write(run.output);
         return VStatus::Done;
     case VProgramRun::VOutcome::NotFound:
-        output.Complain("an SVG takes the program 'dot' of Graphviz, which no folder of PATH has; install it, or use "
+        output.Complain("SVG output requires the program 'dot' of Graphviz, which is not in PATH; install it, or use "
                         "--format dot or --format mermaid");
         return VStatus::Unreadable;
     case VProgramRun::VOutcome::Failed:
         break;
     }
     std::string const reason = FirstLineOf(run.errors);
-    output.Complain(fmt::format("the program 'dot' of Graphviz failed{}{}; --format dot gives what it was to lay out",
+    output.Complain(fmt::format("the program 'dot' of Graphviz failed{}{}; --format dot prints its input",
                                 reason.empty() ? "" : ": ", reason));
     return VStatus::Unreadable;
 }

@@ -37,7 +37,7 @@ VOemReport ReportOf(NReader::VReadResult const& result) {
 /// Why a file is not answered for: what made the reader refuse it is the last that it said.
 std::string ReasonOf(NReader::VReadResult const& result) {
     if (result.database != nullptr) {
-        return "has errors, which --strict does not pass";
+        return "has errors, which --strict does not allow";
     }
     std::string reason = "cannot be read";
     for (NReader::VDiagnostic const& diagnostic : result.diagnostics) {

@@ -154,12 +154,11 @@ VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& 
         // Told below, or by the output itself.
     }
     if (walk.IsTooLong()) {
-        output.Complain(fmt::format("the walk ends after {} visits; --max-visits allows more", arguments.maxVisits));
+        output.Complain(fmt::format("stopped after {} visits; --max-visits allows more", arguments.maxVisits));
         return VStatus::Unreadable;
     }
     if (walk.IsTooDeep()) {
-        output.Complain(
-            fmt::format("elements deeper than {} inside one another are left out", VPrintingWalk::kMaxDepth));
+        output.Complain(fmt::format("elements nested deeper than {} are left out", VPrintingWalk::kMaxDepth));
         return VStatus::Unreadable;
     }
     return VStatus::Done;

@@ -39,7 +39,7 @@ std::string UsageMistake(VArguments const& arguments) {
         return "NAME is required without --unused";
     }
     if (arguments.isUnused && !arguments.name.empty() && !MayBeFile(arguments.name)) {
-        return fmt::format("--unused takes no NAME such as '{}'", Shown(std::string_view(arguments.name)));
+        return fmt::format("--unused does not take a NAME such as '{}'", Shown(std::string_view(arguments.name)));
     }
     bool const hasFile = !arguments.files.empty() || (arguments.isUnused && !arguments.name.empty());
     return hasFile ? "" : "FILE is required";

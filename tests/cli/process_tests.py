@@ -388,15 +388,15 @@ class OemOfEach(unittest.TestCase):
     def test_what_strict_does_not_pass_is_said_of_the_file(self):
         done = run("oem", "--each", "--strict", "doors.odx-d", "gates.odx-d")
         self.assertEqual(done.returncode, 3)
-        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not pass$")
+        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not allow$")
         self.assertNotIn("diagkit: gates.odx-d", done.stderr)
         alone = run("oem", "--strict", "doors.odx-d")
-        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not pass$")
+        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not allow$")
 
     def test_a_folder_without_odx_is_named(self):
         with tempfile.TemporaryDirectory() as folder:
             (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
-            reason = "the folder holds no ODX document or package"
+            reason = "the folder contains no ODX document or package"
             done = run("oem", "--each", folder, "--json", "--quiet")
             self.assertEqual((done.returncode, json.loads(done.stdout)), (3, {"file": folder, "error": reason}))
             beside = run("oem", "--each", folder, "gates.odx-d")
@@ -449,7 +449,7 @@ class Folders(unittest.TestCase):
     def test_a_folder_without_odx_cannot_be_read(self):
         with tempfile.TemporaryDirectory() as folder:
             done = run("layers", folder)
-        reason = "error: the folder holds no ODX document or package [no-file]"
+        reason = "error: the folder contains no ODX document or package [no-file]"
         self.assertEqual((done.returncode, done.stdout, done.stderr), (3, "", f"{folder}: {reason}\n"))
 
 
