@@ -22,16 +22,19 @@ DIAGKIT_EXPORT std::vector<NODX201::VDiagLayer*> FindLayers(NODX201::VOdx& odx, 
 /// The first of them; null when there is none.
 DIAGKIT_EXPORT NODX201::VDiagLayer* FindLayer(NODX201::VOdx& odx, std::wstring_view name);
 
+/// The same of a database that has a root.
 template <class Database>
 auto LayersOf(Database& database) -> decltype(LayersOf(database.GetOdx())) {
     return LayersOf(database.GetOdx());
 }
 
+/// The same of a database that has a root.
 template <class Database>
 auto FindLayers(Database& database, std::wstring_view name) -> decltype(FindLayers(database.GetOdx(), name)) {
     return FindLayers(database.GetOdx(), name);
 }
 
+/// The same of a database that has a root.
 template <class Database>
 auto FindLayer(Database& database, std::wstring_view name) -> decltype(FindLayer(database.GetOdx(), name)) {
     return FindLayer(database.GetOdx(), name);
