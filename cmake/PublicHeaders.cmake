@@ -15,6 +15,13 @@ set(internal_headers
     diagkit/tools/WayGraph.h
 )
 set(public_headers
+    diagkit/Check.h
+    diagkit/Conformance.h
+    diagkit/Memory.h
+    diagkit/Model.h
+    diagkit/Query.h
+    diagkit/Reader.h
+    diagkit/Toolkit.h
     diagkit/check/Check.h
     diagkit/check/Codes.h
     diagkit/check/Cycles.h
@@ -48,5 +55,5 @@ endforeach()
 list(REMOVE_ITEM public_headers ${internal_headers})
 
 if(NOT TARGET diagkit_reader)
-    list(FILTER public_headers EXCLUDE REGEX "^diagkit/(reader|check|query)/")
+    list(FILTER public_headers EXCLUDE REGEX "^diagkit/((reader|check|query)/|(Reader|Check|Query)[.]h)")
 endif()

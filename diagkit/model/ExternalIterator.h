@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <iterator>
+
+#include <diagkit/model/StandardIterator.h>
+
 namespace NODX201 {
 
 /// The position in a collection of the model: wraps the iterator of a list of element pointers and hands out the
@@ -8,6 +12,9 @@ namespace NODX201 {
 ///
 /// A position stays valid while its own element stays in the collection. Dereferencing or incrementing `End()` or a
 /// default-constructed iterator is undefined, as with standard iterators.
+///
+/// Algorithms of the standard library take it: they step it with `++iter` and compare it. `VStandardIterator` has
+/// `iter++` and `iter->` besides.
 template <class Iter, class Ref>
 class VExternalIterator {
 public:
@@ -32,3 +39,7 @@ private:
 };
 
 } // namespace NODX201
+
+/// For algorithms of the standard library.
+template <class Iter, class Ref>
+struct std::iterator_traits<NODX201::VExternalIterator<Iter, Ref>> : NODX201::VIteratorTraits<Ref> {};

@@ -20,6 +20,12 @@ constexpr NPavonaUtil::VAssertion kDopNotFound{L"false", L"DopView", 344};
 constexpr NPavonaUtil::VAssertion kRemoveAtEnd{L"iter != End()", L"DopView", 352};
 constexpr NPavonaUtil::VAssertion kRemoveStepAtEnd{L"iter != m_collection.end()", L"DopView", 416};
 
+/// Where a map, constant or not, holds this very object.
+template <class Map>
+auto FindDop(Map& map, NODX201::VDopBase const& dop) {
+    return std::find_if(map.begin(), map.end(), [&dop](auto const& entry) { return entry.second == &dop; });
+}
+
 } // namespace
 
 VDopView::VDopView() = default;
@@ -59,11 +65,23 @@ VDopView::Iterator VDopView::Begin() { return Iterator(m_collection.begin()); }
 
 VDopView::Iterator VDopView::End() { return Iterator(m_collection.end()); }
 
+VDopView::ConstIterator VDopView::Begin() const { return ConstIterator(m_collection.begin()); }
+
+VDopView::ConstIterator VDopView::End() const { return ConstIterator(m_collection.end()); }
+
 VDopView::Iterator VDopView::Find(wchar_t const* shortName) {
     return shortName != nullptr ? Iterator(m_collection.find(std::wstring_view(shortName))) : End();
 }
 
 VDopView::Iterator VDopView::Find(NODX201::VDopBase& dop) { return Iterator(_Find(dop)); }
+
+VDopView::ConstIterator VDopView::Find(wchar_t const* shortName) const {
+    return shortName != nullptr ? ConstIterator(m_collection.find(std::wstring_view(shortName))) : End();
+}
+
+VDopView::ConstIterator VDopView::Find(NODX201::VDopBase const& dop) const {
+    return ConstIterator(FindDop(m_collection, dop));
+}
 
 void VDopView::Append(NODX201::VDopBase& dop) { m_collection.emplace(dop.GetShortName(), &dop); }
 
@@ -87,10 +105,7 @@ bool VDopView::operator==(VDopView const& other) const { return m_collection == 
 
 bool VDopView::operator!=(VDopView const& other) const { return !(*this == other); }
 
-VDopView::Map::iterator VDopView::_Find(NODX201::VDopBase& dop) {
-    return std::find_if(m_collection.begin(), m_collection.end(),
-                        [&dop](Map::value_type const& entry) { return entry.second == &dop; });
-}
+VDopView::Map::iterator VDopView::_Find(NODX201::VDopBase& dop) { return FindDop(m_collection, dop); }
 
 void VDopView::_Remove(Map::iterator position) {
     if (position == m_collection.end()) {

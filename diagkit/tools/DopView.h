@@ -37,6 +37,9 @@ class DIAGKIT_EXPORT VDopView {
 public:
     using Map = std::map<std::wstring, NODX201::VDopBase*, NPavonaUtil::VUtf16Less>;
     using Iterator = VMapExternalIterator<Map::iterator, NODX201::VDopBase&>;
+    using ConstIterator = VMapExternalIterator<Map::const_iterator, NODX201::VDopBase&>;
+    using iterator = NODX201::VStandardIterator<Iterator>;            ///< of `begin()`
+    using const_iterator = NODX201::VStandardIterator<ConstIterator>; ///< of `begin()` of a constant view
 
     explicit VDopView(NODX201::VEcuSharedData& layer);
     explicit VDopView(NODX201::VProtocol& layer);
@@ -51,11 +54,17 @@ public:
     bool IsEmpty() const;
     Iterator Begin();
     Iterator End();
-    Iterator begin() { return Begin(); }
-    Iterator end() { return End(); }
+    ConstIterator Begin() const;
+    ConstIterator End() const;
+    iterator begin() { return Begin(); }
+    iterator end() { return End(); }
+    const_iterator begin() const { return Begin(); }
+    const_iterator end() const { return End(); }
 
-    Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none, and for null
-    Iterator Find(NODX201::VDopBase& dop);   ///< this very object; `End()` when there is none
+    Iterator Find(wchar_t const* shortName);            ///< exactly this name; `End()` when there is none, and for null
+    Iterator Find(NODX201::VDopBase& dop);              ///< this very object; `End()` when there is none
+    ConstIterator Find(wchar_t const* shortName) const; ///< the same
+    ConstIterator Find(NODX201::VDopBase const& dop) const; ///< the same
 
     void Append(NODX201::VDopBase& dop); ///< under its short name; no effect when that is taken
 

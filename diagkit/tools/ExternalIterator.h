@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <iterator>
+
+#include <diagkit/model/StandardIterator.h>
+
 namespace NDIAGKIT {
 
 /// A position in a container of the toolkit: wraps the standard iterator of a list or set of pointers and hands out
@@ -8,6 +12,9 @@ namespace NDIAGKIT {
 ///
 /// Positions stay valid while their own entry stays in the container, whatever else is added or removed. Dereferencing
 /// or incrementing `End()` or a default-constructed iterator is undefined, as with standard iterators.
+///
+/// Algorithms of the standard library take it: they step it with `++iter` and compare it. What `begin()` and `end()` of
+/// the containers return has `iter++` and `iter->` besides.
 template <class Iter, class Ref>
 class VExternalIterator {
 public:
@@ -61,3 +68,11 @@ private:
 };
 
 } // namespace NDIAGKIT
+
+/// For algorithms of the standard library.
+template <class Iter, class Ref>
+struct std::iterator_traits<NDIAGKIT::VExternalIterator<Iter, Ref>> : NODX201::VIteratorTraits<Ref> {};
+
+/// The same for the map form.
+template <class Iter, class Ref>
+struct std::iterator_traits<NDIAGKIT::VMapExternalIterator<Iter, Ref>> : NODX201::VIteratorTraits<Ref> {};

@@ -29,13 +29,17 @@ struct VNamedElements {
 ///         static wchar_t const* ShortNameOf(Element& element);       // null: no name can find this entry
 ///     };
 ///
-/// Iteration is in view order: the order in which the view's passes, and later `Append`, added the entries.
+/// Iteration is in view order: the order in which the view's passes, and later `Append`, added the entries. A constant
+/// view hands out the same elements: constant is what it lists, not what they hold.
 template <class Traits>
 class VListView {
 public:
     using Element = typename Traits::Element;
     using List = std::list<Element*>;
     using Iterator = VExternalIterator<typename List::iterator, Element&>;
+    using ConstIterator = VExternalIterator<typename List::const_iterator, Element&>;
+    using iterator = NODX201::VStandardIterator<Iterator>;            ///< of `begin()`
+    using const_iterator = NODX201::VStandardIterator<ConstIterator>; ///< of `begin()` of a constant view
 
     VListView(VListView const&) = delete;
     VListView& operator=(VListView const&) = delete;
@@ -44,11 +48,16 @@ public:
     bool IsEmpty() const;
     Iterator Begin();
     Iterator End();
-    Iterator begin() { return Begin(); }
-    Iterator end() { return End(); }
+    ConstIterator Begin() const;
+    ConstIterator End() const;
+    iterator begin() { return Begin(); }
+    iterator end() { return End(); }
+    const_iterator begin() const { return Begin(); }
+    const_iterator end() const { return End(); }
 
     /// The position of the object itself, the first of several; `End()` when it is not there.
     Iterator Find(Element& element);
+    ConstIterator Find(Element const& element) const; ///< the same
 
     void Append(Element& element); ///< at the end, without looking for duplicates
 
@@ -81,11 +90,13 @@ class VNamedListView : public VListView<Traits> {
 public:
     using typename VListView<Traits>::Element;
     using typename VListView<Traits>::Iterator;
+    using typename VListView<Traits>::ConstIterator;
     using VListView<Traits>::Find;
 
     /// The first entry of exactly this short name (case-sensitive, no trimming); `End()` when there is none, and for
     /// null. Linear.
     Iterator Find(wchar_t const* shortName);
+    ConstIterator Find(wchar_t const* shortName) const; ///< the same
 
 protected:
     VNamedListView();

@@ -38,8 +38,23 @@ typename VListView<Traits>::Iterator VListView<Traits>::End() {
 }
 
 template <class Traits>
+typename VListView<Traits>::ConstIterator VListView<Traits>::Begin() const {
+    return ConstIterator(m_collection.begin());
+}
+
+template <class Traits>
+typename VListView<Traits>::ConstIterator VListView<Traits>::End() const {
+    return ConstIterator(m_collection.end());
+}
+
+template <class Traits>
 typename VListView<Traits>::Iterator VListView<Traits>::Find(Element& element) {
     return Iterator(_Find(element));
+}
+
+template <class Traits>
+typename VListView<Traits>::ConstIterator VListView<Traits>::Find(Element const& element) const {
+    return ConstIterator(std::find(m_collection.begin(), m_collection.end(), &element));
 }
 
 template <class Traits>
@@ -104,16 +119,27 @@ VNamedListView<Traits>::VNamedListView() = default;
 template <class Traits>
 VNamedListView<Traits>::~VNamedListView() = default;
 
-template <class Traits>
-typename VNamedListView<Traits>::Iterator VNamedListView<Traits>::Find(wchar_t const* shortName) {
+/// The first entry of a list, constant or not, that has the short name; null is no name.
+template <class Traits, class List>
+auto FindByShortName(List& list, wchar_t const* shortName) {
     if (shortName == nullptr) {
-        return this->End();
+        return list.end();
     }
     std::wstring_view const wanted(shortName);
-    return Iterator(std::find_if(this->m_collection.begin(), this->m_collection.end(), [wanted](Element* element) {
+    return std::find_if(list.begin(), list.end(), [wanted](typename Traits::Element* element) {
         wchar_t const* const held = Traits::ShortNameOf(*element);
         return held != nullptr && wanted == held;
-    }));
+    });
+}
+
+template <class Traits>
+typename VNamedListView<Traits>::Iterator VNamedListView<Traits>::Find(wchar_t const* shortName) {
+    return Iterator(FindByShortName<Traits>(this->m_collection, shortName));
+}
+
+template <class Traits>
+typename VNamedListView<Traits>::ConstIterator VNamedListView<Traits>::Find(wchar_t const* shortName) const {
+    return ConstIterator(FindByShortName<Traits>(this->m_collection, shortName));
 }
 
 } // namespace NDIAGKIT

@@ -33,8 +33,10 @@ public:
     VOdxCategoryInfoCollection& Clone(); ///< a new deep copy that the caller owns
 
     using VListView<VOdxCategoryInfoCollectionTraits>::Find;
-    Iterator Find(std::wstring const& fileName);      ///< the first of exactly this file name; `End()` when none
-    Iterator Contains(std::wstring const& shortName); ///< the first of exactly this short name; `End()` when none
+    Iterator Find(std::wstring const& fileName);            ///< the first of exactly this file name; `End()` when none
+    Iterator Contains(std::wstring const& shortName);       ///< the first of exactly this short name; `End()` when none
+    ConstIterator Find(std::wstring const& fileName) const; ///< the same
+    ConstIterator Contains(std::wstring const& shortName) const; ///< the same
 
     void Clear(); ///< deletes every element
 };

@@ -20,6 +20,8 @@ class DIAGKIT_EXPORT VStringContainer {
 public:
     using Set = std::set<std::wstring*>;
     using Iterator = VExternalIterator<Set::const_iterator, std::wstring const&>;
+    using const_iterator = NODX201::VStandardIterator<Iterator>; ///< of `begin()`
+    using iterator = const_iterator;                             ///< the same: texts do not change
 
     VStringContainer();
     virtual ~VStringContainer();
@@ -36,8 +38,8 @@ public:
     bool IsEmpty() const;
     Iterator Begin() const;
     Iterator End() const;
-    Iterator begin() const { return Begin(); }
-    Iterator end() const { return End(); }
+    const_iterator begin() const { return Begin(); }
+    const_iterator end() const { return End(); }
 
     void AddCopy(wchar_t const* text); ///< null is no text: nothing is added
 

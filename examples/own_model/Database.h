@@ -3,7 +3,6 @@
 
 #include <istream>
 
-#include <diagkit/model/Odx.h>
 #include <diagkit/tools/OpResolveSnref.h>
 
 #include "Layers.h"
@@ -58,9 +57,6 @@ public:
     explicit VRoot(VOrigin const& origin);
 
     VOwning<NODX201::VDiagLayerContainerCollection>& DiagLayerContainerCollection() override { return m_containers; }
-    NODX201::VComparamSpecCollection& ComparamSpecCollection() override {
-        return Empty<NODX201::VComparamSpecCollection>();
-    }
     NODX201::VProcessingInstructionCollection& ProcessingInstructionCollection() override { return m_instructions; }
 
 private:

@@ -1,13 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/model/AdminData.h>
-#include <diagkit/model/Comparams.h>
-#include <diagkit/model/DiagComms.h>
-#include <diagkit/model/DiagVariables.h>
-#include <diagkit/model/Responses.h>
-#include <diagkit/model/Sdgs.h>
-
 #include "Dictionary.h"
 
 /// Services, jobs, what they send and receive, and diagnostic variables.
@@ -28,8 +21,6 @@ public:
         }
     }
 
-    bool HasAdminData() const override { return false; }
-    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
     NODX201::VParamCollection& ParamCollection() override { return m_params; }
 
 private:
@@ -73,22 +64,8 @@ public:
     explicit VDiagCommOf(VOrigin const& origin)
         : VIdentified<Contract>(origin), m_audience(this->template MakeChild<VAudienceRow>(Tag::Audience)) {}
 
-    bool HasLongName() const override { return false; }
-    NODX201::VText& GetLongName() override { return Absent<NODX201::VText>(); }
-    bool HasAdminData() const override { return false; }
-    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
-    NODX201::VSdgCollection& SdgCollection() override { return Empty<NODX201::VSdgCollection>(); }
-    NODX201::VComparamRefCollection& ComparamRefCollection() override {
-        return Empty<NODX201::VComparamRefCollection>();
-    }
-    NODX201::VFunctClassLinkCollection& FunctClassLinkCollection() override {
-        return Empty<NODX201::VFunctClassLinkCollection>();
-    }
     bool HasAudience() const override { return m_audience != nullptr; }
     NODX201::VAudience& GetAudience() override { return *m_audience; }
-    NODX201::VRelatedDiagCommRefCollection& RelatedDiagCommRefCollection() override {
-        return Empty<NODX201::VRelatedDiagCommRefCollection>();
-    }
 
 private:
     std::unique_ptr<VAudienceRow> m_audience;
@@ -101,15 +78,10 @@ public:
         AddAll<VPosResponseRef>(m_posResponseRefs, Tag::PosResponseRef);
     }
 
-    void Accept(NODX201::VDiagCommVisitor& visitor) override { visitor.VisitDiagService(*this); }
     bool HasRequestRef() const override { return m_requestRef != nullptr; }
     NODX201::VRequestLink& GetRequestRef() override { return *m_requestRef; }
     bool HasPosResponseLinkCollection() const override { return m_posResponseRefs.Count() != 0; }
     NODX201::VPosResponseLinkCollection& PosResponseLinkCollection() override { return m_posResponseRefs; }
-    bool HasNegResponseLinkCollection() const override { return false; }
-    NODX201::VNegResponseLinkCollection& NegResponseLinkCollection() override {
-        return Empty<NODX201::VNegResponseLinkCollection>();
-    }
 
 private:
     std::unique_ptr<VRequestRef> m_requestRef;
@@ -120,34 +92,12 @@ class VJob : public VDiagCommOf<NODX201::VSingleEcuJob> {
 public:
     explicit VJob(VOrigin const& origin) : VDiagCommOf(origin) { AddAll<VProgram>(m_programs, Tag::ProgCode); }
 
-    void Accept(NODX201::VDiagCommVisitor& visitor) override { visitor.VisitSingleEcuJob(*this); }
     NODX201::VProgCodeCollection& ProgCodeCollection() override { return m_programs; }
-    bool HasInputParamCollection() const override { return false; }
-    NODX201::VInputParamCollection& InputParamCollection() override { return Empty<NODX201::VInputParamCollection>(); }
-    bool HasOutputParamCollection() const override { return false; }
-    NODX201::VOutputParamCollection& OutputParamCollection() override {
-        return Empty<NODX201::VOutputParamCollection>();
-    }
-    NODX201::VNegOutputParamCollection& NegOutputParamCollection() override {
-        return Empty<NODX201::VNegOutputParamCollection>();
-    }
 
 private:
     VOwning<NODX201::VProgCodeCollection> m_programs;
 };
 
-class VVariable : public VIdentified<NODX201::VDiagVariable> {
-public:
-    using VIdentified::VIdentified;
-
-    bool HasAdminData() const override { return false; }
-    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
-    bool HasVariableGroupRef() const override { return false; }
-    NODX201::VVariableGroupLink& GetVariableGroupRef() override { return Absent<NODX201::VVariableGroupLink>(); }
-    NODX201::VSwVariableCollection& SwVariableCollection() override { return Empty<NODX201::VSwVariableCollection>(); }
-    NODX201::VCommRelationCollection& CommRelationCollection() override {
-        return Empty<NODX201::VCommRelationCollection>();
-    }
-};
+using VVariable = VIdentified<NODX201::VDiagVariable>;
 
 } // namespace NOwnModel

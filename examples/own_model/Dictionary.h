@@ -1,32 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/model/Compu.h>
-#include <diagkit/model/Dops.h>
-#include <diagkit/model/Layers.h>
-#include <diagkit/model/Tables.h>
-#include <diagkit/model/Units.h>
-#include <diagkit/model/Visitors.h>
-
 #include "Elements.h"
 
 /// DOPs and parameters. Of the ten kinds of DOP this database has one, of the eleven kinds of PARAM two.
 
 namespace NOwnModel {
 
-/// Elements of which the contract asks nothing.
+/// Elements of which the contract asks nothing, or nothing that this database has.
 using VStandardLength = VElement<NODX201::VStandardLengthType>;
 using VPhysical = VElement<NODX201::VPhysicalType>;
-
-class VCompu : public VElement<NODX201::VCompuMethod> {
-public:
-    using VElement::VElement;
-
-    bool HasCompuInternalToPhys() const override { return false; }
-    NODX201::VCompuInternalToPhys& GetCompuInternalToPhys() override { return Absent<NODX201::VCompuInternalToPhys>(); }
-    bool HasCompuPhysToInternal() const override { return false; }
-    NODX201::VCompuPhysToInternal& GetCompuPhysToInternal() override { return Absent<NODX201::VCompuPhysToInternal>(); }
-};
+using VCompu = VElement<NODX201::VCompuMethod>;
 
 class VDop : public VIdentified<NODX201::VDataObjectProp> {
 public:
@@ -35,21 +19,14 @@ public:
           m_codedType(MakeChild<VStandardLength>(Tag::StandardLengthType)),
           m_physicalType(MakeChild<VPhysical>(Tag::PhysicalType)) {}
 
-    void Accept(NODX201::VDopBaseVisitor& visitor) override { visitor.VisitDataObjectProp(*this); }
     bool HasOid() const override { return !Row().oid.empty(); }
     wchar_t const* GetOid() const override { return Row().oid.c_str(); }
-    bool HasAdminData() const override { return false; }
-    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
     bool HasCompuMethod() const override { return m_compuMethod != nullptr; }
     NODX201::VCompuMethod& GetCompuMethod() override { return *m_compuMethod; }
     bool HasDiagCodedType() const override { return m_codedType != nullptr; }
     NODX201::VDiagCodedType& GetDiagCodedType() override { return *m_codedType; }
     bool HasPhysicalType() const override { return m_physicalType != nullptr; }
     NODX201::VPhysicalType& GetPhysicalType() override { return *m_physicalType; }
-    bool HasInternalConstr() const override { return false; }
-    NODX201::VInternalConstr& GetInternalConstr() override { return Absent<NODX201::VInternalConstr>(); }
-    bool HasUnitRef() const override { return false; }
-    NODX201::VUnitLink& GetUnitRef() override { return Absent<NODX201::VUnitLink>(); }
 
 private:
     std::unique_ptr<VCompu> m_compuMethod;
@@ -61,15 +38,7 @@ class VDictionary : public VElement<NODX201::VDiagDataDictionarySpec> {
 public:
     explicit VDictionary(VOrigin const& origin) : VElement(origin) { AddAll<VDop>(m_dops, Tag::DataObjectProp); }
 
-    bool HasAdminData() const override { return false; }
-    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
     NODX201::VDopBaseCollection& DopBaseCollection() override { return m_dops; }
-    NODX201::VEnvDataProxyCollection& EnvDataProxyCollection() override {
-        return Empty<NODX201::VEnvDataProxyCollection>();
-    }
-    bool HasUnitSpec() const override { return false; }
-    NODX201::VUnitSpec& GetUnitSpec() override { return Absent<NODX201::VUnitSpec>(); }
-    NODX201::VTableCollection& TableCollection() override { return Empty<NODX201::VTableCollection>(); }
 
 private:
     VOwning<NODX201::VDopBaseCollection> m_dops;
@@ -91,13 +60,10 @@ public:
     explicit VConstant(VOrigin const& origin)
         : VIdentified(origin), m_codedType(MakeChild<VStandardLength>(Tag::StandardLengthType)) {}
 
-    void Accept(NODX201::VParamVisitor& visitor) override { visitor.VisitCodedConst(*this); }
-    NODX201::VProcessingInstructionCollection& ProcessingInstructionCollection() override { return m_instructions; }
     bool HasDiagCodedType() const override { return m_codedType != nullptr; }
     NODX201::VDiagCodedType& GetDiagCodedType() override { return *m_codedType; }
 
 private:
-    NODX201::VProcessingInstructionCollection m_instructions;
     std::unique_ptr<VStandardLength> m_codedType;
 };
 
@@ -109,13 +75,10 @@ public:
         }
     }
 
-    void Accept(NODX201::VParamVisitor& visitor) override { visitor.VisitValue(*this); }
-    NODX201::VProcessingInstructionCollection& ProcessingInstructionCollection() override { return m_instructions; }
     bool HasDopBaseLink() const override { return m_dopRef != nullptr; }
     NODX201::VDopBaseLink& GetDopBaseLink() override { return *m_dopRef; }
 
 private:
-    NODX201::VProcessingInstructionCollection m_instructions;
     std::unique_ptr<VDopLink> m_dopRef;
 };
 

@@ -3,13 +3,11 @@
 
 #include <map>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include <diagkit/model/OdxElement.h>
-#include <diagkit/model/Reference.h>
+#include <diagkit/model/Empty.h>
 #include <diagkit/model/SnrefResolver.h>
 
 #include "Table.h"
@@ -33,12 +31,6 @@ struct VOrigin {
     VIndex& index;
 };
 
-/// The getter of an optional child that this model never has: its test said so.
-template <class T>
-T& Absent() {
-    throw std::logic_error("asked for what is absent");
-}
-
 /// A collection of the contract that owns its entries.
 template <class Collection>
 class VOwning : public Collection {
@@ -54,16 +46,9 @@ private:
     std::vector<std::unique_ptr<NODX201::VOdxObject>> m_owned;
 };
 
-/// A collection that this model never has entries for.
-template <class Collection>
-Collection& Empty() {
-    static VOwning<Collection> empty;
-    return empty;
-}
-
-/// An element of a class of the contract, as far as all agree.
+/// An element of a class of the contract, as far as all agree. What this model never has is absent by itself.
 template <class Contract>
-class VElement : public Contract {
+class VElement : public NODX201::VEmpty<Contract> {
 public:
     explicit VElement(VOrigin const& origin) : m_origin(origin) {}
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <diagkit/model/ParentRefs.h>
-#include <diagkit/model/Text.h>
-
 #include "DiagComms.h"
 
 /// The five kinds of layer and their PARENT-REFs.
@@ -30,10 +27,6 @@ public:
 
     bool HasNotInheritedDiagCommCollection() const override { return m_exclusions.Count() != 0; }
     NODX201::VNotInheritedDiagCommCollection& NotInheritedDiagCommCollection() override { return m_exclusions; }
-    bool HasNotInheritedVariableCollection() const override { return false; }
-    NODX201::VNotInheritedVariableCollection& NotInheritedVariableCollection() override {
-        return Empty<NODX201::VNotInheritedVariableCollection>();
-    }
 
 private:
     VOwning<NODX201::VNotInheritedDiagCommCollection> m_exclusions;
@@ -96,12 +89,6 @@ public:
     NODX201::VText& GetLongName() override { return *m_longName; }
     bool HasOid() const override { return !this->Row().oid.empty(); }
     wchar_t const* GetOid() const override { return this->Row().oid.c_str(); }
-    bool HasAdminData() const override { return false; }
-    NODX201::VAdminData& GetAdminData() override { return Absent<NODX201::VAdminData>(); }
-    NODX201::VCompanyDataCollection& CompanyDataCollection() override {
-        return Empty<NODX201::VCompanyDataCollection>();
-    }
-    NODX201::VFunctClassCollection& FunctClassCollection() override { return Empty<NODX201::VFunctClassCollection>(); }
     bool HasDiagDataDictionarySpec() const override { return m_dictionary != nullptr; }
     NODX201::VDiagDataDictionarySpec& GetDiagDataDictionarySpec() override { return *m_dictionary; }
     bool HasDiagCommProxyCollection() const override { return m_diagComms.Count() != 0; }
@@ -145,10 +132,6 @@ public:
 
     bool HasParentRefCollection() const override { return m_parentRefs.Count() != 0; }
     NODX201::VParentRefCollection& ParentRefCollection() override { return m_parentRefs; }
-    NODX201::VAccessLevelCollection& AccessLevelCollection() override {
-        return Empty<NODX201::VAccessLevelCollection>();
-    }
-    NODX201::VStringCollection& AutMethodCollection() override { return m_autMethods; }
 
 private:
     void AddParent(VRow const& row) {
@@ -164,7 +147,6 @@ private:
     }
 
     VOwning<NODX201::VParentRefCollection> m_parentRefs;
-    NODX201::VStringCollection m_autMethods;
 };
 
 /// A layer with DIAG-VARIABLES.
@@ -176,9 +158,6 @@ public:
     }
 
     NODX201::VDiagVariableProxyCollection& DiagVariableProxyCollection() override { return m_variables; }
-    NODX201::VVariableGroupCollection& VariableGroupCollection() override {
-        return Empty<NODX201::VVariableGroupCollection>();
-    }
 
 private:
     VOwning<NODX201::VDiagVariableProxyCollection> m_variables;
@@ -189,7 +168,6 @@ public:
     explicit VProtocolLayer(VOrigin const& origin)
         : VChildLayer(origin), m_comparamSpecRef(MakeChild<VComparamSpecRef>(Tag::ComparamSpecRef)) {}
 
-    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitProtocol(*this); }
     bool HasComparamSpecRef() const override { return m_comparamSpecRef != nullptr; }
     NODX201::VComparamSpecLink& GetComparamSpecRef() override { return *m_comparamSpecRef; }
 
@@ -197,35 +175,9 @@ private:
     std::unique_ptr<VComparamSpecRef> m_comparamSpecRef;
 };
 
-class VFunctionalGroupLayer : public VWithVariables<VChildLayer<NODX201::VFunctionalGroup>> {
-public:
-    using VWithVariables::VWithVariables;
-    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitFunctionalGroup(*this); }
-};
-
-class VBaseVariantLayer : public VWithVariables<VChildLayer<NODX201::VBaseVariant>> {
-public:
-    using VWithVariables::VWithVariables;
-    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitBaseVariant(*this); }
-    bool HasDynDefinedSpec() const override { return false; }
-    NODX201::VDynDefinedSpec& GetDynDefinedSpec() override { return Absent<NODX201::VDynDefinedSpec>(); }
-};
-
-class VEcuVariantLayer : public VWithVariables<VChildLayer<NODX201::VEcuVariant>> {
-public:
-    using VWithVariables::VWithVariables;
-    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitEcuVariant(*this); }
-    bool HasDynDefinedSpec() const override { return false; }
-    NODX201::VDynDefinedSpec& GetDynDefinedSpec() override { return Absent<NODX201::VDynDefinedSpec>(); }
-    NODX201::VEcuVariantPatternCollection& EcuVariantPatternCollection() override {
-        return Empty<NODX201::VEcuVariantPatternCollection>();
-    }
-};
-
-class VEcuSharedDataLayer : public VWithVariables<VLayer<NODX201::VEcuSharedData>> {
-public:
-    using VWithVariables::VWithVariables;
-    void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitEcuSharedData(*this); }
-};
+using VFunctionalGroupLayer = VWithVariables<VChildLayer<NODX201::VFunctionalGroup>>;
+using VBaseVariantLayer = VWithVariables<VChildLayer<NODX201::VBaseVariant>>;
+using VEcuVariantLayer = VWithVariables<VChildLayer<NODX201::VEcuVariant>>;
+using VEcuSharedDataLayer = VWithVariables<VLayer<NODX201::VEcuSharedData>>;
 
 } // namespace NOwnModel

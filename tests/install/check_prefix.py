@@ -20,7 +20,17 @@ INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
 # In folders that are not listed below all headers are public but those that the README there calls internal.
 FOLDERS = {"", "model", "model/facts", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check", "query"}
 PUBLIC = {
-    "": {"Export.h", "Version.h"},
+    "": {
+        "Check.h",
+        "Conformance.h",
+        "Export.h",
+        "Memory.h",
+        "Model.h",
+        "Query.h",
+        "Reader.h",
+        "Toolkit.h",
+        "Version.h",
+    },
     "logging": {"SharedLogger.h"},
     "util": {"Assertion.h", "CheckedCast.h", "Utf16.h"},
     "tools/oem": {"Manufacturer.h", "OemChecker.h", "OemReport.h"},

@@ -11,7 +11,10 @@ Into FOLDER: Parts.def, with rows for a class between PARTS and END,
     LIST(X)     X(), a collection       OPTIONAL_LIST(X)   the same, which HasX() says to be there
     LINK()      GetLink()
 
-and Links.def, with LINK(link, target) or LINK_IN_LAYER(link, target) for each class of links.
+and Links.def, with LINK(link, target) or LINK_IN_LAYER(link, target) for each class of links. Operations.def has every
+class that elements are of and every operation that it must implement, those of its bases included, with its header:
+
+    CLASS(Units, VUnit)     OPERATION(Units, VUnit, GetShortName)
 """
 
 import pathlib
@@ -22,6 +25,8 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 CLASS = re.compile(r"^class (?:DIAGKIT_EXPORT )?(\w+)(?: : public (\w+))?[^;{]*\{(.*?)^\};", re.MULTILINE | re.DOTALL)
 OPERATION = re.compile(r"virtual (\w+)( const\*|&) (Get)?(\w+)\(\)( const)? = 0;")
 NO_ELEMENTS = re.compile(r"Visitor$|^VDiagLayerCollection$|Resolver$|^ILink$|^VSnref$|^VOdxLink$|^VProcessingInstruction$")
+ANY_OPERATION = re.compile(r"virtual [^;{}]*?(\w+)\([^;{}]*\)(?: const)? = 0;")
+ALSO_MADE = {"VParentRef"}  # others are derived from it, and it is a kind itself
 LINKS = {"VLink", "VParentRef"}
 PART_WORDS = ["PARTS", "END", "TEXT", "OPTIONAL_TEXT", "PART", "CHILD", "LIST", "OPTIONAL_LIST", "LINK"]
 
@@ -63,6 +68,23 @@ def parts_and_links():
     return parts, links
 
 
+def operations():
+    topics, bases, own = {}, {}, {}
+    for header in sorted((ROOT / "diagkit/model").glob("*.h")):
+        for name, base, body in CLASS.findall(header.read_text(encoding="utf-8")):
+            topics[name], bases[name], own[name] = header.stem, base, ANY_OPERATION.findall(body)
+    rows = []
+    for name in topics:
+        above = [name]
+        while above[-1] in bases:
+            above.append(bases[above[-1]])
+        is_made = name not in bases.values() or name in ALSO_MADE
+        if is_made and "VOdxElement" in above and not NO_ELEMENTS.search(name):
+            rows.append(f"CLASS({topics[name]}, {name})")
+            rows += [f"OPERATION({topics[name]}, {name}, {operation})" for base in above for operation in own.get(base, [])]
+    return rows
+
+
 def undefined(words):
     return "".join(f"#undef {word}\n" for word in words)
 
@@ -71,7 +93,12 @@ def main():
     folder = pathlib.Path(sys.argv[1])
     folder.mkdir(parents=True, exist_ok=True)
     parts, links = parts_and_links()
-    for name, rows, words in (("Parts.def", parts, PART_WORDS), ("Links.def", links, ["LINK", "LINK_IN_LAYER"])):
+    files = (
+        ("Parts.def", parts, PART_WORDS),
+        ("Links.def", links, ["LINK", "LINK_IN_LAYER"]),
+        ("Operations.def", operations(), ["CLASS", "OPERATION"]),
+    )
+    for name, rows, words in files:
         text = "\n".join(rows) + "\n" + undefined(words)
         path = folder / name
         if not path.exists() or path.read_text(encoding="utf-8") != text:

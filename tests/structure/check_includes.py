@@ -56,6 +56,9 @@ ROOMS = {
     ),
 }
 
+# The headers for whole libraries, which stand beside their rooms. No room includes one.
+ROOMS["diagkit"] = ([room for room in ROOMS if room.startswith("diagkit/")], [])
+
 # Rooms that may use the platform, in sources that say for which one they are.
 PLATFORM_ROOMS = {"diagkit/util", "diagkit/reader", "cli"}
 PLATFORM_SOURCE = re.compile(r"_(win32|posix)$")

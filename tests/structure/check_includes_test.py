@@ -44,6 +44,13 @@ class IncludesTest(unittest.TestCase):
         self.allowed("cli/A.cpp", "<diagkit/check/B.h>")
         self.allowed("cli/A.cpp", "<fmt/format.h>")
 
+    def test_headers_for_whole_libraries(self):
+        self.allowed("diagkit/A.h", "<diagkit/query/B.h>")
+        self.allowed("diagkit/A.h", "<diagkit/B.h>")
+        self.refused("diagkit/A.h", "<fmt/format.h>")
+        self.refused("diagkit/query/A.h", "<diagkit/B.h>")
+        self.refused("cli/A.cpp", "<diagkit/B.h>")
+
     def test_arrows_that_run_back(self):
         self.refused("diagkit/model/A.h", "<diagkit/logging/B.h>")
         self.refused("diagkit/model/A.h", "<diagkit/memory/B.h>")

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+/// The toolkit with the contract: `diagkit::diagkit`. All public headers of the library.
+
+#include <diagkit/Model.h>
+#include <diagkit/logging/SharedLogger.h>
+#include <diagkit/tools/Containment.h>
+#include <diagkit/tools/DiagCommView.h>
+#include <diagkit/tools/DiagDataDictionarySpecTraverser.h>
+#include <diagkit/tools/DiagLayerTraverser.h>
+#include <diagkit/tools/DiagVariableView.h>
+#include <diagkit/tools/DopView.h>
+#include <diagkit/tools/EnumMapImpl.h>
+#include <diagkit/tools/EnumMapper.h>
+#include <diagkit/tools/ExternalIterator.h>
+#include <diagkit/tools/FindLayer.h>
+#include <diagkit/tools/GlobalNegResponseView.h>
+#include <diagkit/tools/GuardedDiagLayerTraverser.h>
+#include <diagkit/tools/IdentIfView.h>
+#include <diagkit/tools/InParamIfView.h>
+#include <diagkit/tools/Inheritance.h>
+#include <diagkit/tools/InheritanceNotes.h>
+#include <diagkit/tools/InheritedView.h>
+#include <diagkit/tools/ListView.h>
+#include <diagkit/tools/OdxCategoryInfo.h>
+#include <diagkit/tools/OdxCategoryInfoCollection.h>
+#include <diagkit/tools/OpBuildDiagCommView.h>
+#include <diagkit/tools/OpBuildDiagVariableView.h>
+#include <diagkit/tools/OpBuildDopView.h>
+#include <diagkit/tools/OpBuildGlobalNegResponseView.h>
+#include <diagkit/tools/OpBuildInParamIfView.h>
+#include <diagkit/tools/OpBuildOutParamIfView.h>
+#include <diagkit/tools/OpBuildProtocolView.h>
+#include <diagkit/tools/OpResolveSnref.h>
+#include <diagkit/tools/OutParamIfView.h>
+#include <diagkit/tools/ParamViewBuilders.h>
+#include <diagkit/tools/ParamWalk.h>
+#include <diagkit/tools/PointerSet.h>
+#include <diagkit/tools/ProtocolView.h>
+#include <diagkit/tools/RememberingResolver.h>
+#include <diagkit/tools/ResponseParams.h>
+#include <diagkit/tools/SessionView.h>
+#include <diagkit/tools/StringContainer.h>
+#include <diagkit/tools/TraverserKinds.h>
+#include <diagkit/tools/ViewHandle.h>
+#include <diagkit/tools/oem/Manufacturer.h>
+#include <diagkit/tools/oem/OemChecker.h>
+#include <diagkit/tools/oem/OemReport.h>
+#include <diagkit/util/Assertion.h>
+#include <diagkit/util/CheckedCast.h>
+#include <diagkit/util/Utf16.h>
