@@ -162,14 +162,6 @@ void WriteAsJson(VJsonWriter& json, VSides const& sides, VDiff const& diff, bool
     });
 }
 
-std::size_t CountUnknown(NReader::VReadResult const& result) {
-    std::size_t count = 0;
-    for (auto const& [tag, times] : result.unknownElements) {
-        count += times;
-    }
-    return count;
-}
-
 /// What was looked at and could not be compared, on standard error.
 void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments const& arguments, VOutput const& output) {
     if (arguments.isQuiet) {
@@ -184,8 +176,8 @@ void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments con
     char const* const old = isOneDatabase ? "" : " of the old database";
     char const* const now = isOneDatabase ? "" : " of the new database";
     constexpr char const* kUnknown = "without a place in the model";
-    tell(CountUnknown(read.old), "element", old, kUnknown);
-    tell(isOneDatabase ? 0 : CountUnknown(read.now), "element", now, kUnknown);
+    tell(CountWithoutPlace(read.old), "element", old, kUnknown);
+    tell(isOneDatabase ? 0 : CountWithoutPlace(read.now), "element", now, kUnknown);
     tell(diff.unresolvedOld, "reference", isOneDatabase ? " of the first layer" : old, "to nothing");
     tell(diff.unresolvedNew, "reference", isOneDatabase ? " of the second layer" : now, "to nothing");
     tell(diff.tooDeep, "element", "", "inside too many others");
@@ -274,8 +266,7 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
     auto* const ignore = command.add_option("--ignore", arguments.ignored,
                                             "What makes no difference: long-names, descriptions, admin-data, order; "
                                             "several with commas between");
-    ignore->delimiter(',')->allow_extra_args(false)->check(CLI::IsMember(words))->type_name("WHAT");
-    arguments.choices[ignore] = words;
+    DeclareOneOf(*ignore->delimiter(',')->allow_extra_args(false)->type_name("WHAT"), arguments, "word", words);
     command.add_flag("--ids", arguments.comparesIds, "Other IDs are a difference, too");
     DeclareLimits(command, arguments);
 }
