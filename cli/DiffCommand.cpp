@@ -162,6 +162,14 @@ void WriteAsJson(VJsonWriter& json, VSides const& sides, VDiff const& diff, bool
     });
 }
 
+/// Flash data, vehicle information, COMPARAM-SPECs and jobs of several ECUs: no layer's view shows what is in them.
+std::size_t CountWithoutLayers(NReader::VReadResult const& result) {
+    return static_cast<std::size_t>(
+        std::count_if(result.documents.begin(), result.documents.end(), [](NReader::VDocumentInfo const& document) {
+            return document.category != "DIAG-LAYER-CONTAINER";
+        }));
+}
+
 /// What was looked at and could not be compared, on standard error.
 void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments const& arguments, VOutput const& output) {
     if (arguments.isQuiet) {
@@ -175,6 +183,8 @@ void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments con
     bool const isOneDatabase = &read.old == &read.now;
     char const* const old = isOneDatabase ? "" : " of the old database";
     char const* const now = isOneDatabase ? "" : " of the new database";
+    tell(CountWithoutLayers(read.old), "document", old, "without layers");
+    tell(isOneDatabase ? 0 : CountWithoutLayers(read.now), "document", now, "without layers");
     constexpr char const* kUnknown = "without a place in the model";
     tell(CountWithoutPlace(read.old), "element", old, kUnknown);
     tell(isOneDatabase ? 0 : CountWithoutPlace(read.now), "element", now, kUnknown);
