@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <cli/Arguments.h>
 
+#include <algorithm>
 #include <charconv>
 #include <system_error>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <cli/NearNames.h>
 #include <cli/Sizes.h>
+#include <cli/Text.h>
 #include <diagkit/Version.h>
 
 namespace NCli {
@@ -26,11 +29,22 @@ CLI::Option& DeclareSize(CLI::App& command, char const* name, std::uint64_t& siz
 
 } // namespace
 
+void RefuseEmpty(CLI::Option& option) {
+    option.check([](std::string const& name) { return std::string(name.empty() ? "an empty name is none" : ""); });
+}
+
+void DeclareOneOf(CLI::Option& option, VArguments& arguments, char const* noun, std::vector<std::string> const& names) {
+    option.check([noun, names](std::string const& word) -> std::string {
+        bool const isOne = std::find(names.begin(), names.end(), word) != names.end();
+        return isOne ? "" : fmt::format("no {} '{}'{}", noun, Shown(word), NearOrAllNote(word, names));
+    });
+    arguments.choices[&option] = names;
+}
+
 void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
                    std::vector<std::string> const& choices, char const* help) {
-    CLI::Option* const option = command.add_option(name, value, help);
-    option->check(CLI::IsMember(choices))->type_name("WORD");
-    arguments.choices[option] = choices;
+    CLI::Option& option = *command.add_option(name, value, help)->type_name("WORD");
+    DeclareOneOf(option, arguments, "word", choices);
 }
 
 CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& count, char const* help) {
@@ -82,6 +96,7 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments) {
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments) {
     auto& option =
         *command.add_option("--layer", arguments.layer, "The layer: its short name or ID, or CONTAINER/LAYER");
+    RefuseEmpty(option);
     return *option.type_name("L");
 }
 

@@ -66,6 +66,12 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
 /// --layer alone, for commands that look at nothing else.
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
 
+/// For an option that names something: an empty name is wrong usage, not as good as none.
+void RefuseEmpty(CLI::Option& option);
+
+/// For an option or a word that is one of a few; `noun` is what messages call it.
+void DeclareOneOf(CLI::Option& option, VArguments& arguments, char const* noun, std::vector<std::string> const& names);
+
 /// An option that takes one of a few words.
 void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
                    std::vector<std::string> const& choices, char const* help);

@@ -162,12 +162,12 @@ void WriteAsJson(VJsonWriter& json, VSides const& sides, VDiff const& diff, bool
     });
 }
 
-std::size_t CountUnknown(NReader::VReadResult const& result) {
-    std::size_t count = 0;
-    for (auto const& [tag, times] : result.unknownElements) {
-        count += times;
-    }
-    return count;
+/// Flash data, vehicle information, COMPARAM-SPECs and jobs of several ECUs: no layer's view shows what is in them.
+std::size_t CountWithoutLayers(NReader::VReadResult const& result) {
+    return static_cast<std::size_t>(
+        std::count_if(result.documents.begin(), result.documents.end(), [](NReader::VDocumentInfo const& document) {
+            return document.category != "DIAG-LAYER-CONTAINER";
+        }));
 }
 
 /// What was looked at and could not be compared, on standard error.
@@ -183,9 +183,11 @@ void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments con
     bool const isOneDatabase = &read.old == &read.now;
     char const* const old = isOneDatabase ? "" : " of the old database";
     char const* const now = isOneDatabase ? "" : " of the new database";
+    tell(CountWithoutLayers(read.old), "document", old, "without layers");
+    tell(isOneDatabase ? 0 : CountWithoutLayers(read.now), "document", now, "without layers");
     constexpr char const* kUnknown = "without a place in the model";
-    tell(CountUnknown(read.old), "element", old, kUnknown);
-    tell(isOneDatabase ? 0 : CountUnknown(read.now), "element", now, kUnknown);
+    tell(CountWithoutPlace(read.old), "element", old, kUnknown);
+    tell(isOneDatabase ? 0 : CountWithoutPlace(read.now), "element", now, kUnknown);
     tell(diff.unresolvedOld, "reference", isOneDatabase ? " of the first layer" : old, "to nothing");
     tell(diff.unresolvedNew, "reference", isOneDatabase ? " of the second layer" : now, "to nothing");
     tell(diff.tooDeep, "element", "", "inside too many others");
@@ -275,8 +277,7 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
     auto* const ignore = command.add_option("--ignore", arguments.ignored,
                                             "Ignore differences in long-names, descriptions, admin-data or order; "
                                             "separate several with commas");
-    ignore->delimiter(',')->allow_extra_args(false)->check(CLI::IsMember(words))->type_name("WHAT");
-    arguments.choices[ignore] = words;
+    DeclareOneOf(*ignore->delimiter(',')->allow_extra_args(false)->type_name("WHAT"), arguments, "word", words);
     command.add_flag("--ids", arguments.comparesIds, "Report different IDs as well");
     DeclareLimits(command, arguments);
 }

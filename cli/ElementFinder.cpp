@@ -248,7 +248,12 @@ NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLay
         output.Complain(fmt::format("'{}' is a MULTIPLE-ECU-JOB; use --job instead of --diag-comm", Shown(wanted)));
         return nullptr;
     }
-    std::string const whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, wanted, layerInCall);
+    std::string whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, wanted, layerInCall);
+    NODX201::VDiagComm const* const meant = whyNot.empty() ? DiagCommOfLayers(database, wanted) : nullptr;
+    if (meant != nullptr) { // by its ID
+        whyNot =
+            WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, meant->GetShortName(), layerInCall, meant);
+    }
     output.Complain(
         fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible), whyNot)));
     return nullptr;

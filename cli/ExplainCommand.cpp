@@ -173,6 +173,7 @@ std::string TitleAround(NODX201::VOdxElement const& element) {
 void WriteCandidates(VExplained const& explained, VOutput& output) {
     NQuery::VExplanation const& explanation = explained.explanation;
     VColumns columns;
+    columns.Add({"Of", "Kind", "ID", "Way", "Fate", "Decided at"});
     for (VWay const& way : explanation.candidates) {
         NODX201::VOdxElement const& decisive = way.decidedBy != nullptr ? *way.decidedBy : *way.element;
         columns.Add({TitleAround(*way.element), KindOf(*way.element), ShownId(*way.element), WayText(way, explained),
@@ -233,7 +234,7 @@ void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
 void DeclareExplain(CLI::App& command, VArguments& arguments) {
     DeclareKind(command, arguments, NamesOf(kInheritedKinds), "The kind of element that the name stands for");
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
-    DeclareLayer(command, arguments);
+    DeclareLayer(command, arguments).required();
     DeclareCount(command, "--max-candidates", arguments.maxCandidates, "The most candidates to list");
     DeclareFiles(command, arguments);
 }

@@ -64,6 +64,14 @@ std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
         }));
 }
 
+std::size_t CountWithoutPlace(NReader::VReadResult const& result) {
+    std::size_t count = 0;
+    for (auto const& [tag, times] : result.unknownElements) {
+        count += times;
+    }
+    return count;
+}
+
 VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {
     return LoadAndTell(arguments, false, output, result);
 }

@@ -19,6 +19,10 @@ VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever the data holds
+
+/// How many elements found no place in the model; what stands in them is not counted.
+std::size_t CountWithoutPlace(NReader::VReadResult const& result);
+
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
 
 } // namespace NCli

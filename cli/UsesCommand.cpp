@@ -72,9 +72,20 @@ NQuery::VUses::VProgress ProgressOf(VProgressBar& bar, VArguments const& argumen
     return bar.Progress(arguments.isQuiet);
 }
 
+/// References in what has no place in the model are not seen.
+void TellWhatWasNotRead(VArguments const& arguments, NReader::VReadResult const& result, VOutput const& output) {
+    std::size_t const count = CountWithoutPlace(result);
+    if (count > 0 && !arguments.isQuiet) {
+        output.Complain(fmt::format("not read: {} without a place in the model; references inside are not seen{}",
+                                    Counted(count, "element"),
+                                    arguments.isUnused ? ", and may lead to what is listed as unused" : ""));
+    }
+}
+
 VStatus AnswerUnused(VArguments const& arguments, NReader::VReadResult const& result, VOutput& output) {
     VProgressBar bar;
     NQuery::VUses const uses(*result.database, result.elements, ProgressOf(bar, arguments));
+    TellWhatWasNotRead(arguments, result, output);
     if (arguments.isJson) {
         WriteEntriesAsJson("unused", uses.Unused(), output);
     } else {
@@ -89,6 +100,7 @@ VStatus AnswerUses(VArguments const& arguments, NReader::VReadResult const& resu
     VProgressBar bar;
     std::vector<NQuery::VUse> const uses =
         NQuery::VUses(database, result.elements, ProgressOf(bar, arguments)).Of(element);
+    TellWhatWasNotRead(arguments, result, output);
     if (!arguments.isJson) {
         WriteUses(database, element, uses, output);
         return VStatus::Done;
@@ -126,8 +138,9 @@ VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& resu
 
 void DeclareUses(CLI::App& command, VArguments& arguments) {
     command.add_option("NAME", arguments.name, "An ID or a short name; omitted with --unused")->type_name("");
-    command.add_option("--kind", arguments.tag, "The tag of the element, if elements of several kinds have the name")
-        ->type_name("TAG");
+    auto* const kind = command.add_option("--kind", arguments.tag,
+                                          "The tag of the element, if elements of several kinds have the name");
+    RefuseEmpty(*kind->type_name("TAG"));
     DeclareLayer(command, arguments);
     command.add_flag("--unused", arguments.isUnused, "List the elements that no reference leads to in any layer");
     DeclareFiles(command, arguments);

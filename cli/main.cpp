@@ -114,7 +114,7 @@ std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) 
         return fmt::format("a command is required{}", NearOrAllNote("", NamesOf(kCommands)));
     }
     if (option != left.end()) {
-        return fmt::format("unknown option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));
+        return fmt::format("unknown option '{}'{}", Shown(*option), NearNote(*option, OptionsOf(program)));
     }
     if (word != left.end()) {
         return fmt::format("unexpected argument '{}'", Shown(*word));

@@ -305,6 +305,33 @@ def one_name_for_each_variant(count):
     return {"c.odx-d": container({"BASE-VARIANTS": above, "ECU-VARIANTS": variants})}
 
 
+def library_by_id(count, layers):
+    """Services, spread over so many layers, that lead by ID to a STRUCTURE of a library that is no parent."""
+    large = structure("Large", many(count, lambda index: value(f"P{index}", by_name("Dop"))))
+    library = layer("ECU-SHARED-DATA", "Library", DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=large))
+
+    def variant(index):
+        numbers = range(index, count, layers)
+        request = lambda number: message("REQUEST", f"Request{number}", value("In", by_id("Large")))
+        return layer(
+            "BASE-VARIANT",
+            f"V{index}",
+            DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop", f"Dop{index}")),
+            DIAG_COMMS="".join(service(f"Service{number}", f"Request{number}") for number in numbers),
+            REQUESTS="".join(request(number) for number in numbers),
+        )
+
+    return {"c.odx-d": container({"ECU-SHARED-DATAS": library, "BASE-VARIANTS": many(layers, variant)})}
+
+
+def library_by_id_in_one_layer(count):
+    return library_by_id(count, 1)
+
+
+def library_by_id_in_each_layer(count):
+    return library_by_id(count, count)
+
+
 def related_diag_comms(count):
     """A chain of services, each of which is related to the next one."""
     related = (

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <diagkit/check/Messages.h>
+#include <diagkit/check/PlacesById.h>
 #include <diagkit/check/Views.h>
 #include <diagkit/check/VisibleNames.h>
 #include <diagkit/memory/DiagComms.h>
@@ -37,8 +38,8 @@ NODX201::VDiagCommLink* DiagCommLinkBeside(NODX201::VLink& reference);
 /// other reference. Asks the resolver of the database.
 NODX201::VOdxElement* TargetInFlash(NODX201::VLink& reference);
 
-/// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
-/// Null where there is none.
+/// The element by which layers besides its own read a reference: the innermost DIAG-COMM, message, DOP or DIAG-VARIABLE
+/// around it. Null where there is none.
 NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference);
 
 /// The layers in which a reference of flash data is read, and of vehicle information: that of the DIAG-COMM beside it.
@@ -48,24 +49,30 @@ std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& refere
 std::optional<std::vector<NODX201::VDiagLayer*>> LayersOfJobs(NMemory::VMemMultipleEcuJobSpec& spec);
 
 /// Calls `take` with everything in which a layer reads the references that stand there: the layer itself, what its
-/// views hold, and the messages of its services. Some come several times.
+/// views hold, the messages of its services, and what `byId` has of all these. Some come several times.
 template <class Take>
-void ForEachPlaceIn(NODX201::VDiagLayer& layer, VVisibleNames const& names, VViews& views, Take take) {
-    take(layer);
+void ForEachPlaceIn(NODX201::VDiagLayer& layer, VVisibleNames const& names, VViews& views, VPlacesById const& byId,
+                    Take take) {
+    VPlacesById::VMet met;
+    auto const takeAll = [&](NODX201::VOdxElement const& place) {
+        take(place);
+        byId.ForEachFrom(place, met, take);
+    };
+    takeAll(layer);
     for (NODX201::VDiagComm* const diagComm : names.DiagComms()) {
-        take(*diagComm);
+        takeAll(*diagComm);
         if (auto* const service = dynamic_cast<NODX201::VDiagService*>(diagComm)) {
-            ForEachMessage(*service, take);
+            ForEachMessage(*service, takeAll);
         }
     }
     for (NODX201::VDopBase* const dop : names.Dops()) {
-        take(*dop);
+        takeAll(*dop);
     }
     for (NODX201::VDiagVariable* const variable : views.diagVariables.EntriesOf(layer)) {
-        take(*variable);
+        takeAll(*variable);
     }
     for (NODX201::VGlobalNegResponse* const response : views.globalNegResponses.EntriesOf(layer)) {
-        take(*response);
+        takeAll(*response);
     }
 }
 

@@ -67,8 +67,9 @@ public:
         if (m_pending.empty()) {
             return;
         }
+        VPlacesById const byId(m_checked.elements, DopsAmong(m_at));
         for (NODX201::VDiagLayer* const layer : LayersOf(m_checked.database)) {
-            TryIn(*layer);
+            TryIn(*layer, byId);
             m_checked.layerDone();
         }
         for (VPending const& pending : m_pending) {
@@ -125,14 +126,14 @@ private:
         of.pending.push_back(index);
     }
 
-    void TryIn(NODX201::VDiagLayer& layer) {
+    void TryIn(NODX201::VDiagLayer& layer, VPlacesById const& byId) {
         VVisibleNames names(layer, m_checked.views);
         if (auto const specs = m_specsOf.find(&layer); specs != m_specsOf.end()) {
             for (VSpec const* const spec : specs->second) {
                 Try(spec->pending, names, layer);
             }
         }
-        ForEachPlaceIn(layer, names, m_checked.views,
+        ForEachPlaceIn(layer, names, m_checked.views, byId,
                        [&](NODX201::VOdxElement const& place) { TryAt(place, names, layer); });
     }
 

@@ -39,7 +39,7 @@ public:
             }
         }
         std::uint64_t done = 0;
-        m_byName.LookUp([&] {
+        m_byName.LookUp(elements, [&] {
             if (progress) {
                 progress(++done, m_byName.Layers().size());
             }

@@ -35,10 +35,11 @@ struct VUse {
 ///
 /// A reference by ID leads to its target also where the reader cut it because it closes a circle of containment. One by
 /// short name is read in the layer that it stands in, and in every layer whose views hold the DIAG-COMM, DOP,
-/// DIAG-VARIABLE or GLOBAL-NEG-RESPONSE that it stands in, or a service of its message; it may mean another element in
-/// each. The PARAM-SNREF of an ENV-DATA-DESC means each parameter of its name in what the services lead to that lead to
-/// it; any other reference to a parameter the one that its DIAG-COMM has, where those of responses go before those of
-/// the request. DOCREF and what NOT-INHERITED-... names are no references.
+/// DIAG-VARIABLE or GLOBAL-NEG-RESPONSE that it stands in, or a service of its message; and so is one of a DOP to which
+/// references by ID lead from any of these. It may mean another element in each layer. The PARAM-SNREF of an
+/// ENV-DATA-DESC means each parameter of its name in what the services lead to that lead to it; any other reference to
+/// a parameter the one that its DIAG-COMM has, where those of responses go before those of the request. DOCREF and what
+/// NOT-INHERITED-... names are no references.
 ///
 /// The model owns what the answers point to. Once something is added, removed, renamed or directed elsewhere, an index
 /// does not hold any more: an editor makes a new one of the elements that are left (see `LeaveOut`).

@@ -115,11 +115,11 @@ void VUsesByName::AddOfConnector(VName& name, NODX201::VLink& reference) {
     Read(name, reference, PlaceIn(*place, [&reference] { return NCheck::LayersOfConnector(reference); }), nullptr);
 }
 
-void VUsesByName::LookUpIn(std::uint32_t layer, NCheck::VViews& views) {
+void VUsesByName::LookUpIn(std::uint32_t layer, NCheck::VViews& views, NCheck::VPlacesById const& byId) {
     NODX201::VDiagLayer& here = *m_layers[layer];
     NCheck::VVisibleNames names(here, views);
     m_setsHere.clear();
-    NCheck::ForEachPlaceIn(here, names, views, [&](NODX201::VOdxElement const& element) {
+    NCheck::ForEachPlaceIn(here, names, views, byId, [&](NODX201::VOdxElement const& element) {
         if (auto const place = m_places.find(&element); place != m_places.end()) {
             Visit(place->second, layer, names);
         }

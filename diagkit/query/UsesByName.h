@@ -32,12 +32,13 @@ public:
     /// its name, which is then all that it means.
     NODX201::VOdxElement* Add(NODX201::VLink& reference, NCheck::VWantedName wanted);
 
-    /// Looks all up in one layer after the other, and calls `layerDone` after each.
+    /// Looks all up in one layer after the other, and calls `layerDone` after each; `elements` are all of the database.
     template <class LayerDone>
-    void LookUp(LayerDone layerDone) {
+    void LookUp(std::vector<NODX201::VOdxElement*> const& elements, LayerDone layerDone) {
+        NCheck::VPlacesById const byId(elements, NCheck::DopsAmong(m_places));
         NCheck::VViews views;
         for (std::uint32_t number = 0; number < m_layers.size(); ++number) {
-            LookUpIn(number, views);
+            LookUpIn(number, views, byId);
             layerDone();
         }
     }
@@ -132,7 +133,7 @@ private:
     template <class LayersOf>
     VPlace& PlaceIn(NODX201::VOdxElement const& element, LayersOf layersOf);
 
-    void LookUpIn(std::uint32_t layer, NCheck::VViews& views);
+    void LookUpIn(std::uint32_t layer, NCheck::VViews& views, NCheck::VPlacesById const& byId);
     void Visit(VPlace& place, std::uint32_t layer, NCheck::VVisibleNames& names);
     void LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleNames& names);
     void Settle(VPlace const& place, VGroup const& group);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/Containment.h>
 
+#include <diagkit/reader/LinkTargets.h>
+
 namespace NReader {
 
 using NDIAGKIT::VContained;
@@ -79,6 +81,11 @@ bool IsContainer(NODX201::VDopBase const& dop) {
     return dop.GetOdxTag() != NODX201::VOdxTagEnum::DataObjectProp && dop.GetOdxTag() != NODX201::VOdxTagEnum::DtcDop;
 }
 
+/// Whether what the way leads to can contain anything.
+bool MayContain(VContained const& way, NODX201::VOdxElement const& target) {
+    return way.GetKind() != VContained::VKind::Dop || IsContainer(static_cast<NODX201::VDopBase const&>(target));
+}
+
 } // namespace
 
 NODX201::VDopBase* VDopsById::Find(NODX201::VDopBaseLink& link) {
@@ -128,12 +135,23 @@ VMayLead MayLeadFrom(NODX201::VReferencable& container, VFollow follow, VLinks c
             continue;
         }
         auto* const target = way.Target(dops);
-        bool const isDop = way.GetKind() == VContained::VKind::Dop;
-        if (target != nullptr && (!isDop || IsContainer(static_cast<NODX201::VDopBase&>(*target)))) {
+        if (target != nullptr && MayContain(way, *target)) {
             mayLead.elements.push_back(static_cast<NODX201::VReferencable*>(target));
         }
     }
     return mayLead;
+}
+
+VReferencables TargetsById(NODX201::VReferencable& container) {
+    VReferencables targets;
+    VDopsById none;
+    for (VContained const& way : VWaysOut(VFollow::Tables).Of(container)) {
+        auto* const target = way.IsReference() ? TargetById(*way.GetReference()) : way.Target(none);
+        if (target != nullptr && MayContain(way, *target)) {
+            targets.push_back(static_cast<NODX201::VReferencable*>(target));
+        }
+    }
+    return targets;
 }
 
 VReferencables ContainersOf(NMemory::VDatabase& database) {

@@ -36,6 +36,10 @@ using VLinks = std::unordered_set<NODX201::VLink const*>;
 /// Where the same leads by ID, and the short names that it leads to; but for what these references lead to.
 VMayLead MayLeadFrom(NODX201::VReferencable& container, VFollow follow, VLinks const& leftOut);
 
+/// The DOPs that can contain others, TABLEs and TABLE-ROWs that stand inside and to which references by ID lead, also
+/// those that the reader cut.
+VReferencables TargetsById(NODX201::VReferencable& container);
+
 /// The parameters of a STRUCTURE, an ENV-DATA, a request or a response; null for anything else.
 NODX201::VParamCollection* ParamsOf(NODX201::VReferencable& container);
 

@@ -66,6 +66,30 @@ TEST_F(VShortNameReferencesTest, OfADopAreTriedWhereItIsVisible) {
               "in the layer 'B'; it is in the other layers that see the reference");
 }
 
+/// An ECU-SHARED-DATA "L" from which no layer inherits, with a STRUCTURE "T".
+std::string Library() {
+    return LayerXml("ECU-SHARED-DATA", "L", InDictionary(Structure("T", Value("P", DopSnref("X")))));
+}
+
+TEST_F(VShortNameReferencesTest, OfADopAreTriedWhereReferencesByIdLeadToIt) {
+    Check(Library() +
+          LayerXml("BASE-VARIANT", "B", InDictionary(Dops("X")) + WithRequest(Value("Q", "<DOP-REF ID-REF=\"T\"/>"))) +
+          LayerXml("ECU-VARIANT", "V", DiagComms(Service("R", "<REQUEST-REF ID-REF=\"RQ\"/>"))));
+    EXPECT_EQ(Finding(),
+              "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
+              "in the layers 'L', 'V'; it is in the other layers that see the reference");
+}
+
+TEST_F(VShortNameReferencesTest, OfADopToWhichMuchLeadsAreToldOnce) {
+    std::string const both = Value("Q", "<DOP-REF ID-REF=\"T\"/>") + Value("R", "<DOP-REF ID-REF=\"U\"/>");
+    std::string const dictionary = InDictionary(
+        "<STRUCTURES>" + Xml("STRUCTURE", "U", "<PARAMS>" + Value("S", "<DOP-REF ID-REF=\"T\"/>") + "</PARAMS>") +
+        "</STRUCTURES>");
+    Check(Library() + LayerXml("BASE-VARIANT", "B", dictionary + WithRequest(both)));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DOP-SNREF names 'X', but no DOP of that name is visible in "
+                         "the layers 'L', 'B'");
+}
+
 TEST_F(VShortNameReferencesTest, OfAVariableAreTriedWhereItIsVisible) {
     CheckFamily("<DIAG-VARIABLES>" +
                     Xml("DIAG-VARIABLE", "W",
@@ -398,6 +422,18 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsThatDifferentServicesLeadTo) {
     EXPECT_EQ(Diagnostics(), "test.odx:5:1 error unresolved-short-name");
     Check(layer("ToE"));
     EXPECT_EQ(Diagnostics(), "");
+}
+
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsOfALibraryToAParameterOfTheServicesThatLeadThere) {
+    auto const layers = [](std::string const& param) {
+        return LayerXml("ECU-SHARED-DATA", "L", InDictionary(EnvDataDesc(param))) +
+               LayerXml("BASE-VARIANT", "B", Leading({"E"}));
+    };
+    Check(layers("P1"));
+    EXPECT_EQ(Diagnostics(), "");
+    Check(layers("P2"));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: PARAM-SNREF names 'P2', but no DIAG-SERVICE that leads to "
+                         "it has an output parameter of that name in the layer 'B'");
 }
 
 TEST_F(VShortNameReferencesTest, OfEnvDataDescsInsideATableThatLeadsBackToItself) {
