@@ -14,26 +14,26 @@
 
 #include "Table.h"
 
-/// What the elements of the example have in common: where they stand, what they own, how they find others.
+/// Common to the elements of the example: their owner, what they own, how they find others.
 
 namespace NOwnModel {
 
 using Tag = NODX201::VOdxTagEnum;
 
-/// What links search: the elements by ID, and what short names mean.
+/// The data that links search: the elements by ID, and the targets of short names.
 struct VIndex {
     std::map<std::wstring, NODX201::VReferencable*> elements;
     std::unique_ptr<NODX201::VAbstractSnrefResolver> resolver;
 };
 
-/// Where an element comes from: its row, what it stands in, the database it is part of.
+/// The origin of an element: its row, its owner, its database.
 struct VOrigin {
     VRow const& row;
     NODX201::VOdxObject* owner;
     VIndex& index;
 };
 
-/// The getter of an optional child that this model never has: its test said so.
+/// The getter of an optional child that this model never has: its test returns false.
 template <class T>
 T& Absent() {
     throw std::logic_error("asked for what is absent");
@@ -54,14 +54,14 @@ private:
     std::vector<std::unique_ptr<NODX201::VOdxObject>> m_owned;
 };
 
-/// A collection that this model never has entries for.
+/// A collection that is always empty in this model.
 template <class Collection>
 Collection& Empty() {
     static VOwning<Collection> empty;
     return empty;
 }
 
-/// An element of a class of the contract, as far as all agree.
+/// An element of a class of the contract, with the operations common to all.
 template <class Contract>
 class VElement : public Contract {
 public:
@@ -160,7 +160,7 @@ protected:
         return target != nullptr;
     }
 
-    /// A hit of another class is none.
+    /// An element of another class is not a target.
     bool FindById() const {
         auto const found = this->Index().elements.find(this->Row().idRef);
         return Remember(found != this->Index().elements.end() ? dynamic_cast<Target*>(found->second) : nullptr);
