@@ -8,27 +8,28 @@
 #include <diagkit/query/InheritedKind.h>
 #include <diagkit/tools/InheritanceNotes.h>
 
-/// What is visible in a layer, with the reasons.
+/// The elements visible in a layer, with the reasons.
 
 namespace NQuery {
 
-/// An element as a layer has it, or would have it.
+/// An element that is visible in a layer, or left out.
 struct VViewEntry {
     NODX201::VOdxElement* element;
     std::size_t way;                 ///< on which it came, by number; see `VLayerView::PathOf`
-    NODX201::VOdxElement* hiddenBy;  ///< of a hidden one, what the layer has under its short name; null otherwise
-    NODX201::VOdxElement* exclusion; ///< of an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
+    NODX201::VOdxElement* hiddenBy;  ///< for a hidden one, the layer's element with its short name; null otherwise
+    NODX201::VOdxElement* exclusion; ///< for an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
 };
 
-/// A view and what is left out of it.
+/// A view and the elements left out of it.
 struct VLayerView {
-    std::vector<VViewEntry> entries; ///< what is visible, in view order
-    /// What the layer's own elements and its parents offer besides, in the order in which the passes look. What is
-    /// visible after all is in neither list; what is offered several times is in one, once, as it was offered first.
+    std::vector<VViewEntry> entries; ///< the visible elements, in view order
+    /// Further elements of the layer's own lists and of its parents, in the order of the passes. Elements that are
+    /// visible after all are in neither list; an element that is offered several times is in one list, once, as it was
+    /// offered first.
     std::vector<VViewEntry> hidden;
     std::vector<VViewEntry> excluded;
 
-    /// The ways on which all of these came, each once, the empty one of own elements first.
+    /// The ways on which all of these came, each once, the empty way of own elements first.
     std::vector<std::vector<NDIAGKIT::VParent>> ways;
 
     /// The way of an entry, PARENT-REF by PARENT-REF: from the layer to the one that has the element.
@@ -38,7 +39,7 @@ struct VLayerView {
 /// The view of a layer, with reasons. It points into the model.
 VLayerView ViewOf(NODX201::VDiagLayer& layer, VInheritedKind kind);
 
-/// What is visible in a layer, in view order.
+/// The elements visible in a layer, in view order.
 std::vector<NODX201::VOdxElement*> EntriesOf(NODX201::VDiagLayer& layer, VInheritedKind kind);
 
 } // namespace NQuery
