@@ -8,16 +8,16 @@
 
 namespace NCli {
 
-/// A text for a cell that many rows may show: cut off where it is longer than anybody reads.
+/// A text for a cell, truncated where it is too long to read.
 std::string Cut(std::string text);
 
-/// Rows of cells, printed as aligned columns. A row may have fewer cells than others; cells of unusual length do not
+/// Rows of cells, printed as aligned columns. Rows may have different numbers of cells; unusually long cells do not
 /// widen their column.
 class VColumns {
 public:
     void Add(std::vector<std::string> cells);
 
-    /// One line a row, each with the indent before and a line end after it.
+    /// One line per row, each with the indent before and a line end after it.
     std::string Format(std::string_view indent = "  ") const;
 
 private:

@@ -27,7 +27,7 @@ std::string HiddenText(NDIAGKIT::VWay const& way, std::string const& at) {
     return fmt::format("is hidden in {} by that of {}", at, winner != nullptr ? Titled(*winner) : "-");
 }
 
-/// A word of a call as a POSIX shell takes it.
+/// A word of a call, quoted for a POSIX shell.
 std::string Quoted(std::string const& word) {
     bool const isPlain = !word.empty() && std::all_of(word.begin(), word.end(), [](char character) {
         return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||
@@ -69,7 +69,7 @@ NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways) {
     };
     return *std::min_element(ways.begin(), ways.end(), [&](NDIAGKIT::VWay const& left, NDIAGKIT::VWay const& right) {
         auto const rank = [&](NDIAGKIT::VWay const& way) {
-            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // what ODX forbids says least
+            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // forbidden ways are last
         };
         return rank(left) < rank(right);
     });
