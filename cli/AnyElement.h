@@ -21,7 +21,7 @@ struct VAnyName {
 /// those in its views and, for kinds that are not inherited, its own. REQUIRES: the elements were kept.
 std::vector<NODX201::VOdxElement*> FindElements(NReader::VReadResult const& result, VAnyName const& name);
 
-/// Writes the message when no element, or more than one, was found.
+/// Tells what to say instead when nothing or not one element alone was found.
 void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name,
                     std::vector<NODX201::VOdxElement*> const& found, VOutput const& output);
 

@@ -26,7 +26,7 @@ struct VArguments {
 
     std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
     std::string name;                   ///< NAME of `resolve`, `explain` and `uses`
-    std::optional<std::string> table;   ///< TABLE of `enums`; "" is a name, too
+    std::optional<std::string> table;   ///< TABLE of `enums`; an empty one is a name, too
     std::optional<std::string> literal; ///< LITERAL or VALUE of `enums`
     std::string layer;                  ///< --layer: a short name or an ID, as of all selections
     std::string container;              ///< --container
@@ -56,17 +56,17 @@ struct VArguments {
     /// The possible values of a word or an option that accepts only certain ones.
     std::map<CLI::Option const*, std::vector<std::string>> choices;
 
-    bool IsText() const { return !isJson && (format.empty() || format == "text"); } ///< whether it is output for people
+    bool IsText() const { return !isJson && (format.empty() || format == "text"); } ///< whether people read the answer
     int Range() const { return range.value_or(5); }
 };
 
 /// The options that every command has.
 void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
 
-/// Only --layer, for commands without other selections.
+/// --layer alone, for commands that look at nothing else.
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
 
-/// An option that accepts one of a few words.
+/// An option that takes one of a few words.
 void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
                    std::vector<std::string> const& choices, char const* help);
 
@@ -79,7 +79,7 @@ void DeclareSelections(CLI::App& command, VArguments& arguments);
 /// FILE... and the limits of reading, for commands that work on a database.
 void DeclareFiles(CLI::App& command, VArguments& arguments);
 
-/// Only the limits.
+/// The limits alone.
 void DeclareLimits(CLI::App& command, VArguments& arguments);
 
 } // namespace NCli

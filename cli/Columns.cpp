@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kWidestAligned = 60;
 
-/// The number of characters of a text in UTF-8.
+/// Characters of a text in UTF-8.
 std::size_t WidthOf(std::string_view text) {
     return static_cast<std::size_t>(
         std::count_if(text.begin(), text.end(), [](char unit) { return (unit & '\xC0') != '\x80'; }));

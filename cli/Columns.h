@@ -8,10 +8,10 @@
 
 namespace NCli {
 
-/// A text for a cell, truncated where it is too long to read.
+/// A text for a cell that many rows may show: cut off where it is longer than anybody reads.
 std::string Cut(std::string text);
 
-/// Rows of cells, printed as aligned columns. Rows may have different numbers of cells; unusually long cells do not
+/// Rows of cells, printed as aligned columns. A row may have fewer cells than others; cells of unusual length do not
 /// widen their column.
 class VColumns {
 public:

@@ -5,8 +5,8 @@
 #include <cli/Output.h>
 #include <cli/Status.h>
 
-/// The commands, each in the source of its name: its arguments in addition to the common options, and its action. A
-/// command that accepts only FILE... is declared by `DeclareFiles`.
+/// The commands, each in the source of its name: what it takes beyond the common options, and what it does. A command
+/// that takes nothing but FILE... is declared by `DeclareFiles`.
 
 namespace NCli {
 

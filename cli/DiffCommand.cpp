@@ -170,7 +170,7 @@ std::size_t CountUnknown(NReader::VReadResult const& result) {
     return count;
 }
 
-/// Writes what could not be compared to standard error.
+/// What was looked at and could not be compared, on standard error.
 void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments const& arguments, VOutput const& output) {
     if (arguments.isQuiet) {
         return;

@@ -18,7 +18,7 @@ VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader
 /// when the format is text and the command does not continue.
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
-std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, safe to print
+std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever the data holds
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
 
 } // namespace NCli

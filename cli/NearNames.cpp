@@ -16,7 +16,7 @@ namespace NCli {
 namespace {
 
 constexpr std::size_t kMostNames = 5;
-constexpr std::size_t kLongestName = 256; // names that people type and misspell are shorter
+constexpr std::size_t kLongestName = 256; // what people type and misspell is shorter
 
 std::wstring LowerCase(std::wstring_view text) {
     std::wstring lower(text);

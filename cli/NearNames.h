@@ -7,14 +7,14 @@
 
 namespace NCli {
 
-/// The names of which the wanted one may be a misspelling, nearest first, at most five. Each wrong, missing, additional
-/// or swapped character counts one step; upper and lower case are equal.
+/// The names that the wanted one may be a misspelling of, nearest first, at most five. A wrong, missing, additional or
+/// swapped character counts one step; upper and lower case are the same.
 std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
 
 /// The same for the end of a message: "; near names: UDS, KWP", or "" when there are none.
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
 
-/// The same for a small set of names: where none is near, all of them: "; there are view, resolve". In UTF-8.
+/// The same for names that are few: where none is near, all of them: "; there are view, resolve". In UTF-8.
 std::string NearOrAllNote(std::string const& wanted, std::vector<std::string> const& names);
 
 } // namespace NCli

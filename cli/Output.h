@@ -34,7 +34,7 @@ private:
     void Flush() const noexcept;
 
     bool m_isColoured;
-    mutable int m_error = 0; // errno of the first failed write, which a message may detect
+    mutable int m_error = 0; // errno of the first write that failed, which complaining may notice
 };
 
 } // namespace NCli

@@ -15,7 +15,7 @@
 namespace NCli {
 namespace {
 
-/// Lines in groups, each with a heading, in the order in which the groups first occur.
+/// What comes in groups, each with a heading, in the order in which the groups first occur.
 class VGroups {
 public:
     void Add(std::string const& title, std::vector<std::string> cells) {
@@ -51,7 +51,7 @@ std::string PlaceText(NMemory::VDatabase const& database, NODX201::VOdxElement c
     return place.line == 0 ? "" : fmt::format("{}:{}", Shown(std::string_view(place.file)), place.line);
 }
 
-/// The layer around an element, or else its document; null outside of both.
+/// The layer that an element stands in, or else its document; null for what stands in neither.
 NODX201::VOdxElement const* RoomOf(NODX201::VOdxElement const& element) {
     if (NODX201::VDiagLayer const* const layer = LayerAround(element)) {
         return layer;
@@ -83,7 +83,7 @@ std::string PathInside(NODX201::VOdxElement const* room, NODX201::VLink const& r
     return path;
 }
 
-/// "means it in A, B"; of very many layers only the first ones.
+/// "means it in A, B"; of very many layers the first.
 std::string LayersText(std::vector<NODX201::VDiagLayer*> const& layers) {
     constexpr std::size_t kMost = 5;
     std::string text;

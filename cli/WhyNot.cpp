@@ -27,7 +27,7 @@ std::string HiddenText(NDIAGKIT::VWay const& way, std::string const& at) {
     return fmt::format("is hidden in {} by that of {}", at, winner != nullptr ? Titled(*winner) : "-");
 }
 
-/// A word of a call, quoted for a POSIX shell.
+/// A word of a call as a POSIX shell takes it.
 std::string Quoted(std::string const& word) {
     bool const isPlain = !word.empty() && std::all_of(word.begin(), word.end(), [](char character) {
         return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||

@@ -8,15 +8,15 @@
 
 namespace NCli {
 
-/// What happens to an element on its way, except a visible one: "PROTOCOL Uds's is excluded in Body". The layer is the
-/// last of the way.
+/// What becomes of an element on its way, but for a visible one: "PROTOCOL Uds's is excluded in Body". The layer is
+/// the one that the way leads to.
 std::string FateOf(NDIAGKIT::VWay const& way, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind);
 
 /// Of ways that all end before the layer, the one that ends nearest to it; the first of several.
 NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways);
 
-/// The end of a message that a name is not visible in a layer: what stops it on its way there, and the call that
-/// explains more, in which the layer is named as the user did; "" where nothing of the name is on any way.
+/// For the end of a message that a name is not visible in a layer: what stops it on its way there, and the call that
+/// tells more, in which the layer is called as the user did; "" where nothing of the name is on any way.
 std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, NQuery::VInheritedKind kind,
                        std::wstring_view shortName, std::string const& layerInCall);
 

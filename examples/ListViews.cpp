@@ -35,7 +35,7 @@ void PrintView(char const* what, View& view) {
     }
 }
 
-/// The builders of parameter views do not use a layer, so these operations are empty.
+/// The builders of parameter views look at no layer, so there is nothing to do in these.
 class VParamViewBuilder : public NDIAGKIT::VOpBuildOutParamIfView {
     void VisitBaseVariant(NODX201::VBaseVariant&) override {}
     void VisitProtocol(NODX201::VProtocol&) override {}

@@ -93,7 +93,7 @@ NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference) {
                               dynamic_cast<NODX201::VDopBase*>(object) != nullptr ||
                               dynamic_cast<NODX201::VDiagVariable*>(object) != nullptr;
         if (isAnchor) {
-            anchor = dynamic_cast<NODX201::VOdxElement*>(object); // the outermost: ENV-DATA is inside an ENV-DATA-DESC
+            anchor = dynamic_cast<NODX201::VOdxElement*>(object); // the outermost: ENV-DATA stands in an ENV-DATA-DESC
         }
     }
     return anchor;

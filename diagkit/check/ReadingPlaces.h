@@ -37,8 +37,8 @@ NODX201::VDiagCommLink* DiagCommLinkBeside(NODX201::VLink& reference);
 /// other reference. Calls the resolver of the database.
 NODX201::VOdxElement* TargetInFlash(NODX201::VLink& reference);
 
-/// The element through which a reference is visible in layers other than its own: an entry of a view, or a message of a
-/// service. Null where there is none.
+/// The element by which a reference is visible in layers besides its own: what views hold, or a message of a service.
+/// Null where there is none.
 NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference);
 
 /// The layers in which a reference of flash data or vehicle information is read: that of the DIAG-COMM it belongs to.
@@ -47,8 +47,8 @@ std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& refere
 /// The layers in which the jobs of a MULTIPLE-ECU-JOB-SPEC run; nothing when one of them is not loaded.
 std::optional<std::vector<NODX201::VDiagLayer*>> LayersOfJobs(NMemory::VMemMultipleEcuJobSpec& spec);
 
-/// Calls `take` with everything whose references a layer reads: the layer itself, the entries of its views, and the
-/// messages of its services. Some come several times.
+/// Calls `take` with everything in which a layer reads the references that stand there: the layer itself, what its
+/// views hold, and the messages of its services. Some come several times.
 template <class Take>
 void ForEachPlaceIn(NODX201::VDiagLayer& layer, VVisibleNames const& names, VViews& views, Take take) {
     take(layer);

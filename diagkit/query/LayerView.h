@@ -16,16 +16,15 @@ namespace NQuery {
 struct VViewEntry {
     NODX201::VOdxElement* element;
     std::size_t way;                 ///< on which it came, by number; see `VLayerView::PathOf`
-    NODX201::VOdxElement* hiddenBy;  ///< for a hidden one, the layer's element with its short name; null otherwise
-    NODX201::VOdxElement* exclusion; ///< for an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
+    NODX201::VOdxElement* hiddenBy;  ///< of a hidden one, what the layer has under its short name; null otherwise
+    NODX201::VOdxElement* exclusion; ///< of an excluded one, the NOT-INHERITED-DIAG-COMM; null otherwise
 };
 
-/// A view and the elements left out of it.
+/// A view and what is left out of it.
 struct VLayerView {
-    std::vector<VViewEntry> entries; ///< the visible elements, in view order
-    /// Further elements of the layer's own lists and of its parents, in the order of the passes. Elements that are
-    /// visible after all are in neither list; an element that is offered several times is in one list, once, as it was
-    /// offered first.
+    std::vector<VViewEntry> entries; ///< what is visible, in view order
+    /// What the layer's own elements and its parents offer besides, in the order in which the passes look. What is
+    /// visible after all is in neither list; what is offered several times is in one, once, as it was offered first.
     std::vector<VViewEntry> hidden;
     std::vector<VViewEntry> excluded;
 

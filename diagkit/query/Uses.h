@@ -33,12 +33,12 @@ struct VUse {
 ///     NQuery::VUses const uses(*result.database, result.elements);
 ///     for (NQuery::VUse const& use : uses.Of(dop)) { ... }
 ///
-/// A reference by ID leads to its target even if the reader severed it because it closes a cycle of containment. One by
-/// short name is read in its own layer, and in every layer whose views contain the DIAG-COMM, DOP, DIAG-VARIABLE or
-/// GLOBAL-NEG-RESPONSE around it, or a service of its message; it may have another target in each. The PARAM-SNREF of
-/// an ENV-DATA-DESC leads to each parameter of its name below all services whose messages lead to it; any other
-/// reference to a parameter leads to the one in its DIAG-COMM, where parameters of responses have precedence over those
-/// of the request. DOCREF and the names in NOT-INHERITED-... are not references.
+/// A reference by ID leads to its target also where the reader cut it because it closes a circle of containment. One by
+/// short name is read in the layer that it stands in, and in every layer whose views hold the DIAG-COMM, DOP,
+/// DIAG-VARIABLE or GLOBAL-NEG-RESPONSE that it stands in, or a service of its message; it may mean another element in
+/// each. The PARAM-SNREF of an ENV-DATA-DESC means each parameter of its name in what the services lead to that lead to
+/// it; any other reference to a parameter the one that its DIAG-COMM has, where those of responses go before those of
+/// the request. DOCREF and what NOT-INHERITED-... names are no references.
 ///
 /// The model owns the elements in the results. After adding, removing, renaming or redirecting anything, an index is no
 /// longer valid: an editor makes a new one from the remaining elements (see `LeaveOut`).

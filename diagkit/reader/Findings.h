@@ -19,8 +19,8 @@ inline constexpr std::size_t kLongestMessage = 2000;
 /// The message, truncated where it is longer: it may quote a text of many megabytes.
 std::string Clipped(std::string message);
 
-/// Collects the diagnostics of one reading, up to the limit for errors and for warnings. The others are only counted,
-/// so that faulty data cannot use more memory than that.
+/// The diagnostics of one reading, while they are collected: so many errors and so many warnings as the limit says. The
+/// others are counted, so that nothing that is wrong with data takes more memory than that.
 class VFindings {
 public:
     explicit VFindings(std::uint64_t limit = std::numeric_limits<std::uint64_t>::max()) : m_limit(limit) {}

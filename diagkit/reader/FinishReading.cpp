@@ -27,7 +27,7 @@ std::string Named(NODX201::VOdxLink const& link) {
     return text;
 }
 
-/// A reference by ID, at `node`, has no target.
+/// A reference by ID, which stands at `node`, has no target.
 void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference) {
     auto const& link = dynamic_cast<NODX201::VOdxLink const&>(reference.GetLink());
     if (*link.GetIdRef() == L'\0') {

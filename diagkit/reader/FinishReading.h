@@ -5,8 +5,8 @@
 
 namespace NReader {
 
-/// Work that is possible only when everything is loaded: gives PARENT-REFs without xsi:type the kind of their target,
-/// and reports references without a target, IDs used twice in one document and parents that ODX does not allow.
+/// What can be said only when everything is loaded: gives PARENT-REFs without xsi:type the kind of their target, and
+/// reports references without a target, IDs used twice in one document and parents that ODX does not allow.
 void FinishReading(VReading& reading);
 
 } // namespace NReader

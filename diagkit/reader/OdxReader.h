@@ -23,8 +23,8 @@ struct VReadOptions : VReadLimits {
     /// Whether `VReadResult::elements` is filled, for programs that look at every element or reference.
     bool keepsElements = false;
 
-    /// Called at intervals during long work with the bytes read so far and in total (compressed sizes for packages), by
-    /// the thread that reads; may be empty.
+    /// Called now and then during long work with the bytes read so far and those to read in all (compressed sizes for
+    /// packages), by the thread that reads; may be empty.
     std::function<void(std::uint64_t done, std::uint64_t all)> progress;
 };
 

@@ -55,7 +55,7 @@ public:
     Iterator end() { return End(); }
 
     Iterator Find(wchar_t const* shortName); ///< exactly this name; `End()` when there is none, and for null
-    Iterator Find(NODX201::VDopBase& dop);   ///< exactly this object; `End()` when there is none
+    Iterator Find(NODX201::VDopBase& dop);   ///< this very object; `End()` when there is none
 
     void Append(NODX201::VDopBase& dop); ///< under its short name; no effect when that is taken
 

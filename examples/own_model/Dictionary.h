@@ -14,7 +14,7 @@
 
 namespace NOwnModel {
 
-/// Elements without operations in the contract.
+/// Elements of which the contract asks nothing.
 using VStandardLength = VElement<NODX201::VStandardLengthType>;
 using VPhysical = VElement<NODX201::VPhysicalType>;
 

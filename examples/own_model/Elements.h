@@ -33,7 +33,7 @@ struct VOrigin {
     VIndex& index;
 };
 
-/// The getter of an optional child that this model never has: its test returns false.
+/// The getter of an optional child that this model never has: its test said so.
 template <class T>
 T& Absent() {
     throw std::logic_error("asked for what is absent");
@@ -54,14 +54,14 @@ private:
     std::vector<std::unique_ptr<NODX201::VOdxObject>> m_owned;
 };
 
-/// A collection that is always empty in this model.
+/// A collection that this model never has entries for.
 template <class Collection>
 Collection& Empty() {
     static VOwning<Collection> empty;
     return empty;
 }
 
-/// An element of a class of the contract, with the operations common to all.
+/// An element of a class of the contract, as far as all agree.
 template <class Contract>
 class VElement : public Contract {
 public:

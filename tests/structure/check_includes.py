@@ -56,7 +56,7 @@ ROOMS = {
     ),
 }
 
-# Folders that may use the platform, in sources whose name says which one.
+# Rooms that may use the platform, in sources that say for which one they are.
 PLATFORM_ROOMS = {"diagkit/util", "diagkit/reader", "cli"}
 PLATFORM_SOURCE = re.compile(r"_(win32|posix)$")
 
