@@ -16,8 +16,8 @@ bool Has(VView const& view, std::string const& name) {
     return std::any_of(view.begin(), view.end(), [&](VNaiveElement const* entry) { return entry->name == name; });
 }
 
-/// What is visible in a layer: its own, then what its structural parents bring, then what libraries bring; the first of
-/// a name counts.
+/// The elements visible in a layer: its own, then those of its structural parents, then those of libraries; the first
+/// of a name counts.
 VView ViewOf(VNaiveDatabase const& database, std::size_t layer, bool isOfServices) {
     VNaiveLayer const& here = database.layers[layer];
     VView view;
@@ -40,7 +40,7 @@ VView ViewOf(VNaiveDatabase const& database, std::size_t layer, bool isOfService
     return view;
 }
 
-/// The ID of what a name means; "" for nothing.
+/// The ID of a name's target; "" for none.
 std::string MeaningIn(VView const& view, std::string const& name) {
     for (VNaiveElement const* const entry : view) {
         if (entry->name == name) {
@@ -50,7 +50,7 @@ std::string MeaningIn(VView const& view, std::string const& name) {
     return "";
 }
 
-/// Whether the holder of a reference is visible in a view; a request by a service that names it.
+/// Whether the owner of a reference is visible in a view; a request through a service that refers to it.
 bool IsSeen(VView const& structures, VView const& services, VNaiveElement const& holder) {
     bool const isStructure = std::find(structures.begin(), structures.end(), &holder) != structures.end();
     return isStructure || std::any_of(services.begin(), services.end(), [&holder](VNaiveElement const* service) {
@@ -58,8 +58,8 @@ bool IsSeen(VView const& structures, VView const& services, VNaiveElement const&
            });
 }
 
-/// Calls `take(layer, holder, reference, tag, isOfServices)` with everything that refers, in document order; the holder
-/// is null where that is the layer itself.
+/// Calls `take(layer, holder, reference, tag, isOfServices)` with every reference, in document order; the holder is
+/// null where it is the layer itself.
 void ForEachReference(VNaiveDatabase const& database,
                       std::function<void(std::size_t, VNaiveElement const*, VNaiveReference const&, std::string const&,
                                          bool)> const& take) {
@@ -84,7 +84,7 @@ void ForEachReference(VNaiveDatabase const& database,
     }
 }
 
-/// The layers in which a reference by short name means the element, as " V W"; "" for none.
+/// The layers in which the target of a reference by short name is the element, as " V W"; "" for none.
 std::string LayersOf(VNaiveDatabase const& database, std::size_t home, VNaiveElement const* holder,
                      VNaiveReference const& reference, bool isOfServices, std::string const& id) {
     std::string layers;
@@ -209,7 +209,7 @@ std::string VNaiveDatabase::Uses(std::string const& id) const {
 std::string VNaiveDatabase::Unused() const {
     std::string unused;
     for (std::string const& id : Ids()) {
-        bool isUsed = id.front() == 'S'; // services are of no kind that may be unused
+        bool isUsed = id.front() == 'S'; // services are of a kind that is never reported as unused
         ForEachReference(*this, [&](std::size_t layer, VNaiveElement const* holder, VNaiveReference const& reference,
                                     std::string const&, bool isOfServices) {
             if (holder != nullptr && holder->id == id) {
