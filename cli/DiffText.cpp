@@ -25,7 +25,7 @@ using NQuery::VDetail;
 constexpr std::size_t kWidth = 80;
 constexpr std::size_t kMostNamesListed = 20; ///< in one list; of longer lists also the number of the rest
 
-/// A text with one blank for each run of white space, however long.
+/// A text with one blank for each white space in it, however long that is.
 std::string InOneLine(std::wstring const& text) {
     std::wstring line;
     for (wchar_t const character : text) {
@@ -220,7 +220,7 @@ void WriteEdit(VEdit const& edit, VOutput& output) {
     output.Write(Listed(fmt::format("  seen in {}:", Counted(layers.size(), "layer")), layers) + '\n');
 }
 
-/// A layer that exists on one side only, or has another name there.
+/// A layer that is there on one side alone, or under another name.
 void WriteLayer(NQuery::VLayerChange const& layer, VOutput& output) {
     switch (layer.kind) {
     case VChangeKind::Added:

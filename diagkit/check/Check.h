@@ -9,10 +9,10 @@
 
 namespace NCheck {
 
-/// Checks a whole database: gives the reader's diagnostics and, in addition, references by short name that do not
-/// resolve, DOCREFs that name another place than the target's, short names that are repeated or contain unusual
-/// characters, parents and imports that are referenced twice, exclusions that exclude nothing, names that two parents
-/// of equal rank offer, and cycles.
+/// Everything that a database tells about itself: the reader's diagnostics, and besides these references by short name
+/// that do not resolve, DOCREFs that name another place than the target's, short names that are doubled or of odd
+/// characters, parents and imports that are named twice, exclusions that exclude nothing, names that two parents of
+/// equal rank offer, and cycles.
 ///
 ///     NReader::VReadOptions options;
 ///     options.keepsElements = true;

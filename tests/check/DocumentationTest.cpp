@@ -15,7 +15,7 @@ namespace {
 struct VEntry {
     std::string severity;
     bool hasFix = false;
-    std::string place; ///< the element around the example; "" for a call of the program
+    std::string place; ///< what the example stands in; "" for a call of the program
     std::string example;
 };
 

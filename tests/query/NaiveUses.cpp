@@ -50,7 +50,7 @@ std::string MeaningIn(VView const& view, std::string const& name) {
     return "";
 }
 
-/// Whether the owner of a reference is visible in a view; a request through a service that refers to it.
+/// Whether the holder of a reference is visible in a view; a request by a service that names it.
 bool IsSeen(VView const& structures, VView const& services, VNaiveElement const& holder) {
     bool const isStructure = std::find(structures.begin(), structures.end(), &holder) != structures.end();
     return isStructure || std::any_of(services.begin(), services.end(), [&holder](VNaiveElement const* service) {
@@ -84,7 +84,7 @@ void ForEachReference(VNaiveDatabase const& database,
     }
 }
 
-/// The layers in which the target of a reference by short name is the element, as " V W"; "" for none.
+/// The layers in which a reference by short name means the element, as " V W"; "" for none.
 std::string LayersOf(VNaiveDatabase const& database, std::size_t home, VNaiveElement const* holder,
                      VNaiveReference const& reference, bool isOfServices, std::string const& id) {
     std::string layers;
