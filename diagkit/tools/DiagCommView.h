@@ -27,8 +27,8 @@ DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VInheritedView<VDiagCommViewTraits>);
 
 /// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then those of its
-/// parents, except those that the NOT-INHERITED-DIAG-COMMS of the PARENT-REF exclude and those hidden by an entry of
-/// the same short name.
+/// parents, except those excluded by a PARENT-REF in its NOT-INHERITED-DIAG-COMMS, and those hidden by an entry of the
+/// same short name.
 ///
 /// Parents are merged in passes over the PARENT-REFs, each in document order:
 ///
