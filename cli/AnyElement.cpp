@@ -38,7 +38,7 @@ bool IsOfKind(NODX201::VOdxElement const& element, std::string const& tag) {
     return tag.empty() || TagTextOf(element) == tag;
 }
 
-/// Whether views say where elements of its kind are visible; an ENV-DATA is a DOP that no view holds.
+/// Whether views show where elements of its kind are visible; an ENV-DATA is a DOP that is in no view.
 bool IsInherited(NODX201::VOdxElement const& element) {
     return dynamic_cast<NODX201::VDiagComm const*>(&element) != nullptr ||
            dynamic_cast<NODX201::VDiagVariable const*>(&element) != nullptr ||
@@ -47,7 +47,7 @@ bool IsInherited(NODX201::VOdxElement const& element) {
             dynamic_cast<NODX201::VEnvData const*>(&element) == nullptr);
 }
 
-/// What a layer sees: what its views hold, and its own elements of other kinds.
+/// The elements seen by a layer: the entries of its views, and its own elements of other kinds.
 class VSeen {
 public:
     explicit VSeen(NODX201::VDiagLayer& layer) : m_layer(layer) {
@@ -78,7 +78,7 @@ VSelects SeenFrom(NODX201::VDiagLayer* layer) {
     return VSeen(*layer);
 }
 
-/// Of elements that share an ID, those that the layer sees, where it sees any.
+/// Of elements that share an ID, those that the layer sees, if it sees any.
 VAnyElements Preferring(VAnyElements const& elements, VSelects const& isSeen) {
     VAnyElements seen;
     std::copy_if(elements.begin(), elements.end(), std::back_inserter(seen),

@@ -33,7 +33,7 @@ std::string KeyOfResult(VJson const& result) {
 }
 
 VJson::array_t const& ListOf(VJson const& object, char const* member) {
-    return object.at(member).get_ref<VJson::array_t const&>(); // raises for anything else
+    return object.at(member).get_ref<VJson::array_t const&>(); // throws for anything else
 }
 
 VJson ReadJson(std::string const& file) {

@@ -74,7 +74,7 @@ bool IsAmong(std::vector<std::string> const& codes, std::string const& code) {
     return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
-/// What the call asks about. What is not asked about covers nothing of the baseline.
+/// The selected findings. Findings that are not selected cover nothing of the baseline.
 VDiagnostics Selected(VArguments const& arguments, VDiagnostics diagnostics, VBaseline& baseline) {
     auto const isLeftOut = [&](NReader::VDiagnostic const& diagnostic) {
         return IsAmong(arguments.ignored, diagnostic.code) ||
@@ -94,7 +94,7 @@ void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, V
     }
 }
 
-/// What is wrong with the call; "" when nothing is.
+/// The usage error of the call; "" when there is none.
 std::string WrongUsage(VArguments const& arguments) {
     if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
         return fmt::format("--json and --format {} exclude each other", arguments.format);
@@ -137,7 +137,7 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output) {
     VBaseline baseline = arguments.baseline.empty() ? VBaseline() : VBaseline(arguments.baseline);
     NReader::VReadResult result;
     if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
-        if (!arguments.IsText()) { // what a program reads is whole, whatever the files are
+        if (!arguments.IsText()) { // output for programs is complete, whatever the files are
             WriteAnswer(arguments, Selected(arguments, result.diagnostics, baseline), output);
         }
         return status;

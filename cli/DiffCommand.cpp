@@ -40,13 +40,13 @@ struct VSides {
     std::vector<std::string> now;
 };
 
-/// What came of reading them.
+/// The results of reading them.
 struct VRead {
     NReader::VReadResult const& old;
     NReader::VReadResult const& now;
 };
 
-/// What is wrong with the call; null for nothing.
+/// The usage error of the call; null when there is none.
 char const* WrongCall(VArguments const& arguments) {
     bool const hasSides = !arguments.oldFiles.empty() || !arguments.newFiles.empty();
     if (!arguments.toLayer.empty()) {
@@ -82,7 +82,7 @@ VSides SidesOf(VArguments const& arguments) {
     return {ExpandedFiles({arguments.files.front()}), ExpandedFiles({arguments.files.back()})};
 }
 
-/// Reads the files of one side; says which it is when they cannot be read.
+/// Reads the files of one side; the message names the side when they cannot be read.
 VStatus LoadSide(VArguments const& arguments, char const* side, std::vector<std::string> const& files,
                  VOutput const& output, NReader::VReadResult& result) {
     VArguments one = arguments;

@@ -24,7 +24,7 @@ using NQuery::VChangeKind;
 using NQuery::VDetail;
 
 constexpr std::size_t kWidth = 80;
-constexpr std::size_t kMostNamesListed = 20; ///< that a list tells; of more it tells how many
+constexpr std::size_t kMostNamesListed = 20; ///< in one list; of longer lists also the number of the rest
 
 /// A text with one blank for each white space in it, however long that is.
 std::string WholeInOneLine(std::wstring const& text) {
@@ -70,7 +70,7 @@ std::pair<std::string, std::string> Sides(std::wstring const& oldText, std::wstr
     return {FromDifference(old, difference), FromDifference(now, difference)};
 }
 
-/// One edit, as far as all who see it see the same.
+/// One edit, with the details common to all layers that see it.
 struct VEdit {
     VChangeKind kind = VChangeKind::Changed;
     NODX201::VOdxElement* old = nullptr;
@@ -78,12 +78,13 @@ struct VEdit {
     std::string name{};
     std::string was{};
     std::vector<std::string> details{};
-    std::set<std::string> told{};       ///< the same details
+    std::set<std::string> told{};       ///< the common details
     std::vector<std::string> through{}; ///< entries that lead to it
     std::vector<NODX201::VDiagLayer const*> layers{};
 };
 
-/// Finds the edits behind what the layers see: what many layers inherit, or many entries refer to, is told once.
+/// Finds the edits behind the changes in layers: an edit that many layers inherit, or to which many entries refer, is
+/// written once.
 class VEdits {
 public:
     explicit VEdits(NQuery::VDiff const& diff) {
@@ -170,7 +171,7 @@ private:
         }
     }
 
-    /// What came has a plus before it, what went a minus. The name of an item is not repeated.
+    /// Additions have a plus before them, removals a minus. The name of an item is not repeated.
     static std::string LineOf(std::string const& path, VDetail const& detail) {
         auto const isNamed = [&path](std::string const& text) {
             std::string const end = '[' + text + ']';
@@ -207,7 +208,7 @@ private:
         }
     }
 
-    std::vector<VEdit> m_edits; // in the order in which they were met
+    std::vector<VEdit> m_edits; // in the order in which they were found
     std::map<VKey, std::size_t> m_byPlace;
     std::unordered_map<void const*, VIndices> m_byDetails;
     std::map<NODX201::VOdxElement const*, VLayers> m_seenBy; // by the new one of a renamed layer
@@ -238,7 +239,7 @@ std::string WhereOf(NODX201::VOdxElement const& element) {
     return layer != nullptr ? Titled(*layer) : "outside layers";
 }
 
-/// Where an element stands; a layer stands for itself.
+/// The layer of an element; for a layer, the layer itself.
 std::string InLayer(NODX201::VOdxElement const& element) {
     NODX201::VDiagLayer const* const layer = LayerAround(element);
     return layer != nullptr ? ", in " + Titled(*layer) : "";

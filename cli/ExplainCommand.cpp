@@ -215,7 +215,7 @@ void WriteText(VExplained const& explained, VOutput& output) {
     WriteElsewhere(explained, output);
 }
 
-/// Where the whole database has nothing of the name it may be misspelt.
+/// If nothing in the whole database has the name, it may be misspelled.
 void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
     NQuery::VExplanation const& explanation = explained.explanation;
     if (explanation.visible.has_value() || !explanation.candidates.empty() || !explanation.elsewhere.empty()) {

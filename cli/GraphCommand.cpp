@@ -63,7 +63,7 @@ void WriteGraph(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::V
 
 std::string FirstLineOf(std::string const& text) { return Shown(std::string_view(text).substr(0, text.find('\n'))); }
 
-/// Has Graphviz lay the graph out.
+/// Lets Graphviz draw the graph.
 VStatus WriteSvg(NQuery::VInheritanceGraph const& graph, NQuery::VInheritanceGraph const& whole, VOutput& output) {
     VProgramRun const run = RunProgram({"dot", "-Tsvg"}, DotTextOf(graph, whole));
     switch (run.outcome) {

@@ -14,7 +14,7 @@ constexpr std::size_t kHelpWidth = 80;
 constexpr std::size_t kOptionColumn = 30; ///< where the descriptions of options begin
 constexpr std::size_t kCommandColumn = 12;
 
-/// The text in lines that fit behind the column of descriptions; a word that is longer than a line stays whole.
+/// The text in lines that fit into the column of descriptions; a word that is longer than a line stays whole.
 std::vector<std::string> Wrapped(std::string_view text, std::size_t column) {
     std::vector<std::string> lines(1);
     while (!text.empty()) {
@@ -33,7 +33,7 @@ std::vector<std::string> Wrapped(std::string_view text, std::size_t column) {
     return lines;
 }
 
-/// What something is called, and beside it what it is for; below it where its name is too long.
+/// The name of something, with its description to the right, or below a long name.
 std::string Row(std::string_view name, std::string_view description, std::size_t column) {
     std::string row = fmt::format("  {:<{}}", name, column - 2);
     bool isBeside = name.size() + 3 < column;
@@ -58,7 +58,7 @@ std::string NameOf(CLI::Option const& option) {
     name += fmt::format("--{}", option.get_lnames().front());
     if (option.get_items_expected_max() > 0) {
         std::string const type = option.get_type_name();
-        name += fmt::format(" {}", type.substr(0, type.find(':'))); // behind it stands what the value is checked for
+        name += fmt::format(" {}", type.substr(0, type.find(':'))); // the rest is what the value is checked for
     }
     return name;
 }

@@ -8,7 +8,7 @@
 
 namespace NCli {
 
-/// Lays out `--help`: at most 80 columns, what is required in the usage line, one blank line between sections.
+/// Formats `--help`: at most 80 columns, required arguments in the usage line, one blank line between sections.
 class VHelpFormatter : public CLI::Formatter {
 public:
     std::string make_help(CLI::App const* app, std::string name, CLI::AppFormatMode mode) const override;

@@ -20,7 +20,7 @@ NReader::VReadResult Read(VArguments const& arguments, bool keepsElements) {
     return NReader::ReadOdx(arguments.files, options);
 }
 
-/// Whether the command may go on with what was read.
+/// Whether the command may continue with the result.
 VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VReadResult const& result) {
     if (result.database == nullptr) {
         return VStatus::Unreadable;
@@ -30,7 +30,7 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
         return VStatus::Done;
     }
     if (!arguments.isQuiet) {
-        // One of many databases is named; a single one is the call itself.
+        // One of many databases is named; for a single one the call is sufficient.
         std::string const file = arguments.isEach ? Shown(arguments.files.front()) + ": " : "";
         output.Complain(fmt::format("{}{}, which --strict does not allow", file, Counted(errors, "error")));
     }

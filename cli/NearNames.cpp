@@ -66,7 +66,7 @@ std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<s
     std::wstring const wantedInLowerCase = LowerCase(wanted);
     std::size_t const mostSteps = MostSteps(wanted);
     for (std::wstring_view const name : names) {
-        // Each character more or less is a step, so that most names need no closer look.
+        // Every difference in length is at least one step, so most names need no further comparison.
         if (name.empty() || name.size() > wanted.size() + mostSteps || wanted.size() > name.size() + mostSteps) {
             continue;
         }

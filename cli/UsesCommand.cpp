@@ -19,7 +19,7 @@
 namespace NCli {
 namespace {
 
-/// Whether a word can be one of FILE...: something of that name is there, or it is spelt as files of ODX are.
+/// Whether a word can be one of FILE...: there is a file of that name, or it is spelled like a file of ODX.
 bool MayBeFile(std::string const& word) {
     std::error_code ignored;
     if (word.find_first_of("/\\") != std::string::npos || std::filesystem::exists(word, ignored)) {
@@ -30,7 +30,8 @@ bool MayBeFile(std::string const& word) {
     return extension.substr(0, 4) == ".odx" || extension == ".xml" || extension == ".pdx" || extension == ".zip";
 }
 
-/// What is wrong with the call; "" when nothing is. The first word is NAME or, with --unused, the first of the files.
+/// The usage error of the call; "" when there is none. The first word is NAME or, with --unused, the first of the
+/// files.
 std::string UsageMistake(VArguments const& arguments) {
     if (arguments.isUnused && (!arguments.layer.empty() || !arguments.tag.empty())) {
         return std::string("--unused and ") + (arguments.layer.empty() ? "--kind" : "--layer") + " exclude each other";
@@ -144,7 +145,7 @@ void DeclareUses(CLI::App& command, VArguments& arguments) {
     DeclareLayer(command, arguments);
     command.add_flag("--unused", arguments.isUnused, "List the elements that no reference leads to in any layer");
     DeclareFiles(command, arguments);
-    command.get_option("FILE")->required(false); // CLI11 takes the first of them for NAME with --unused as well
+    command.get_option("FILE")->required(false); // CLI11 takes the first of them as NAME even with --unused
     command.footer("uses NAME FILE... or uses --unused FILE...");
 }
 

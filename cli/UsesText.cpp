@@ -69,7 +69,7 @@ std::string TitleOfRoom(NODX201::VOdxElement const* room) {
     return room != nullptr ? "In " + TagTextOf(*room) + " " + ShownName(*room) : "Elsewhere";
 }
 
-/// What has a short name on the way to a reference from the layer or document that it stands in.
+/// The elements with short names between the layer or document and a reference.
 std::string PathInside(NODX201::VOdxElement const* room, NODX201::VLink const& reference) {
     std::string path;
     for (NODX201::VOdxObject const* owner = reference.GetOwner(); owner != nullptr; owner = owner->GetOwner()) {

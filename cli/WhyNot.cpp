@@ -69,7 +69,7 @@ NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways) {
     };
     return *std::min_element(ways.begin(), ways.end(), [&](NDIAGKIT::VWay const& left, NDIAGKIT::VWay const& right) {
         auto const rank = [&](NDIAGKIT::VWay const& way) {
-            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // what ODX forbids says least
+            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // forbidden ways are last
         };
         return rank(left) < rank(right);
     });

@@ -12,7 +12,7 @@ namespace NCli {
 /// the one that the way leads to.
 std::string FateOf(NDIAGKIT::VWay const& way, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind);
 
-/// Of ways that all end before the layer, the one that comes nearest to it; the first of several.
+/// Of ways that all end before the layer, the one that ends nearest to it; the first of several.
 NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways);
 
 /// For the end of a message that a name is not visible in a layer: what stops it on its way there, and the call that

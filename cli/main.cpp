@@ -66,7 +66,7 @@ VStatus RunCommand(CLI::App const& program, VArguments const& arguments, VOutput
     return row->run(arguments, output);
 }
 
-/// The options of the command that is called, or of the program without one.
+/// The options of the given command, or of the program without one.
 std::vector<std::string> OptionsOf(CLI::App const& program) {
     auto const commands = program.get_subcommands();
     CLI::App const& called = commands.empty() ? program : *commands.front();
@@ -86,7 +86,7 @@ bool IsOptionOfACommand(CLI::App const& program, std::string const& word) {
     });
 }
 
-/// What CLI11 says, where it is about how many values an option has, in this program's words.
+/// An error of CLI11 about the number of values of an option, in this program's words.
 std::string ValueMessage(CLI::ParseError const& error) {
     std::string const text = error.what();
     bool const isAboutCount = dynamic_cast<CLI::ArgumentMismatch const*>(&error) != nullptr;
@@ -100,7 +100,7 @@ std::string ValueMessage(CLI::ParseError const& error) {
     return Shown(std::string_view(text));
 }
 
-/// What is wrong with a call that could not be understood, with near names for what may be misspelt in it.
+/// The message for a call with wrong usage, with near names for what may be misspelled in it.
 std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) {
     std::vector<std::string> const left = program.remaining(true);
     auto const parsed = program.get_subcommands();
@@ -127,13 +127,13 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
     CLI::App program("Answers questions about ODX 2.0.1 diagnostic data", "diagkit");
     VArguments arguments;
     Declare(program, arguments);
-    if (words == std::vector<std::string>{"--help-table"}) { // for packaging/generate, so --help keeps silent about it
+    if (words == std::vector<std::string>{"--help-table"}) { // for packaging/generate, so --help does not mention it
         WriteHelpTable(program, arguments, output);
         return VStatus::Done;
     }
     try {
         words = CommandFirst(std::move(words), program);
-        std::reverse(words.begin(), words.end()); // CLI11 takes the last word first
+        std::reverse(words.begin(), words.end()); // CLI11 expects the words in reverse order
         program.parse(std::move(words));
     } catch (CLI::CallForHelp const&) {
         output.Write(program.help());
@@ -148,7 +148,7 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
     return RunCommand(program, arguments, output);
 }
 
-/// The call with a message for whatever ends it before its time, but for a lack of memory.
+/// Runs the call, with a message for every exception except a lack of memory.
 VStatus RunAndTell(int count, char** words, VOutput& output) {
     try {
         PreparePlatform();
@@ -167,7 +167,7 @@ int Main(int count, char** words) {
     try {
         status = RunAndTell(count, words, output);
         status = output.Finish() ? status : VStatus::Unreadable;
-    } catch (std::bad_alloc const&) { // messages may take memory, too
+    } catch (std::bad_alloc const&) { // messages may need memory, too
         output.ComplainOfNoMemory();
         status = VStatus::Unreadable;
     }

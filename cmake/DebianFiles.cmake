@@ -1,4 +1,4 @@
-# Run by CPack before it makes a package: turns what is installed into what Debian's policy asks of a package.
+# Run by CPack before it makes a package: changes the installed files as Debian's policy requires for a package.
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
@@ -33,7 +33,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     foreach(page ${pages})
         gzip(${page})
     endforeach()
-    # Packages find their libraries without being told where.
+    # Packages find their libraries without a run path.
     file(GLOB programs ${root}/bin/*)
     foreach(program ${programs})
         file(RPATH_REMOVE FILE ${program})

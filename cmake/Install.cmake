@@ -1,8 +1,8 @@
-# What `cmake --install` puts where, in three components: Library (what programs need to run), Development (what it
-# takes to build them) and Program.
+# Installation by `cmake --install`, in three components: Library (required to run programs), Development (required to
+# build them) and Program.
 
 # Debian has a folder of libraries for each architecture, below /usr/local as below /usr, and looks for them in both.
-# One build then serves packages and prefixes alike; -DCMAKE_INSTALL_LIBDIR=lib says otherwise.
+# One build then works for packages and for prefixes; -DCMAKE_INSTALL_LIBDIR=lib overrides this.
 if(PROJECT_IS_TOP_LEVEL AND EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
     set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of libraries below the prefix")
 endif()
@@ -19,11 +19,11 @@ install(FILES ${DIAGKIT_INCLUDE_DIR}/diagkit/Export.h ${DIAGKIT_INCLUDE_DIR}/dia
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/diagkit)
 
-# What is installed is built by this target; ./run and scripts/package ask for it.
+# This target builds everything that is installed; ./run and scripts/package use it.
 add_custom_target(diagkit_products)
 
-# Targets are called diagkit::NAME here as there. The export sets are those of the headers' dependencies: a program that
-# reads no files needs neither expat nor libzip.
+# Targets are called diagkit::NAME both here and where they are installed. The export sets follow the dependencies of
+# the headers: a program that reads no files needs neither expat nor libzip.
 function(diagkit_install_targets export)
     foreach(target ${ARGN})
         string(REPLACE "diagkit_" "" name ${target})
@@ -38,7 +38,7 @@ function(diagkit_install_targets export)
     install(EXPORT ${export} NAMESPACE diagkit:: DESTINATION ${package_dir} COMPONENT Development)
 endfunction()
 
-# A library has a file for pkg-config, too. REQUIRES of an archive are all that it needs, since it is linked statically.
+# A library also has a file for pkg-config. REQUIRES of an archive has all dependencies, since it is linked statically.
 function(diagkit_install_pkgconfig name library description requires)
     set(from_file ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
@@ -81,7 +81,7 @@ install(FILES ${PROJECT_BINARY_DIR}/cmake/diagkitConfig.cmake ${PROJECT_BINARY_D
 
 if(TARGET diagkit_cli)
     if(UNIX AND NOT APPLE)
-        # Found wherever the prefix is moved to.
+        # Works wherever the prefix is moved to.
         file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
         set_target_properties(diagkit_cli PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
     endif()

@@ -2,7 +2,7 @@
 # `scripts/package` runs it over the build of ./run.
 set(CPACK_PACKAGE_NAME diagkit)
 set(CPACK_PACKAGE_VENDOR diagkit)
-# An address that reaches nobody, until whoever makes packages says theirs; see scripts/package.
+# A placeholder address, replaced by that of the person who makes packages; see scripts/package.
 set(CPACK_PACKAGE_CONTACT "diagkit contributors <contributors@diagkit.invalid>")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)

@@ -9,12 +9,12 @@ using NDIAGKIT::VContained;
 
 namespace {
 
-/// Collects the ways out of one container. Its parameters are no steps of their own.
+/// Collects the ways out of one container. Its parameters are not steps of their own.
 class VWaysOut : public NDIAGKIT::VContainment {
 public:
     explicit VWaysOut(VFollow follow) : m_follow(follow) {}
 
-    /// The references that lead out, and what stands inside.
+    /// The references that lead out, and the elements inside.
     std::vector<VContained> Of(NODX201::VReferencable& container) {
         if (auto* const params = ParamsOf(container)) {
             for (NODX201::VParam& param : *params) {
@@ -63,7 +63,7 @@ private:
         if (m_ways.size() == before) {
             return;
         }
-        // A TABLE-STRUCT and its TABLE-KEY lead to the same.
+        // A TABLE-STRUCT and its TABLE-KEY have the same target.
         if (m_seen.insert(m_ways.back().GetReference()).second) {
             m_tableWays.push_back(m_ways.back());
         }
@@ -71,7 +71,7 @@ private:
     }
 
     VFollow m_follow;
-    VDopsById m_none; // what leads to parameters needs none
+    VDopsById m_none; // ways to parameters need none
     std::vector<VContained> m_ways;
     std::vector<VContained> m_tableWays;
     VLinks m_seen;

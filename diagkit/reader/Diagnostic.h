@@ -12,10 +12,10 @@ enum class VSeverity { Warning, Error };
 /// A kind of diagnostic.
 struct VCode {
     char const* code;   ///< stable, such as "unresolved-reference"
-    VSeverity severity; ///< of most of the kind; the diagnostic itself decides
+    VSeverity severity; ///< of most of the kind; a single diagnostic may differ
     char const* title;  ///< one line
 
-    /// The kind with the severity that one of it has.
+    /// The kind with the severity of one diagnostic.
     constexpr VCode As(VSeverity one) const { return {code, one, title}; }
 };
 

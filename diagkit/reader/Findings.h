@@ -13,10 +13,10 @@
 
 namespace NReader {
 
-/// Bytes of a message; nobody reads more.
+/// Bytes of a message; longer ones are of no use to readers.
 inline constexpr std::size_t kLongestMessage = 2000;
 
-/// The message, cut off where it is longer: it may quote a text of many megabytes.
+/// The message, truncated where it is longer: it may quote a text of many megabytes.
 std::string Clipped(std::string message);
 
 /// The diagnostics of one reading, while they are collected: so many errors and so many warnings as the limit says. The

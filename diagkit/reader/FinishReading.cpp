@@ -55,7 +55,7 @@ std::string PlaceOf(VReading const& reading, NODX201::VReferencable const& eleme
     return reading.database->GetDocumentName(position) + ':' + std::to_string(position.line);
 }
 
-/// Several documents or layers bear the name in the DOCREF of a reference, and more than one has what it refers to.
+/// Several documents or layers have the name in the DOCREF of a reference, and more than one has a matching target.
 void ReportDoubt(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference,
                  NMemory::VDoubt const& doubt) {
     if (doubt.other == nullptr) {
@@ -70,7 +70,7 @@ void ReportDoubt(VReading& reading, NMemory::VMemNode const& node, NODX201::VLin
 
 using VReplaced = std::unordered_map<NODX201::VOdxElement*, NODX201::VOdxElement*>;
 
-/// Puts the elements that took the place of others into the list of all.
+/// Replaces elements in the list of all by those that took their place.
 void Replace(std::vector<NODX201::VOdxElement*>& elements, VReplaced const& replaced) {
     for (NODX201::VOdxElement*& element : elements) {
         if (auto const found = replaced.find(element); found != replaced.end()) {
@@ -116,7 +116,7 @@ void ReportReferences(VReading& reading) {
     }
 }
 
-/// References name documents by their short names.
+/// Repeated names are reported because references name documents by their short names.
 void ReportRepeatedDocuments(VReading& reading) {
     std::map<std::pair<NMemory::Tag, std::wstring_view>, NODX201::VReferencable*> firsts;
     auto const see = [&](auto& documents) {

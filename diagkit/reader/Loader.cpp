@@ -18,7 +18,7 @@ bool IsNumber(std::string_view text) {
 }
 
 bool IsBlank(std::string_view text) {
-    // Between elements stand many blanks in a row.
+    // There are many blanks in a row between elements.
     constexpr std::string_view kEight = "        ";
     while (text.size() >= kEight.size() && std::memcmp(text.data(), kEight.data(), kEight.size()) == 0) {
         text.remove_prefix(kEight.size());
@@ -67,7 +67,7 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
         char const* const value = attributes.Find(kNames[index]);
         m_reference[index].clear();
         AppendFromUtf8(m_reference[index], value != nullptr ? value : "");
-        Trim(m_reference[index]); // as the IDs and short names that it names are
+        Trim(m_reference[index]); // like the IDs and short names of their targets
     }
     if (m_reference[0].empty()) {
         Report(NCode::MissingAttribute, Quoted(m_opening) + " has no ID-REF");
@@ -223,7 +223,7 @@ void VLoader::Open(VAttributes const& attributes, VRow const& row, void* owner) 
     ReadAttributes(m_frames.back(), attributes);
 }
 
-/// What the xsi:type says; null, and reported, when the element has none such, and null where it is not looked at.
+/// The xsi:type; null, and reported, when the element has no such type, and null where it is not read.
 VKind const* VLoader::ReadKind(VElementType const& type, VAttributes const& attributes) {
     if (type.kinds.empty()) {
         return nullptr;

@@ -71,7 +71,7 @@ std::string InferType(std::string_view name, VAttributes const& attributes,
         char const* type;
     };
     bool const hasDop = has("DOP-REF") || has("DOP-SNREF");
-    // The first rule that fits decides.
+    // The first matching rule applies.
     VRule const rules[] = {
         {has("REQUEST-BYTE-POS"), "MATCHING-REQUEST-PARAM"},
         {has("TARGET"), "TABLE-ENTRY"},

@@ -102,7 +102,7 @@ TEST_F(VCycleFindingsTest, TableOfStructuresWithoutTablesIsNone) {
 }
 
 TEST_F(VCycleFindingsTest, TableThatAShortNameClosesInOneLayerOnly) {
-    // The row's structure holds "X", which is a plain DOP in the first variant and leads to the table in the second.
+    // The row's structure contains "X", which is a plain DOP in the first variant and leads to the table in the second.
     std::string const shared = InDictionary(Structure("S", Value("P", "\n<DOP-SNREF SHORT-NAME=\"X\"/>")) + Table("S"));
     std::string const parents = ParentRefs({{"BASE-VARIANT", "B"}});
     Check(LayerXml("BASE-VARIANT", "B", shared) + LayerXml("ECU-VARIANT", "V1", InDictionary(Dops("X")) + parents) +
@@ -158,13 +158,13 @@ TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenOnceForTheLayersWithIt) {
     m_container.AddEcuVariant(L"V1").AddParentRef(base);
     auto& other = m_container.AddEcuVariant(L"V2");
     other.AddParentRef(base);
-    other.MakeDiagDataDictionarySpec().AddStructure(L"S"); // what the name means there
+    other.MakeDiagDataDictionarySpec().AddStructure(L"S"); // the target of the name there
     std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(m_database);
     ASSERT_EQ(cycles.size(), 1U);
     EXPECT_EQ(Names(cycles[0]), L"S in B V1");
 }
 
-/// Whether a walk from a structure that leaves out these references comes back to where it is.
+/// Whether a walk from a structure that leaves out these references returns to an element it is inside.
 bool ComesBack(NODX201::VStructure& structure, NODX201::VDiagLayer& layer,
                std::set<NODX201::VLink const*> const& leftOut, std::set<NODX201::VDopBase const*>& above) {
     if (!above.insert(&structure).second) {

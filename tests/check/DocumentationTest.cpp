@@ -46,7 +46,7 @@ std::map<std::string, VEntry> ReadEntries() {
     return entries;
 }
 
-/// What the example stands in, by the word that the documentation has for it.
+/// The element around the example, by the word for it in the documentation.
 std::string Wrapped(VEntry const& entry) {
     static std::map<std::string, std::string (*)(std::string_view, std::string_view)> const wrappers{
         {"DIAG-LAYER-CONTAINER",
@@ -67,7 +67,7 @@ std::string BaseVariantIn(std::string const& container) {
 
 class VDocumentationTest : public VCheckTest {
 protected:
-    /// The codes of what is found, with their severities.
+    /// The codes of the findings, with their severities.
     std::set<std::string> Found() const {
         std::set<std::string> found;
         for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
@@ -76,7 +76,7 @@ protected:
         return found;
     }
 
-    /// Makes what a document alone cannot show; false for a code that a document can.
+    /// Makes a case that a document alone cannot show; false for a code that a document can show.
     bool ReadSpecial(std::string const& code) {
         std::string const good = Layer("");
         if (code == "empty") {
@@ -149,7 +149,7 @@ TEST_F(VDocumentationTest, EveryExampleGivesItsCodeAndNoOther) {
         }
         std::set<std::string> found = Found();
         if (code == "contradicting-type") {
-            found.erase("missing-child error"); // what the type that is written has, and what the example leaves out
+            found.erase("missing-child error"); // required by the type that is written, and left out of the example
         }
         EXPECT_EQ(found, std::set<std::string>{code + ' ' + entry.severity}) << Diagnostics();
     }

@@ -27,7 +27,7 @@ TEST_F(VLayerReferencesTest, SameParentTwice) {
 }
 
 TEST_F(VLayerReferencesTest, SameParentTwiceBringsWhatOneOfThemExcludes) {
-    // What the message says is what the view does.
+    // The message describes what the view does.
     Check(LayerXml("BASE-VARIANT", "B", DiagComms(Service("S"))) +
           LayerXml("ECU-VARIANT", "V", ParentRefs({{"BASE-VARIANT", "B", Excluded("S")}, {"BASE-VARIANT", "B"}})) +
           LayerXml("ECU-VARIANT", "W", ParentRefs({{"BASE-VARIANT", "B", Excluded("S")}})));

@@ -20,7 +20,7 @@ protected:
               LayerXml("ECU-VARIANT", "V2", second + parents));
     }
 
-    /// A layer with this content besides a service "S" with the output parameter "P".
+    /// A layer with this content in addition to a service "S" with the output parameter "P".
     void CheckLayer(std::string const& content) {
         Check(LayerXml("ECU-VARIANT", "V",
                        InDictionary(Dops("D")) + WithRequest(Value("P", "<DOP-SNREF SHORT-NAME=\"D\"/>")) + content));
@@ -466,7 +466,7 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsToWhichNothingLeadsAreLeftAlone) 
     EXPECT_EQ(Diagnostics(), "");
 }
 
-/// A MULTIPLE-ECU-JOB-SPEC whose job runs in this layer and gives a structure with a parameter of this DOP.
+/// A MULTIPLE-ECU-JOB-SPEC whose job runs in this layer and returns a structure with a parameter of this DOP.
 std::string JobSpec(std::string const& dop, std::string const& layer, std::string const& param = "Out") {
     std::string const job =
         Xml("MULTIPLE-ECU-JOB", "MJ",

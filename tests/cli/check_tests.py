@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Tests of `diagkit check` in a CI job: what counts, what was there before, and answers that are whole.
+"""Tests of `diagkit check` in a CI job: what counts, what was there before, and complete answers.
 
     check_tests.py PROGRAM...
 """
@@ -16,7 +16,7 @@ FILES = ["faulty.odx-d", "warned.odx-d"]
 
 
 def findings(*arguments):
-    """Status, and the codes of what is found in the files."""
+    """Status, and the codes of the findings in the files."""
     done = run("check", *FILES, "--json", *arguments)
     return done.returncode, [finding["code"] for finding in json.loads(done.stdout)["diagnostics"]]
 

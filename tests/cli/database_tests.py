@@ -19,7 +19,7 @@ from program import DATA, SAMPLE, main, run
 
 class Traversing(unittest.TestCase):
     def calls_of(self, *arguments):
-        """The hook calls of a walk, each held against those around it."""
+        """The hook calls of a walk, each checked against those around it."""
         done = run("traverse", "--json", *arguments)
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         calls = [json.loads(line) for line in done.stdout.splitlines()]
@@ -67,7 +67,7 @@ class Traversing(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             path = self.write_related(folder, [range(count)] * count)
             calls = self.calls_of("--quiet", path, "--layer", "P")
-        # Ways of so many steps without a repetition; at the end of each, as many references lead back into it.
+        # Ways of n steps without a repetition; at the end of each, as many references lead back into it.
         ways = {steps: math.perm(count, steps) for steps in range(1, count + 1)}
         events = collections.Counter(call["event"] for call in calls)
         self.assertEqual(events["pre"], 1 + sum(ways.values()))
@@ -86,7 +86,7 @@ class Traversing(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             path = self.write_related(folder, [[number + 1] for number in range(count - 1)] + [[]])
             lines = run("traverse", "--quiet", path, "--layer", "P").stdout.splitlines()
-        # The layer, the first service at depth 1, the one that it names at depth 2, and so on.
+        # The layer, the first service at depth 1, the one that it refers to at depth 2, and so on.
         self.assertEqual(lines[1:3], ["  DIAG-SERVICE S0", "    DIAG-SERVICE S1"])
         self.assertEqual(lines[100], 200 * " " + "DIAG-SERVICE S99")
         self.assertEqual(lines[101], 200 * " " + "[101] DIAG-SERVICE S100")
@@ -105,7 +105,7 @@ class Traversing(unittest.TestCase):
 
 class DeepNesting(unittest.TestCase):
     def ask(self, depth):
-        """Looks for a parameter behind so many structures, each inside the one before."""
+        """Looks for a parameter below n structures, each inside the previous one."""
         structures = "".join(
             f'<STRUCTURE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME><PARAMS><PARAM xsi:type="VALUE">'
             f'<SHORT-NAME>P{number}</SHORT-NAME><DOP-REF ID-REF="S{number + 1}"/></PARAM></PARAMS></STRUCTURE>'

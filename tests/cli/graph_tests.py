@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Pictures of inheritance that Graphviz lays out, and what is said when it cannot.
+"""Pictures of inheritance drawn by Graphviz, and the messages when it fails.
 
     graph_tests.py PROGRAM...
 
-Graphviz is what a folder of PATH has under the name `dot`, so most tests bring a program of that name themselves.
+Graphviz is the program `dot` in a folder of PATH, so most tests provide a program of that name themselves.
 """
 
 import os
@@ -21,7 +21,7 @@ from program import DATA, IS_POSIX, SAMPLE, is_for_windows, main, run
 SVG = "{http://www.w3.org/2000/svg}"
 MISSING = ("diagkit: SVG output requires the program 'dot' of Graphviz, which is not in PATH; install it, or use --format "
            "dot or --format mermaid\n")
-LONGEST = 60  # seconds; who waits for the other waits for ever
+LONGEST = 60  # seconds; a deadlock would last for ever
 
 
 def document(layers):

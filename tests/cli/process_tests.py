@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Tests of diagkit that need more than a call and its answer: help, long lists, full disks, folders, terminals.
+"""Tests of diagkit that need more than a call and its output: help, long lists, full disks, folders, terminals.
 
     process_tests.py PROGRAM...
 """
@@ -234,7 +234,7 @@ class Writing(unittest.TestCase):
     )
 
     def answering_calls(self):
-        """The calls with an answer, and those as JSON; --quiet, which must not silence what is wrong with writing."""
+        """The calls with output, and those as JSON; with --quiet, which must not silence errors of writing."""
         for call in self.CALLS:
             if call[-1].startswith("--"):
                 yield call
@@ -275,7 +275,7 @@ class Writing(unittest.TestCase):
             call = ("traverse", "--json", "gates.odx-d", "--layer", "Door")
             done = run(*call, stdout=inner, restore_signals=keeps_signal)
             os.close(inner)
-            if keeps_signal and not is_for_windows():  # as of every program in a pipeline; Windows has no signal
+            if keeps_signal and not is_for_windows():  # as for every program in a pipeline; Windows has no signal
                 self.assertEqual((done.returncode, done.stderr), (-signal.SIGPIPE, ""))
             else:  # also where the signal is ignored, as the interpreter of these tests does
                 self.assertEqual(done.returncode, 3)
@@ -296,7 +296,7 @@ class Writing(unittest.TestCase):
 
 
 class Steering(unittest.TestCase):
-    """Characters that steer a terminal or turn the direction of text."""
+    """Characters that control a terminal or change the direction of text."""
 
     TURNING = "\u061c\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069"
     CONTROLS = "\x1b\x7f\x80\x85\x9b\x9f"
@@ -304,7 +304,7 @@ class Steering(unittest.TestCase):
     ALL = CONTROLS + SEPARATORS + TURNING
 
     def ask_for(self, name):
-        """The raw name of an answer that nothing of the name is there, and the whole answer."""
+        """The raw name in a message that nothing of the name is there, and the whole message."""
         done = run("resolve", "dop", name, "signals.odx-d", "--layer", "LampLeft", "--json", "--quiet")
         self.assertEqual(done.returncode, 1)
         return re.search(r'"name": "(.*)"', done.stdout)[1], json.loads(done.stdout)
@@ -354,7 +354,7 @@ class Steering(unittest.TestCase):
     def test_json_replaces_bytes_that_are_not_utf8(self):
         if is_for_windows():
             self.skipTest("arguments are UTF-16")
-        # Lone and missing continuations, too long spellings, surrogates, values beyond Unicode.
+        # Lone and missing continuations, overlong forms, surrogates, values beyond Unicode.
         pieces = (b"\x80", b"\xbf\xbf", b"\xc3", b"\xe2\x82", b"\xe2\x28\xa1", b"\xf0\x9f\x98", b"\xf0\x28\x8c\xbc",
                   b"\xc0\xaf", b"\xc1\xbf", b"\xe0\x9f\x80", b"\xf0\x8f\xbf\xbf", b"\xed\xa0\x80", b"\xf4\x90\x80\x80",
                   b"\xf5\x80", b"\xff")
@@ -482,7 +482,7 @@ class Terminals(unittest.TestCase):
             self.skipTest("Wine draws a console on the terminal itself")
 
     def run_on_terminal(self, *arguments, **environment):
-        """What a call writes when both its output streams are one terminal."""
+        """The output of a call whose output streams are both the same terminal."""
         import pty
 
         outer, inner = pty.openpty()

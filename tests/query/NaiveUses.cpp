@@ -17,8 +17,8 @@ bool Has(VView const& view, std::string const& name) {
     return std::any_of(view.begin(), view.end(), [&](VNaiveElement const* entry) { return entry->name == name; });
 }
 
-/// What is visible in a layer: its own, then what its structural parents bring, then what libraries bring; the first of
-/// a name counts.
+/// The elements visible in a layer: its own, then those of its structural parents, then those of libraries; the first
+/// of a name counts.
 VView ViewOf(VNaiveDatabase const& database, std::size_t layer, bool isOfServices) {
     VNaiveLayer const& here = database.layers[layer];
     VView view;
@@ -41,7 +41,7 @@ VView ViewOf(VNaiveDatabase const& database, std::size_t layer, bool isOfService
     return view;
 }
 
-/// The ID of what a name means; "" for nothing.
+/// The ID of a name's target; "" for none.
 std::string MeaningIn(VView const& view, std::string const& name) {
     for (VNaiveElement const* const entry : view) {
         if (entry->name == name) {
@@ -80,8 +80,8 @@ VIds ReadIn(VNaiveDatabase const& database, std::size_t layer, VView const& stru
     return read;
 }
 
-/// Calls `take(layer, holder, reference, tag, isOfServices)` with everything that refers, in document order; the holder
-/// is null where that is the layer itself.
+/// Calls `take(layer, holder, reference, tag, isOfServices)` with every reference, in document order; the holder is
+/// null where it is the layer itself.
 void ForEachReference(VNaiveDatabase const& database,
                       std::function<void(std::size_t, VNaiveElement const*, VNaiveReference const&, std::string const&,
                                          bool)> const& take) {
@@ -250,7 +250,7 @@ std::string VNaiveDatabase::Unused() const {
     std::vector<VSeen> const seen = SeenInEach(*this);
     std::string unused;
     for (std::string const& id : Ids()) {
-        bool isUsed = id.front() == 'S'; // services are of no kind that may be unused
+        bool isUsed = id.front() == 'S'; // services are of a kind that is never reported as unused
         ForEachReference(*this, [&](std::size_t layer, VNaiveElement const* holder, VNaiveReference const& reference,
                                     std::string const&, bool isOfServices) {
             if (holder != nullptr && holder->id == id) {

@@ -132,7 +132,7 @@ TEST_F(VHostilePackagesTest, PackagesInsidePackagesAreNotOpened) {
     ReadBytes(ZipOf({{"inner.pdx", inner}, {"a.odx", Named("A")}}));
     EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "");
-    ReadBytes(ZipOf({{"inner.odx", inner}, {"a.odx", Named("A")}})); // named like a document, it is no XML
+    ReadBytes(ZipOf({{"inner.odx", inner}, {"a.odx", Named("A")}})); // named like a document, but not XML
     EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "a.pdx!inner.odx:1:3 error not-xml");
 }

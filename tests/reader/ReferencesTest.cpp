@@ -9,7 +9,7 @@ namespace {
 
 class VReferencesTest : public VReaderTest {
 protected:
-    /// Where the REQUEST-REF of the service with this ID leads: the short names of the request and its layer.
+    /// The target of the REQUEST-REF of the service with this ID: the short names of the request and its layer.
     std::wstring RequestOf(wchar_t const* service) {
         NODX201::VRequestLink& link = Get<NODX201::VDiagService>(service).GetRequestRef();
         if (!link.HasRequest()) {
@@ -40,7 +40,7 @@ std::string LayerOfKind(std::string const& kind, std::string const& id, std::str
            "><SHORT-NAME>" + id + "</SHORT-NAME>" + content + "</" + kind + "></" + kind + "S>";
 }
 
-/// A document with a container and a layer in it, with the request RQ in the layer under a name that tells which.
+/// A document with a container and a layer in it, with the request RQ in the layer under a name that identifies it.
 std::string Exported(std::string const& container, std::string const& layer, std::string const& services = "",
                      std::string const& rest = "") {
     return "<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"ID." + container + "\"><SHORT-NAME>" + container +
@@ -190,7 +190,7 @@ TEST_F(VReferencesTest, LayerIsInItsOwnScopeAndItsIdResolves) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
-// What is wrong with references
+// Faulty references
 
 TEST_F(VReferencesTest, UnresolvedReferenceIsOneErrorAtTheReference) {
     Read(Layer("<DIAG-COMMS>\n  " + Service("S", "ID-REF=\"gone\" DOCREF=\"Far\"") + "</DIAG-COMMS>"));
@@ -281,7 +281,7 @@ TEST_F(VReferencesTest, ElementsWithoutIdAreNotFoundAndNotDuplicates) {
     Read(Layer("<REQUESTS><REQUEST ID=\"\"><SHORT-NAME>A</SHORT-NAME><PARAMS/></REQUEST>"
                "<REQUEST><SHORT-NAME>B</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>",
                "2.2.0"));
-    EXPECT_EQ(Diagnostics(), "test.odx:2:11 error missing-attribute"); // of the one that is there
+    EXPECT_EQ(Diagnostics(), "test.odx:2:11 error missing-attribute"); // of the one that is present
     EXPECT_EQ(Count(L"REQUEST"), 2U);
 }
 
@@ -377,7 +377,7 @@ TEST_F(VReferencesTest, ParentsThatOdxDoesNotAllowAreReported) {
     for (auto const& row : kRows) {
         for (std::string const parent :
              {"PROTOCOL", "FUNCTIONAL-GROUP", "BASE-VARIANT", "ECU-VARIANT", "ECU-SHARED-DATA"}) {
-            // Of a later version, which asks for no required parts; the parent's kind shows from the target.
+            // Of a later version, in which no parts are required; the parent's kind follows from the target.
             std::string both =
                 LayerOfKind(parent, "Above", "") +
                 LayerOfKind(row.layer, "Below", "<PARENT-REFS>\n<PARENT-REF ID-REF=\"Above\"/></PARENT-REFS>");

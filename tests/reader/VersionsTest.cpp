@@ -3,7 +3,7 @@
 
 #include "reader/ReaderTest.h"
 
-/// Documents of all versions, with categories and elements that the reader does not know.
+/// Documents of all versions, with categories and elements unknown to the reader.
 
 namespace NTest {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The choices of the traversers that look like mistakes and are none.
+// The choices of the traversers that look like mistakes but are intentional.
 
 #include <stdexcept>
 
@@ -11,7 +11,7 @@ namespace {
 
 using AsymmetriesTest = VTraverserTest;
 
-/// Writes down the DIAG-COMMs that it enters and leaves, with the current DIAG-COMM.
+/// Records the DIAG-COMMs that it enters and leaves, with the current DIAG-COMM.
 class VCurrentRecorder : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -80,7 +80,7 @@ TEST_F(AsymmetriesTest, CurrentDiagCommIsNullAfterANestedDiagComm) {
         )"));
 }
 
-/// Tells its current DIAG-COMM, and leaves a walk by an exception where a hook is told to.
+/// Reports its current DIAG-COMM, and leaves a walk by an exception where a hook is set to do so.
 class VLeaving : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -255,7 +255,7 @@ TEST_F(AsymmetriesTest, OnlyReferencesToDopsOfAnyKindAreDispatched) {
     EXPECT_EQ(dispatched.m_dispatched, 1u);
 }
 
-/// Changes every text that its hooks receive, and writes down what they are given.
+/// Changes every text that its hooks receive, and records the received texts.
 class VTextChanger : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -319,7 +319,7 @@ TEST_F(AsymmetriesTest, ADictionaryTraverserHasNoCurrentDiagCommAndFollowsNoPara
     EXPECT_EQ(traverser.CurrentDiagComm(), nullptr);
 }
 
-/// Leaves out the children of structures, and DTC-DOPs with all that belongs to them.
+/// Leaves out the children of structures, and DTC-DOPs with all their parts.
 class VSkipping : public VRecorder {
 public:
     using VRecorder::VRecorder;
