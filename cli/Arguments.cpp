@@ -66,7 +66,7 @@ constexpr VLimitRow kLimits[] = {
     {"--max-attributes",   &NReader::VReadLimits::maxAttributes,  false, "Attributes of an element"},
     {"--max-tag-size",     &NReader::VReadLimits::maxTagSize,     true,  "Of a tag or comment"},
     {"--max-text-size",    &NReader::VReadLimits::maxTextSize,    true,  "Of the text of an element"},
-    {"--max-diagnostics",  &NReader::VReadLimits::maxDiagnostics, false, "Errors, and as many warnings, that are told"},
+    {"--max-diagnostics",  &NReader::VReadLimits::maxDiagnostics, false, "Errors, and as many warnings and notes, that are told"},
 };
 // clang-format on
 
@@ -103,10 +103,12 @@ void DeclareFiles(CLI::App& command, VArguments& arguments) {
                     "ODX documents, PDX packages and folders of them; together they form one database")
         ->required()
         ->type_name("");
-    DeclareLimits(command, arguments);
+    DeclareReading(command, arguments);
 }
 
-void DeclareLimits(CLI::App& command, VArguments& arguments) {
+void DeclareReading(CLI::App& command, VArguments& arguments) {
+    command.add_flag("--verbose", arguments.readOptions.tellsEachReference,
+                     "Tell each reference into a document that is not loaded, not only how many there are");
     for (VLimitRow const& row : kLimits) {
         std::uint64_t& limit = arguments.readOptions.*row.limit;
         CLI::Option& option = row.isSize ? DeclareSize(command, row.name, limit, row.help)

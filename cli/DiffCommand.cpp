@@ -277,7 +277,7 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
     ignore->delimiter(',')->allow_extra_args(false)->check(CLI::IsMember(words))->type_name("WHAT");
     arguments.choices[ignore] = words;
     command.add_flag("--ids", arguments.comparesIds, "Other IDs are a difference, too");
-    DeclareLimits(command, arguments);
+    DeclareReading(command, arguments);
 }
 
 VStatus RunDiff(VArguments const& arguments, VOutput& output) {

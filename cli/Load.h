@@ -19,6 +19,7 @@ VStatus LoadElements(VArguments const& arguments, VOutput const& output, NReader
 VStatus LoadToCheck(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result);
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever the data holds
+std::size_t CountOf(NReader::VSeverity severity, std::vector<NReader::VDiagnostic> const& diagnostics);
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
 
 } // namespace NCli
