@@ -23,8 +23,8 @@ namespace {
 class VFingerprint {
 public:
     /// Nothing for a request without a constant.
-    static std::optional<std::wstring> Of(NODX201::VRequest& request) {
-        VLayout const layout = VLayouts().LayoutOf(request);
+    static std::optional<std::wstring> Of(NODX201::VRequest& request, VLayouts& layouts) {
+        VLayout const layout = layouts.LayoutOf(request);
         VFingerprint fingerprint;
         for (VPlacedParam const& param : layout.params) {
             fingerprint.Take(param);
@@ -148,7 +148,7 @@ private:
         }
         auto const [request, isNewRequest] = m_requests.try_emplace(&RequestOf(service));
         if (isNewRequest) {
-            auto const fingerprint = VFingerprint::Of(RequestOf(service));
+            auto const fingerprint = VFingerprint::Of(RequestOf(service), m_layouts);
             request->second = fingerprint.has_value() ? std::optional(NumberOf(*fingerprint)) : std::nullopt;
         }
         if (request->second.has_value()) {
@@ -199,6 +199,7 @@ private:
     }
 
     VFindings& m_findings;
+    VLayouts m_layouts;
     std::unordered_map<NODX201::VDiagService*, std::optional<VKind>> m_kinds;
     std::unordered_map<NODX201::VRequest*, std::optional<VKind>> m_requests;
     std::map<std::wstring, std::size_t> m_numbers;

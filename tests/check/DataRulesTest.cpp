@@ -95,14 +95,23 @@ TEST_F(VDataRulesTest, LengthsThatABaseTypeCannotHave) {
         char const* bitLength;
         bool fits;
     } const rows[] = {
-        {"A_UINT32", "1", true},          {"A_UINT32", "0", false},
-        {"A_INT32", "64", true},          {"A_INT32", "65", false},
-        {"A_FLOAT32", "32", true},        {"A_FLOAT32", "64", false},
-        {"A_FLOAT64", "64", true},        {"A_FLOAT64", "32", false},
-        {"A_BYTEFIELD", "24", true},      {"A_BYTEFIELD", "12", false},
-        {"A_ASCIISTRING", "8", true},     {"A_ASCIISTRING", "7", false},
-        {"A_UNICODE2STRING", "32", true}, {"A_UNICODE2STRING", "8", false},
-        {"A_UTF8STRING", "9", false},     {"A_NEW", "0", true},
+        {"A_UINT32", "1", true},
+        {"A_UINT32", "0", false},
+        {"A_INT32", "64", true},
+        {"A_INT32", "65", false},
+        {"A_FLOAT32", "32", true},
+        {"A_FLOAT32", "64", false},
+        {"A_FLOAT32", "16", false},
+        {"A_FLOAT64", "64", true},
+        {"A_FLOAT64", "32", false},
+        {"A_BYTEFIELD", "24", true},
+        {"A_BYTEFIELD", "12", false},
+        {"A_ASCIISTRING", "8", true},
+        {"A_ASCIISTRING", "7", false},
+        {"A_UNICODE2STRING", "32", true},
+        {"A_UNICODE2STRING", "8", false},
+        {"A_UTF8STRING", "9", false},
+        {"A_NEW", "0", true},
     };
     for (auto const& row : rows) {
         CheckMethod("<CATEGORY>COMPUCODE</CATEGORY>", Coded(row.baseType, row.bitLength), "A_UINT32");
