@@ -80,7 +80,7 @@ constexpr VLimitRow kLimits[] = {
     {"--max-attributes",   &NReader::VReadLimits::maxAttributes,  false, "Attributes of an element"},
     {"--max-tag-size",     &NReader::VReadLimits::maxTagSize,     true,  "Size of a tag or comment"},
     {"--max-text-size",    &NReader::VReadLimits::maxTextSize,    true,  "Size of the text of an element"},
-    {"--max-diagnostics",  &NReader::VReadLimits::maxDiagnostics, false, "Errors, and as many warnings, to report"},
+    {"--max-diagnostics",  &NReader::VReadLimits::maxDiagnostics, false, "Errors, warnings and notes, of each, to report"},
 };
 // clang-format on
 
@@ -118,10 +118,12 @@ void DeclareFiles(CLI::App& command, VArguments& arguments) {
                     "ODX documents, PDX packages, or folders of them; together they form one database")
         ->required()
         ->type_name("");
-    DeclareLimits(command, arguments);
+    DeclareReading(command, arguments);
 }
 
-void DeclareLimits(CLI::App& command, VArguments& arguments) {
+void DeclareReading(CLI::App& command, VArguments& arguments) {
+    command.add_flag("--verbose", arguments.readOptions.tellsEachReference,
+                     "Report every reference into a document that is not loaded, not only their number");
     for (VLimitRow const& row : kLimits) {
         std::uint64_t& limit = arguments.readOptions.*row.limit;
         CLI::Option& option = row.isSize ? DeclareSize(command, row.name, limit, row.help)

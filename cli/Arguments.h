@@ -22,7 +22,7 @@ struct VArguments {
     bool isJson = false;
     bool isStrict = false;
     bool isQuiet = false;
-    NReader::VReadOptions readOptions; ///< the limits
+    NReader::VReadOptions readOptions; ///< the limits, and --verbose
 
     std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
     std::string name;                   ///< NAME of `resolve`, `explain` and `uses`
@@ -82,10 +82,10 @@ CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& co
 /// The options that select the subject of a command: each accepts a short name or an ID.
 void DeclareSelections(CLI::App& command, VArguments& arguments);
 
-/// FILE... and the limits of reading, for commands that work on a database.
+/// FILE... and how they are read, for commands that work on a database.
 void DeclareFiles(CLI::App& command, VArguments& arguments);
 
-/// The limits alone.
-void DeclareLimits(CLI::App& command, VArguments& arguments);
+/// How files are read alone: the limits, and how much is told.
+void DeclareReading(CLI::App& command, VArguments& arguments);
 
 } // namespace NCli

@@ -47,10 +47,9 @@ void WriteDiagnostic(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) 
 }
 
 void WriteAsJson(VJsonWriter& json, VDiagnostics const& diagnostics) {
-    std::size_t const errors = CountErrors(diagnostics);
     json.Object([&] {
-        json.Member("errors", errors);
-        json.Member("warnings", diagnostics.size() - errors);
+        json.Member("errors", CountErrors(diagnostics));
+        json.Member("warnings", CountOf(NReader::VSeverity::Warning, diagnostics));
         json.ArrayOf("diagnostics", diagnostics,
                      [&json](NReader::VDiagnostic const& diagnostic) { WriteDiagnostic(json, diagnostic); });
     });
@@ -60,9 +59,11 @@ void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
     for (NReader::VDiagnostic const& diagnostic : diagnostics) {
         output.Write(LineOf(diagnostic));
     }
-    std::size_t const errors = CountErrors(diagnostics);
+    std::size_t const warnings = CountOf(NReader::VSeverity::Warning, diagnostics);
+    std::size_t const notes = CountOf(NReader::VSeverity::Note, diagnostics);
     output.Write(diagnostics.empty() ? "" : "\n");
-    output.Write(fmt::format("{}, {}\n", Counted(errors, "error"), Counted(diagnostics.size() - errors, "warning")));
+    output.Write(fmt::format("{}, {}{}\n", Counted(CountErrors(diagnostics), "error"), Counted(warnings, "warning"),
+                             notes > 0 ? ", " + Counted(notes, "note") : ""));
 }
 
 VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
@@ -110,7 +111,8 @@ std::string WrongUsage(VArguments const& arguments) {
 }
 
 bool Fails(VArguments const& arguments, VDiagnostics const& diagnostics) {
-    return CountErrors(diagnostics) > 0 || (arguments.failOn == "warning" && !diagnostics.empty());
+    std::size_t const warnings = CountOf(NReader::VSeverity::Warning, diagnostics);
+    return CountErrors(diagnostics) > 0 || (arguments.failOn == "warning" && warnings > 0);
 }
 
 } // namespace

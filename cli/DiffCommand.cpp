@@ -279,7 +279,7 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
                                             "separate several with commas");
     DeclareOneOf(*ignore->delimiter(',')->allow_extra_args(false)->type_name("WHAT"), arguments, "word", words);
     command.add_flag("--ids", arguments.comparesIds, "Report different IDs as well");
-    DeclareLimits(command, arguments);
+    DeclareReading(command, arguments);
 }
 
 VStatus RunDiff(VArguments const& arguments, VOutput& output) {

@@ -57,11 +57,14 @@ VStatus LoadAndTell(VArguments const& arguments, bool keepsElements, VOutput con
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic) { return Shown(FormatDiagnostic(diagnostic)) + "\n"; }
 
-std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
+std::size_t CountOf(NReader::VSeverity severity, std::vector<NReader::VDiagnostic> const& diagnostics) {
     return static_cast<std::size_t>(
-        std::count_if(diagnostics.begin(), diagnostics.end(), [](NReader::VDiagnostic const& diagnostic) {
-            return diagnostic.severity == NReader::VSeverity::Error;
-        }));
+        std::count_if(diagnostics.begin(), diagnostics.end(),
+                      [severity](NReader::VDiagnostic const& diagnostic) { return diagnostic.severity == severity; }));
+}
+
+std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    return CountOf(NReader::VSeverity::Error, diagnostics);
 }
 
 std::size_t CountWithoutPlace(NReader::VReadResult const& result) {

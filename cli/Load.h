@@ -23,6 +23,7 @@ std::string LineOf(NReader::VDiagnostic const& diagnostic); ///< one, whatever t
 /// How many elements found no place in the model; what stands in them is not counted.
 std::size_t CountWithoutPlace(NReader::VReadResult const& result);
 
+std::size_t CountOf(NReader::VSeverity severity, std::vector<NReader::VDiagnostic> const& diagnostics);
 std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics);
 
 } // namespace NCli

@@ -12,8 +12,11 @@ namespace NCheck {
 namespace {
 
 constexpr void (*kTopics[])(VChecked const& checked, VFindings& findings) = {
-    &CheckShortNames,          &CheckDocrefs, &CheckLayerReferences, &CheckExclusions, &CheckAmbiguousNames,
-    &CheckShortNameReferences, &CheckCycles,
+    &CheckShortNames,  &CheckDocrefs,        &CheckLayerReferences,
+    &CheckExclusions,  &CheckAmbiguousNames, &CheckShortNameReferences,
+    &CheckCycles,      &CheckCodedTypes,     &CheckConstants,
+    &CheckConversions, &CheckKeys,           &CheckUnits,
+    &CheckPlacement,   &CheckRequestsAlike,
 };
 
 /// The progress of a check: a step for each layer of each topic.

@@ -12,7 +12,8 @@ namespace NCheck {
 /// Everything that a database tells about itself: the reader's diagnostics, and besides these references by short name
 /// that do not resolve, DOCREFs that name another place than the target's, short names that are doubled or of odd
 /// characters, parents and imports that are named twice, exclusions that exclude nothing, names that two parents of
-/// equal rank offer, and cycles.
+/// equal rank offer, and cycles; and what stands in the data: types, lengths, constants, limits and keys that cannot be
+/// right, and parameters and requests of which no program can make out what was meant.
 ///
 ///     NReader::VReadOptions options;
 ///     options.keepsElements = true;

@@ -61,5 +61,12 @@ void CheckExclusions(VChecked const& checked, VFindings& findings);
 void CheckAmbiguousNames(VChecked const& checked, VFindings& findings);
 void CheckShortNameReferences(VChecked const& checked, VFindings& findings);
 void CheckCycles(VChecked const& checked, VFindings& findings);
+void CheckCodedTypes(VChecked const& checked, VFindings& findings);
+void CheckConstants(VChecked const& checked, VFindings& findings);
+void CheckConversions(VChecked const& checked, VFindings& findings);
+void CheckKeys(VChecked const& checked, VFindings& findings);
+void CheckUnits(VChecked const& checked, VFindings& findings); // in Keys.cpp
+void CheckPlacement(VChecked const& checked, VFindings& findings);
+void CheckRequestsAlike(VChecked const& checked, VFindings& findings);
 
 } // namespace NCheck

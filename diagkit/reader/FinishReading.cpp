@@ -8,6 +8,7 @@
 
 #include <diagkit/reader/Containment.h>
 #include <diagkit/reader/Cycles.h>
+#include <diagkit/reader/MissingDocuments.h>
 #include <diagkit/reader/Naming.h>
 #include <diagkit/reader/ReferenceKinds.h>
 #include <diagkit/reader/Utf8.h>
@@ -27,8 +28,10 @@ std::string Named(NODX201::VOdxLink const& link) {
     return text;
 }
 
-/// A reference by ID, which stands at `node`, has no target.
-void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference) {
+/// A reference by ID, which stands at `node`, has no target. Those into a missing document are counted, where somebody
+/// counts them.
+void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference,
+                      VMissingDocuments* missing) {
     auto const& link = dynamic_cast<NODX201::VOdxLink const&>(reference.GetLink());
     if (*link.GetIdRef() == L'\0') {
         return; // reported as an attribute that is missing
@@ -40,6 +43,9 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
         return;
     }
     auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
+    if (others == nullptr && missing != nullptr && missing->Take(link, node.GetPosition())) {
+        return;
+    }
     if (others == nullptr) {
         reading.findings.Add(node.GetPosition(), NCode::UnresolvedReference,
                              what + ", which no loaded element has; load the document that contains it as well");
@@ -79,7 +85,7 @@ void Replace(std::vector<NODX201::VOdxElement*>& elements, VReplaced const& repl
     }
 }
 
-void GiveParentRefsTheirKinds(VReading& reading) {
+void GiveParentRefsTheirKinds(VReading& reading, VMissingDocuments* missing) {
     VReplaced replaced;
     for (VPendingParentRef const& pending : reading.parentRefs) {
         auto& untyped = dynamic_cast<NMemory::VMemParentRef&>(pending.parentRef->ParentRef());
@@ -98,7 +104,7 @@ void GiveParentRefsTheirKinds(VReading& reading) {
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
                                      Quoted(untyped.GetDiagLayer()) + ", from which nothing can be inherited");
         } else {
-            ReportUnresolved(reading, untyped, untyped);
+            ReportUnresolved(reading, untyped, untyped, missing);
         }
     }
     if (!replaced.empty()) {
@@ -106,10 +112,10 @@ void GiveParentRefsTheirKinds(VReading& reading) {
     }
 }
 
-void ReportReferences(VReading& reading) {
+void ReportReferences(VReading& reading, VMissingDocuments* missing) {
     for (VPendingLink const& pending : reading.links) {
         if (!pending.questions->resolves(*pending.link)) {
-            ReportUnresolved(reading, *pending.node, *pending.link);
+            ReportUnresolved(reading, *pending.node, *pending.link, missing);
         } else {
             ReportDoubt(reading, *pending.node, *pending.link, pending.questions->doubt(*pending.link));
         }
@@ -182,9 +188,12 @@ void CheckParents(VReading& reading) {
 
 } // namespace
 
-void FinishReading(VReading& reading) {
-    GiveParentRefsTheirKinds(reading);
-    ReportReferences(reading);
+void FinishReading(VReading& reading, bool tellsEachReference) {
+    VMissingDocuments documents(*reading.database);
+    VMissingDocuments* const missing = tellsEachReference ? nullptr : &documents;
+    GiveParentRefsTheirKinds(reading, missing);
+    ReportReferences(reading, missing);
+    documents.Report(reading.findings);
     ReportRepeatedDocuments(reading);
     ReportRepeatedIds(reading);
     CheckParents(reading);

@@ -24,8 +24,8 @@ struct VReadLimits {
     std::uint64_t maxAttributes = 1000;                   ///< of one element
     std::uint64_t maxTagSize = std::uint64_t{8} << 20;    ///< bytes of one tag, comment or processing instruction
     std::uint64_t maxTextSize = std::uint64_t{256} << 20; ///< bytes in UTF-8 of one text, tags inside it among them
-    /// Errors that are kept, and warnings: so many of each. The others are left out and counted, in one diagnostic at
-    /// the first of them ("too-many-diagnostics"). Nothing is refused.
+    /// Errors that are kept, and warnings, and notes: so many of each. The others are left out and counted, in one
+    /// diagnostic at the first of them ("too-many-diagnostics"). Nothing is refused.
     std::uint64_t maxDiagnostics = 100'000;
 };
 

@@ -28,7 +28,7 @@ VReadResult Read(std::vector<std::string> const& files, VReadOptions const& opti
         result.diagnostics = reading.findings.Sorted(*reading.database);
         return result;
     }
-    FinishReading(reading);
+    FinishReading(reading, options.tellsEachReference);
     result.diagnostics = reading.findings.Sorted(*reading.database);
     result.documents = std::move(reading.documents);
     result.unknownElements = std::move(reading.unknownElements);

@@ -23,6 +23,10 @@ struct VReadOptions : VReadLimits {
     /// Whether `VReadResult::elements` is filled, for programs that look at every element or reference.
     bool keepsElements = false;
 
+    /// Whether every reference by ID into a document that is not loaded has a diagnostic of its own. Otherwise each
+    /// such document has one, at the first of the references, with the number of them.
+    bool tellsEachReference = false;
+
     /// Called now and then during long work with the bytes read so far and those to read in all (compressed sizes for
     /// packages), by the thread that reads; may be empty.
     std::function<void(std::uint64_t done, std::uint64_t all)> progress;

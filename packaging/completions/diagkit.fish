@@ -37,6 +37,7 @@ complete -c diagkit -n '__fish_seen_subcommand_from layers' -l max-text-size -x 
 complete -c diagkit -n '__fish_seen_subcommand_from layers' -l max-diagnostics -x -d 'Errors, and as many warnings, to report; default 100000'
 complete -c diagkit -f -n __fish_use_subcommand -a graph -d 'Draw the inheritance graph'
 complete -c diagkit -n '__fish_seen_subcommand_from graph' -l help -d 'Print this help message and exit'
+complete -c diagkit -n '__fish_seen_subcommand_from graph' -l verbose -d 'Tell each reference into a document that is not loaded, not only how many there are'
 complete -c diagkit -n '__fish_seen_subcommand_from graph' -l layer -x -d 'Only what this layer inherits from and what inherits from it: its short name or ID, or CONTAINER/LAYER'
 complete -c diagkit -n '__fish_seen_subcommand_from graph' -l format -x -a 'svg dot mermaid' -d 'Output format: svg (the default; requires Graphviz), dot or mermaid'
 complete -c diagkit -n '__fish_seen_subcommand_from graph' -l json -d 'Print JSON on standard output'

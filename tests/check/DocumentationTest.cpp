@@ -38,6 +38,7 @@ std::map<std::string, VEntry> ReadEntries() {
         } else if (entry != nullptr && StartsWith(line, "**")) {
             entry->severity = StartsWith(line, "**Error.**")     ? "error"
                               : StartsWith(line, "**Warning.**") ? "warning"
+                              : StartsWith(line, "**Note.**")    ? "note"
                                                                  : "";
         } else if (entry != nullptr && StartsWith(line, "Fix: ")) {
             entry->hasFix = true;

@@ -220,8 +220,8 @@ class Hostile(unittest.TestCase):
         call = Call(path, "--max-diagnostics", "1000")
         self.assertEqual((call.status, len(call.lines)), (0, 1001), call.lines[-1])
         self.assertTrue(call.lines[-1].endswith(
-            ": warning: left out are 1999000 diagnostics, 0 of them errors, the first here: there are more errors or "
-            "more warnings than 1000; --max-diagnostics allows more [too-many-diagnostics]"), call.lines[-1])
+            ": warning: left out are 1999000 diagnostics, 0 of them errors, the first here: there are more errors, "
+            "warnings or notes than 1000; --max-diagnostics allows more [too-many-diagnostics]"), call.lines[-1])
         self.assertLess(call.seconds, LONGEST)
         if IS_MEASURED:
             self.assertLess(call.memory - self.least, 48 * MEBIBYTE)

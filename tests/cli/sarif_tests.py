@@ -92,6 +92,10 @@ class Structure(unittest.TestCase):
             ],
         )
 
+    def test_a_note(self):
+        results = self.see_log(log_of("notes.odx-d", status=0))
+        self.assertEqual([(result["ruleId"], result["level"]) for result in results], [("overlapping-params", "note")])
+
     def test_nothing_found_is_an_empty_list(self):
         self.assertEqual(self.see_log(log_of("comparams.odx-c", "protocols.odx-d", "gates.odx-d", status=0)), [])
 

@@ -150,8 +150,8 @@ TEST_F(VLimitsTest, NumberOfDiagnosticsOfEachSeverity) {
     EXPECT_NE(m_result.database, nullptr);
     EXPECT_EQ(Diagnostics(), "test.odx:2:1 warning unknown-child\ntest.odx:2:5 warning unknown-child\n"
                              "test.odx:3:1 warning too-many-diagnostics\ntest.odx:4:1 error repeated-child");
-    EXPECT_EQ(Message(2), "left out are 3 diagnostics, 0 of them errors, the first here: there are more errors or more "
-                          "warnings than 2; --max-diagnostics allows more");
+    EXPECT_EQ(Message(2), "left out are 3 diagnostics, 0 of them errors, the first here: there are more errors, "
+                          "warnings or notes than 2; --max-diagnostics allows more");
     m_options.maxDiagnostics = 0;
     Read(document);
     EXPECT_EQ(Diagnostics(), "test.odx:2:1 error too-many-diagnostics"); // one of them is an error

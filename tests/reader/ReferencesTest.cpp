@@ -193,11 +193,47 @@ TEST_F(VReferencesTest, LayerIsInItsOwnScopeAndItsIdResolves) {
 // Faulty references
 
 TEST_F(VReferencesTest, UnresolvedReferenceIsOneErrorAtTheReference) {
-    Read(Layer("<DIAG-COMMS>\n  " + Service("S", "ID-REF=\"gone\" DOCREF=\"Far\"") + "</DIAG-COMMS>"));
+    Read(Layer("<DIAG-COMMS>\n  " + Service("S", "ID-REF=\"gone\" DOCREF=\"L\"") + "</DIAG-COMMS>"));
     EXPECT_EQ(RequestOf(L"S"), L"(none)");
     EXPECT_EQ(Diagnostics(), "test.odx:3:61 error unresolved-reference");
-    EXPECT_EQ(Message(0), "REQUEST-REF names the ID 'gone' in 'Far', which no loaded element has; load the document "
-                          "that contains it as well");
+    EXPECT_EQ(Message(0), "REQUEST-REF names the ID 'gone' in 'L', which no loaded element has; load the document that "
+                          "contains it as well");
+}
+
+TEST_F(VReferencesTest, ReferencesIntoAMissingDocumentAreOneErrorAtTheFirst) {
+    std::string const document = Layer("<DIAG-COMMS>\n" + Service("S", "ID-REF=\"a\" DOCREF=\"Far\"") + "\n" +
+                                       Service("T", "ID-REF=\"b\" DOCREF=\"Far\" DOCTYPE=\"LAYER\"") + "\n" +
+                                       Service("U", "ID-REF=\"c\" DOCREF=\"Other\"") + "</DIAG-COMMS>");
+    Read(document);
+    EXPECT_EQ(Diagnostics(), "test.odx:3:59 error unresolved-reference\ntest.odx:5:59 error unresolved-reference");
+    EXPECT_EQ(Message(0), "2 references lead into Far, which is not loaded");
+    EXPECT_EQ(Message(1), "1 reference leads into Other, which is not loaded");
+    EXPECT_EQ(RequestOf(L"S"), L"(none)");
+}
+
+TEST_F(VReferencesTest, ReferencesIntoAMissingDocumentAreEachToldWhenAskedFor) {
+    m_options.tellsEachReference = true;
+    Read(Layer("<DIAG-COMMS>\n" + Service("S", "ID-REF=\"a\" DOCREF=\"Far\"") + "\n" +
+               Service("T", "ID-REF=\"b\" DOCREF=\"Far\"") + "</DIAG-COMMS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:59 error unresolved-reference\ntest.odx:4:59 error unresolved-reference");
+    EXPECT_EQ(Message(1), "REQUEST-REF names the ID 'b' in 'Far', which no loaded element has; load the document that "
+                          "contains it as well");
+}
+
+TEST_F(VReferencesTest, ReferencesIntoWhatIsLoadedAreEachTold) {
+    for (char const* const docref : {"", " DOCREF=\"L\"", " DOCREF=\"C\""}) { // the layer, the container
+        Read(Layer("<DIAG-COMMS>" + Service("S", std::string("ID-REF=\"a\"") + docref) +
+                   Service("T", std::string("ID-REF=\"b\"") + docref) + "</DIAG-COMMS>"));
+        EXPECT_EQ(m_result.diagnostics.size(), 2U) << docref << Diagnostics();
+    }
+}
+
+TEST_F(VReferencesTest, ParentRefsWithoutTypeIntoAMissingDocumentAreCounted) {
+    Read(Container(LayerOfKind("ECU-VARIANT", "V",
+                               "<PARENT-REFS>\n<PARENT-REF ID-REF=\"B\" DOCREF=\"Far\"/>\n<PARENT-REF "
+                               "xsi:type=\"PROTOCOL-REF\" ID-REF=\"P\" DOCREF=\"Far\"/></PARENT-REFS>")));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error unresolved-reference");
+    EXPECT_EQ(Message(0), "2 references lead into Far, which is not loaded");
 }
 
 TEST_F(VReferencesTest, ReferenceOfTheWrongKindIsOneError) {
