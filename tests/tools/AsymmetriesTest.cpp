@@ -194,7 +194,7 @@ TEST_F(AsymmetriesTest, EnvDataReferencesOfADictionaryAreNotFollowedButThoseOfAn
 }
 
 TEST_F(AsymmetriesTest, ReferencesResolveAgainstTheLayerOfTheTraverserNotAgainstTheirOwner) {
-    // Both layers have a DOP and a service of the same names; the reference by short name stands in the library.
+    // Both layers have a DOP and a service of the same names; the reference by short name is in the library.
     m_dictionary.AddDtcDop(L"Status");
     m_library.MakeDiagDataDictionarySpec().AddStructure(L"Status");
     m_layer.AddDiagService(L"Read");

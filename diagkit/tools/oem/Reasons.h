@@ -56,7 +56,7 @@ std::wstring Stated(std::wstring_view noun, std::wstring_view text);
 /// "no PROTOCOL", "1 PROTOCOL", "2 PROTOCOLs"
 std::wstring Counted(std::size_t count, std::wstring_view noun);
 
-/// What was found by looking at so many: "none; 2 PROTOCOLs looked at", "no PROTOCOL"
+/// The result of examining this number of elements: "none; 2 PROTOCOLs looked at", "no PROTOCOL"
 std::wstring LookedAt(std::wstring_view found, std::size_t count, std::wstring_view noun);
 
 /// Of two things that are not both there: "only 'A'", "neither"
