@@ -21,9 +21,12 @@ struct VProgramRun {
 };
 
 /// Runs a program that a folder of PATH has, without a shell: gives it the words and, on standard input, the text, and
-/// waits for its end. However much both sides write, neither waits for the other for ever. The bodies are in
-/// `RunProgram_posix.cpp` and `RunProgram_win32.cpp`.
+/// waits for its end. However much both sides write, neither waits for the other for ever.
 VProgramRun RunProgram(std::vector<std::string> const& words, std::string_view input);
+
+/// The same, but it throws std::system_error where the system refuses something. The bodies are in
+/// `RunProgram_posix.cpp` and `RunProgram_win32.cpp`.
+VProgramRun RunUnguarded(std::vector<std::string> const& words, std::string_view input);
 
 inline constexpr std::size_t kMostErrors = 4096; ///< of standard error that is kept
 
