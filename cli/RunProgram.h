@@ -21,9 +21,12 @@ struct VProgramRun {
 };
 
 /// Runs a program from a folder of PATH, without a shell: passes the words and, on standard input, the text, and waits
-/// for its end. However much both sides write, there is no deadlock. The bodies are in `RunProgram_posix.cpp` and
-/// `RunProgram_win32.cpp`.
+/// for its end. However much both sides write, there is no deadlock.
 VProgramRun RunProgram(std::vector<std::string> const& words, std::string_view input);
+
+/// The same, but it throws std::system_error if a system call fails. The bodies are in
+/// `RunProgram_posix.cpp` and `RunProgram_win32.cpp`.
+VProgramRun RunUnguarded(std::vector<std::string> const& words, std::string_view input);
 
 inline constexpr std::size_t kMostErrors = 4096; ///< limit for standard error
 

@@ -150,7 +150,9 @@ VProgramRun Failed(int error) {
     return run;
 }
 
-VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
+} // namespace
+
+VProgramRun RunUnguarded(std::vector<std::string> const& words, std::string_view input) {
     constexpr int kNotFoundByShells = 127; // exit status of systems that detect a missing program only in the child
     std::vector<char*> arguments;
     for (std::string const& word : words) {
@@ -186,18 +188,6 @@ VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
                                                : VProgramRun::VOutcome::Failed;
     }
     return run;
-}
-
-} // namespace
-
-VProgramRun RunProgram(std::vector<std::string> const& words, std::string_view input) {
-    try {
-        return Run(words, input);
-    } catch (std::system_error const& error) {
-        VProgramRun run;
-        run.errors = error.what();
-        return run;
-    }
 }
 
 } // namespace NCli

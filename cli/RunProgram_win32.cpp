@@ -134,7 +134,9 @@ private:
     std::thread m_thread; // last: it uses the other
 };
 
-VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
+} // namespace
+
+VProgramRun RunUnguarded(std::vector<std::string> const& words, std::string_view input) {
     VProgramRun run;
     std::wstring const program = FindProgram(NReader::FromUtf8(words.front()));
     if (program.empty()) {
@@ -178,18 +180,6 @@ VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
     GetExitCodeProcess(process.Get(), &status);
     run.outcome = status == 0 ? VProgramRun::VOutcome::Done : VProgramRun::VOutcome::Failed;
     return run;
-}
-
-} // namespace
-
-VProgramRun RunProgram(std::vector<std::string> const& words, std::string_view input) {
-    try {
-        return Run(words, input);
-    } catch (std::system_error const& error) {
-        VProgramRun run;
-        run.errors = error.what();
-        return run;
-    }
 }
 
 } // namespace NCli
