@@ -7,14 +7,9 @@
 #include <iostream>
 #include <memory>
 
-#include <diagkit/memory/Database.h>
-#include <diagkit/memory/Dops.h>
-#include <diagkit/memory/Layers.h>
-#include <diagkit/memory/Odx.h>
-#include <diagkit/memory/Params.h>
-#include <diagkit/reader/Utf8.h>
-#include <diagkit/tools/DiagCommView.h>
-#include <diagkit/tools/OpResolveSnref.h>
+#include <diagkit/Memory.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 void PrintDiagComms(NODX201::VEcuVariant& layer) {
     NDIAGKIT::VDiagCommView view(layer); // of a layer whose kind is known; no builder is needed
@@ -38,12 +33,18 @@ int main() {
     auto& response = door.AddPosResponse(L"AngleResponse");
     auto& angle = response.AddValue(L"Angle");
     angle.SetDopBaseLink(NMemory::VReference::ByShortName(L"Angle"));
+    angle.SetBytePosition(L"3");
     auto& readAngle = door.AddDiagService(L"ReadAngle");
     readAngle.AddPosResponseRef(response);
 
     auto& rearDoor = container.AddEcuVariant(L"RearDoor");
     rearDoor.AddParentRef(door);
     rearDoor.MakeDiagDataDictionarySpec().AddDataObjectProp(L"Angle").SetId(L"RearDoor.Angle");
+
+    for (NODX201::VParam& param : response.ParamCollection()) {
+        std::cout << NReader::ToUtf8(param.GetShortName()) << " begins at byte "
+                  << NMemory::BytePositionOf(param).value_or(0) << '\n';
+    }
 
     std::cout << "visible in RearDoor:\n";
     PrintDiagComms(rearDoor);

@@ -8,12 +8,8 @@
 #include <unordered_set>
 #include <vector>
 
-#include <diagkit/model/Dops.h>
-#include <diagkit/model/Layers.h>
-#include <diagkit/model/Odx.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
-#include <diagkit/tools/GuardedDiagLayerTraverser.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 /// `DefaultVisit` is called for every element, so no other hook is needed. An element that is referred to from several
 /// places is visited for each; it is collected once, where it is found first.
@@ -50,17 +46,13 @@ int main(int count, char** words) {
         std::cerr << words[1] << ": cannot be read\n";
         return 1;
     }
-    for (NODX201::VDiagLayerContainer& container : result.database->GetOdx().DiagLayerContainerCollection()) {
-        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
-            if (NReader::ToUtf8(layer.GetShortName()) != words[2]) {
-                continue;
-            }
-            for (NODX201::VDtc* const dtc : VCollector<NODX201::VDtc>(layer).Collect()) {
-                std::cout << NReader::ToUtf8(dtc->GetShortName()) << '\n';
-            }
-            return 0;
-        }
+    NODX201::VDiagLayer* const layer = NDIAGKIT::FindLayer(*result.database, NReader::FromUtf8(words[2]));
+    if (layer == nullptr) {
+        std::cerr << words[2] << ": no such layer\n";
+        return 1;
     }
-    std::cerr << words[2] << ": no such layer\n";
-    return 1;
+    for (NODX201::VDtc* const dtc : VCollector<NODX201::VDtc>(*layer).Collect()) {
+        std::cout << NReader::ToUtf8(dtc->GetShortName()) << '\n';
+    }
+    return 0;
 }

@@ -8,9 +8,8 @@
 #include <iostream>
 #include <string>
 
-#include <diagkit/query/Diff.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
+#include <diagkit/Query.h>
+#include <diagkit/Reader.h>
 
 namespace {
 

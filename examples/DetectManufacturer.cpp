@@ -8,10 +8,8 @@
 #include <string>
 #include <vector>
 
-#include <diagkit/model/Odx.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
-#include <diagkit/tools/oem/OemChecker.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include <iostream>
 #include <string>
 
-#include <diagkit/query/InheritanceGraph.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
+#include <diagkit/Query.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 std::string TitleOf(NQuery::VGraphNode const& node) {
     return NReader::ToUtf8(node.kind) + (node.layer != nullptr ? " " : " ? ") + NReader::ToUtf8(node.name);

@@ -7,14 +7,9 @@
 #include <iostream>
 #include <string>
 
-#include <diagkit/model/DiagComms.h>
-#include <diagkit/model/Layers.h>
-#include <diagkit/model/Odx.h>
-#include <diagkit/query/Explain.h>
-#include <diagkit/query/FilePlace.h>
-#include <diagkit/query/LayerView.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
+#include <diagkit/Query.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 std::string Name(NODX201::VOdxElement const& element) { return NReader::ToUtf8(element.GetShortName()); }
 
@@ -51,11 +46,11 @@ void ExplainName(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, std::
 void PrintWhatIsLeftOut(NODX201::VDiagLayer& layer) {
     NQuery::VLayerView const view = NQuery::ViewOf(layer, NQuery::VInheritedKind::DiagComm);
     for (NQuery::VViewEntry const& entry : view.hidden) {
-        std::cout << Name(*entry.element) << " is hidden by that of " << Name(*NDIAGKIT::LayerOf(*entry.hiddenBy))
-                  << '\n';
+        std::cout << Name(*entry.element) << " of " << Name(entry.From()) << " is hidden by that of "
+                  << Name(*NDIAGKIT::LayerOf(*entry.hiddenBy)) << '\n';
     }
     for (NQuery::VViewEntry const& entry : view.excluded) {
-        std::cout << Name(*entry.element) << " is excluded\n";
+        std::cout << Name(*entry.element) << " of " << Name(entry.From()) << " is excluded\n";
     }
 }
 
@@ -69,15 +64,12 @@ int main(int count, char** words) {
         std::cerr << words[1] << ": cannot be read\n";
         return 1;
     }
-    for (NODX201::VDiagLayerContainer& container : result.database->GetOdx().DiagLayerContainerCollection()) {
-        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
-            if (Name(layer) == words[2]) {
-                ExplainName(*result.database, layer, NReader::FromUtf8(words[3]));
-                PrintWhatIsLeftOut(layer);
-                return 0;
-            }
-        }
+    NODX201::VDiagLayer* const layer = NDIAGKIT::FindLayer(*result.database, NReader::FromUtf8(words[2]));
+    if (layer == nullptr) {
+        std::cerr << "no layer has the short name " << words[2] << '\n';
+        return 1;
     }
-    std::cerr << "no layer has the short name " << words[2] << '\n';
-    return 1;
+    ExplainName(*result.database, *layer, NReader::FromUtf8(words[3]));
+    PrintWhatIsLeftOut(*layer);
+    return 0;
 }

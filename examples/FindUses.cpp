@@ -8,12 +8,9 @@
 #include <string>
 #include <vector>
 
-#include <diagkit/model/DiagComms.h>
-#include <diagkit/model/Layers.h>
-#include <diagkit/query/FilePlace.h>
-#include <diagkit/query/Uses.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
+#include <diagkit/Query.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 /// "FILE:LINE: NAME", and for a reference by short name the layers in which it means the element.
 void PrintUse(NMemory::VDatabase const& database, NQuery::VUse const& use) {

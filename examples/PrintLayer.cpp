@@ -7,11 +7,8 @@
 #include <iostream>
 #include <string>
 
-#include <diagkit/model/Odx.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
-#include <diagkit/tools/GuardedDiagLayerTraverser.h>
-#include <diagkit/tools/TraverserKinds.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 /// The list of kinds gives every hook the same body, so the tree shows where each element was entered and left.
 class VPrinter : public NDIAGKIT::VGuardedDiagLayerTraverser {
@@ -56,14 +53,11 @@ int main(int count, char** words) {
         std::cerr << words[1] << ": cannot be read\n";
         return 1;
     }
-    for (NODX201::VDiagLayerContainer& container : result.database->GetOdx().DiagLayerContainerCollection()) {
-        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
-            if (NReader::ToUtf8(layer.GetShortName()) == words[2]) {
-                VPrinter(layer).TraverseDiagLayer();
-                return 0;
-            }
-        }
+    NODX201::VDiagLayer* const layer = NDIAGKIT::FindLayer(*result.database, NReader::FromUtf8(words[2]));
+    if (layer == nullptr) {
+        std::cerr << words[2] << ": no such layer\n";
+        return 1;
     }
-    std::cerr << words[2] << ": no such layer\n";
-    return 1;
+    VPrinter(*layer).TraverseDiagLayer();
+    return 0;
 }

@@ -9,11 +9,8 @@
 #include <string>
 #include <vector>
 
-#include <diagkit/logging/SharedLogger.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
-#include <diagkit/tools/StringContainer.h>
-#include <diagkit/util/Assertion.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 /// Receives what the toolkit logs.
 class VListener : public NLogging::ILogListener {

@@ -7,15 +7,8 @@
 #include <iostream>
 #include <string>
 
-#include <diagkit/model/DiagComms.h>
-#include <diagkit/model/Dops.h>
-#include <diagkit/model/Layers.h>
-#include <diagkit/model/Odx.h>
-#include <diagkit/model/Params.h>
-#include <diagkit/model/SearchRange.h>
-#include <diagkit/reader/OdxReader.h>
-#include <diagkit/reader/Utf8.h>
-#include <diagkit/tools/OpResolveSnref.h>
+#include <diagkit/Reader.h>
+#include <diagkit/Toolkit.h>
 
 /// The VALUE parameter that the names mean in the layer; null when nothing of those names is visible there.
 NODX201::VValue* FindParam(NODX201::VAbstractSnrefResolver& resolver, NODX201::VDiagLayer& layer,
@@ -48,12 +41,10 @@ int main(int count, char** words) {
         return 1;
     }
     NDIAGKIT::VOpResolveSnref resolver;
-    for (NODX201::VDiagLayerContainer& container : result.database->GetOdx().DiagLayerContainerCollection()) {
-        for (NODX201::VDiagLayer& layer : container.DiagLayerCollection()) {
-            NODX201::VValue* const param =
-                FindParam(resolver, layer, NReader::FromUtf8(words[2]), NReader::FromUtf8(words[3]));
-            std::string const meaning = param != nullptr ? DopOf(*param, layer) : "not visible";
-            std::cout << NReader::ToUtf8(layer.GetShortName()) << ": " << meaning << '\n';
-        }
+    for (NODX201::VDiagLayer* const layer : NDIAGKIT::LayersOf(*result.database)) {
+        NODX201::VValue* const param =
+            FindParam(resolver, *layer, NReader::FromUtf8(words[2]), NReader::FromUtf8(words[3]));
+        std::string const meaning = param != nullptr ? DopOf(*param, *layer) : "not visible";
+        std::cout << NReader::ToUtf8(layer->GetShortName()) << ": " << meaning << '\n';
     }
 }

@@ -111,12 +111,27 @@ private:
     VLayerView m_view;
 };
 
+VViewEntry const* FindIn(std::vector<VViewEntry> const& entries, std::wstring_view shortName) {
+    auto const found = std::find_if(entries.begin(), entries.end(), [shortName](VViewEntry const& entry) {
+        return shortName == entry.element->GetShortName();
+    });
+    return found != entries.end() ? &*found : nullptr;
+}
+
 template <class Element>
 std::vector<NODX201::VOdxElement*> AsElements(std::vector<Element*> const& elements) {
     return {elements.begin(), elements.end()};
 }
 
 } // namespace
+
+NODX201::VDiagLayer& VViewEntry::From() const { return *NDIAGKIT::LayerOf(*element); }
+
+VViewEntry const* VLayerView::Find(std::wstring_view shortName) const { return FindIn(entries, shortName); }
+
+VViewEntry const* VLayerView::FindHidden(std::wstring_view shortName) const { return FindIn(hidden, shortName); }
+
+VViewEntry const* VLayerView::FindExcluded(std::wstring_view shortName) const { return FindIn(excluded, shortName); }
 
 VLayerView ViewOf(NODX201::VDiagLayer& layer, VInheritedKind kind) {
     return ForKind(kind, [&layer](auto row) { return VViewMaker<decltype(row)>(layer).Make(); });

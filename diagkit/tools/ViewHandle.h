@@ -16,7 +16,8 @@
 #include <diagkit/tools/ProtocolView.h>
 #include <diagkit/tools/SessionView.h>
 
-/// Views of whatever kind of layer or DIAG-COMM, each owned by the handle that it comes in.
+/// Views of whatever kind of layer or DIAG-COMM, each owned by the handle that it comes in. Keep the handle while the
+/// view is walked: `for (auto& dop : *MakeDopView(layer))` destroys it before the first step.
 
 namespace NDIAGKIT {
 

@@ -10,6 +10,7 @@
 
 #include <diagkit/memory/DiagComms.h>
 #include <diagkit/memory/Flash.h>
+#include <diagkit/tools/FindLayer.h>
 #include <diagkit/tools/IdentIfView.h>
 #include <diagkit/tools/OdxCategoryInfoCollection.h>
 #include <diagkit/tools/OpBuildDiagCommView.h>
@@ -20,6 +21,7 @@
 #include <diagkit/tools/OpBuildOutParamIfView.h>
 #include <diagkit/tools/OpBuildProtocolView.h>
 #include <diagkit/tools/SessionView.h>
+#include <diagkit/tools/ViewHandle.h>
 
 #include "faults/FailEverywhere.h"
 #include "faults/Sample.h"
@@ -191,6 +193,22 @@ TEST(CategoryListFaultsTest, ACopyIsWholeOrNotThereAndTheOriginalStays) {
     EXPECT_GE(allocations, 7u); // the list; of each entry the record, its text and its node
     EXPECT_EQ(list.Count(), 2u);
     EXPECT_NE(list.Find(L"another file of a long name.odx-d"), list.End());
+}
+
+TEST_F(ViewFaultsTest, ViewsInHandles) {
+    for (NODX201::VDiagLayer* const layer : m_sample.layers) {
+        Check([&] { return NDIAGKIT::MakeDiagCommView(*layer).release(); });
+        Check([&] { return NDIAGKIT::MakeDopView(*layer).release(); });
+    }
+    EXPECT_GT(m_failures, 100u);
+}
+
+TEST_F(ViewFaultsTest, FindingLayers) {
+    auto const before = NDIAGKIT::LayersOf(m_sample.database);
+    auto const find = [this] { NDIAGKIT::FindLayers(m_sample.database, L"FrontWiper"); };
+    EXPECT_GT(FailEverywhere([] {}, [this] { NDIAGKIT::LayersOf(m_sample.database); }), 1u);
+    EXPECT_GT(FailEverywhere([] {}, find), 0u);
+    EXPECT_EQ(NDIAGKIT::LayersOf(m_sample.database), before);
 }
 
 } // namespace

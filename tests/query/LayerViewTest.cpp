@@ -4,6 +4,8 @@
 
 #include <diagkit/query/LayerView.h>
 
+#include <diagkit/model/DiagComms.h>
+
 #include "query/PlanKinds.h"
 #include "support/GraphText.h"
 #include "support/RandomGraph.h"
@@ -47,6 +49,35 @@ Cv.Stop<Cv
 hidden Bv.Read<Bv by Ecu.Read
 excluded Bv.Stop<Bv
 excluded Cv.Go<Cv)");
+}
+
+TEST(LayerViewTest, EntriesAreFoundByTheirShortNames) {
+    auto const graph =
+        MakeContentGraph(ParseGraph(L"base Bv : Read Stop \n base Cv : Go Stop \n ecu Ecu : Read < Bv-Stop Cv-Go"),
+                         kPlanKinds[0].content);
+    VLayerView const view = NQuery::ViewOf(graph->Layer(L"Ecu"), kPlanKinds[0].query);
+    ASSERT_NE(view.Find(L"Read"), nullptr);
+    EXPECT_EQ(&view.Find(L"Read")->From(), &graph->Layer(L"Ecu"));
+    ASSERT_NE(view.FindHidden(L"Read"), nullptr);
+    EXPECT_EQ(&view.FindHidden(L"Read")->From(), &graph->Layer(L"Bv"));
+    ASSERT_NE(view.FindExcluded(L"Go"), nullptr);
+    EXPECT_EQ(&view.FindExcluded(L"Go")->From(), &graph->Layer(L"Cv"));
+    EXPECT_EQ(view.Find(L"Go"), nullptr);
+    EXPECT_EQ(view.Find(L"read"), nullptr);
+    EXPECT_EQ(view.FindHidden(L"Go"), nullptr);
+    EXPECT_EQ(view.FindExcluded(L""), nullptr);
+}
+
+TEST(LayerViewTest, ARangeWalksWhatIsVisible) {
+    auto const graph =
+        MakeContentGraph(ParseGraph(L"prot Uds : Read Stop \n base Bv : Go Stop < Uds"), kPlanKinds[0].content);
+    std::wstring names;
+    for (VViewEntry const& entry : NQuery::ViewOf(graph->Layer(L"Bv"), kPlanKinds[0].query)) {
+        names += std::wstring(entry.element->GetShortName()) + L" ";
+        EXPECT_EQ(entry.As<NODX201::VDiagService>(), entry.element);
+        EXPECT_EQ(entry.As<NODX201::VSingleEcuJob>(), nullptr);
+    }
+    EXPECT_EQ(names, L"Go Stop Read ");
 }
 
 TEST(LayerViewTest, WhatIsVisibleAfterAllIsNotLeftOut) {
