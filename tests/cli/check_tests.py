@@ -26,6 +26,20 @@ class WhatCounts(unittest.TestCase):
         codes = ["short-name-characters", "unresolved-short-name", "short-name-characters"]
         self.assertEqual(findings(), (1, codes))
 
+    def test_notes_do_not(self):
+        for arguments in ([], ["--fail-on", "warning"], ["--strict"]):
+            done = run("check", "notes.odx-d", "--json", *arguments)
+            answer = json.loads(done.stdout)
+            self.assertEqual((done.returncode, answer["errors"], answer["warnings"]), (0, 0, 0), arguments)
+            self.assertEqual([finding["severity"] for finding in answer["diagnostics"]], ["note"])
+
+    def test_references_into_missing_documents_count_once_each_or_all(self):
+        for arguments, count in (([], 3), (["--verbose"], 5)):
+            arguments = ["check", "doors.odx-d", "--only", "unresolved-reference", *arguments]
+            self.assertEqual(json.loads(run(*arguments, "--json").stdout)["errors"], count)
+            results = json.loads(run(*arguments, "--format", "sarif").stdout)["runs"][0]["results"]
+            self.assertEqual(len(results), count)
+
     def test_ignored_codes_do_not(self):
         self.assertEqual(findings("--ignore", "short-name-characters"), (1, ["unresolved-short-name"]))
         self.assertEqual(findings("--ignore", "unresolved-short-name", "--ignore", "short-name-characters"), (0, []))
@@ -46,7 +60,7 @@ class WhatCounts(unittest.TestCase):
         for option in ("--ignore", "--only"):
             done = run("check", *FILES, option, "duplicate-ids")
             self.assertEqual((done.returncode, done.stdout), (2, ""))
-            self.assertIn("unknown code 'duplicate-ids'; near names: duplicate-id;", done.stderr)
+            self.assertIn("unknown code 'duplicate-ids'; near names: duplicate-id, duplicate-key;", done.stderr)
 
 
 class Baselines(unittest.TestCase):
