@@ -32,6 +32,7 @@ PUBLIC = {
         "Diff.h",
         "Explain.h",
         "FilePlace.h",
+        "Find.h",
         "InheritanceGraph.h",
         "InheritedKind.h",
         "LayerView.h",
