@@ -57,7 +57,7 @@ VBaseline::VBaseline(std::string const& file) {
         }
     } catch (VJson::exception const&) {
         throw std::runtime_error(
-            fmt::format("'{}' is no baseline: it is no answer of 'check' in JSON or SARIF", Shown(file)));
+            fmt::format("'{}' is not a baseline: it is not output of 'check' in JSON or SARIF", Shown(file)));
     }
 }
 

@@ -118,14 +118,14 @@ bool Fails(VArguments const& arguments, VDiagnostics const& diagnostics) {
 void DeclareCheck(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
     DeclareChoice(command, arguments, "--format", arguments.format, {"text", "json", "sarif"},
-                  "How to answer: text, json or sarif (SARIF 2.1.0)");
+                  "Output format: text, json or sarif (SARIF 2.1.0)");
     DeclareChoice(command, arguments, "--fail-on", arguments.failOn, {"error", "warning"},
-                  "What gives status 1: error, the default, or warning");
-    DeclareCodes(command, arguments, "--ignore", arguments.ignored, "A code that does not count; may be repeated");
-    DeclareCodes(command, arguments, "--only", arguments.only, "A code that counts alone; may be repeated");
+                  "The least severity that gives status 1: error (the default) or warning");
+    DeclareCodes(command, arguments, "--ignore", arguments.ignored, "Ignore findings of this code; may be repeated");
+    DeclareCodes(command, arguments, "--only", arguments.only, "Report only findings of this code; may be repeated");
     command
         .add_option("--baseline", arguments.baseline,
-                    "An earlier answer in JSON or SARIF, whose findings no longer count")
+                    "An earlier answer in JSON or SARIF; do not report its findings again")
         ->type_name("ANSWER");
 }
 

@@ -257,26 +257,27 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
                     "OLD and NEW, each a document, a package or a folder of both; with --to-layer the files of one "
                     "database")
         ->type_name("");
-    command.add_option("--old", arguments.oldFiles, "The files of the old database, where they are several")
+    command.add_option("--old", arguments.oldFiles, "The files of the old database, if there are several")
         ->type_name("FILE");
-    command.add_option("--new", arguments.newFiles, "The files of the new database")->type_name("FILE");
+    command.add_option("--new", arguments.newFiles, "The files of the new database, if there are several")
+        ->type_name("FILE");
     command
         .add_option("--layer", arguments.layers,
-                    "Look at this layer only, by its short name or ID, or as CONTAINER/LAYER; may be repeated")
+                    "Compare only this layer: its short name or ID, or CONTAINER/LAYER; may be repeated")
         ->type_name("L")
         ->allow_extra_args(false);
-    command.add_option("--to-layer", arguments.toLayer, "Compare the one --layer with this layer of the same database")
+    command.add_option("--to-layer", arguments.toLayer, "Compare --layer with this layer of the same database")
         ->type_name("L");
     std::vector<std::string> words;
     for (VIgnored const& row : kIgnored) {
         words.emplace_back(row.word);
     }
     auto* const ignore = command.add_option("--ignore", arguments.ignored,
-                                            "What makes no difference: long-names, descriptions, admin-data, order; "
-                                            "several with commas between");
+                                            "Ignore differences in long-names, descriptions, admin-data or order; "
+                                            "separate several with commas");
     ignore->delimiter(',')->allow_extra_args(false)->check(CLI::IsMember(words))->type_name("WHAT");
     arguments.choices[ignore] = words;
-    command.add_flag("--ids", arguments.comparesIds, "Other IDs are a difference, too");
+    command.add_flag("--ids", arguments.comparesIds, "Report different IDs as well");
     DeclareLimits(command, arguments);
 }
 

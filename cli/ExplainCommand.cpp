@@ -231,10 +231,10 @@ void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
 } // namespace
 
 void DeclareExplain(CLI::App& command, VArguments& arguments) {
-    DeclareKind(command, arguments, NamesOf(kInheritedKinds), "What the name stands for");
+    DeclareKind(command, arguments, NamesOf(kInheritedKinds), "The kind of element that the name stands for");
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
     DeclareLayer(command, arguments);
-    DeclareCount(command, "--max-candidates", arguments.maxCandidates, "Elements on their ways that are told");
+    DeclareCount(command, "--max-candidates", arguments.maxCandidates, "The most candidates to list");
     DeclareFiles(command, arguments);
 }
 

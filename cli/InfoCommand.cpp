@@ -136,8 +136,7 @@ void WriteText(VDocuments& documents, NReader::VReadResult const& result, VOutpu
     }
     WriteCounts(fmt::format("{} of {}", Counted(all, "element"), Counted(counts.size(), "kind")), counts, output);
     if (!result.unknownElements.empty()) {
-        WriteCounts("Left out with their contents, because the model has no place for them", result.unknownElements,
-                    output);
+        WriteCounts("Ignored, with their children: not supported", result.unknownElements, output);
     }
 }
 

@@ -32,7 +32,7 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
     if (!arguments.isQuiet) {
         // One of many databases is named; a single one is the call itself.
         std::string const file = arguments.isEach ? Shown(arguments.files.front()) + ": " : "";
-        output.Complain(fmt::format("{}{}, which --strict does not pass", file, Counted(errors, "error")));
+        output.Complain(fmt::format("{}{}, which --strict does not allow", file, Counted(errors, "error")));
     }
     return VStatus::Unreadable;
 }

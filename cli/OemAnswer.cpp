@@ -89,7 +89,7 @@ std::string AnswerOf(VOemRuleReport const& rule) {
     if (!rule.matches) {
         return rule.isDecisive ? "no  <- decides" : "no";
     }
-    return rule.isVacuous ? "yes, nothing to look at" : "yes";
+    return rule.isVacuous ? "yes, nothing to check" : "yes";
 }
 
 /// "DIAG-SERVICE Read, ID S.Read, in PROTOCOL UDS"

@@ -37,7 +37,7 @@ VOemReport ReportOf(NReader::VReadResult const& result) {
 /// Why a file is not answered for: what made the reader refuse it is the last that it said.
 std::string ReasonOf(NReader::VReadResult const& result) {
     if (result.database != nullptr) {
-        return "has errors, which --strict does not pass";
+        return "has errors, which --strict does not allow";
     }
     std::string reason = "cannot be read";
     for (NReader::VDiagnostic const& diagnostic : result.diagnostics) {
@@ -197,8 +197,8 @@ void DeclareOem(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
     command.add_flag(
         "--each", arguments.isEach,
-        "Every FILE is a database of its own, and so are the documents of a folder that refer to one another; "
-        "with --json one line each");
+        "Treat every FILE as a database of its own, and in a folder the documents that refer to one another; "
+        "with --json one line for each database");
 }
 
 VStatus RunOem(VArguments const& arguments, VOutput& output) {

@@ -270,7 +270,7 @@ VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output
 } // namespace
 
 void DeclareResolve(CLI::App& command, VArguments& arguments) {
-    DeclareKind(command, arguments, NamesOf(kResolveKinds), "What the name stands for");
+    DeclareKind(command, arguments, NamesOf(kResolveKinds), "The kind of element that the name stands for");
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
     DeclareSelections(command, arguments);
     DeclareFiles(command, arguments);

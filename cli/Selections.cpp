@@ -64,7 +64,7 @@ VSelectionRule const kFlashSelection            {kFlash, &NeedsFlash, "--flash F
 // clang-format on
 
 char const* const kRangesHelp =
-    "What the values of --range take of a DIAG-SERVICE (a job has only its output parameters):\n"
+    "Output parameters of a DIAG-SERVICE by --range (a job has only its own):\n"
     "  0  positive and negative responses\n"
     "  1  request and negative responses\n"
     "  2  nothing\n"

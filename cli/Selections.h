@@ -65,7 +65,7 @@ std::string SelectionsOf(Kinds const& kinds) {
     for (auto const& kind : kinds) {
         columns.Add({kind.name, kind.selection.usage});
     }
-    return "What each KIND looks at:\n" + columns.Format();
+    return "Selection for each KIND:\n" + columns.Format();
 }
 
 /// The row of the KIND that was given, which the command line has checked to be there. Null, with a message, when the

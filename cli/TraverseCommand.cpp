@@ -154,12 +154,11 @@ VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& 
         // Told below, or by the output itself.
     }
     if (walk.IsTooLong()) {
-        output.Complain(fmt::format("the walk ends after {} visits; --max-visits allows more", arguments.maxVisits));
+        output.Complain(fmt::format("stopped after {} visits; --max-visits allows more", arguments.maxVisits));
         return VStatus::Unreadable;
     }
     if (walk.IsTooDeep()) {
-        output.Complain(
-            fmt::format("elements deeper than {} inside one another are left out", VPrintingWalk::kMaxDepth));
+        output.Complain(fmt::format("elements nested deeper than {} are left out", VPrintingWalk::kMaxDepth));
         return VStatus::Unreadable;
     }
     return VStatus::Done;
@@ -169,8 +168,8 @@ VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& 
 
 void DeclareTraverse(CLI::App& command, VArguments& arguments) {
     DeclareLayer(command, arguments).required();
-    command.add_flag("--dictionary", arguments.isDictionary, "Only what the layer's DIAG-DATA-DICTIONARY-SPEC holds");
-    DeclareCount(command, "--max-visits", arguments.maxVisits, "End after so many visits, with status 3");
+    command.add_flag("--dictionary", arguments.isDictionary, "Walk only the layer's DIAG-DATA-DICTIONARY-SPEC");
+    DeclareCount(command, "--max-visits", arguments.maxVisits, "Stop after N visits, with status 3");
     DeclareFiles(command, arguments);
 }
 

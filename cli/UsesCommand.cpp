@@ -39,7 +39,7 @@ std::string UsageMistake(VArguments const& arguments) {
         return "NAME is required without --unused";
     }
     if (arguments.isUnused && !arguments.name.empty() && !MayBeFile(arguments.name)) {
-        return fmt::format("--unused takes no NAME such as '{}'", Shown(std::string_view(arguments.name)));
+        return fmt::format("--unused does not take a NAME such as '{}'", Shown(std::string_view(arguments.name)));
     }
     bool const hasFile = !arguments.files.empty() || (arguments.isUnused && !arguments.name.empty());
     return hasFile ? "" : "FILE is required";
@@ -125,11 +125,11 @@ VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& resu
 } // namespace
 
 void DeclareUses(CLI::App& command, VArguments& arguments) {
-    command.add_option("NAME", arguments.name, "An ID, or a short name; none with --unused")->type_name("");
-    command.add_option("--kind", arguments.tag, "The tag of the element, where several kinds bear the name")
+    command.add_option("NAME", arguments.name, "An ID or a short name; omitted with --unused")->type_name("");
+    command.add_option("--kind", arguments.tag, "The tag of the element, if elements of several kinds have the name")
         ->type_name("TAG");
     DeclareLayer(command, arguments);
-    command.add_flag("--unused", arguments.isUnused, "What no reference leads to in any layer");
+    command.add_flag("--unused", arguments.isUnused, "List the elements that no reference leads to in any layer");
     DeclareFiles(command, arguments);
     command.get_option("FILE")->required(false); // CLI11 takes the first of them for NAME with --unused as well
     command.footer("uses NAME FILE... or uses --unused FILE...");

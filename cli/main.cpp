@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <memory>
 #include <new>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 
 #include <cli/Call.h>
 #include <cli/Commands.h>
+#include <cli/HelpFormatter.h>
 #include <cli/HelpTable.h>
 #include <cli/NearNames.h>
 #include <cli/Platform.h>
@@ -30,18 +32,18 @@ struct VCommand {
 
 // clang-format off
 constexpr std::array kCommands{
-    VCommand{"info",     "Documents, model versions and how many elements of each kind", &DeclareFiles,    &RunInfo},
-    VCommand{"layers",   "The diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
-    VCommand{"graph",    "A picture of what inherits from what",                         &DeclareGraph,    &RunGraph},
-    VCommand{"view",     "What is visible in a layer, with the layer it comes from",     &DeclareView,     &RunView},
-    VCommand{"resolve",  "What a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
-    VCommand{"explain",  "Why a short name means what it means in a layer, or nothing",  &DeclareExplain,  &RunExplain},
-    VCommand{"traverse", "All that a layer holds and refers to, as a tree",              &DeclareTraverse, &RunTraverse},
-    VCommand{"oem",      "Whose habits a database shows, and why no other's",             &DeclareOem,      &RunOem},
-    VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
-    VCommand{"check",    "Everything that is wrong with the files, or looks like it",    &DeclareCheck,    &RunCheck},
-    VCommand{"uses",     "The references that lead to an element, or what none leads to",   &DeclareUses,     &RunUses},
-    VCommand{"diff",     "What changed between two databases, as seen from each layer",  &DeclareDiff,     &RunDiff},
+    VCommand{"info",     "Show documents, model versions and element counts",                 &DeclareFiles,    &RunInfo},
+    VCommand{"layers",   "List the diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
+    VCommand{"graph",    "Draw the inheritance graph",                                        &DeclareGraph,    &RunGraph},
+    VCommand{"view",     "List what is visible in a layer, and the layer it comes from",      &DeclareView,     &RunView},
+    VCommand{"resolve",  "Find what a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
+    VCommand{"explain",  "Explain why a short name is visible in a layer, or why not",        &DeclareExplain,  &RunExplain},
+    VCommand{"traverse", "Print the tree of what a layer holds and refers to",                &DeclareTraverse, &RunTraverse},
+    VCommand{"oem",      "Detect the manufacturer whose tools wrote the database",            &DeclareOem,      &RunOem},
+    VCommand{"enums",    "List the literals and values of the ODX enumerations",              &DeclareEnums,    &RunEnums},
+    VCommand{"check",    "Report errors and questionable data in the files",                  &DeclareCheck,    &RunCheck},
+    VCommand{"uses",     "List the references to an element, or all unused elements",         &DeclareUses,     &RunUses},
+    VCommand{"diff",     "Compare two databases as each layer sees them",                     &DeclareDiff,     &RunDiff},
 };
 // clang-format on
 
@@ -49,7 +51,7 @@ void Declare(CLI::App& program, VArguments& arguments) {
     program.set_version_flag("-V,--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.allow_windows_style_options(false); // a path may begin with '/' everywhere
-    program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    program.formatter(std::make_shared<VHelpFormatter>());
     for (VCommand const& row : kCommands) {
         CLI::App& command = *program.add_subcommand(row.name, row.help)->group("Commands");
         row.declare(command, arguments);

@@ -184,7 +184,7 @@ public:
             m_entries.push_back({text->code,
                                  cycle.reference,
                                  Titled(chain[0]) + ' ' + text->leads,
-                                 "; walks that follow references do not end there: " + ListedIn(chain),
+                                 "; programs that follow references may not terminate: " + ListedIn(chain),
                                  {}});
         }
         if (cycle.layers != nullptr) {

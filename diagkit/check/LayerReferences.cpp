@@ -63,10 +63,10 @@ NReader::VEdges ImportsOf(NODX201::VReferencable& layer) {
 }
 
 void ReportCycle(NReader::VEdge const& closing, NReader::VCycleSearch::VChain const& chain, VFindings& findings) {
-    std::string const ring = chain.Count() > 1 ? ", in the ring of " + ListedIn(chain) : "";
+    std::string const ring = chain.Count() > 1 ? ", in the cycle of " + ListedIn(chain) : "";
     findings.Add(PositionOf(*closing.link), NCode::ImportCycle,
                  Titled(chain[0]) + " imports itself by this reference" + ring +
-                     "; programs that follow imports do not end there");
+                     "; programs that follow imports may not terminate");
 }
 
 void CheckImportCycles(VChecked const& checked, VFindings& findings) {

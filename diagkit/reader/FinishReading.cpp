@@ -36,13 +36,13 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
     std::string const what = TagOf(reference) + " names " + Named(link);
     if (auto const leftOut = reading.idsLeftOut.find(ToUtf8(link.GetIdRef())); leftOut != reading.idsLeftOut.end()) {
         reading.findings.Add(node.GetPosition(), NCode::TargetLeftOut,
-                             what + ", a " + leftOut->second + ", for which the model has no place");
+                             what + ", a " + leftOut->second + ", which is not supported");
         return;
     }
     auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
     if (others == nullptr) {
         reading.findings.Add(node.GetPosition(), NCode::UnresolvedReference,
-                             what + ", which no loaded element has; load the document that holds it too");
+                             what + ", which no loaded element has; load the document that contains it as well");
         return;
     }
     reading.findings.Add(node.GetPosition(), NCode::ReferenceKind,

@@ -63,7 +63,7 @@ std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code co
         return VFailure{&NCode::NoFile, isTold ? "cannot be read: " + error.message() : "no such file"};
     }
     if (fs::is_directory(status)) {
-        return VFailure{&NCode::NoFile, "the folder holds no ODX document or package"};
+        return VFailure{&NCode::NoFile, "the folder contains no ODX document or package"};
     }
     if (fs::is_fifo(status)) {
         return VFailure{&NCode::NoFile, "is a pipe, which cannot be read twice; save it to a file first"};
@@ -95,7 +95,7 @@ VInspection Inspect(std::string const& file, VReadLimits const& limits) {
     }
     bool const isPackage = IsLikeZip(head);
     if (!isPackage && IsPackageName(file)) {
-        return {false, size, VFailure{&NCode::NoPackage, "is no PDX package: the file is not a zip archive"}};
+        return {false, size, VFailure{&NCode::NoPackage, "is not a PDX package: the file is not a zip archive"}};
     }
     return {isPackage, size, {}};
 }

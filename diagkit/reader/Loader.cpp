@@ -50,7 +50,8 @@ void VLoader::SetModelVersion(std::string_view version) {
         dot != std::string::npos ? m_modelVersion.substr(dot + 1, m_modelVersion.find('.', dot + 1) - dot - 1) : "";
     if (!IsNumber(major) || (dot != std::string::npos && !IsNumber(minor))) {
         Report(NCode::UnknownModelVersion,
-               "MODEL-VERSION is '" + m_modelVersion + "', which is no version; the document is read by its content");
+               "MODEL-VERSION is '" + m_modelVersion +
+                   "', which is not a version; the document is read according to its contents");
         return;
     }
     m_isVersion20 = major == "0" || major == "1" || (major == "2" && minor == "0");
@@ -73,7 +74,7 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
     }
     if (m_isVersion20 && !m_reference[2].empty() && !IsLiteral(LiteralsOf<&Mapper::GetDoctypeStr>(), m_reference[2])) {
         Report(NCode::UnknownLiteral.As(VSeverity::Warning),
-               "DOCTYPE of " + Quoted(m_opening) + " is '" + ToUtf8(m_reference[2]) + "', which is none of " +
+               "DOCTYPE of " + Quoted(m_opening) + " is '" + ToUtf8(m_reference[2]) + "', which is not one of " +
                    LiteralsText(LiteralsOf<&Mapper::GetDoctypeStr>()) + "; the target is looked for without it");
     }
     return NMemory::VReference::ById(m_reference[0].c_str(), m_reference[1].c_str(), m_reference[2].c_str(),
@@ -130,7 +131,7 @@ void VLoader::StartUnknown(std::string_view name, VAttributes const& attributes)
     bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
     if (m_isVersion20 && !isCategory) {
         Report(NCode::UnknownChild, Quoted(m_frames.back().name) + " holds no " + Quoted(name) +
-                                        " in ODX 2.0; it is left out with all inside");
+                                        " in ODX 2.0; it is ignored, with its children");
     }
 }
 
@@ -144,7 +145,7 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
     if (version != nullptr) {
         SetModelVersion(version);
     } else {
-        Report(NCode::MissingModelVersion, "ODX has no MODEL-VERSION; the document is read by its content");
+        Report(NCode::MissingModelVersion, "ODX has no MODEL-VERSION; the document is read according to its contents");
     }
     m_frames.push_back({"ODX", this, &RootType(), m_rootPosition});
 }
@@ -297,7 +298,7 @@ void VLoader::Text(std::string_view text) {
         m_parser->LimitText(m_text.size());
     } else if (!frame.hasStrayText && !IsBlank(text)) {
         frame.hasStrayText = true;
-        Report(NCode::StrayText, Quoted(frame.name) + " holds text, which is left out");
+        Report(NCode::StrayText, Quoted(frame.name) + " contains text, which is ignored");
     }
 }
 

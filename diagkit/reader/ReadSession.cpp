@@ -91,7 +91,7 @@ std::optional<VFailure> VReadSession::AddPackage(std::string const& name) {
                         OverLimit("the package has more members than", m_options.maxMembers, "", "--max-members")};
     }
     if (package.Documents().empty()) {
-        return VFailure{&NCode::NoPackage, "the package holds no ODX document (no member named .odx, .odx-d, ...)"};
+        return VFailure{&NCode::NoPackage, "the package contains no ODX document (no member named .odx, .odx-d, ...)"};
     }
     for (VPackage::VMember const& member : package.Documents()) {
         AddDocument(name + '!' + member.name, member.compressedSize, member);

@@ -35,10 +35,10 @@ VMemberLimit LimitOf(VPackage::VMember const& member, VReadLimits const& limits)
 
 VFailure FailureOf(VPackage::VFault fault) {
     if (fault == VPackage::VFault::LeadsOut) {
-        return {&NCode::UnsafeName, "the member's name is no path inside the package, so the member is left out"};
+        return {&NCode::UnsafeName, "the member's name is not a path inside the package, so the member is ignored"};
     }
     return {&NCode::DuplicateMember,
-            "another member of this name follows in the package and counts; this one is left out"};
+            "a later member of the package has the same name and is used; this one is ignored"};
 }
 
 } // namespace

@@ -48,7 +48,7 @@ void ReportUnknownType(VLoader& loader, std::string const& type) {
 
 void ReportShortNameNotAllowed(VLoader& loader, std::string const& what) {
     loader.Report(NCode::ShortNameNotAllowed,
-                  what + " takes references by ID only; the entry is left out, name the target by ID");
+                  what + " allows references by ID only; the entry is ignored; name the target by ID");
 }
 
 std::string InferType(std::string_view name, VAttributes const& attributes,

@@ -14,7 +14,7 @@ namespace {
 /// An entry of docs/diagnostics.md.
 struct VEntry {
     std::string severity;
-    bool hasMend = false;
+    bool hasFix = false;
     std::string place; ///< what the example stands in; "" for a call of the program
     std::string example;
 };
@@ -39,8 +39,8 @@ std::map<std::string, VEntry> ReadEntries() {
             entry->severity = StartsWith(line, "**Error.**")     ? "error"
                               : StartsWith(line, "**Warning.**") ? "warning"
                                                                  : "";
-        } else if (entry != nullptr && StartsWith(line, "Mend: ")) {
-            entry->hasMend = true;
+        } else if (entry != nullptr && StartsWith(line, "Fix: ")) {
+            entry->hasFix = true;
         }
     }
     return entries;
@@ -127,14 +127,14 @@ protected:
     }
 };
 
-TEST_F(VDocumentationTest, EveryCodeHasAnEntryWithItsSeverityAndMend) {
+TEST_F(VDocumentationTest, EveryCodeHasAnEntryWithItsSeverityAndFix) {
     std::map<std::string, VEntry> const entries = ReadEntries();
     EXPECT_EQ(entries.size(), NCheck::Codes().size());
     for (NCheck::VCode const& code : NCheck::Codes()) {
         auto const entry = entries.find(code.code);
         ASSERT_NE(entry, entries.end()) << code.code;
         EXPECT_EQ(entry->second.severity, SeverityText(code.severity)) << code.code;
-        EXPECT_TRUE(entry->second.hasMend) << code.code;
+        EXPECT_TRUE(entry->second.hasFix) << code.code;
         EXPECT_NE(entry->second.example, "") << code.code;
     }
 }

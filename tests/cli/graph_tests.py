@@ -19,7 +19,7 @@ import xml.etree.ElementTree
 from program import DATA, IS_POSIX, SAMPLE, is_for_windows, main, run
 
 SVG = "{http://www.w3.org/2000/svg}"
-MISSING = ("diagkit: an SVG takes the program 'dot' of Graphviz, which no folder of PATH has; install it, or use --format "
+MISSING = ("diagkit: SVG output requires the program 'dot' of Graphviz, which is not in PATH; install it, or use --format "
            "dot or --format mermaid\n")
 LONGEST = 60  # seconds; who waits for the other waits for ever
 

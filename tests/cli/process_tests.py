@@ -38,6 +38,15 @@ class HelpAndVersion(unittest.TestCase):
             for option in ("--json", "--strict", "--quiet", "--help", "--version"):
                 self.assertIn(option, done.stdout)
 
+    def test_help_is_at_most_80_columns_wide(self):
+        for command in ([], *([name] for name in self.COMMANDS)):
+            for line in run(*command, "--help").stdout.splitlines():
+                self.assertLessEqual(len(line), 80, line)
+
+    def test_help_names_what_is_required(self):
+        self.assertIn("\nUsage: diagkit traverse FILE... --layer L [OPTIONS]\n", run("traverse", "--help").stdout)
+        self.assertIn("\nUsage: diagkit enums [TABLE] [LITERAL] [OPTIONS]\n", run("enums", "--help").stdout)
+
     def test_help_is_a_word_as_well(self):
         self.assertEqual(run("help").stdout, run("--help").stdout)
         for arguments in (["help", "view"], ["--quiet", "help", "view"], ["--help", "view"]):
@@ -79,9 +88,9 @@ class HelpAndVersion(unittest.TestCase):
             ("text-size", "SIZE", "256M"),
         )
         for command in ("info", "layers", "view", "resolve", "traverse", "oem", "check", "diff"):
-            text = run(command, "--help").stdout
+            text = " ".join(run(command, "--help").stdout.split())
             for name, kind, default in limits:
-                self.assertRegex(text, rf"(?m)^  --max-{name} {kind}(={default}| \[{default}\]) ")
+                self.assertRegex(text, rf"--max-{name} {kind} [^(]*\(default: {default}\)")
         self.assertNotIn("--max-file-size", run("enums", "--help").stdout)
 
     def test_counts_are_whole_numbers_without_a_sign(self):
@@ -379,15 +388,15 @@ class OemOfEach(unittest.TestCase):
     def test_what_strict_does_not_pass_is_said_of_the_file(self):
         done = run("oem", "--each", "--strict", "doors.odx-d", "gates.odx-d")
         self.assertEqual(done.returncode, 3)
-        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not pass$")
+        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not allow$")
         self.assertNotIn("diagkit: gates.odx-d", done.stderr)
         alone = run("oem", "--strict", "doors.odx-d")
-        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not pass$")
+        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not allow$")
 
     def test_a_folder_without_odx_is_named(self):
         with tempfile.TemporaryDirectory() as folder:
             (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
-            reason = "the folder holds no ODX document or package"
+            reason = "the folder contains no ODX document or package"
             done = run("oem", "--each", folder, "--json", "--quiet")
             self.assertEqual((done.returncode, json.loads(done.stdout)), (3, {"file": folder, "error": reason}))
             beside = run("oem", "--each", folder, "gates.odx-d")
@@ -440,7 +449,7 @@ class Folders(unittest.TestCase):
     def test_a_folder_without_odx_cannot_be_read(self):
         with tempfile.TemporaryDirectory() as folder:
             done = run("layers", folder)
-        reason = "error: the folder holds no ODX document or package [no-file]"
+        reason = "error: the folder contains no ODX document or package [no-file]"
         self.assertEqual((done.returncode, done.stdout, done.stderr), (3, "", f"{folder}: {reason}\n"))
 
 

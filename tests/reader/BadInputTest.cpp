@@ -47,7 +47,7 @@ TEST_F(VBadInputTest, MissingFileIsRefused) {
 TEST_F(VBadInputTest, FolderWithoutOdxIsRefused) {
     std::filesystem::create_directory(Path("folder"));
     ReadFiles({Path("folder")});
-    ExpectRefused("folder:0:0 error no-file", "the folder holds no ODX document or package");
+    ExpectRefused("folder:0:0 error no-file", "the folder contains no ODX document or package");
 }
 
 TEST_F(VBadInputTest, EmptyFileIsRefused) {

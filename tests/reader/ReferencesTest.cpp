@@ -196,9 +196,8 @@ TEST_F(VReferencesTest, UnresolvedReferenceIsOneErrorAtTheReference) {
     Read(Layer("<DIAG-COMMS>\n  " + Service("S", "ID-REF=\"gone\" DOCREF=\"Far\"") + "</DIAG-COMMS>"));
     EXPECT_EQ(RequestOf(L"S"), L"(none)");
     EXPECT_EQ(Diagnostics(), "test.odx:3:61 error unresolved-reference");
-    EXPECT_EQ(
-        Message(0),
-        "REQUEST-REF names the ID 'gone' in 'Far', which no loaded element has; load the document that holds it too");
+    EXPECT_EQ(Message(0), "REQUEST-REF names the ID 'gone' in 'Far', which no loaded element has; load the document "
+                          "that contains it as well");
 }
 
 TEST_F(VReferencesTest, ReferenceOfTheWrongKindIsOneError) {
@@ -261,7 +260,7 @@ TEST_F(VReferencesTest, MessagesAboutAttributesNameTheReference) {
     Read(Params("<PARAM xsi:type=\"VALUE\"><SHORT-NAME>P</SHORT-NAME><DOP-SNREF/></PARAM>"));
     EXPECT_EQ(Message(0), "'DOP-SNREF' has no SHORT-NAME");
     Read(Layer("<DIAG-COMMS>" + Service("S", "ID-REF=\"R\" DOCTYPE=\"NOWHERE\"") + "</DIAG-COMMS>"));
-    EXPECT_EQ(Message(0).rfind("DOCTYPE of 'REQUEST-REF' is 'NOWHERE', which is none of ", 0), 0U) << Message(0);
+    EXPECT_EQ(Message(0).rfind("DOCTYPE of 'REQUEST-REF' is 'NOWHERE', which is not one of ", 0), 0U) << Message(0);
 }
 
 TEST_F(VReferencesTest, IdTwiceInOneDocumentIsAnErrorAtTheSecond) {
