@@ -7,7 +7,7 @@ endif()
 file(TIMESTAMP ${CPACK_DIAGKIT_CHANGELOG} date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 set(debian_changelog "diagkit (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
 
-  * What is new is in changelog.gz.
+  * See changelog.gz for the changes.
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")

@@ -56,9 +56,9 @@ endfunction()
 
 diagkit_install_targets(diagkitTargets diagkit diagkit_model diagkit_memory diagkit_conformance)
 diagkit_install_pkgconfig(diagkit diagkit "toolkit for ODX 2.0.1 diagnostic data" "")
-diagkit_install_pkgconfig(diagkit-memory diagkit_memory "model of ODX data in memory"
+diagkit_install_pkgconfig(diagkit-memory diagkit_memory "in-memory model of ODX data"
                           "diagkit = ${PROJECT_VERSION}")
-diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "whether a model keeps the promises of the contract"
+diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "conformance checks for models of ODX data"
                           "diagkit = ${PROJECT_VERSION}")
 install(FILES diagkit/conformance/reference.odx-d diagkit/conformance/reference.txt
         DESTINATION ${CMAKE_INSTALL_DATADIR}/diagkit/conformance COMPONENT Development)
@@ -66,9 +66,9 @@ if(TARGET diagkit_reader)
     diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check diagkit_query)
     diagkit_install_pkgconfig(diagkit-reader diagkit_reader "reader of ODX documents and PDX packages"
                               "diagkit-memory = ${PROJECT_VERSION}, expat, libzip")
-    diagkit_install_pkgconfig(diagkit-check diagkit_check "what is wrong with an ODX database"
+    diagkit_install_pkgconfig(diagkit-check diagkit_check "checks of ODX databases"
                               "diagkit-reader = ${PROJECT_VERSION}")
-    diagkit_install_pkgconfig(diagkit-query diagkit_query "questions about an ODX database"
+    diagkit_install_pkgconfig(diagkit-query diagkit_query "queries about ODX databases"
                               "diagkit-check = ${PROJECT_VERSION}")
 endif()
 

@@ -44,7 +44,7 @@ void VLoader::CheckValue(VContent content, wchar_t const* const* literals, VFram
         m_reading.findings.Add(frame.position, NCode::NotAValue, is + ", which is no " + ValueText(content));
     } else {
         m_reading.findings.Add(frame.position, NCode::UnknownLiteral,
-                               is + ", which is none of " + LiteralsText(literals));
+                               is + ", which is not one of " + LiteralsText(literals));
     }
 }
 

@@ -53,7 +53,7 @@ TEST_F(VCycleFindingsTest, RelatedDiagComms) {
     Check(LayerXml("BASE-VARIANT", "L", DiagComms(Service("A", Related("B")) + Service("B", Related("A")))));
     EXPECT_EQ(Finding(),
               "5:1 warning related-diag-comm-cycle: DIAG-SERVICE 'A' is related to itself by this reference; "
-              "walks that follow references do not end there: DIAG-SERVICE 'A', DIAG-SERVICE 'B'");
+              "programs that follow references may not terminate: DIAG-SERVICE 'A', DIAG-SERVICE 'B'");
 }
 
 TEST_F(VCycleFindingsTest, DiagCommRelatedToItself) {
@@ -75,7 +75,7 @@ TEST_F(VCycleFindingsTest, TableKeyOfTheTableThatLeadsHere) {
                                 Table("S"))));
     EXPECT_EQ(Finding(),
               "5:1 warning table-row-cycle: STRUCTURE 'S' contains itself through a table by this reference; "
-              "walks that follow references do not end there: STRUCTURE 'S', TABLE 'T', TABLE-ROW 'R'");
+              "programs that follow references may not terminate: STRUCTURE 'S', TABLE 'T', TABLE-ROW 'R'");
 }
 
 TEST_F(VCycleFindingsTest, TableKeyOfTheRowThatLeadsHere) {
@@ -109,8 +109,8 @@ TEST_F(VCycleFindingsTest, TableThatAShortNameClosesInOneLayerOnly) {
           LayerXml("ECU-VARIANT", "V2", InDictionary(Structure("X", TableKey("<TABLE-REF ID-REF=\"T\"/>"))) + parents));
     EXPECT_EQ(Diagnostics(), "test.odx:4:1 warning short-name-not-everywhere\ntest.odx:4:1 warning table-row-cycle");
     EXPECT_EQ(Message(1),
-              "STRUCTURE 'X' contains itself through a table by this reference in the layer 'V2'; walks that "
-              "follow references do not end there: STRUCTURE 'X', TABLE 'T', TABLE-ROW 'R', STRUCTURE 'S'");
+              "STRUCTURE 'X' contains itself through a table by this reference in the layer 'V2'; programs that "
+              "follow references may not terminate: STRUCTURE 'X', TABLE 'T', TABLE-ROW 'R', STRUCTURE 'S'");
     std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(Database());
     ASSERT_EQ(cycles.size(), 1U);
     EXPECT_EQ(cycles[0].kind, NCheck::VCycleKind::TableRows);

@@ -95,7 +95,7 @@ class Baselines(unittest.TestCase):
         for content in ("", "{", "[]", "{}", "7", '{"diagnostics": 3}', '{"diagnostics": {}}', '{"diagnostics": null}', '{"runs": []}', '{"diagnostics": [{}]}'):
             done = run("check", *FILES, "--baseline", self.write("none", content))
             self.assertEqual((done.returncode, done.stdout), (3, ""), content)
-            self.assertRegex(done.stderr, r"\Adiagkit: '.*none' is no baseline: .*\n\Z")
+            self.assertRegex(done.stderr, r"\Adiagkit: '.*none' is not a baseline: .*\n\Z")
         for path in (self.folder / "absent", self.folder):
             done = run("check", *FILES, "--baseline", str(path))
             self.assertEqual((done.returncode, done.stdout), (3, ""))

@@ -78,7 +78,7 @@ class Traversing(unittest.TestCase):
             path = self.write_related(folder, [range(12)] * 12)
             done = run("traverse", "--json", "--quiet", path, "--layer", "P", "--max-visits", "1000")
         self.assertEqual(done.returncode, 3)
-        self.assertIn("ends after 1000 visits", done.stderr)
+        self.assertIn("stopped after 1000 visits", done.stderr)
         self.assertEqual(done.stdout.count('"event":"pre"'), 1000)
 
     def test_lines_stay_short_however_deep_their_elements_are(self):
@@ -98,7 +98,7 @@ class Traversing(unittest.TestCase):
             path = self.write_related(folder, [[1]] + [[(number + 1) % count] for number in range(1, count)])
             done = run("traverse", "--json", "--quiet", path, "--layer", "P", "--max-visits", "20000")
         self.assertEqual(done.returncode, 3)
-        self.assertIn("ends after 20000 visits", done.stderr)
+        self.assertIn("stopped after 20000 visits", done.stderr)
         depths = [json.loads(line)["depth"] for line in done.stdout.splitlines()]
         self.assertEqual(max(depths), 1999)
 

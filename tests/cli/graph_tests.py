@@ -137,8 +137,8 @@ class ProgramsCalledDot(Pictures):
     def test_one_that_fails_leaves_nothing_on_standard_output(self):
         done = self.graph("import sys; print('half'); sys.stderr.write('no \\x1b[31mfonts\\nmore\\n'); sys.exit(1)")
         self.assertEqual((done.returncode, done.stdout), (3, ""))
-        self.assertEqual(done.stderr, "diagkit: the program 'dot' of Graphviz failed: no \uFFFD[31mfonts; --format dot gives "
-                                      "what it was to lay out\n")
+        self.assertEqual(done.stderr, "diagkit: the program 'dot' of Graphviz failed: no \uFFFD[31mfonts; --format dot prints "
+                                      "its input\n")
 
     def test_one_that_a_signal_ends_has_failed(self):
         done = self.graph("import os; os.kill(os.getpid(), 9)")

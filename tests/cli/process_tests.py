@@ -39,8 +39,10 @@ class HelpAndVersion(unittest.TestCase):
                 self.assertIn(option, done.stdout)
 
     def test_help_is_at_most_80_columns_wide(self):
-        for command in ([], *([name] for name in self.COMMANDS)):
-            for line in run(*command, "--help").stdout.splitlines():
+        commands = re.findall(r"(?m)^  ([a-z]+)  ", run("--help").stdout)
+        self.assertGreaterEqual(len(commands), 12)
+        for call in ([], *([command] for command in commands)):
+            for line in run(*call, "--help").stdout.splitlines():
                 self.assertLessEqual(len(line), 80, line)
 
     def test_help_names_what_is_required(self):

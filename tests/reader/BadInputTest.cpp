@@ -187,7 +187,7 @@ TEST_F(VBadInputTest, PackageThatIsNoArchiveIsRefused) {
 
 TEST_F(VBadInputTest, PackageWithoutDocumentsIsRefused) {
     ReadFiles({WritePackage("a.pdx", {{"index.xml", "<CATALOG/>"}, {"job.jar", "x"}, {"odx", "x"}})});
-    ExpectRefused("a.pdx:0:0 error no-package", "holds no ODX document");
+    ExpectRefused("a.pdx:0:0 error no-package", "contains no ODX document");
 }
 
 TEST_F(VBadInputTest, PackageIsToldByItsBytesAndNotByItsName) {
