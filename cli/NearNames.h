@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,8 +12,13 @@ namespace NCli {
 /// swapped character counts one step; upper and lower case are the same.
 std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
 
+/// The same with at most so many steps.
+std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names,
+                                         std::size_t mostSteps);
+
 /// The same for the end of a message: "; near names: UDS, KWP", or "" when there are none.
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
+std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names, std::size_t mostSteps);
 
 /// The same for names that are few: where none is near, all of them: "; there are view, resolve". In UTF-8.
 std::string NearOrAllNote(std::string const& wanted, std::vector<std::string> const& names);

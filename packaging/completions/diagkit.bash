@@ -3,17 +3,18 @@ _diagkit() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local options= choices= answers=
     case ${COMP_WORDS[1]} in
-    info) options="--help --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
-    layers) options="--help --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    info) options="--help --wide --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    layers) options="--help --csv --wide --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     graph) options="--help --layer --format --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
-    view) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
+    view) options="--help --layer --container --diag-comm --job --flash --range --csv --wide --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
     resolve) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
-    explain) options="--help --layer --max-candidates --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comm diag-variable global-neg-response dop" ;;
+    explain) options="--help --layer --max-candidates --wide --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comm diag-variable global-neg-response dop" ;;
     traverse) options="--help --layer --dictionary --max-visits --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     oem) options="--help --each --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
-    check) options="--help --format --fail-on --ignore --only --baseline --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
-    uses) options="--help --kind --layer --unused --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    check) options="--help --csv --format --fail-on --ignore --only --baseline --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    uses) options="--help --kind --layer --unused --csv --wide --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
+    find) options="--help --regex --kind --csv --wide --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     diff) options="--help --old --new --layer --to-layer --ignore --ids --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     esac
     case "${COMP_WORDS[1]} $previous" in
@@ -49,7 +50,7 @@ _diagkit() {
     *" --to-layer") answers="" ;;
     *)
         if ((COMP_CWORD == 1)); then
-            answers="info layers graph view resolve explain traverse oem enums check uses diff --help --version"
+            answers="info layers graph view resolve explain traverse oem enums check uses find diff --help --version"
         elif [[ $word == -* ]]; then
             answers=$options
         elif ((COMP_CWORD == 2)); then
