@@ -93,6 +93,14 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments) {
     command.set_version_flag("-V,--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
 }
 
+void DeclareCsv(CLI::App& command, VArguments& arguments) {
+    command.add_flag("--csv", arguments.isCsv, "Print a table for spreadsheets (RFC 4180) on standard output");
+}
+
+void DeclareWide(CLI::App& command, VArguments& arguments) {
+    command.add_flag("--wide", arguments.isWide, "Do not shorten text to 80 columns or the width of the terminal");
+}
+
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments) {
     auto& option =
         *command.add_option("--layer", arguments.layer, "The layer: its short name or ID, or CONTAINER/LAYER");

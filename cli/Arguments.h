@@ -20,12 +20,14 @@ namespace NCli {
 struct VArguments {
     std::vector<std::string> files; ///< FILE..., in the order given: they form one database
     bool isJson = false;
+    bool isCsv = false;  ///< --csv, of the commands that have tables
+    bool isWide = false; ///< --wide, of those whose text has columns
     bool isStrict = false;
     bool isQuiet = false;
     NReader::VReadOptions readOptions; ///< the limits, and --verbose
 
     std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
-    std::string name;                   ///< NAME of `resolve`, `explain` and `uses`
+    std::string name;                   ///< NAME of `resolve`, `explain` and `uses`, PATTERN of `find`
     std::optional<std::string> table;   ///< TABLE of `enums`; an empty one is a name, too
     std::optional<std::string> literal; ///< LITERAL or VALUE of `enums`
     std::string layer;                  ///< --layer: a short name or an ID, as of all selections
@@ -44,8 +46,9 @@ struct VArguments {
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
     std::uint64_t maxCandidates = 1000;   ///< --max-candidates of `explain`
     bool isEach = false;                  ///< --each of `oem`
-    std::string tag;                      ///< --kind of `uses`: a tag of ODX, "" for any
+    std::string tag;                      ///< --kind of `uses` and `find`: a tag of ODX, "" for any
     bool isUnused = false;                ///< --unused of `uses`
+    bool isRegex = false;                 ///< --regex of `find`
 
     std::vector<std::string> oldFiles; ///< --old of `diff`
     std::vector<std::string> newFiles; ///< --new of `diff`
@@ -56,12 +59,20 @@ struct VArguments {
     /// The possible values of a word or an option that accepts only certain ones.
     std::map<CLI::Option const*, std::vector<std::string>> choices;
 
-    bool IsText() const { return !isJson && (format.empty() || format == "text"); } ///< whether people read the answer
+    bool IsText() const {
+        return !isJson && !isCsv && (format.empty() || format == "text");
+    } ///< whether people read the answer
     int Range() const { return range.value_or(5); }
 };
 
 /// The options that every command has.
 void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
+
+/// --csv, for commands whose answer is a table.
+void DeclareCsv(CLI::App& command, VArguments& arguments);
+
+/// --wide, for commands whose text has columns.
+void DeclareWide(CLI::App& command, VArguments& arguments);
 
 /// --layer alone, for commands that look at nothing else.
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);

@@ -6,6 +6,7 @@
 
 #include <cli/Baseline.h>
 #include <cli/Commands.h>
+#include <cli/Csv.h>
 #include <cli/JsonWriter.h>
 #include <cli/Load.h>
 #include <cli/NearNames.h>
@@ -55,6 +56,20 @@ void WriteAsJson(VJsonWriter& json, VDiagnostics const& diagnostics) {
     });
 }
 
+void WriteAsCsv(VDiagnostics const& diagnostics, VOutput& output) {
+    VCsvWriter csv(output, {"file", "line", "column", "severity", "code", "message"});
+    for (NReader::VDiagnostic const& diagnostic : diagnostics) {
+        csv.Row([&] {
+            csv.Cell(std::string_view(diagnostic.file));
+            csv.Cell(diagnostic.line);
+            csv.Cell(diagnostic.column);
+            csv.Cell(std::string_view(SeverityText(diagnostic.severity)));
+            csv.Cell(std::string_view(diagnostic.code));
+            csv.Cell(std::string_view(diagnostic.message));
+        });
+    }
+}
+
 void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
     for (NReader::VDiagnostic const& diagnostic : diagnostics) {
         output.Write(LineOf(diagnostic));
@@ -88,6 +103,8 @@ VDiagnostics Selected(VArguments const& arguments, VDiagnostics diagnostics, VBa
 void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, VOutput& output) {
     if (arguments.format == "sarif") {
         WriteJson(output, [&diagnostics](VJsonWriter& json) { WriteSarif(json, diagnostics); });
+    } else if (arguments.isCsv) {
+        WriteAsCsv(diagnostics, output);
     } else if (arguments.IsText()) {
         WriteText(diagnostics, output);
     } else {
@@ -99,6 +116,9 @@ void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, V
 std::string WrongUsage(VArguments const& arguments) {
     if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
         return fmt::format("--json and --format {} exclude each other", arguments.format);
+    }
+    if (arguments.isCsv && !arguments.format.empty()) {
+        return fmt::format("--csv and --format {} exclude each other", arguments.format);
     }
     for (std::vector<std::string> const* const codes : {&arguments.ignored, &arguments.only}) {
         for (std::string const& code : *codes) {
@@ -119,6 +139,7 @@ bool Fails(VArguments const& arguments, VDiagnostics const& diagnostics) {
 
 void DeclareCheck(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
+    DeclareCsv(command, arguments);
     DeclareChoice(command, arguments, "--format", arguments.format, {"text", "json", "sarif"},
                   "Output format: text, json or sarif (SARIF 2.1.0)");
     DeclareChoice(command, arguments, "--fail-on", arguments.failOn, {"error", "warning"},

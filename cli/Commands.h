@@ -5,13 +5,15 @@
 #include <cli/Output.h>
 #include <cli/Status.h>
 
-/// The commands, each in the source of its name: what it takes beyond the common options, and what it does. A command
-/// that takes nothing but FILE... is declared by `DeclareFiles`.
+/// The commands, each in the source of its name: what it takes beyond the common options, and what it does. It
+/// returns the exit status.
 
 namespace NCli {
 
+void DeclareInfo(CLI::App& command, VArguments& arguments);
 VStatus RunInfo(VArguments const& arguments, VOutput& output);
 
+void DeclareLayers(CLI::App& command, VArguments& arguments);
 VStatus RunLayers(VArguments const& arguments, VOutput& output);
 
 void DeclareGraph(CLI::App& command, VArguments& arguments);
@@ -40,6 +42,9 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output);
 
 void DeclareUses(CLI::App& command, VArguments& arguments);
 VStatus RunUses(VArguments const& arguments, VOutput& output);
+
+void DeclareFind(CLI::App& command, VArguments& arguments);
+VStatus RunFind(VArguments const& arguments, VOutput& output);
 
 void DeclareDiff(CLI::App& command, VArguments& arguments);
 VStatus RunDiff(VArguments const& arguments, VOutput& output);

@@ -165,6 +165,8 @@ std::string WayText(VWay const& way, VExplained const& explained) {
     return LayerAround(*way.element) == &owner ? text : text + ", " + explained.kind.reference;
 }
 
+constexpr std::size_t kNotesColumn = 2;
+
 std::string TitleAround(NODX201::VOdxElement const& element) {
     NODX201::VDiagLayer const* const layer = LayerAround(element);
     return layer != nullptr ? Titled(*layer) : "-";
@@ -172,17 +174,17 @@ std::string TitleAround(NODX201::VOdxElement const& element) {
 
 void WriteCandidates(VExplained const& explained, VOutput& output) {
     NQuery::VExplanation const& explanation = explained.explanation;
-    VColumns columns;
+    VColumns columns(kNotesColumn);
     columns.Add({"Of", "Kind", "ID", "Way", "Fate", "Decided at"});
     for (VWay const& way : explanation.candidates) {
         NODX201::VOdxElement const& decisive = way.decidedBy != nullptr ? *way.decidedBy : *way.element;
-        columns.Add({TitleAround(*way.element), KindOf(*way.element), ShownId(*way.element), WayText(way, explained),
-                     FateText(way), ShownPlace(explained.database, decisive)});
+        columns.Add({TitleAround(*way.element), KindOf(*way.element), ShownOtherId(*way.element),
+                     WayText(way, explained), FateText(way), ShownPlace(explained.database, decisive)});
     }
     if (!explanation.candidates.empty()) {
         output.Write(
             fmt::format("\n{}\n", output.Heading(fmt::format("On the way ({})", explanation.candidates.size()))));
-        output.Write(columns.Format());
+        output.Write(columns.FormatWithin(output.Width()));
     }
     if (!explanation.leftOut.has_value()) {
         output.Write("  and more, not counted as PARENT-REFs run in circles; --max-candidates lets more be listed\n");
@@ -195,21 +197,22 @@ void WriteElsewhere(VExplained const& explained, VOutput& output) {
     if (explained.explanation.elsewhere.empty()) {
         return;
     }
-    VColumns columns;
+    VColumns columns(kNotesColumn);
     for (NODX201::VOdxElement const* const element : explained.explanation.elsewhere) {
-        columns.Add(
-            {TitleAround(*element), KindOf(*element), ShownId(*element), ShownPlace(explained.database, *element)});
+        columns.Add({TitleAround(*element), KindOf(*element), ShownOtherId(*element),
+                     ShownPlace(explained.database, *element)});
     }
     output.Write(fmt::format("\n{}\n", output.Heading(fmt::format("Elsewhere, where no PARENT-REF leads ({})",
                                                                   explained.explanation.elsewhere.size()))));
-    output.Write(columns.Format());
+    output.Write(columns.FormatWithin(output.Width()));
 }
 
 void WriteText(VExplained const& explained, VOutput& output) {
     bool const isVisible = explained.explanation.visible.has_value();
-    output.Write(output.Heading(fmt::format("{} in {} {}", explained.name.empty() ? "''" : Shown(explained.name),
-                                            ShownName(explained.layer),
-                                            isVisible ? Verdict(explained) : VerdictOfNothing(explained))));
+    std::string const verdict =
+        fmt::format("{} in {} {}", explained.name.empty() ? "''" : Shown(explained.name), ShownName(explained.layer),
+                    isVisible ? Verdict(explained) : VerdictOfNothing(explained));
+    output.Write(output.Heading(InLines(verdict, output.Width())));
     output.Write("\n");
     WriteCandidates(explained, output);
     WriteElsewhere(explained, output);
@@ -236,6 +239,7 @@ void DeclareExplain(CLI::App& command, VArguments& arguments) {
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
     DeclareLayer(command, arguments).required();
     DeclareCount(command, "--max-candidates", arguments.maxCandidates, "The most candidates to list");
+    DeclareWide(command, arguments);
     DeclareFiles(command, arguments);
 }
 

@@ -115,7 +115,7 @@ void WriteDocuments(VDocuments& documents, VOutput& output) {
         columns.Add({Shown(document.GetShortName()), document.GetCategory(),
                      version.empty() ? "no MODEL-VERSION" : Shown("ODX " + version), Shown(document.GetFileName())});
     });
-    output.Write(columns.Format());
+    output.Write(columns.FormatWithin(output.Width()));
 }
 
 void WriteCounts(std::string const& heading, VCounts const& counts, VOutput& output) {
@@ -141,6 +141,11 @@ void WriteText(VDocuments& documents, NReader::VReadResult const& result, VOutpu
 }
 
 } // namespace
+
+void DeclareInfo(CLI::App& command, VArguments& arguments) {
+    DeclareWide(command, arguments);
+    DeclareFiles(command, arguments);
+}
 
 VStatus RunInfo(VArguments const& arguments, VOutput& output) {
     NReader::VReadResult result;

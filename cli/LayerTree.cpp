@@ -41,14 +41,14 @@ class VLayerTree {
 public:
     explicit VLayerTree(std::vector<VPlacedLayer> const& layers);
 
-    std::string Format();
+    std::string Format(std::size_t width);
 
 private:
     void AddLayer(VPlacedLayer const& placed);
     void AddBelowParents(std::size_t node, NODX201::VDiagLayer& layer);
     std::size_t NodeOf(VNamedParent const& parent);
     void ShowHeir(std::size_t index, std::size_t depth);
-    void ShowLine(VNode const& node, std::size_t depth, char const* note);
+    void ShowLine(VNode const& node, std::size_t depth, std::string const& place, char const* note = "");
 
     template <class Test>
     void ShowRoots(Test isRoot);
@@ -56,7 +56,7 @@ private:
     std::vector<VNode> m_nodes; // the layers in document order, then the unresolved parents
     std::unordered_map<NODX201::VDiagLayer const*, std::size_t> m_layers;
     std::map<std::pair<std::wstring, std::string>, std::size_t> m_unresolved; // by name and kind
-    VColumns m_columns;
+    VColumns m_columns{4};                                                    // notes stand below what they are about
 };
 
 VLayerTree::VLayerTree(std::vector<VPlacedLayer> const& layers) {
@@ -73,7 +73,7 @@ void VLayerTree::AddLayer(VPlacedLayer const& placed) {
     VNode& node = m_nodes.emplace_back();
     node.name = Cut(ShownName(*placed.layer));
     node.kind = TagTextOf(*placed.layer);
-    node.id = Cut(ShownId(*placed.layer));
+    node.id = Cut(ShownOtherId(*placed.layer));
     node.container = Cut("in " + ShownName(*placed.container));
 }
 
@@ -105,11 +105,11 @@ std::size_t VLayerTree::NodeOf(VNamedParent const& parent) {
     return position->second;
 }
 
-std::string VLayerTree::Format() {
+std::string VLayerTree::Format(std::size_t width) {
     ShowRoots([](VNode const& node) { return node.isResolved && !node.isBelowAnother && node.kind != kSharedData; });
     ShowRoots([](VNode const& node) { return !node.isResolved; });
     ShowRoots([](VNode const& node) { return node.isResolved && node.kind == kSharedData; });
-    return m_columns.Format();
+    return m_columns.FormatWithin(width);
 }
 
 template <class Test>
@@ -125,22 +125,23 @@ void VLayerTree::ShowRoots(Test isRoot) {
 void VLayerTree::ShowHeir(std::size_t index, std::size_t depth) {
     VNode& node = m_nodes[index];
     if (node.isUnfolded) {
-        ShowLine(node, depth, node.children.empty() ? "" : "children above");
+        ShowLine(node, depth, node.children.empty() ? node.container : "children above");
         return;
     }
     node.isUnfolded = true;
-    ShowLine(node, depth, node.isResolved ? "" : "unresolved parent");
+    ShowLine(node, depth, node.isResolved ? node.container : "unresolved parent");
     for (VNode::VChild const& child : node.children) {
         if (child.isHeir) {
             ShowHeir(child.node, depth + 1);
         } else {
-            ShowLine(m_nodes[child.node], depth + 1, "inherits nothing from this kind of parent");
+            ShowLine(m_nodes[child.node], depth + 1, m_nodes[child.node].container,
+                     "inherits nothing from this kind of parent");
         }
     }
 }
 
-void VLayerTree::ShowLine(VNode const& node, std::size_t depth, char const* note) {
-    m_columns.Add({std::string(2 * depth, ' ') + node.name, node.kind, node.id, node.container, note});
+void VLayerTree::ShowLine(VNode const& node, std::size_t depth, std::string const& place, char const* note) {
+    m_columns.Add({std::string(2 * depth, ' ') + node.name, node.kind, node.id, place, note});
 }
 
 std::size_t CountContainers(std::vector<VPlacedLayer> const& layers) {
@@ -157,7 +158,7 @@ void WriteLayerTree(std::vector<VPlacedLayer> const& layers, VOutput& output) {
     std::string const heading =
         fmt::format("{} in {}", Counted(layers.size(), "layer"), Counted(CountContainers(layers), "container"));
     output.Write(output.Heading(heading) + "\n");
-    output.Write(VLayerTree(layers).Format());
+    output.Write(VLayerTree(layers).Format(output.Width()));
 }
 
 } // namespace NCli

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+#include <iterator>
+
 #include <cli/Commands.h>
+#include <cli/Csv.h>
 #include <cli/JsonWriter.h>
 #include <cli/LayerTree.h>
 #include <cli/Layers.h>
@@ -29,7 +33,32 @@ void WriteLayer(VJsonWriter& json, VPlacedLayer const& placed) {
     });
 }
 
+void WriteAsCsv(std::vector<VPlacedLayer> const& layers, VOutput& output) {
+    VCsvWriter csv(output, {"short_name", "kind", "id", "container", "parents", "unresolved_parents"});
+    for (VPlacedLayer const& placed : layers) {
+        std::vector<VNamedParent> const parents = NamedParentsOf(*placed.layer);
+        std::vector<VNamedParent> unresolved;
+        std::copy_if(parents.begin(), parents.end(), std::back_inserter(unresolved),
+                     [](VNamedParent const& parent) { return parent.layer == nullptr; });
+        auto const nameOf = [](VNamedParent const& parent) { return parent.name; };
+        csv.Row([&] {
+            csv.Cell(std::wstring_view(placed.layer->GetShortName()));
+            csv.Cell(std::string_view(TagTextOf(*placed.layer)));
+            csv.Cell(std::wstring_view(placed.layer->GetId()));
+            csv.Cell(std::wstring_view(placed.container->GetShortName()));
+            csv.CellOf(parents, nameOf);
+            csv.CellOf(unresolved, nameOf);
+        });
+    }
+}
+
 } // namespace
+
+void DeclareLayers(CLI::App& command, VArguments& arguments) {
+    DeclareCsv(command, arguments);
+    DeclareWide(command, arguments);
+    DeclareFiles(command, arguments);
+}
 
 VStatus RunLayers(VArguments const& arguments, VOutput& output) {
     NReader::VReadResult result;
@@ -43,6 +72,8 @@ VStatus RunLayers(VArguments const& arguments, VOutput& output) {
                 json.ArrayOf("layers", layers, [&json](VPlacedLayer const& placed) { WriteLayer(json, placed); });
             });
         });
+    } else if (arguments.isCsv) {
+        WriteAsCsv(layers, output);
     } else {
         WriteLayerTree(layers, output);
     }

@@ -57,14 +57,14 @@ std::size_t MostSteps(std::wstring_view wanted) { return wanted.size() < 8 ? wan
 
 } // namespace
 
-std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names) {
+std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names,
+                                         std::size_t mostSteps) {
     std::vector<std::wstring_view> near;
     if (wanted.size() > kLongestName) {
         return near;
     }
     std::vector<std::pair<std::size_t, std::wstring_view>> ranked;
     std::wstring const wantedInLowerCase = LowerCase(wanted);
-    std::size_t const mostSteps = MostSteps(wanted);
     for (std::wstring_view const name : names) {
         // Every difference in length is at least one step, so most names need no further comparison.
         if (name.empty() || name.size() > wanted.size() + mostSteps || wanted.size() > name.size() + mostSteps) {
@@ -82,10 +82,18 @@ std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<s
     return near;
 }
 
+std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names) {
+    return NearNames(wanted, names, MostSteps(wanted));
+}
+
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names) {
+    return NearNote(wanted, names, MostSteps(wanted));
+}
+
+std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names, std::size_t mostSteps) {
     std::string note;
     char const* separator = "; near names: ";
-    for (std::wstring_view const name : NearNames(wanted, names)) {
+    for (std::wstring_view const name : NearNames(wanted, names, mostSteps)) {
         note += separator + Shown(name);
         separator = ", ";
     }

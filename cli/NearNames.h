@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +13,13 @@ namespace NCli {
 /// characters of a short wanted one, a quarter of a longer one.
 std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
 
+/// The same with at most so many steps.
+std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names,
+                                         std::size_t mostSteps);
+
 /// The same for the end of a message: "; near names: UDS, KWP", or "" when there are none.
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
+std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names, std::size_t mostSteps);
 
 /// The same in UTF-8.
 std::string NearNote(std::string const& wanted, std::vector<std::string> const& names);

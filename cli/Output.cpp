@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <cli/Output.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -11,8 +12,24 @@
 #include <cli/Platform.h>
 
 namespace NCli {
+namespace {
 
-VOutput::VOutput() : m_isColoured(IsTerminal(stdout) && std::getenv("NO_COLOR") == nullptr) {}
+std::size_t WidthOfLines() {
+    constexpr std::size_t kUsual = 80;
+    constexpr std::size_t kLeast = 40; // of anything narrower nobody reads a table
+    std::size_t const width = TerminalWidth(stdout);
+    return width == 0 ? kUsual : std::max(width, kLeast);
+}
+
+/// NO_COLOR counts when it is set, and not empty.
+bool IsColourWanted() {
+    char const* const variable = std::getenv("NO_COLOR");
+    return variable == nullptr || *variable == '\0';
+}
+
+} // namespace
+
+VOutput::VOutput() : m_isColoured(IsTerminal(stdout) && IsColourWanted()), m_width(WidthOfLines()) {}
 
 void VOutput::Write(std::string_view text) {
     if (m_error == 0 && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,8 +18,12 @@ public:
 
     void Write(std::string_view text);
 
-    /// The text as a heading: emphasised when standard output is a terminal and NO_COLOR is unset.
+    /// The text as a heading: emphasised when standard output is a terminal and NO_COLOR is unset or empty.
     std::string Heading(std::string_view text) const;
+
+    /// How many characters a line for people may have: as many as the terminal has room for; 80 on anything else.
+    std::size_t Width() const { return m_width; }
+    void SetWidth(std::size_t width) { m_width = width; }
 
     /// A message of the program about the call itself; --quiet does not silence it.
     void Complain(std::string_view message) const;
@@ -34,6 +39,7 @@ private:
     void Flush() const noexcept;
 
     bool m_isColoured;
+    std::size_t m_width;
     mutable int m_error = 0; // errno of the first write that failed, which complaining may notice
 };
 

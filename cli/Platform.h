@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -15,5 +16,8 @@ void PreparePlatform(); ///< once, before anything is written
 std::vector<std::string> ArgumentsInUtf8(int count, char** words);
 
 bool IsTerminal(std::FILE* stream); ///< whether it understands escape sequences
+
+/// How many characters a line of a terminal has room for; 0 for one that does not say, and for anything else.
+std::size_t TerminalWidth(std::FILE* stream);
 
 } // namespace NCli

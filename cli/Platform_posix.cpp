@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdio>
 
+#include <sys/ioctl.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -55,5 +56,10 @@ std::vector<std::string> ArgumentsInUtf8(int count, char** words) {
 }
 
 bool IsTerminal(std::FILE* stream) { return ::isatty(::fileno(stream)) != 0; }
+
+std::size_t TerminalWidth(std::FILE* stream) {
+    winsize size{};
+    return ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+}
 
 } // namespace NCli

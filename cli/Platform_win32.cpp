@@ -60,4 +60,14 @@ bool IsTerminal(std::FILE* stream) {
            SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
+std::size_t TerminalWidth(std::FILE* stream) {
+    HANDLE const console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    if (GetConsoleScreenBufferInfo(console, &info) == 0 || info.srWindow.Right <= info.srWindow.Left) {
+        return 0;
+    }
+    // One less than there are: a full line and its end make an empty line in some consoles.
+    return static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left);
+}
+
 } // namespace NCli

@@ -60,14 +60,13 @@ VSelectionRule const kOutParamSelectionInLayer  {kLayer | kDiagComm | kJob | kRa
 VSelectionRule const kFlashSelection            {kFlash, &NeedsFlash, "--flash F"};
 // clang-format on
 
-char const* const kRangesHelp =
-    "Output parameters of a DIAG-SERVICE by --range (a job has only its own):\n"
-    "  0  positive and negative responses\n"
-    "  1  request and negative responses\n"
-    "  2  nothing\n"
-    "  3  request\n"
-    "  4  positive responses\n"
-    "  5  request, positive and negative responses (default)\n";
+char const* const kRangesHelp = "Output parameters of a DIAG-SERVICE by --range (a job has only its own):\n"
+                                "  0  positive and negative responses\n"
+                                "  1  request and negative responses\n"
+                                "  2  nothing\n"
+                                "  3  request\n"
+                                "  4  positive responses\n"
+                                "  5  request, positive and negative responses (default)\n";
 
 std::string WrongSelection(VSelectionRule const& rule, VArguments const& arguments) {
     for (VGivenSelection const& given : GivenIn(arguments)) {

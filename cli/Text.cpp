@@ -35,6 +35,11 @@ std::string ShownName(NODX201::VOdxElement const& element) {
 
 std::string ShownId(NODX201::VOdxElement const& element) { return Shown(IdOf(element)); }
 
+std::string ShownOtherId(NODX201::VOdxElement const& element) {
+    std::wstring_view const id = IdOf(element);
+    return id == element.GetShortName() ? "" : Shown(id);
+}
+
 std::string TagTextOf(NODX201::VOdxElement const& element) {
     return NReader::ToUtf8(NODX201::OdxTagText(element.GetOdxTag()));
 }

@@ -24,6 +24,9 @@ std::string ShownName(NODX201::VOdxElement const& element);
 /// The ID for people to read; "" for an element without one.
 std::string ShownId(NODX201::VOdxElement const& element);
 
+/// The same; "" also where the ID is the short name, beside which it says nothing.
+std::string ShownOtherId(NODX201::VOdxElement const& element);
+
 /// The ODX tag of an element: "ECU-VARIANT".
 std::string TagTextOf(NODX201::VOdxElement const& element);
 

@@ -7,6 +7,7 @@
 
 #include <cli/AnyElement.h>
 #include <cli/Commands.h>
+#include <cli/Csv.h>
 #include <cli/ElementFinder.h>
 #include <cli/Entry.h>
 #include <cli/Load.h>
@@ -69,6 +70,21 @@ void WriteEntriesAsJson(std::string_view name, std::vector<NODX201::VOdxElement*
     });
 }
 
+void WriteUsesAsCsv(NMemory::VDatabase const& database, std::vector<NQuery::VUse> const& uses, VOutput& output) {
+    VCsvWriter csv(output, {DIAGKIT_ENTRY_COLUMNS, "tag", "file", "line", "column", "layers"});
+    for (NQuery::VUse const& use : uses) {
+        NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, *use.reference);
+        csv.Row([&] {
+            WriteEntryCells(csv, use.from);
+            csv.Cell(std::string_view(TagTextOf(*use.reference)));
+            WritePlaceCells(csv, place);
+            csv.Cell(place.column);
+            csv.CellOf(use.layers.value_or(std::vector<NODX201::VDiagLayer*>()),
+                       [](NODX201::VDiagLayer const* layer) { return layer->GetShortName(); });
+        });
+    }
+}
+
 NQuery::VUses::VProgress ProgressOf(VProgressBar& bar, VArguments const& arguments) {
     return bar.Progress(arguments.isQuiet);
 }
@@ -89,6 +105,8 @@ VStatus AnswerUnused(VArguments const& arguments, NReader::VReadResult const& re
     TellWhatWasNotRead(arguments, result, output);
     if (arguments.isJson) {
         WriteEntriesAsJson("unused", uses.Unused(), output);
+    } else if (arguments.isCsv) {
+        WriteEntriesAsCsv(uses.Unused(), output);
     } else {
         WriteUnused(*result.database, uses.Unused(), output);
     }
@@ -102,6 +120,10 @@ VStatus AnswerUses(VArguments const& arguments, NReader::VReadResult const& resu
     std::vector<NQuery::VUse> const uses =
         NQuery::VUses(database, result.elements, ProgressOf(bar, arguments)).Of(element);
     TellWhatWasNotRead(arguments, result, output);
+    if (arguments.isCsv) {
+        WriteUsesAsCsv(database, uses, output);
+        return VStatus::Done;
+    }
     if (!arguments.isJson) {
         WriteUses(database, element, uses, output);
         return VStatus::Done;
@@ -144,6 +166,8 @@ void DeclareUses(CLI::App& command, VArguments& arguments) {
     RefuseEmpty(*kind->type_name("TAG"));
     DeclareLayer(command, arguments);
     command.add_flag("--unused", arguments.isUnused, "List the elements that no reference leads to in any layer");
+    DeclareCsv(command, arguments);
+    DeclareWide(command, arguments);
     DeclareFiles(command, arguments);
     command.get_option("FILE")->required(false); // CLI11 takes the first of them as NAME even with --unused
     command.footer("uses NAME FILE... or uses --unused FILE...");

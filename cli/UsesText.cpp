@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <cli/UsesText.h>
 
-#include <map>
+#include <algorithm>
 #include <string>
 
 #include <fmt/format.h>
 
 #include <cli/Columns.h>
+#include <cli/Groups.h>
 #include <cli/InheritedKinds.h>
 #include <cli/Layers.h>
 #include <cli/Text.h>
@@ -15,59 +16,7 @@
 namespace NCli {
 namespace {
 
-/// What comes in groups, each with a heading, in the order in which the groups first occur. Groups of one title
-/// show their IDs, too.
-template <class Key>
-class VGroups {
-public:
-    void Add(Key const& key, std::string const& title, std::string const& id, std::vector<std::string> cells) {
-        auto const [place, isNew] = m_places.try_emplace(key, m_groups.size());
-        if (isNew) {
-            m_groups.push_back({title, id});
-            ++m_titles[title];
-        }
-        VGroup& group = m_groups[place->second];
-        group.columns.Add(std::move(cells));
-        ++group.count;
-    }
-
-    void Write(VOutput& output) const {
-        for (VGroup const& group : m_groups) {
-            std::string const id = m_titles.at(group.title) > 1 && !group.id.empty() ? ", ID " + group.id : "";
-            output.Write(fmt::format("\n{}\n", output.Heading(fmt::format("{}{} ({})", group.title, id, group.count))));
-            output.Write(group.columns.Format());
-        }
-    }
-
-private:
-    struct VGroup {
-        std::string title;
-        std::string id;
-        VColumns columns{};
-        std::size_t count = 0;
-    };
-
-    std::vector<VGroup> m_groups;
-    std::map<Key, std::size_t> m_places;
-    std::map<std::string, std::size_t> m_titles; // and how many groups have each
-};
-
-/// The layer that an element stands in, or else its document; null for what stands in neither.
-NODX201::VOdxElement const* RoomOf(NODX201::VOdxElement const& element) {
-    if (NODX201::VDiagLayer const* const layer = LayerAround(element)) {
-        return layer;
-    }
-    NODX201::VOdxElement const* room = nullptr;
-    for (NODX201::VOdxObject const* owner = element.GetOwner(); owner != nullptr; owner = owner->GetOwner()) {
-        auto const* const outer = dynamic_cast<NODX201::VOdxElement const*>(owner);
-        room = outer != nullptr && outer->GetOwner() != nullptr ? outer : room;
-    }
-    return room;
-}
-
-std::string TitleOfRoom(NODX201::VOdxElement const* room) {
-    return room != nullptr ? "In " + TagTextOf(*room) + " " + ShownName(*room) : "Elsewhere";
-}
+constexpr std::size_t kBelow = 2; // the column from which cells go below, where lines are too wide
 
 /// The elements with short names between the layer or document and a reference.
 std::string PathInside(NODX201::VOdxElement const* room, NODX201::VLink const& reference) {
@@ -84,36 +33,42 @@ std::string PathInside(NODX201::VOdxElement const* room, NODX201::VLink const& r
     return path;
 }
 
-/// "means it in A, B"; of very many layers the first.
-std::string LayersText(std::vector<NODX201::VDiagLayer*> const& layers) {
+/// "means it in A, B"; of very many layers, or where a line has no room for more, the first.
+std::string LayersText(std::vector<NODX201::VDiagLayer*> const& layers, std::size_t width) {
     constexpr std::size_t kMost = 5;
-    std::string text;
-    for (std::size_t index = 0; index < std::min(layers.size(), kMost); ++index) {
-        text += (index == 0 ? "means it in " : ", ") + ShownName(*layers[index]);
+    constexpr std::size_t kBeside = 20; // what the line is indented, and the end of the text
+    std::string text = "means it in ";
+    std::size_t told = 0;
+    for (; told < std::min(layers.size(), kMost); ++told) {
+        std::string const name = (told == 0 ? "" : ", ") + ShownName(*layers[told]);
+        if (told > 0 && text.size() + name.size() + kBeside > width) {
+            break;
+        }
+        text += name;
     }
-    return layers.size() > kMost ? fmt::format("{} and {} more", text, layers.size() - kMost) : text;
+    return layers.size() > told ? fmt::format("{} and {} more", text, layers.size() - told) : text;
 }
 
 } // namespace
 
 void WriteUses(NMemory::VDatabase const& database, NODX201::VOdxElement const& element,
                std::vector<NQuery::VUse> const& uses, VOutput& output) {
-    std::string const id = ShownId(element);
+    std::string const id = ShownOtherId(element);
     output.Write(
         output.Heading(fmt::format("{} {}{}", KindOf(element), ShownName(element), id.empty() ? "" : ", ID " + id)));
-    VColumns where;
+    VColumns where(1);
     NODX201::VOdxElement const* const home = RoomOf(element);
     where.Add(
         {ShownPlace(database, element), home != nullptr ? "in " + TagTextOf(*home) + " " + ShownName(*home) : ""});
-    output.Write("\n" + where.Format());
-    VGroups<NODX201::VOdxElement const*> groups;
+    output.Write("\n" + where.FormatWithin(output.Width()));
+    VGroups groups(kBelow);
     std::size_t byName = 0;
     for (NQuery::VUse const& use : uses) {
         NODX201::VOdxElement const* const room = RoomOf(*use.reference);
         byName += dynamic_cast<NODX201::VSnref const*>(&use.reference->GetLink()) != nullptr ? 1 : 0;
-        groups.Add(room, TitleOfRoom(room), room != nullptr ? ShownId(*room) : "",
-                   {ShownPlace(database, *use.reference), TagTextOf(*use.reference),
-                    Cut(PathInside(room, *use.reference)), use.layers.has_value() ? Cut(LayersText(*use.layers)) : ""});
+        groups.Add(room, {ShownPlace(database, *use.reference), TagTextOf(*use.reference),
+                          Cut(PathInside(room, *use.reference)),
+                          use.layers.has_value() ? Cut(LayersText(*use.layers, output.Width())) : ""});
     }
     groups.Write(output);
     output.Write(uses.empty() ? "\nNo reference leads to it\n"
@@ -123,14 +78,12 @@ void WriteUses(NMemory::VDatabase const& database, NODX201::VOdxElement const& e
 
 void WriteUnused(NMemory::VDatabase const& database, std::vector<NODX201::VOdxElement*> const& unused,
                  VOutput& output) {
-    VGroups<std::string> groups;
+    VGroups groups(kBelow);
     for (NODX201::VOdxElement const* const element : unused) {
         NODX201::VOdxElement const* const room = RoomOf(*element);
-        std::string const tag = TagTextOf(*element);
-        groups.Add(tag, tag, "",
-                   {ShownName(*element), ShownId(*element),
-                    room != nullptr ? "in " + TagTextOf(*room) + " " + ShownName(*room) : "",
-                    ShownPlace(database, *element)});
+        groups.Add(TagTextOf(*element), {ShownName(*element), ShownOtherId(*element),
+                                         room != nullptr ? "in " + TagTextOf(*room) + " " + ShownName(*room) : "",
+                                         ShownPlace(database, *element)});
     }
     output.Write(output.Heading("Elements to which no reference leads") + "\n");
     groups.Write(output);

@@ -50,6 +50,8 @@ void WriteViewAsJson(std::string_view kind, NODX201::VOdxElement const& context,
 void DeclareView(CLI::App& command, VArguments& arguments) {
     DeclareKind(command, arguments, NamesOf(kViewKinds), "What to view");
     DeclareSelections(command, arguments);
+    DeclareCsv(command, arguments);
+    DeclareWide(command, arguments);
     DeclareFiles(command, arguments);
     command.footer(SelectionsOf(kViewKinds) + "\n" + kRangesHelp);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <fmt/format.h>
 
+#include <cli/Csv.h>
 #include <cli/ElementFinder.h>
 #include <cli/Text.h>
 #include <cli/ViewText.h>
@@ -24,6 +25,8 @@ VStatus ViewFlash(VArguments const& arguments, NMemory::VDatabase& database, VOu
     }
     if (arguments.isJson) {
         WriteViewAsJson(arguments.kind, *flash, entries, output);
+    } else if (arguments.isCsv) {
+        WriteEntriesAsCsv(entries, output);
     } else {
         WriteEntries(fmt::format("{} of FLASH {}", title, ShownName(*flash)), entries, &PlaceOf, output);
     }

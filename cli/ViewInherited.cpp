@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include <cli/Columns.h>
+#include <cli/Csv.h>
 #include <cli/ElementFinder.h>
 #include <cli/Entry.h>
 #include <cli/InheritedKinds.h>
@@ -34,7 +35,7 @@ std::string TitleOfOwner(NODX201::VOdxElement const& element) {
 
 std::string ViaOf(VViewEntry const& entry, VPath const& path) {
     NODX201::VDiagLayer const* const parent = ParentOn(path);
-    return parent == nullptr || parent == LayerAround(*entry.element) ? "" : "via " + Titled(*parent);
+    return parent == nullptr || parent == LayerAround(*entry.element) ? "" : "via " + ShownName(*parent);
 }
 
 /// Rows under a heading; no output without rows.
@@ -43,7 +44,7 @@ public:
     explicit VGroup(std::string title) : m_title(std::move(title)) {}
 
     void Add(NODX201::VOdxElement const& element, std::vector<std::string> const& notes) {
-        std::vector<std::string> cells{ShownName(element), KindOf(element), ShownId(element)};
+        std::vector<std::string> cells{ShownName(element), KindOf(element), ShownOtherId(element)};
         cells.insert(cells.end(), notes.begin(), notes.end());
         m_columns.Add(std::move(cells));
         ++m_count;
@@ -54,13 +55,13 @@ public:
     void Write(VOutput& output) const {
         if (m_count != 0) {
             output.Write(fmt::format("\n{}\n", output.Heading(fmt::format("{} ({})", m_title, m_count))));
-            output.Write(m_columns.Format());
+            output.Write(m_columns.FormatWithin(output.Width()));
         }
     }
 
 private:
     std::string m_title;
-    VColumns m_columns;
+    VColumns m_columns{3}; // notes stand below what they are about
     std::size_t m_count = 0;
 };
 
@@ -115,7 +116,7 @@ VGroup ExcludedGroup(NQuery::VLayerView const& view) {
 
 void WriteText(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind,
                VOutput& output) {
-    std::string const id = ShownId(layer);
+    std::string const id = ShownOtherId(layer);
     output.Write(output.Heading(fmt::format("{}s of {}{}", kind.noun, Titled(layer), id.empty() ? "" : ", ID " + id)));
     output.Write("\n");
     VGroup const own = OwnGroup(view, layer, kind);
@@ -147,6 +148,18 @@ void WriteViewEntry(VJsonWriter& json, VViewEntry const& entry, VPath const& pat
     });
 }
 
+void WriteAsCsv(NQuery::VLayerView const& view, NMemory::VDatabase const& database, VOutput& output) {
+    VCsvWriter csv(output, {DIAGKIT_ENTRY_COLUMNS, "via", "file", "line"});
+    for (VViewEntry const& entry : view.entries) {
+        csv.Row([&] {
+            WriteEntryCells(csv, entry.element);
+            csv.CellOf(view.PathOf(entry),
+                       [](NDIAGKIT::VParent const& step) { return step.layer.layer->GetShortName(); });
+            WritePlaceCells(csv, NQuery::FilePlaceOf(database, *entry.element));
+        });
+    }
+}
+
 void WriteAsJson(VJsonWriter& json, NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer,
                  VInheritedKindRow const& kind, NMemory::VDatabase const& database) {
     auto const write = [&](VViewEntry const& entry) { WriteViewEntry(json, entry, view.PathOf(entry), database); };
@@ -170,6 +183,8 @@ VStatus View(VArguments const& arguments, NMemory::VDatabase& database, VOutput&
     NQuery::VLayerView const view = NQuery::ViewOf(*layer, kind);
     if (arguments.isJson) {
         WriteJson(output, [&](VJsonWriter& json) { WriteAsJson(json, view, *layer, row, database); });
+    } else if (arguments.isCsv) {
+        WriteAsCsv(view, database, output);
     } else {
         WriteText(view, *layer, row, output);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <fmt/format.h>
 
+#include <cli/Csv.h>
 #include <cli/DiagCommSelection.h>
 #include <cli/Text.h>
 #include <cli/ViewText.h>
@@ -21,6 +22,8 @@ VStatus Answer(VArguments const& arguments, char const* title, NODX201::VDiagCom
     }
     if (arguments.isJson) {
         WriteViewAsJson(arguments.kind, context, entries, output);
+    } else if (arguments.isCsv) {
+        WriteEntriesAsCsv(entries, output);
     } else {
         WriteEntries(fmt::format("{} of {} {}", title, TagTextOf(context), ShownName(context)), entries, &PlaceOf,
                      output);

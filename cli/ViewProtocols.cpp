@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <fmt/format.h>
 
+#include <cli/Csv.h>
 #include <cli/ElementFinder.h>
 #include <cli/Layers.h>
 #include <cli/Text.h>
@@ -21,6 +22,8 @@ VStatus Answer(VArguments const& arguments, NODX201::VOdxElement const& context,
     }
     if (arguments.isJson) {
         WriteViewAsJson(arguments.kind, context, entries, output);
+    } else if (arguments.isCsv) {
+        WriteEntriesAsCsv(entries, output);
     } else {
         WriteEntries(fmt::format("PROTOCOLs of {} {}", TagTextOf(context), ShownName(context)), entries, &NoNote,
                      output);

@@ -32,12 +32,13 @@ std::string PlaceOf(NODX201::VOdxElement const& element) { return "in " + PathTo
 
 void WriteEntries(std::string_view title, std::vector<NODX201::VOdxElement const*> const& entries,
                   std::string (*noteOf)(NODX201::VOdxElement const& entry), VOutput& output) {
-    VColumns columns;
+    constexpr std::size_t kNotes = 3;
+    VColumns columns(kNotes);
     for (NODX201::VOdxElement const* const entry : entries) {
-        columns.Add({ShownName(*entry), KindOf(*entry), ShownId(*entry), noteOf(*entry)});
+        columns.Add({ShownName(*entry), KindOf(*entry), ShownOtherId(*entry), noteOf(*entry)});
     }
     output.Write(fmt::format("{}\n\n", output.Heading(title)));
-    output.Write(columns.Format());
+    output.Write(columns.FormatWithin(output.Width()));
     output.Write(fmt::format("{}{} in all\n", entries.empty() ? "" : "\n", entries.size()));
 }
 

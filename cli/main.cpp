@@ -11,6 +11,7 @@
 #include <fmt/format.h>
 
 #include <cli/Call.h>
+#include <cli/Columns.h>
 #include <cli/Commands.h>
 #include <cli/HelpFormatter.h>
 #include <cli/HelpTable.h>
@@ -32,8 +33,8 @@ struct VCommand {
 
 // clang-format off
 constexpr std::array kCommands{
-    VCommand{"info",     "Show documents, model versions and element counts",                 &DeclareFiles,    &RunInfo},
-    VCommand{"layers",   "List the diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
+    VCommand{"info",     "Show documents, model versions and element counts",                 &DeclareInfo,     &RunInfo},
+    VCommand{"layers",   "List the diagnostic layers and what they inherit from",             &DeclareLayers,   &RunLayers},
     VCommand{"graph",    "Draw the inheritance graph",                                        &DeclareGraph,    &RunGraph},
     VCommand{"view",     "List what is visible in a layer, and the layer it comes from",      &DeclareView,     &RunView},
     VCommand{"resolve",  "Find what a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
@@ -43,6 +44,7 @@ constexpr std::array kCommands{
     VCommand{"enums",    "List the literals and values of the ODX enumerations",              &DeclareEnums,    &RunEnums},
     VCommand{"check",    "Report errors and questionable data in the files",                  &DeclareCheck,    &RunCheck},
     VCommand{"uses",     "List the references to an element, or all unused elements",         &DeclareUses,     &RunUses},
+    VCommand{"find",     "Find a text in names, IDs, descriptions and trouble codes",         &DeclareFind,     &RunFind},
     VCommand{"diff",     "Compare two databases as each layer sees them",                     &DeclareDiff,     &RunDiff},
 };
 // clang-format on
@@ -63,6 +65,13 @@ VStatus RunCommand(CLI::App const& program, VArguments const& arguments, VOutput
     std::string const name = program.get_subcommands().front()->get_name();
     auto const row = std::find_if(kCommands.begin(), kCommands.end(),
                                   [&name](VCommand const& candidate) { return name == candidate.name; });
+    if (arguments.isJson && arguments.isCsv) {
+        output.Complain("--json and --csv exclude each other; see --help");
+        return VStatus::Usage;
+    }
+    if (arguments.isWide) {
+        output.SetWidth(kAnyWidth);
+    }
     return row->run(arguments, output);
 }
 

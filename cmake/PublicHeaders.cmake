@@ -31,6 +31,7 @@ set(public_headers
     diagkit/query/Content.h
     diagkit/query/Diff.h
     diagkit/query/FilePlace.h
+    diagkit/query/Find.h
     diagkit/query/InheritanceGraph.h
     diagkit/query/InheritedKind.h
     diagkit/query/LayerView.h

@@ -10,6 +10,7 @@
 #include <diagkit/query/Content.h>
 #include <diagkit/query/Diff.h>
 #include <diagkit/query/Explain.h>
+#include <diagkit/query/Find.h>
 #include <diagkit/query/InheritanceGraph.h>
 #include <diagkit/query/LayerView.h>
 #include <diagkit/query/Uses.h>
@@ -239,6 +240,30 @@ void AskForContents(std::vector<NODX201::VOdxElement*> const& elements) {
     }
 }
 
+/// The short name of an element is found in it, as a text and as whatever regular expression it is.
+void FindNames(std::vector<NODX201::VOdxElement*> const& elements, VBudget& budget) {
+    using NQuery::VFinder;
+    for (NODX201::VOdxElement* const element : elements) {
+        wchar_t const* const name = element->GetShortName();
+        if (*name == L'\0') {
+            continue;
+        }
+        if (!budget.Take()) {
+            return;
+        }
+        std::vector<NQuery::VFindMatch> const matches = VFinder(name).In(*element);
+        Require(!matches.empty() && matches.front().field == NQuery::VFindField::ShortName);
+        Require(matches.front().length == std::wstring_view(name).size());
+        try {
+            for (NQuery::VFindMatch const& match : VFinder(name, VFinder::VSyntax::Regex).In(*element)) {
+                Require(match.start + match.length <= match.text.size());
+            }
+        } catch (NQuery::VPatternError const&) {
+            // Names may be no regular expressions.
+        }
+    }
+}
+
 } // namespace
 
 std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
@@ -273,6 +298,8 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
     }
     CompareLayers(database);
     AskForContents(result.elements);
+    VBudget names(kQuestions);
+    FindNames(result.elements, names);
     VBudget references(kSteps);
     ResolveReferences(result, references);
     VBudget uses(kSteps);

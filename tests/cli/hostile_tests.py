@@ -239,6 +239,16 @@ class Hostile(unittest.TestCase):
         self.assertEqual((call.status, len(call.lines)), (3, 1), call.lines)
         self.assertLess(call.seconds, LONGEST)
 
+    # Patterns
+
+    def test_expressions_that_multiply_end_on_any_text(self):
+        text = b"<LONG-NAME>" + b"a" * MEBIBYTE + b"</LONG-NAME>"
+        path = self.write("a.odx", HEAD, text, b"<DESC>", b"a &lt; " * 100000, b"</DESC>", TAIL)
+        for pattern in ("(a+)+b", "(a|a)*b", "(.*)*x{3}$", "((a?){20}){5}b"):
+            call = Call(path, question=("find", "--regex", pattern))
+            self.assertIn(call.status, (0, 1), call.lines)
+            self.assertLess(call.seconds, LONGEST)
+
     # Entities
 
     def explain(self, layers):

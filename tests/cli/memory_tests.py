@@ -152,6 +152,17 @@ class MemoryThatRunsOut(unittest.TestCase):
         self.see_as_text_and_json("uses", "DIAG-SERVICE-2000", self.folder / "services.odx-d")
         self.see_as_text_and_json("uses", "--unused", SAMPLE)
 
+    def test_find(self):
+        self.see_as_text_and_json("find", "service-1", self.folder / "services.odx-d")
+        self.see("find", "service-1", self.folder / "services.odx-d", "--csv")
+        self.see("find", "--regex", "(a|b){1,500}", SAMPLE)
+
+    def test_tables(self):
+        self.see("layers", self.folder / "layers.odx-d", "--csv")
+        self.see("check", self.folder / "faults.odx-d", "--csv")
+        self.see("uses", "--unused", SAMPLE, "--csv")
+        self.see("view", "diag-comms", self.folder / "services.odx-d", "--layer", "P", "--csv")
+
     def test_a_search_that_goes_deep(self):
         def value(name, target):
             return f'<PARAM xsi:type="VALUE"><SHORT-NAME>{name}</SHORT-NAME><DOP-REF ID-REF="{target}"/></PARAM>'

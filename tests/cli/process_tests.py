@@ -230,6 +230,7 @@ class Writing(unittest.TestCase):
         ["check", "gates.odx-d", "--format", "sarif"],
         ["uses", "Amp", "signals.odx-d"],
         ["uses", "--unused", "uses.odx-d"],
+        ["find", "kettle", "find.odx-d"],
         ["diff", "gates.odx-d", "gates_copy.odx-d"],
     )
 
@@ -242,6 +243,8 @@ class Writing(unittest.TestCase):
             yield [*call, "--quiet"]
             if "--format" not in call:
                 yield [*call, "--json", "--quiet"]
+            if call[0] in ("layers", "view", "check", "uses", "find") and "--format" not in call:
+                yield [*call, "--csv", "--quiet"]
 
     @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
     def test_full_disk_is_status_3_with_a_message(self):
@@ -335,7 +338,7 @@ class Steering(unittest.TestCase):
                 f'ID="P"><SHORT-NAME>P{self.TURNING}Q</SHORT-NAME></PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>',
                 encoding="utf-8",
             )
-            for call in (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"]):
+            for call in (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"], ["find", "P"]):
                 done = run(*call, path)
                 written = done.stdout + done.stderr
                 self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)
@@ -506,6 +509,20 @@ class Terminals(unittest.TestCase):
 
     def test_no_color_is_obeyed(self):
         self.assertNotIn("\x1b", self.run_on_terminal("layers", "gates.odx-d", NO_COLOR="1"))
+
+    def test_an_empty_no_color_says_nothing(self):
+        self.assertIn("\x1b[1m", self.run_on_terminal("layers", "gates.odx-d", NO_COLOR=""))
+
+    def test_every_command_with_columns_obeys_no_color(self):
+        for call in (["info"], ["view", "diag-comms", "--layer", "Door"], ["uses", "--unused"], ["find", "door"],
+                     ["explain", "diag-comm", "Close", "--layer", "Door"]):
+            place = 3 if call[0] == "explain" else 2 if call[0] in ("view", "find") else len(call)
+            words = [*call[:place], "gates.odx-d", *call[place:]]
+            self.assertIn("\x1b[1m", self.run_on_terminal(*words), words)
+            self.assertNotIn("\x1b", self.run_on_terminal(*words, NO_COLOR="1"), words)
+
+    def test_tables_have_no_colour(self):
+        self.assertNotIn("\x1b", self.run_on_terminal("layers", "--csv", "gates.odx-d"))
 
     def test_a_long_check_shows_how_far_it_is(self):
         services = "".join(

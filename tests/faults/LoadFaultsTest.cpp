@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <diagkit/check/Check.h>
+#include <diagkit/query/Find.h>
 #include <diagkit/query/Uses.h>
 
 #include "faults/FailEverywhere.h"
@@ -64,6 +65,22 @@ TEST(LoadFaultsTest, FindingTheUsesInTheSample) {
     std::size_t const failures = FailEverywhere([&] { result.database->StartNewResolver(); }, [&] { ask(); });
     EXPECT_GT(failures, 1000u);
     EXPECT_EQ(ask(), before);
+}
+
+TEST(LoadFaultsTest, FindingAPatternInTheSample) {
+    NReader::VReadResult const result = NReader::ReadOdx({kSample}, OneThread());
+    using Finder = NQuery::VFinder;
+    std::pair<wchar_t const*, Finder::VSyntax> const patterns[] = {{L"motor", Finder::VSyntax::Text},
+                                                                   {L"(wiper|[r-s]ain)+\\b", Finder::VSyntax::Regex}};
+    for (auto const& [pattern, syntax] : patterns) {
+        auto const ask = [&result, text = pattern, form = syntax] {
+            return Finder(text, form).In(result.elements).size();
+        };
+        std::size_t const before = ask();
+        EXPECT_GT(before, 0u);
+        EXPECT_GT(FailEverywhere(ask), 50u);
+        EXPECT_EQ(ask(), before);
+    }
 }
 
 } // namespace

@@ -42,6 +42,7 @@ PUBLIC = {
         "Diff.h",
         "Explain.h",
         "FilePlace.h",
+        "Find.h",
         "InheritanceGraph.h",
         "InheritedKind.h",
         "LayerView.h",
