@@ -30,11 +30,13 @@ PUBLIC = {
     "query": {
         "Content.h",
         "Diff.h",
+        "DopValues.h",
         "Explain.h",
         "FilePlace.h",
         "InheritanceGraph.h",
         "InheritedKind.h",
         "LayerView.h",
+        "MessageLayout.h",
         "Uses.h",
     },
 }
