@@ -41,6 +41,9 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output);
 void DeclareUses(CLI::App& command, VArguments& arguments);
 VStatus RunUses(VArguments const& arguments, VOutput& output);
 
+void DeclareShow(CLI::App& command, VArguments& arguments);
+VStatus RunShow(VArguments const& arguments, VOutput& output);
+
 void DeclareDiff(CLI::App& command, VArguments& arguments);
 VStatus RunDiff(VArguments const& arguments, VOutput& output);
 

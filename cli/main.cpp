@@ -36,6 +36,7 @@ constexpr std::array kCommands{
     VCommand{"view",     "What is visible in a layer, with the layer it comes from",     &DeclareView,     &RunView},
     VCommand{"resolve",  "What a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
     VCommand{"explain",  "Why a short name means what it means in a layer, or nothing",  &DeclareExplain,  &RunExplain},
+    VCommand{"show",     "What is inside: messages byte by byte, DOPs, tables, jobs",     &DeclareShow,     &RunShow},
     VCommand{"traverse", "All that a layer holds and refers to, as a tree",              &DeclareTraverse, &RunTraverse},
     VCommand{"oem",      "Whose habits a database shows, and why no other's",             &DeclareOem,      &RunOem},
     VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},

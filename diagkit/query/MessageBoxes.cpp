@@ -35,8 +35,8 @@ private:
     /// Whether the parameters inside a row are painted in its place: those of a structure.
     bool IsEntered(std::size_t row) const {
         std::size_t const next = row + 1;
-        return next < m_layout.rows.size() && m_layout.rows[next].depth > m_layout.rows[row].depth &&
-               m_layout.rows[next].role == VLayoutRole::Param;
+        return m_layout.rows[row].role == VLayoutRole::Param && next < m_layout.rows.size() &&
+               m_layout.rows[next].depth > m_layout.rows[row].depth && m_layout.rows[next].role == VLayoutRole::Param;
     }
 
     std::size_t Next(std::size_t row) const {

@@ -73,8 +73,8 @@ struct VMessageLayout {
 };
 
 struct VLayoutOptions {
-    std::size_t maxRows = 100'000; ///< structures that hold each other twice and twice again have no end else
-    std::size_t maxDepth = 64;     ///< of structures inside one another
+    std::size_t maxRows = 50'000; ///< structures that hold each other twice and twice again have no end else
+    std::size_t maxDepth = 32;    ///< of structures inside one another
 };
 
 /// Whether an element has a layout: requests and responses, DOPs of all kinds, TABLEs and TABLE-ROWs.

@@ -9,6 +9,7 @@ _diagkit() {
     view) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comms diag-variables global-neg-responses dops protocols in-params out-params idents sessions" ;;
     resolve) options="--help --layer --container --diag-comm --job --flash --range --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="dop data-object-prop diag-comm diag-variable protocol ident session in-param out-param" ;;
     explain) options="--help --layer --max-candidates --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="diag-comm diag-variable global-neg-response dop" ;;
+    show) options="--help --layer --kind --max-rows --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     traverse) options="--help --layer --dictionary --max-visits --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     oem) options="--help --each --json --strict --quiet --version --max-file-size --max-members --max-member-size --max-package-size --max-ratio --max-elements --max-depth --max-attributes --max-tag-size --max-text-size --max-diagnostics" choices="" ;;
     enums) options="--help --json --strict --quiet --version" choices="CommRelationValueType Addressing PhysicalDataType Direction IdentValueType ValidType Termination RowFragment DataformatSelection DataType PhysicalLinkType UnitGroupCategory IntervalType ProjIdentType DiagClassType StandardisationLevel Radix PinType EncryptCompressMethodType Encoding CompuCategory Doctype SessionSubElemType" ;;
@@ -37,19 +38,20 @@ _diagkit() {
     *" --flash") answers="" ;;
     *" --range") answers="0 1 2 3 4 5" ;;
     *" --max-candidates") answers="" ;;
+    *" --kind") answers="" ;;
+    *" --max-rows") answers="" ;;
     *" --max-visits") answers="" ;;
     *" --fail-on") answers="error warning" ;;
     "check --ignore") answers="ambiguous-document ambiguous-name containment-cycle contradicting-type document-type duplicate-id duplicate-member duplicate-short-name empty encoding excludes-nothing import-cycle misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
     "diff --ignore") answers="long-names descriptions admin-data order" ;;
     *" --only") answers="ambiguous-document ambiguous-name containment-cycle contradicting-type document-type duplicate-id duplicate-member duplicate-short-name empty encoding excludes-nothing import-cycle misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
     *" --baseline") answers="" ;;
-    *" --kind") answers="" ;;
     *" --old") answers="" ;;
     *" --new") answers="" ;;
     *" --to-layer") answers="" ;;
     *)
         if ((COMP_CWORD == 1)); then
-            answers="info layers graph view resolve explain traverse oem enums check uses diff --help --version"
+            answers="info layers graph view resolve explain show traverse oem enums check uses diff --help --version"
         elif [[ $word == -* ]]; then
             answers=$options
         elif ((COMP_CWORD == 2)); then

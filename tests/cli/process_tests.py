@@ -217,6 +217,7 @@ class Writing(unittest.TestCase):
         ["check", "gates.odx-d"],
         ["check", "gates.odx-d", "--format", "json"],
         ["check", "gates.odx-d", "--format", "sarif"],
+        ["show", "Amp", "signals.odx-d"],
         ["uses", "Amp", "signals.odx-d"],
         ["uses", "--unused", "uses.odx-d"],
         ["diff", "gates.odx-d", "gates_copy.odx-d"],
@@ -324,7 +325,7 @@ class Steering(unittest.TestCase):
                 f'ID="P"><SHORT-NAME>P{self.TURNING}Q</SHORT-NAME></PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>',
                 encoding="utf-8",
             )
-            for call in (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"]):
+            for call in (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"], ["show", "P"]):
                 done = run(*call, path)
                 written = done.stdout + done.stderr
                 self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)

@@ -293,6 +293,15 @@ TEST_F(VMessageLayoutTest, WhatHasNoFixedPlaceComesLast) {
     EXPECT_EQ("0-0: 7..0=0\n1-?: 7..0=1\n?-?: 7..0=2\n", Boxes(Layout(L"R")));
 }
 
+TEST_F(VMessageLayoutTest, WhatMayStandSomewhereIsOneBox) {
+    ReadLayer(Structure("S", Const("a", "1", "8")) +
+                  Field("STATIC-FIELD", "F", "S",
+                        "<FIXED-NUMBER-OF-ITEMS>3</FIXED-NUMBER-OF-ITEMS><ITEM-BYTE-SIZE>2</ITEM-BYTE-SIZE>"),
+              Val("list", "F"));
+    EXPECT_EQ("0-5: 7..0=0\n", Boxes(Layout(L"R")));
+    EXPECT_EQ("", Boxes(Layout(L"F")));
+}
+
 TEST_F(VMessageLayoutTest, LongMessagesHaveNoBoxes) {
     ReadLayer("", Const("a", "1", "8", At("16")));
     EXPECT_EQ("", Boxes(Layout(L"R")));
