@@ -16,8 +16,8 @@ import sys
 from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, write_preparation
 
 # What stands in the commands for something of the user's, and something of the sample's for it.
-PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "OLD": str(SAMPLE),
-                "NEW": str(SAMPLE)}
+PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "SERVICE": "MoveWiper",
+                "OLD": str(SAMPLE), "NEW": str(SAMPLE)}
 
 # These run this test, or take long; check_packages.py runs the latter.
 ELSEWHERE = {"./test", "scripts/package"}
@@ -31,6 +31,7 @@ ANSWERS = {
     "./run view diag-comms": ["CalibrateParkPosition", "SessionLibrary"],
     "./run resolve dop": ["WiperMode"],
     "./run explain dop": ["WiperMode"],
+    "./run show": ["0x2F300103"],
     "./run traverse": ["ReadWiperStatus"],
     "./run oem": ["VDaimlerHeuristic", "decides"],
     "./run enums Addressing": ["FUNCTIONAL-OR-PHYSICAL"],
