@@ -185,8 +185,12 @@ VAnyElements FindElements(NReader::VReadResult const& result, VAnyName const& na
     });
 }
 
+VAnyElements InheritedFirst(VAnyElements const& found) {
+    return Preferring(found, [](NODX201::VOdxElement const& element) { return IsInherited(element); });
+}
+
 void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name, VAnyElements const& found,
-                    VOutput const& output) {
+                    VOutput const& output, std::string const& note) {
     std::wstring const wanted = NReader::FromUtf8(name.name);
     if (!found.empty()) {
         output.Complain(fmt::format("'{}' fits {} elements, {}:\n{}", Shown(wanted), found.size(),
@@ -211,14 +215,14 @@ void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name, VA
     std::string const kind = name.tag.empty() ? "element" : Shown(std::string_view(name.tag));
     std::string const message = fmt::format("{}no {} has the short name or ID '{}'", where, kind, Shown(wanted));
     if (others.empty()) {
-        output.Complain(message + NearNote(wanted, names));
+        output.Complain(message + note + NearNote(wanted, names));
         return;
     }
     bool const isMany = others.size() > kMostCandidates;
     others.erase(std::next(others.begin(), static_cast<std::ptrdiff_t>(std::min(others.size(), kMostCandidates))),
                  others.end());
     output.Complain(
-        fmt::format("{}; it is the name of {}{}", message, fmt::join(others, ", "), isMany ? " and more" : ""));
+        fmt::format("{}; it is the name of {}{}{}", message, fmt::join(others, ", "), isMany ? " and more" : "", note));
 }
 
 } // namespace NCli

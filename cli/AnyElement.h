@@ -21,8 +21,14 @@ struct VAnyName {
 /// those in its views and, for kinds that are not inherited, its own. REQUIRES: the elements were kept.
 std::vector<NODX201::VOdxElement*> FindElements(NReader::VReadResult const& result, VAnyName const& name);
 
-/// Tells what to say instead when nothing or not one element alone was found.
+/// Of elements that share a name, those of the kinds that layers inherit, where there are any: what the views of a
+/// layer hold goes before what else is called so.
+std::vector<NODX201::VOdxElement*> InheritedFirst(std::vector<NODX201::VOdxElement*> const& found);
+
+/// Tells what to say instead when nothing or not one element alone was found; where nothing was, with a note at the
+/// end.
 void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name,
-                    std::vector<NODX201::VOdxElement*> const& found, VOutput const& output);
+                    std::vector<NODX201::VOdxElement*> const& found, VOutput const& output,
+                    std::string const& note = {});
 
 } // namespace NCli

@@ -27,7 +27,7 @@ struct VArguments {
     NReader::VReadOptions readOptions; ///< the limits, and --verbose
 
     std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
-    std::string name;                   ///< NAME of `resolve`, `explain` and `uses`, PATTERN of `find`
+    std::string name;                   ///< NAME of `resolve`, `explain`, `uses` and `show`, PATTERN of `find`
     std::optional<std::string> table;   ///< TABLE of `enums`; an empty one is a name, too
     std::optional<std::string> literal; ///< LITERAL or VALUE of `enums`
     std::string layer;                  ///< --layer: a short name or an ID, as of all selections
@@ -46,7 +46,8 @@ struct VArguments {
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
     std::uint64_t maxCandidates = 1000;   ///< --max-candidates of `explain`
     bool isEach = false;                  ///< --each of `oem`
-    std::string tag;                      ///< --kind of `uses` and `find`: a tag of ODX, "" for any
+    std::string tag;                      ///< --kind of `uses`, `find` and `show`: a tag of ODX, "" for any
+    std::uint64_t maxRows = 50'000;       ///< --max-rows of `show`
     bool isUnused = false;                ///< --unused of `uses`
     bool isRegex = false;                 ///< --regex of `find`
 

@@ -12,12 +12,6 @@ constexpr std::size_t kGap = 2; // blanks between columns
 
 using VRows = std::vector<std::vector<std::string>>;
 
-/// Characters of a text in UTF-8.
-std::size_t WidthOf(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char unit) { return (unit & '\xC0') != '\x80'; }));
-}
-
 std::vector<std::size_t> WidthsOf(VRows const& rows) {
     std::vector<std::size_t> widths;
     for (auto const& row : rows) {
@@ -133,6 +127,26 @@ std::size_t AfterCharacters(std::string_view text, std::size_t count) {
 }
 
 } // namespace
+
+std::size_t WidthOf(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char unit) { return (unit & '\xC0') != '\x80'; }));
+}
+
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        std::size_t const end = std::min(text.find(' '), text.size());
+        std::string_view const word = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (lines.empty() || WidthOf(lines.back()) + 1 + WidthOf(word) > width) {
+            lines.emplace_back(word);
+        } else {
+            lines.back().append(" ").append(word);
+        }
+    }
+    return lines;
+}
 
 std::string Cut(std::string text) {
     constexpr std::size_t kLongest = 400;

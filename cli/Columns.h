@@ -12,6 +12,14 @@ namespace NCli {
 /// As wide as it takes.
 inline constexpr std::size_t kAnyWidth = std::numeric_limits<std::size_t>::max();
 
+inline constexpr std::size_t kPageWidth = 80; ///< columns of a terminal that a text for people fills
+
+/// Characters of a text in UTF-8.
+std::size_t WidthOf(std::string_view text);
+
+/// The words of a text in lines of that width; a longer word has a line of its own.
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width);
+
 /// A text for a cell that many rows may show: cut off where it is longer than anybody reads.
 std::string Cut(std::string text);
 

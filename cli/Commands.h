@@ -46,6 +46,9 @@ VStatus RunUses(VArguments const& arguments, VOutput& output);
 void DeclareFind(CLI::App& command, VArguments& arguments);
 VStatus RunFind(VArguments const& arguments, VOutput& output);
 
+void DeclareShow(CLI::App& command, VArguments& arguments);
+VStatus RunShow(VArguments const& arguments, VOutput& output);
+
 void DeclareDiff(CLI::App& command, VArguments& arguments);
 VStatus RunDiff(VArguments const& arguments, VOutput& output);
 

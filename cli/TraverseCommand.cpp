@@ -10,6 +10,7 @@
 #include <cli/Layers.h>
 #include <cli/Load.h>
 #include <cli/Text.h>
+#include <cli/ValueText.h>
 #include <cli/ViewText.h>
 #include <diagkit/tools/GuardedDiagLayerTraverser.h>
 #include <diagkit/tools/TraverserKinds.h>
@@ -19,11 +20,11 @@ namespace {
 
 /// One call of the traverser's hooks.
 struct VCall {
-    char const* event;                   ///< "pre", "post" or "cycle"
-    wchar_t const* kind;                 ///< the hook's, L"DiagService"
-    NODX201::VOdxElement const* element; ///< null for a text
-    wchar_t const* name;                 ///< the short name, or the text itself
-    std::size_t depth;                   ///< 0 for the layer
+    char const* event;             ///< "pre", "post" or "cycle"
+    wchar_t const* kind;           ///< the hook's, L"DiagService"
+    NODX201::VOdxElement* element; ///< null for a text
+    wchar_t const* name;           ///< the short name, or the text itself
+    std::size_t depth;             ///< 0 for the layer
 };
 
 /// Thrown to stop a walk that is too long.
@@ -64,14 +65,14 @@ protected:
 #include <diagkit/tools/TraverserKinds.def>
 
 private:
-    void Before(wchar_t const* kind, NODX201::VOdxElement const* element, wchar_t const* name) {
+    void Before(wchar_t const* kind, NODX201::VOdxElement* element, wchar_t const* name) {
         if (++m_visits > m_maxVisits || m_output.HasFailed()) {
             throw VWalkLeft();
         }
         Take({"pre", kind, element, name, m_depth++});
     }
 
-    void After(wchar_t const* kind, NODX201::VOdxElement const* element, wchar_t const* name) {
+    void After(wchar_t const* kind, NODX201::VOdxElement* element, wchar_t const* name) {
         Take({"post", kind, element, name, --m_depth});
     }
 
@@ -115,8 +116,8 @@ protected:
         }
         bool const isCycle = event == "cycle";
         ++(isCycle ? m_cycles : m_lines);
-        m_output.Write(
-            fmt::format("{}{}{}{}\n", IndentOf(call.depth), TitleOf(call), NameOf(call), isCycle ? " (cycle)" : ""));
+        m_output.Write(fmt::format("{}{}{}{}{}\n", IndentOf(call.depth), TitleOf(call), NameOf(call),
+                                   isCycle ? " (cycle)" : "", isCycle ? "" : ValuesOf(call)));
     }
 
 private:
@@ -137,6 +138,12 @@ private:
     static std::string NameOf(VCall const& call) {
         std::string const name = Shown(std::wstring_view(call.name));
         return name.empty() ? "" : ' ' + name;
+    }
+
+    /// What the element says itself, after two blanks: limits, texts, constants.
+    static std::string ValuesOf(VCall const& call) {
+        std::string const values = call.element != nullptr ? ValuesNote(*call.element) : "";
+        return values.empty() ? "" : "  " + values;
     }
 
     std::size_t m_lines = 0;

@@ -27,7 +27,8 @@ std::string HiddenText(NDIAGKIT::VWay const& way, std::string const& at) {
     return fmt::format("is hidden in {} by that of {}", at, winner != nullptr ? Titled(*winner) : "-");
 }
 
-/// A word of a call as a POSIX shell takes it.
+} // namespace
+
 std::string Quoted(std::string const& word) {
     bool const isPlain = !word.empty() && std::all_of(word.begin(), word.end(), [](char character) {
         return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||
@@ -42,8 +43,6 @@ std::string Quoted(std::string const& word) {
     }
     return quoted + "'";
 }
-
-} // namespace
 
 std::string FateOf(NDIAGKIT::VWay const& way, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind) {
     std::string const subject = "that of " + Titled(OwnerOn(way.path, layer));

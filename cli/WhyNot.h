@@ -8,6 +8,9 @@
 
 namespace NCli {
 
+/// A word of a call as a POSIX shell takes it.
+std::string Quoted(std::string const& word);
+
 /// What becomes of an element on its way, but for a visible one: "PROTOCOL Uds's is excluded in Body". The layer is
 /// the one that the way leads to.
 std::string FateOf(NDIAGKIT::VWay const& way, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind);

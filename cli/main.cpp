@@ -39,6 +39,7 @@ constexpr std::array kCommands{
     VCommand{"view",     "List what is visible in a layer, and the layer it comes from",      &DeclareView,     &RunView},
     VCommand{"resolve",  "Find what a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
     VCommand{"explain",  "Explain why a short name is visible in a layer, or why not",        &DeclareExplain,  &RunExplain},
+    VCommand{"show",     "Show the contents of an element: messages byte by byte, DOPs, tables", &DeclareShow,   &RunShow},
     VCommand{"traverse", "Print the tree of what a layer holds and refers to",                &DeclareTraverse, &RunTraverse},
     VCommand{"oem",      "Detect the manufacturer whose tools wrote the database",            &DeclareOem,      &RunOem},
     VCommand{"enums",    "List the literals and values of the ODX enumerations",              &DeclareEnums,    &RunEnums},

@@ -30,11 +30,13 @@ set(public_headers
     diagkit/query/Explain.h
     diagkit/query/Content.h
     diagkit/query/Diff.h
+    diagkit/query/DopValues.h
     diagkit/query/FilePlace.h
     diagkit/query/Find.h
     diagkit/query/InheritanceGraph.h
     diagkit/query/InheritedKind.h
     diagkit/query/LayerView.h
+    diagkit/query/MessageLayout.h
     diagkit/query/Uses.h
     diagkit/reader/Diagnostic.h
     diagkit/reader/Folder.h

@@ -9,10 +9,12 @@
 #include <diagkit/memory/Odx.h>
 #include <diagkit/query/Content.h>
 #include <diagkit/query/Diff.h>
+#include <diagkit/query/DopValues.h>
 #include <diagkit/query/Explain.h>
 #include <diagkit/query/Find.h>
 #include <diagkit/query/InheritanceGraph.h>
 #include <diagkit/query/LayerView.h>
+#include <diagkit/query/MessageLayout.h>
 #include <diagkit/query/Uses.h>
 #include <diagkit/tools/DiagCommView.h>
 #include <diagkit/tools/GlobalNegResponseView.h>
@@ -264,6 +266,28 @@ void FindNames(std::vector<NODX201::VOdxElement*> const& elements, VBudget& budg
     }
 }
 
+/// Rows inside others are one deeper than these, and boxes name rows.
+void LayOut(NReader::VReadResult const& result, VBudget& budget) {
+    NQuery::VLayoutOptions options;
+    options.maxRows = 200;
+    for (NODX201::VOdxElement* const element : result.elements) {
+        if (!NQuery::HasLayout(*element) || !budget.Take()) {
+            continue;
+        }
+        NQuery::VMessageLayout const layout = NQuery::LayoutOf(*element, NDIAGKIT::LayerOf(*element), options);
+        std::size_t depth = 0;
+        for (NQuery::VLayoutRow const& row : layout.rows) {
+            Require(row.element != nullptr && row.depth <= depth);
+            Require(!row.bitLength.most.has_value() || row.bitLength.least <= *row.bitLength.most);
+            depth = row.depth + 1;
+        }
+        for (NQuery::VByteBox const& box : NQuery::BoxesOf(layout, 16)) {
+            Require(!box.runs.empty() && box.runs.front().highest == 7 && box.runs.back().lowest == 0);
+        }
+        static_cast<void>(NQuery::ValuesOf(*element));
+    }
+}
+
 } // namespace
 
 std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
@@ -300,6 +324,8 @@ std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result) {
     AskForContents(result.elements);
     VBudget names(kQuestions);
     FindNames(result.elements, names);
+    VBudget layouts(kQuestions);
+    LayOut(result, layouts);
     VBudget references(kSteps);
     ResolveReferences(result, references);
     VBudget uses(kSteps);

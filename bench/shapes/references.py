@@ -171,6 +171,17 @@ def chain_by_short_names(count):
     )
 
 
+def parameters_by_short_name(count):
+    """A response whose parameters each name a DOP of their own by short name."""
+    return base(
+        DIAG_DATA_DICTIONARY_SPEC=dictionary(many(count, lambda index: dop(f"D{index}"))),
+        DIAG_COMMS=service("Service", response="Response"),
+        POS_RESPONSES=message(
+            "POS-RESPONSE", "Response", many(count, lambda index: value(f"P{index}", by_name(f"D{index}")))
+        ),
+    )
+
+
 def described(index, target="Dop"):
     """An ENV-DATA-DESC that reads the parameter "Code", with an ENV-DATA whose parameter is of the target."""
     env_data = ident("ENV-DATA", f"Env{index}", wrap("PARAMS", value("E", by_id(target))) + "<ALL-VALUE/>")

@@ -6,6 +6,7 @@
 
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/References.h>
+#include <diagkit/query/PartList.h>
 
 namespace NQuery {
 namespace {
@@ -17,8 +18,6 @@ std::uint64_t Stirred(std::uint64_t x) {
     x = (x ^ (x >> 27U)) * 0x94d049bb133111ebU;
     return x ^ (x >> 31U);
 }
-
-bool IsTag(wchar_t const* tag, wchar_t const* other) { return tag == other || std::wcscmp(tag, other) == 0; }
 
 std::wstring_view WithoutRef(std::wstring_view tag) {
     for (std::wstring_view const end : {std::wstring_view(L"-SNREF"), std::wstring_view(L"-REF")}) {

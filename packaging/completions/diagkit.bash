@@ -38,13 +38,14 @@ _diagkit() {
     *" --flash") answers="" ;;
     *" --range") answers="0 1 2 3 4 5" ;;
     *" --max-candidates") answers="" ;;
+    *" --kind") answers="" ;;
+    *" --max-rows") answers="" ;;
     *" --max-visits") answers="" ;;
     *" --fail-on") answers="error warning" ;;
     "check --ignore") answers="after-end-of-pdu ambiguous-document ambiguous-name bit-position byte-size coded-length constant-does-not-fit containment-cycle contradicting-type conversion-types division-by-zero document-type duplicate-id duplicate-key duplicate-member duplicate-short-name duplicate-trouble-code empty encoding encoding-type excludes-nothing gap-between-scales import-cycle length-key-after-use length-range limits-reversed misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml overlapping-cases overlapping-params overlapping-scales parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent request-bytes-outside requests-alike second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unit-without-dimension unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
     "diff --ignore") answers="long-names descriptions admin-data order" ;;
     *" --only") answers="after-end-of-pdu ambiguous-document ambiguous-name bit-position byte-size coded-length constant-does-not-fit containment-cycle contradicting-type conversion-types division-by-zero document-type duplicate-id duplicate-key duplicate-member duplicate-short-name duplicate-trouble-code empty encoding encoding-type excludes-nothing gap-between-scales import-cycle length-key-after-use length-range limits-reversed misplaced-child missing-attribute missing-child missing-model-version missing-wrapper no-category no-file no-package not-a-value not-odx not-xml overlapping-cases overlapping-params overlapping-scales parent-itself parent-kind reference-kind related-diag-comm-cycle repeated-child repeated-document repeated-file repeated-import repeated-parent request-bytes-outside requests-alike second-alternative short-name-characters short-name-not-allowed short-name-not-everywhere stray-text table-row-cycle target-left-out too-compressed too-deep too-large too-many too-many-diagnostics unit-without-dimension unknown-child unknown-literal unknown-model-version unknown-type unprefixed-type unreadable unresolved-reference unresolved-short-name unsafe-name wrong-docref" ;;
     *" --baseline") answers="" ;;
-    *" --kind") answers="" ;;
     *" --old") answers="" ;;
     *" --new") answers="" ;;
     *" --to-layer") answers="" ;;

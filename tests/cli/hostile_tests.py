@@ -285,6 +285,25 @@ class Hostile(unittest.TestCase):
         ring = {name: [names[number - 1], names[number - 2]] for number, name in enumerate(names)}
         self.explain({**ring, "V10000": ["V9999", "V9998", "Top"]})
 
+    def show(self, structures, end, status, memory=96 * MEBIBYTE):
+        """Shows the first of structures, each of which has a VALUE parameter for each that it names."""
+        value = '<PARAM xsi:type="VALUE"><SHORT-NAME>P</SHORT-NAME><DOP-REF ID-REF="{}"/></PARAM>'
+        text = "".join(
+            f'<STRUCTURE ID="{name}"><SHORT-NAME>{name}</SHORT-NAME><PARAMS>'
+            + "".join(map(value.format, targets)) + "</PARAMS></STRUCTURE>" for name, targets in structures.items())
+        path = self.write(
+            "a.odx", HEAD.replace(b"<ODX ", b'<ODX xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" '),
+            b'<BASE-VARIANTS><BASE-VARIANT ID="L"><SHORT-NAME>L</SHORT-NAME><DIAG-DATA-DICTIONARY-SPEC><STRUCTURES>',
+            text.encode(), b"</STRUCTURES></DIAG-DATA-DICTIONARY-SPEC></BASE-VARIANT></BASE-VARIANTS>", TAIL)
+        self.expect(Call(path, "--quiet", question=("show", "S0")), status, end, memory)
+
+    def test_structures_that_double_at_each_level_are_cut(self):
+        levels = {f"S{level}": [f"S{level + 1}"] * 2 for level in range(50)}
+        self.show({**levels, "S50": []}, ["the layout ends after 50000 rows; --max-rows allows more"], 3)
+
+    def test_structures_inside_one_another_end(self):
+        self.show({f"S{level}": [f"S{level + 1}"] for level in range(20000)}, [], 0)
+
     def test_entities_that_multiply_are_not_expanded(self):
         entities = b'<!ENTITY a0 "ha">' + b"".join(
             b'<!ENTITY a%d "%s">' % (number, b"&a%d;" % (number - 1) * 10) for number in range(1, 30))

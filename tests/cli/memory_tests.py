@@ -163,6 +163,10 @@ class MemoryThatRunsOut(unittest.TestCase):
         self.see("uses", "--unused", SAMPLE, "--csv")
         self.see("view", "diag-comms", self.folder / "services.odx-d", "--layer", "P", "--csv")
 
+    def test_show(self):
+        self.see_as_text_and_json("show", "MoveWiper", SAMPLE, "--layer", "FrontWiperBasic")
+        self.see_as_text_and_json("show", "DIAG-SERVICE-2000", self.folder / "services.odx-d")
+
     def test_a_search_that_goes_deep(self):
         def value(name, target):
             return f'<PARAM xsi:type="VALUE"><SHORT-NAME>{name}</SHORT-NAME><DOP-REF ID-REF="{target}"/></PARAM>'

@@ -228,6 +228,7 @@ class Writing(unittest.TestCase):
         ["check", "gates.odx-d"],
         ["check", "gates.odx-d", "--format", "json"],
         ["check", "gates.odx-d", "--format", "sarif"],
+        ["show", "Amp", "signals.odx-d"],
         ["uses", "Amp", "signals.odx-d"],
         ["uses", "--unused", "uses.odx-d"],
         ["find", "kettle", "find.odx-d"],
@@ -338,7 +339,8 @@ class Steering(unittest.TestCase):
                 f'ID="P"><SHORT-NAME>P{self.TURNING}Q</SHORT-NAME></PROTOCOL></PROTOCOLS></DIAG-LAYER-CONTAINER></ODX>',
                 encoding="utf-8",
             )
-            for call in (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"], ["find", "P"]):
+            calls = (["layers"], ["traverse", "--layer", "P"], ["check"], ["uses", "P"], ["show", "P"], ["find", "P"])
+            for call in calls:
                 done = run(*call, path)
                 written = done.stdout + done.stderr
                 self.assertIn("P" + "\ufffd" * len(self.TURNING) + "Q", written)

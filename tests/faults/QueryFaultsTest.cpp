@@ -9,6 +9,7 @@
 
 #include <diagkit/query/Explain.h>
 #include <diagkit/query/LayerView.h>
+#include <diagkit/query/MessageLayout.h>
 
 #include "faults/FailEverywhere.h"
 #include "faults/Sample.h"
@@ -58,6 +59,26 @@ TEST_F(QueryFaultsTest, ViewsWithReasons) {
             Check([&] {
                 NQuery::VLayerView const view = NQuery::ViewOf(*layer, kind);
                 return view.entries.size() + view.hidden.size() + view.excluded.size();
+            });
+        }
+    }
+    EXPECT_GT(m_failures, 500u);
+}
+
+TEST_F(QueryFaultsTest, LayoutsOfMessages) {
+    for (NODX201::VDiagLayer* const layer : {m_sample.layers.front(), m_sample.layers.back()}) {
+        for (NODX201::VOdxElement* const entry : NQuery::EntriesOf(*layer, VInheritedKind::DiagComm)) {
+            auto* const service = dynamic_cast<NODX201::VDiagService*>(entry);
+            if (service == nullptr) {
+                continue;
+            }
+            Check([&] {
+                std::size_t boxes = 0;
+                for (NQuery::VServiceMessage const& message : NQuery::MessagesOf(*service)) {
+                    NQuery::VMessageLayout const layout = NQuery::LayoutOf(*message.message, layer);
+                    boxes += layout.rows.size() + NQuery::BoxesOf(layout, 16).size();
+                }
+                return boxes;
             });
         }
     }

@@ -40,12 +40,14 @@ PUBLIC = {
     "query": {
         "Content.h",
         "Diff.h",
+        "DopValues.h",
         "Explain.h",
         "FilePlace.h",
         "Find.h",
         "InheritanceGraph.h",
         "InheritedKind.h",
         "LayerView.h",
+        "MessageLayout.h",
         "Uses.h",
     },
 }

@@ -16,8 +16,8 @@ import sys
 from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, write_preparation
 
 # Placeholders in the commands for the user's data, and data of the sample for them.
-PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "OLD": str(SAMPLE),
-                "NEW": str(SAMPLE)}
+PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "SERVICE": "MoveWiper",
+                "OLD": str(SAMPLE), "NEW": str(SAMPLE)}
 
 # These run this test, or take long; check_packages.py runs the latter.
 ELSEWHERE = {"./test", "scripts/package"}
@@ -31,6 +31,7 @@ ANSWERS = {
     "./run view diag-comms": ["CalibrateParkPosition", "SessionLibrary"],
     "./run resolve dop": ["WiperMode"],
     "./run explain dop": ["WiperMode"],
+    "./run show": ["0x2F300103"],
     "./run traverse": ["ReadWiperStatus"],
     "./run oem": ["VDaimlerHeuristic", "decides"],
     "./run enums Addressing": ["FUNCTIONAL-OR-PHYSICAL"],
