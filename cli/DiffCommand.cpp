@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -170,6 +171,16 @@ std::size_t CountWithoutLayers(NReader::VReadResult const& result) {
         }));
 }
 
+void TellOfDocumentsWithoutLayers(std::size_t old, std::size_t now, VOutput const& output) {
+    std::string sides;
+    for (auto const& [count, side] : {std::pair(old, "old"), std::pair(now, "new")}) {
+        sides += count > 0 ? fmt::format("{}{} of the {} database", sides.empty() ? "" : ", ", count, side) : "";
+    }
+    if (!sides.empty()) {
+        output.Complain("not compared: documents without layers, " + sides);
+    }
+}
+
 /// What was looked at and could not be compared, on standard error.
 void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments const& arguments, VOutput const& output) {
     if (arguments.isQuiet) {
@@ -183,8 +194,9 @@ void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments con
     bool const isOneDatabase = &read.old == &read.now;
     char const* const old = isOneDatabase ? "" : " of the old database";
     char const* const now = isOneDatabase ? "" : " of the new database";
-    tell(CountWithoutLayers(read.old), "document", old, "without layers");
-    tell(isOneDatabase ? 0 : CountWithoutLayers(read.now), "document", now, "without layers");
+    if (!isOneDatabase) {
+        TellOfDocumentsWithoutLayers(CountWithoutLayers(read.old), CountWithoutLayers(read.now), output);
+    }
     constexpr char const* kUnknown = "without a place in the model";
     tell(CountWithoutPlace(read.old), "element", old, kUnknown);
     tell(isOneDatabase ? 0 : CountWithoutPlace(read.now), "element", now, kUnknown);
