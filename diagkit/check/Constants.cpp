@@ -12,8 +12,6 @@
 namespace NCheck {
 namespace {
 
-using VLength = std::optional<std::uint64_t>;
-
 /// The amounts that a whole number of so many bits can have.
 struct VAmounts {
     std::uint64_t negative; ///< the largest below zero

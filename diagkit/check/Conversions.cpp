@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -56,10 +57,11 @@ constexpr VConversionRow kConversions[] = {
 };
 // clang-format on
 
-std::string Text(wchar_t const* text) { return NReader::ToUtf8Cut(text); }
-
 std::string Limits(VRange const& range) {
     auto const shown = [](double value) {
+        if (std::isinf(value)) {
+            return std::string("whatever is ") + (value < 0 ? "less" : "more");
+        }
         std::string const text = std::to_string(value);
         std::size_t const last = text.find_last_not_of('0');
         return text.substr(0, text[last] == '.' ? last : last + 1);
@@ -111,8 +113,9 @@ private:
         VSort const to = SortOf(physical);
         if (from != VSort::Unknown && to != VSort::Unknown && !row.fits(from, to)) {
             m_findings.Add(PositionOf(method), NCode::ConversionTypes,
-                           Titled(dop) + " converts " + Text(std::wstring(coded.baseType).c_str()) + " to " +
-                               Text(physical) + ", but " + Text(method.GetCategory()) + ' ' + row.wanted);
+                           Titled(dop) + " converts " + NReader::ToUtf8Cut(std::wstring(coded.baseType).c_str()) +
+                               " to " + NReader::ToUtf8Cut(physical) + ", but " +
+                               NReader::ToUtf8Cut(method.GetCategory()) + ' ' + row.wanted);
         }
     }
 

@@ -6,13 +6,11 @@
 #include <unordered_map>
 #include <vector>
 
+#include <diagkit/check/Numbers.h>
 #include <diagkit/check/VisibleNames.h>
 #include <diagkit/model/Params.h>
 
 namespace NCheck {
-
-/// A length or a position; nothing where it differs from message to message, or the data does not say it.
-using VLength = std::optional<std::uint64_t>;
 
 /// Where a parameter lies in its request, response or STRUCTURE.
 struct VPlacedParam {

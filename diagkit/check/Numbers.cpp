@@ -64,7 +64,7 @@ std::optional<VWhole> WholeIn(wchar_t const* text) {
     return amount.has_value() ? std::optional<VWhole>({isNegative && *amount != 0, *amount}) : std::nullopt;
 }
 
-std::optional<std::uint64_t> LengthIn(wchar_t const* text) {
+VLength LengthIn(wchar_t const* text) {
     constexpr std::uint64_t kMost = std::uint64_t{1} << 30;
     auto const length = WholeIn(text);
     bool const isLength = length.has_value() && !length->isNegative && length->amount <= kMost;

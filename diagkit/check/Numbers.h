@@ -19,8 +19,11 @@ struct VWhole {
 };
 std::optional<VWhole> WholeIn(wchar_t const* text);
 
-/// A length or a position. None of a message is as large as a gigabyte, so sums and products of these stay exact; what
-/// is larger counts as unknown.
-std::optional<std::uint64_t> LengthIn(wchar_t const* text);
+/// A length or a position; nothing where it differs from message to message, or the data does not say it.
+using VLength = std::optional<std::uint64_t>;
+
+/// A length or a position as a text says it. None of a message is as large as a gigabyte, so sums and products of these
+/// stay exact; what is larger counts as unknown.
+VLength LengthIn(wchar_t const* text);
 
 } // namespace NCheck

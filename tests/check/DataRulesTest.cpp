@@ -273,6 +273,8 @@ TEST_F(VDataRulesTest, ScalesThatShareValues) {
     EXPECT_EQ(OfScales("SCALE-LINEAR", {Limits("0", "5"), Limits("4", "9")}), overlap);
     EXPECT_EQ(OfScales("SCALE-LINEAR", {Limits("0", "5"), Limits("5", "9")}), ""); // formulas may meet
     EXPECT_EQ(OfScales("TEXTTABLE", {Limits("0", "A"), Limits("0", "A")}), "");
+    EXPECT_EQ(OfScales("SCALE-LINEAR", {Limits("0", "5"), "<LOWER-LIMIT>3</LOWER-LIMIT>"}), overlap);
+    EXPECT_EQ(Message(0), "COMPU-SCALE of 3 to whatever is more shares values with the one of 0 to 5 at line 4");
 }
 
 TEST_F(VDataRulesTest, AScaleInsideAnotherIsFoundBehindThoseBetween) {
