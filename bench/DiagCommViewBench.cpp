@@ -2,12 +2,12 @@
 
 // Building the DIAG-COMM view of an ECU-VARIANT over a stack of all five kinds of layer, by visible entries:
 //
-//     diag-comm-view/N          as the toolkit does it
-//     diag-comm-view-bare/N     what it costs at least: for every entry of every view that the passes build, one
+//     diag-comm-view/N          the toolkit's implementation
+//     diag-comm-view-bare/N     the minimum: for every entry of every view that the passes build, one
 //                               insertion of its name into a set and one addition to a list
-//     diag-comm-view-naive/N    the rule as it is written: every name of a parent is searched in the list
+//     diag-comm-view-naive/N    a literal implementation of the rule: every name of a parent is searched in the list
 //
-// Each is measured with what it releases at the end.
+// Each measurement includes the final release.
 
 #include <algorithm>
 #include <list>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Building the DIAG-VARIABLE view of an ECU-VARIANT, by visible entries, beside the bare loop of ListViewBench.h.
+// Building the DIAG-VARIABLE view of an ECU-VARIANT, by visible entries, compared with the bare loop of
+// ListViewBench.h.
 
 #include <diagkit/model/DiagVariables.h>
 #include <diagkit/tools/DiagVariableView.h>

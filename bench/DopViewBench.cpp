@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Building the DOP view of an ECU-VARIANT over a stack of all five kinds of layer, by visible entries, beside a bare
-// loop: for every entry of every view that the passes build, one insertion into a map of the same kind, in the order in
-// which the view gets it, own DOPs first.
+// Building the DOP view of an ECU-VARIANT over a stack of all five kinds of layer, by visible entries, compared with a
+// bare loop: for every entry of every view that the passes build, one insertion into a map of the same kind, in the
+// order in which the view gets it, own DOPs first.
 
 #include <unordered_set>
 

@@ -13,8 +13,8 @@
 #include <diagkit/memory/Odx.h>
 #include <diagkit/tools/OpResolveSnref.h>
 
-/// Edits a database made by hand many times, in one way, and ends. `growth` counts what that costs for COUNT elements
-/// and for twice as many.
+/// Edits a database made by hand many times, in one way, and ends. `growth` counts the cost for COUNT elements and for
+/// twice as many.
 ///
 ///     diagkit_edit_growth EDIT COUNT
 
@@ -76,7 +76,7 @@ void Rename(std::size_t count) {
     }
 }
 
-/// Every service has one ID, and leaves it again.
+/// Every service gets the same ID, and loses it again.
 void ShareAnId(std::size_t count) {
     VDatabaseToEdit edited(count);
     for (NMemory::VMemDiagService* const service : edited.services) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Every literal of the longest enumeration in both directions, beside a look-up in a bare map and a walk over it. N is
-// the number of literals.
+// Every literal of the longest enumeration in both directions, compared with a look-up in a bare map and a walk over
+// it. N is the number of literals.
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Building the GLOBAL-NEG-RESPONSE view of an ECU-VARIANT over a stack of all five kinds of layer, by visible entries,
-// beside the bare loop of ListViewBench.h.
+// compared with the bare loop of ListViewBench.h.
 
 #include <diagkit/model/Responses.h>
 #include <diagkit/tools/GlobalNegResponseView.h>

@@ -3,11 +3,11 @@
 // Walking a whole layer, by visits to elements:
 //
 //     layer-walk/N         a VDiagLayerTraverser whose hooks are empty
-//     layer-walk-bare/N    what it costs at least: recursive functions that ask the same questions of the same elements
-//                          through the contract's interface, and do nothing with them
-//     layer-walk-guarded/N a VGuardedDiagLayerTraverser whose hooks are empty, beside the same
+//     layer-walk-bare/N    the minimum: recursive functions that make the same calls to the same elements
+//                          through the contract's interface, and do nothing with the results
+//     layer-walk-guarded/N a VGuardedDiagLayerTraverser whose hooks are empty, compared with the same
 //     dictionary-walk/N, dictionary-walk-bare/N
-//                          a VDiagDataDictionarySpecTraverser in a layer that has nothing but a dictionary
+//                          a VDiagDataDictionarySpecTraverser in a layer that has only a dictionary
 
 #include <stdexcept>
 
@@ -22,7 +22,7 @@
 namespace NBench {
 namespace {
 
-/// The recursion. It knows the kinds of element that the layer of the benchmark holds and refuses every other.
+/// The recursion. It knows the kinds of element in the layer of the benchmark and refuses every other.
 class VRecursion final : public NODX201::VDiagLayerVisitor,
                          public NODX201::VDiagCommVisitor,
                          public NODX201::VDopBaseVisitor,
@@ -141,7 +141,7 @@ private:
     std::size_t m_visits = 0;
 };
 
-/// The two ways through a layer: all of it, or its dictionary alone.
+/// The two ways through a layer: all of it, or only its dictionary.
 struct VWholeLayer : VServiceLayer {
     using VServiceLayer::VServiceLayer;
     std::size_t Count() { return VCounting(*layer).Walk(); }
@@ -158,7 +158,7 @@ struct VDictionaryAlone : VDictionaryLayer {
     }
 };
 
-/// The walk to measure, once what its links remember is the same for all, and all visit the same.
+/// The walk to measure, after its links have remembered their targets, and after a check that all visit the same.
 template <class Way>
 struct VMeasuredWalk : Way {
     explicit VMeasuredWalk(benchmark::State& state) : Way(static_cast<std::size_t>(state.range(0))) {

@@ -20,8 +20,8 @@ auto ElementsOf(View&& view) {
     return elements;
 }
 
-/// What building list views costs at least: for every entry of every view that the passes build, one insertion of its
-/// name into a set and one addition to a list, released together at the end of each view.
+/// The minimum for building list views: for every entry of every view that the passes build, one insertion of its name
+/// into a set and one addition to a list, released together at the end of each view.
 template <class Element>
 void BenchBareLists(benchmark::State& state, std::vector<std::vector<Element*>> const& views) {
     for (auto _ : state) {

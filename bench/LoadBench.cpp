@@ -22,15 +22,15 @@
 
 #include "ProcessCost.h"
 
-/// Loads files once, or does what loading them takes at least, and prints what it cost as JSON. One run a process, so
-/// that the peak of its memory means this run alone; `load` runs it.
+/// Loads files once, or does the minimum for loading them, and prints the cost as JSON. One run per process, so that
+/// the peak memory is that of this run alone; `load` runs it.
 ///
 ///     diagkit_load_bench read|parse|load:THREADS|check|unused|diff FILE...
 ///
-/// `read` takes the bytes in, `parse` has expat parse them too with handlers that do nothing. Packages are unpacked in
-/// both, and the pieces are as large as the reader's. `check` and `unused` load with one thread and tell what checking
-/// takes then, and finding the elements to which no reference leads; `diff` loads twice, changes ten elements of one,
-/// and tells what comparing takes.
+/// `read` reads the bytes, `parse` also has expat parse them with handlers that do nothing. Both unpack packages, and
+/// the pieces are as large as the reader's. `check` and `unused` load with one thread and measure checking afterwards,
+/// and finding the elements to which no reference leads; `diff` loads twice, changes ten elements of one, and measures
+/// comparing.
 
 namespace {
 
@@ -39,7 +39,7 @@ constexpr std::size_t kPieceSize = 256 * 1024;
 struct VCost {
     std::uint64_t bytes = 0; // of XML
     std::uint64_t starts = 0;
-    double serialCpu = 0; // behind the last document, by one thread alone
+    double serialCpu = 0; // after the last document, by one thread
     double destroySeconds = 0;
 };
 
@@ -50,7 +50,7 @@ struct VCost {
 
 double Seconds() { return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count(); }
 
-/// Calls `take` with the pieces of every document, and with an empty one at the end of each.
+/// Calls `take` with the pieces of every document, and with an empty piece at the end of each.
 template <class Take>
 void ForEachPiece(std::string const& file, Take take) {
     if (std::filesystem::u8path(file).extension() == ".pdx") {
@@ -122,7 +122,7 @@ NReader::VReadResult LoadedFor(std::vector<std::string> const& files, bool keeps
     return result;
 }
 
-/// Ten DATA-OBJECT-PROPs, all over the database, get another description.
+/// Ten DATA-OBJECT-PROPs, distributed over the database, get another description.
 void ChangeTen(std::vector<NODX201::VOdxElement*> const& elements) {
     std::vector<NMemory::VMemDataObjectProp*> dops;
     for (NODX201::VOdxElement* const element : elements) {

@@ -10,8 +10,8 @@
 
 namespace NBench {
 
-/// What the small views are views of, each holder with so many entries, which are named alike in every holder. Only the
-/// contract shows here, as in MakeNestedParams.h.
+/// The holders of the small views, each with the given number of entries, which have the same names in every holder.
+/// Only the contract is visible here, as in MakeNestedParams.h.
 class VHolders {
 public:
     explicit VHolders(std::size_t count);
@@ -21,7 +21,7 @@ public:
     NODX201::VDiagLayer& Layer();
     NODX201::VDiagService&
     Service();                     ///< half of its VALUE parameters are of a positive response, half of a negative one
-    NODX201::VSingleEcuJob& Job(); ///< so many INPUT-PARAMs, and so many OUTPUT-PARAMs
+    NODX201::VSingleEcuJob& Job(); ///< that many INPUT-PARAMs, and as many OUTPUT-PARAMs
     NODX201::VFlash& Flash();      ///< in ten ECU-MEMs, with an EXPECTED-IDENT in every session
     wchar_t const* MiddleName() const;
 

@@ -9,11 +9,11 @@
 
 namespace NBench {
 
-/// A service whose one positive response leads to so many VALUE parameters, ten at a time: through structures, on the
-/// second level through fields, on the third through multiplexers; the last ones have a simple DOP.
+/// A service whose one positive response leads to the given number of VALUE parameters, ten at a time: through
+/// structures, on the second level through fields, on the third through multiplexers; the last ones have a simple DOP.
 ///
-/// Only the contract shows here: a walk that is compiled together with the memory model would have its virtual calls
-/// resolved by the compiler, which no program over the contract has.
+/// Only the contract is visible here: in a walk that is compiled together with the memory model the compiler would
+/// resolve virtual calls, which it cannot do for a program over the contract.
 class VNestedParams {
 public:
     explicit VNestedParams(std::size_t count);

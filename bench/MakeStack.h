@@ -11,11 +11,11 @@
 namespace NBench {
 
 /// A stack of layers of all five kinds, ECU-VARIANT < BASE-VARIANT < FUNCTIONAL-GROUP and PROTOCOL < ECU-SHARED-DATA.
-/// The FUNCTIONAL-GROUP inherits from the PROTOCOL too, so that one layer is reached in two ways.
+/// The FUNCTIONAL-GROUP also inherits from the PROTOCOL, so that one layer is reached in two ways.
 struct VStack {
     VStack();
 
-    /// Calls `add` with each layer and as many short names as it is to have of something. Every name occurs once.
+    /// Calls `add` with each layer and the short names of the elements to add to it. Every name occurs once.
     template <class Add>
     void Fill(std::size_t inEachLayer, Add add) {
         FillLayer(*ecuSharedData, L"Shared_", inEachLayer, add);
@@ -42,7 +42,7 @@ private:
     }
 };
 
-/// So many DIAG-COMMs visible in the ECU-VARIANT, a fifth of them in each layer.
+/// The given number of DIAG-COMMs visible in the ECU-VARIANT, a fifth of them in each layer.
 struct VDiagCommStack : VStack {
     explicit VDiagCommStack(std::size_t visible);
 };
@@ -57,14 +57,14 @@ struct VGlobalNegResponseStack : VStack {
     explicit VGlobalNegResponseStack(std::size_t visible);
 };
 
-/// So many DIAG-VARIABLEs visible in the ECU-VARIANT, a quarter of them in each layer but the PROTOCOL, which has none.
-/// The ECU-SHARED-DATA is reached through the FUNCTIONAL-GROUP and through the BASE-VARIANT.
+/// The given number of DIAG-VARIABLEs visible in the ECU-VARIANT, a quarter of them in each layer but the PROTOCOL,
+/// which has none. The ECU-SHARED-DATA is reached through the FUNCTIONAL-GROUP and through the BASE-VARIANT.
 struct VDiagVariableStack : VStack {
     explicit VDiagVariableStack(std::size_t visible);
 };
 
-/// So many DIAG-COMMs in the layers below, a quarter of them in each, and so many ECU-VARIANTs over them with their
-/// own.
+/// The given number of DIAG-COMMs in the layers below, a quarter of them in each, and the given number of ECU-VARIANTs
+/// over them, each with some of its own.
 struct VVariants : VStack {
     VVariants(std::size_t shared, std::size_t variants, std::size_t inEachVariant);
 

@@ -14,7 +14,7 @@ constexpr std::size_t kVisitsOfADop = 16;      // with what belongs to it
 
 std::wstring Named(wchar_t const* prefix, std::size_t number) { return prefix + std::to_wstring(number); }
 
-/// The parts of a layer that services share.
+/// The parts of a layer that its services use in common.
 struct VDictionary {
     std::vector<NMemory::VMemDataObjectProp*> dops;
     std::vector<NMemory::VMemStructure*> structures;

@@ -8,8 +8,8 @@
 
 namespace NBench {
 
-/// An ECU-VARIANT whose walk makes at least so many visits: services with a request and a response, whose parameters
-/// lead to DATA-OBJECT-PROPs with everything that belongs to them and to structures, as in real databases.
+/// An ECU-VARIANT whose walk makes at least the given number of visits: services with a request and a response, whose
+/// parameters lead to DATA-OBJECT-PROPs with everything that belongs to them and to structures, as in real databases.
 struct VServiceLayer {
     explicit VServiceLayer(std::size_t visits);
 
@@ -17,7 +17,7 @@ struct VServiceLayer {
     NMemory::VMemEcuVariant* layer;
 };
 
-/// An ECU-VARIANT with nothing but a dictionary, whose walk makes at least so many visits.
+/// An ECU-VARIANT with only a dictionary, whose walk makes at least the given number of visits.
 struct VDictionaryLayer {
     explicit VDictionaryLayer(std::size_t visits);
 

@@ -2,14 +2,14 @@
 
 // Detecting the manufacturer, by DIAG-SERVICEs of a database of 200 layers and by characters of one long name:
 //
-//     oem/N, oem-bare/N                        half of the services stand in PROTOCOLs, named as Volkswagen does,
-//                                              half in variants and have the state models of Fiat
-//     oem-names/N, oem-names-bare/N            all of the first sort
+//     oem/N, oem-bare/N                        half of the services are in PROTOCOLs, named as by Volkswagen,
+//                                              half in variants with the state models of Fiat
+//     oem-names/N, oem-names-bare/N            all of the first kind
 //     oem-states/N, oem-states-bare/N          all of the second
-//     oem-long-name/N, oem-long-name-bare/N    one service with a long name of so many characters
+//     oem-long-name/N, oem-long-name-bare/N    one service with a long name of N characters
 //
-// Every service is looked at to its last character. The bare ones are one walk over the same services through the same
-// interface, and one look at each character of the long name.
+// Every service is examined to its last character. The bare ones are one walk over the same services through the same
+// interface, and one access to each character of the long name.
 
 #include <string>
 
@@ -26,7 +26,7 @@ namespace {
 constexpr std::size_t kLayers = 200;
 constexpr wchar_t const* kProtocolName = L"PR_UDSOnCAN";
 
-/// The two rules of Audi and Volkswagen before the one that looks at names.
+/// Satisfies the two rules of Audi and Volkswagen before the one that examines names.
 void AddContactPerson(NMemory::VMemProtocol& protocol) {
     NMemory::VMemCompanyData& company = protocol.AddCompanyData(L"Audi");
     company.SetLongName(L"Audi");
@@ -45,7 +45,7 @@ void AddServiceWithStates(NMemory::VMemEcuVariant& variant, std::size_t number) 
         .MakeSdgCaption(L"State_Model");
 }
 
-/// Lets the rule that looks at state models pass, and the one behind it.
+/// Satisfies the rule that examines state models, and the one after it.
 void AddComparamsOfFiat(NMemory::VDatabase& database) {
     NMemory::VMemComparamSpec& spec = database.AddComparamSpec(L"Uds");
     for (wchar_t const* const name : {L"MaxDeltaP2Can", L"S3_Tester", L"S3_ECU", L"NL_buffer_NormalCommunication",

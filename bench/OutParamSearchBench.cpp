@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// A search for an output parameter that finds nothing, in a service of so many nested parameters, beside a bare
+// A search for an output parameter that finds nothing, in a service with N nested parameters, compared with a bare
 // recursive walk over the same parameters: two visitors over the same abstract interface that only count.
 
 #include <cstddef>
@@ -18,7 +18,7 @@
 namespace NBench {
 namespace {
 
-/// Counts the VALUE parameters below a parameter, itself included.
+/// Counts the VALUE parameters below a parameter, including itself.
 class VBareWalk : public NODX201::VParamVisitor, public NODX201::VDopBaseVisitor {
 public:
     explicit VBareWalk(NODX201::VDiagLayer& layer) : m_layer(layer) {}

@@ -8,7 +8,7 @@ namespace NBench {
 /// Processor time of all threads of this process so far.
 double ProcessorSeconds();
 
-/// The most memory that this process has held at a time.
+/// The peak memory of this process.
 std::uint64_t PeakBytes();
 
 } // namespace NBench

@@ -2,14 +2,14 @@
 #include "ProcessCost.h"
 
 #include <windows.h>
-// After the header that it needs.
+// Must follow windows.h.
 #include <psapi.h>
 
 namespace NBench {
 namespace {
 
 double Seconds(FILETIME const& time) {
-    constexpr double kTicks = 1e7; // a second
+    constexpr double kTicks = 1e7; // per second
     return static_cast<double>((std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime) / kTicks;
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What reasons cost, in an ECU-VARIANT over a stack of all five kinds of layer, by visible entries:
+// The cost of reasons, in an ECU-VARIANT over a stack of all five kinds of layer, by visible entries:
 //
 //     view-reasons/N    its DIAG-COMMs with the way of each, and what is hidden and excluded
 //     explain/N         one DIAG-COMM, which comes from the far end of the stack
 //
-// each beside the plain view of the layer.
+// each compared with the plain view of the layer.
 
 #include <benchmark/benchmark.h>
 

@@ -2,9 +2,9 @@
 
 // Short-name resolution in an ECU-VARIANT over a stack of all five kinds of layer. By names, with 10,000 DOPs visible:
 //
-//     resolve-dop/N                   N names, each visible one alike often, in mixed order, through a new resolver,
+//     resolve-dop/N                   N names, each visible one equally often, in mixed order, through a new resolver,
 //                                     which builds and releases its view
-//     resolve-data-object-prop/N      the same names, where only a DATA-OBJECT-PROP will do
+//     resolve-data-object-prop/N      the same names, where only a DATA-OBJECT-PROP is accepted
 //     resolve-dop-bare/N and so on    the same names in a map of the same entries
 //
 // By visible entries:

@@ -121,7 +121,7 @@ NODX201::IOutParamIf* OutParamIn(VHolders& holders, Arguments&&... arguments) {
     return view.FindParam(holders.MiddleName(), holders.Layer());
 }
 
-/// `Work` gives back a number of entries or what it found; both must not be null.
+/// `Work` returns a number of entries or the element found; neither may be null.
 template <class Work>
 void RegisterOne(std::string const& name, Work work) {
     auto const bench = [work](benchmark::State& state) {

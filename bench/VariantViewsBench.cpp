@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Building and releasing, one after the other, the DIAG-COMM views of all ECU-VARIANTs over one shared stack of 2,000
-// services, each with ten of its own. N is the number of ECU-VARIANTs; every one hands out as many entries, so time for
-// each N says whether the work is linear in them. Beside it the bare loop of ListViewBench.h for each.
+// services, each with ten of its own. N is the number of ECU-VARIANTs; every one returns the same number of entries, so
+// the time for each N shows whether the work is linear in them. For comparison, the bare loop of ListViewBench.h for
+// each.
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: Apache-2.0
-"""How the programs of a build are called."""
+"""Command lines of the programs of a build."""
 
 import os
 
-# What runs them where they are for another system.
+# The command that runs them where they are for another system.
 EMULATOR = [word for word in [os.environ.get("DIAGKIT_EMULATOR")] if word]
 
 

@@ -6,11 +6,13 @@
 #include <set>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <cli/Columns.h>
+#include <cli/InheritedKinds.h>
 #include <cli/Layers.h>
 #include <cli/NearNames.h>
 #include <cli/Text.h>
@@ -36,7 +38,7 @@ bool IsOfKind(NODX201::VOdxElement const& element, std::string const& tag) {
     return tag.empty() || TagTextOf(element) == tag;
 }
 
-/// Whether views say where elements of its kind are visible; an ENV-DATA is a DOP that no view holds.
+/// Whether views show where elements of its kind are visible; an ENV-DATA is a DOP that is in no view.
 bool IsInherited(NODX201::VOdxElement const& element) {
     return dynamic_cast<NODX201::VDiagComm const*>(&element) != nullptr ||
            dynamic_cast<NODX201::VDiagVariable const*>(&element) != nullptr ||
@@ -45,7 +47,7 @@ bool IsInherited(NODX201::VOdxElement const& element) {
             dynamic_cast<NODX201::VEnvData const*>(&element) == nullptr);
 }
 
-/// What a layer sees: what its views hold, and its own elements of other kinds.
+/// The elements seen by a layer: the entries of its views, and its own elements of other kinds.
 class VSeen {
 public:
     explicit VSeen(NODX201::VDiagLayer& layer) : m_layer(layer) {
@@ -76,7 +78,7 @@ VSelects SeenFrom(NODX201::VDiagLayer* layer) {
     return VSeen(*layer);
 }
 
-/// Of elements that share an ID, those that the layer sees, where it sees any.
+/// Of elements that share an ID, those that the layer sees, if it sees any.
 VAnyElements Preferring(VAnyElements const& elements, VSelects const& isSeen) {
     VAnyElements seen;
     std::copy_if(elements.begin(), elements.end(), std::back_inserter(seen),
@@ -96,25 +98,75 @@ std::string PlaceIn(NODX201::VOdxElement const& element) {
 
 constexpr std::size_t kMostCandidates = 20; // that a message shows
 
-std::string AmbiguousMessage(std::wstring_view wanted, VAnyElements const& found) {
-    VColumns columns;
-    std::set<std::string> ids;
-    std::set<std::string> tags;
+using VTexts = std::vector<std::string>; // one of each candidate, "" where it has none
+
+std::size_t CountDistinct(VTexts const& texts) { return std::set<std::string>(texts.begin(), texts.end()).size(); }
+
+bool TellApart(VTexts const& texts) {
+    return CountDistinct(texts) == texts.size() && std::find(texts.begin(), texts.end(), "") == texts.end();
+}
+
+/// Whether one of the texts is that of no other.
+bool TellsOneApart(VTexts const& texts) {
+    return std::any_of(texts.begin(), texts.end(), [&texts](std::string const& text) {
+        return !text.empty() && std::count(texts.begin(), texts.end(), text) == 1;
+    });
+}
+
+/// What helps to choose, which is nothing that all of them share.
+std::string AdviceFor(VAnyElements const& found, bool hasLayer) {
+    VTexts ids;
+    VTexts tags;
+    VTexts layers;
+    VTexts tagsInLayers;
     for (NODX201::VOdxElement const* const element : found) {
-        ids.insert(ShownId(*element));
-        tags.insert(TagTextOf(*element));
-        if (ids.size() <= kMostCandidates) {
-            columns.Add({ShownName(*element), KindOf(*element), ShownId(*element), PlaceIn(*element)});
+        NODX201::VDiagLayer const* const layer = hasLayer ? nullptr : LayerAround(*element);
+        ids.push_back(NReader::ToUtf8(IdOf(*element)));
+        tags.push_back(TagTextOf(*element));
+        layers.push_back(layer != nullptr ? fmt::format("{}", fmt::ptr(layer)) : "");
+        tagsInLayers.push_back(layer != nullptr ? layers.back() + tags.back() : "");
+    }
+    if (TellApart(ids)) {
+        return "choose one by its ID";
+    }
+    if (TellApart(tags) || TellApart(layers)) {
+        return TellApart(tags) ? "choose one with --kind" : "choose one with --layer";
+    }
+    if (TellApart(tagsInLayers)) {
+        return "choose one with --kind and --layer";
+    }
+    VTexts words;
+    for (auto const& [word, helps] :
+         {std::pair("--kind", CountDistinct(tags) > 1), std::pair("--layer", CountDistinct(layers) > 1),
+          std::pair("its ID", TellsOneApart(ids))}) {
+        if (helps) {
+            words.emplace_back(word);
         }
     }
-    bool const haveIds = ids.size() == found.size() && ids.count("") == 0;
-    std::string const advice = haveIds                       ? "choose one by its ID"
-                               : tags.size() == found.size() ? "choose one with --kind"
-                                                             : "choose one with --kind, --layer or its ID";
-    std::string message =
-        fmt::format("'{}' fits {} elements, {}:\n{}", Shown(wanted), found.size(), advice, columns.Format());
-    message.pop_back(); // the last line end
-    return message;
+    return words.empty() ? "and neither kind, layer nor ID tells them apart"
+                         : fmt::format("choose one with {}, as far as it differs", fmt::join(words, " or "));
+}
+
+/// A line for each of the first candidates; with their places in files where they are equal otherwise.
+std::string CandidateLines(NMemory::VDatabase const& database, VAnyElements const& found) {
+    std::vector<VTexts> rows;
+    for (NODX201::VOdxElement const* const element : found) {
+        rows.push_back({ShownName(*element), KindOf(*element), ShownId(*element), PlaceIn(*element)});
+    }
+    bool const areEqual = std::set<VTexts>(rows.begin(), rows.end()).size() < rows.size();
+    VColumns columns;
+    for (std::size_t index = 0; index < std::min(rows.size(), kMostCandidates); ++index) {
+        if (areEqual) {
+            rows[index].push_back(ShownPlace(database, *found[index]));
+        }
+        columns.Add(std::move(rows[index]));
+    }
+    std::string lines = columns.Format();
+    if (rows.size() > kMostCandidates) {
+        lines += fmt::format("  and {} more\n", rows.size() - kMostCandidates);
+    }
+    lines.pop_back(); // the last line end
+    return lines;
 }
 
 } // namespace
@@ -137,7 +189,8 @@ void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name, VA
                     VOutput const& output) {
     std::wstring const wanted = NReader::FromUtf8(name.name);
     if (!found.empty()) {
-        output.Complain(AmbiguousMessage(wanted, found));
+        output.Complain(fmt::format("'{}' fits {} elements, {}:\n{}", Shown(wanted), found.size(),
+                                    AdviceFor(found, name.layer != nullptr), CandidateLines(*result.database, found)));
         return;
     }
     std::set<std::string> others;

@@ -10,7 +10,7 @@
 
 namespace NCli {
 
-/// How a call names an element of any kind.
+/// How a call selects an element of any kind.
 struct VAnyName {
     std::string const& name;    ///< an ID or a short name
     std::string const& tag;     ///< "" for an element of any kind
@@ -18,7 +18,7 @@ struct VAnyName {
 };
 
 /// The elements that have the ID, in document order. Where none has it, those that have the short name; with a layer
-/// those that its views hold and, of kinds that are not inherited, its own. REQUIRES: the elements were kept.
+/// those in its views and, for kinds that are not inherited, its own. REQUIRES: the elements were kept.
 std::vector<NODX201::VOdxElement*> FindElements(NReader::VReadResult const& result, VAnyName const& name);
 
 /// Tells what to say instead when nothing or not one element alone was found.

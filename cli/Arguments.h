@@ -16,13 +16,13 @@ class Option;
 
 namespace NCli {
 
-/// What a call says, whatever its command; UTF-8.
+/// The arguments of a call, of any command; UTF-8.
 struct VArguments {
     std::vector<std::string> files; ///< FILE..., in the order given: they form one database
     bool isJson = false;
     bool isStrict = false;
     bool isQuiet = false;
-    NReader::VReadOptions readOptions; ///< the limits
+    NReader::VReadOptions readOptions; ///< the limits, and --verbose
 
     std::string kind;                   ///< KIND of `view`, `resolve` and `explain`
     std::string name;                   ///< NAME of `resolve`, `explain` and `uses`
@@ -34,10 +34,10 @@ struct VArguments {
     std::string job;                    ///< --job, a MULTIPLE-ECU-JOB
     std::string flash;                  ///< --flash
     std::string failOn = "error";       ///< --fail-on of `check`
-    std::vector<std::string> ignored;   ///< --ignore: codes of `check`, what makes no difference to `diff`
-    std::vector<std::string> only;      ///< --only of `check`: codes; all without one
-    std::string baseline;               ///< --baseline of `check`: an earlier answer
-    std::string format;                 ///< --format of `check` and `graph`; "" for none said
+    std::vector<std::string> ignored;   ///< --ignore: codes of `check`, differences of `diff`
+    std::vector<std::string> only;      ///< --only of `check`: codes; all when empty
+    std::string baseline;               ///< --baseline of `check`: an earlier result
+    std::string format;                 ///< --format of `check` and `graph`; "" when not given
     std::optional<int> range;           ///< --range, a search range of output parameters
 
     bool isDictionary = false;            ///< --dictionary of `traverse`
@@ -53,7 +53,7 @@ struct VArguments {
     std::string toLayer;               ///< --to-layer of `diff`
     bool comparesIds = false;          ///< --ids of `diff`
 
-    /// What a word or an option may be where it is one of a few.
+    /// The possible values of a word or an option that accepts only certain ones.
     std::map<CLI::Option const*, std::vector<std::string>> choices;
 
     bool IsText() const { return !isJson && (format.empty() || format == "text"); } ///< whether people read the answer
@@ -66,20 +66,26 @@ void DeclareCommonOptions(CLI::App& command, VArguments& arguments);
 /// --layer alone, for commands that look at nothing else.
 CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
 
+/// For an option that names something: an empty name is wrong usage, not as good as none.
+void RefuseEmpty(CLI::Option& option);
+
+/// For an option or a word that is one of a few; `noun` is what messages call it.
+void DeclareOneOf(CLI::Option& option, VArguments& arguments, char const* noun, std::vector<std::string> const& names);
+
 /// An option that takes one of a few words.
 void DeclareChoice(CLI::App& command, VArguments& arguments, char const* name, std::string& value,
                    std::vector<std::string> const& choices, char const* help);
 
-/// An option that takes a number: digits alone.
+/// An option that accepts a number: digits only.
 CLI::Option& DeclareCount(CLI::App& command, char const* name, std::uint64_t& count, char const* help);
 
-/// The options that name what a command looks at: each takes a short name or an ID.
+/// The options that select the subject of a command: each accepts a short name or an ID.
 void DeclareSelections(CLI::App& command, VArguments& arguments);
 
-/// FILE... and the limits of reading, for commands that work on a database.
+/// FILE... and how they are read, for commands that work on a database.
 void DeclareFiles(CLI::App& command, VArguments& arguments);
 
-/// The limits alone.
-void DeclareLimits(CLI::App& command, VArguments& arguments);
+/// How files are read alone: the limits, and how much is told.
+void DeclareReading(CLI::App& command, VArguments& arguments);
 
 } // namespace NCli

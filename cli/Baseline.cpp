@@ -33,7 +33,7 @@ std::string KeyOfResult(VJson const& result) {
 }
 
 VJson::array_t const& ListOf(VJson const& object, char const* member) {
-    return object.at(member).get_ref<VJson::array_t const&>(); // raises for anything else
+    return object.at(member).get_ref<VJson::array_t const&>(); // throws for anything else
 }
 
 VJson ReadJson(std::string const& file) {
@@ -57,7 +57,7 @@ VBaseline::VBaseline(std::string const& file) {
         }
     } catch (VJson::exception const&) {
         throw std::runtime_error(
-            fmt::format("'{}' is no baseline: it is no answer of 'check' in JSON or SARIF", Shown(file)));
+            fmt::format("'{}' is not a baseline: it is not output of 'check' in JSON or SARIF", Shown(file)));
     }
 }
 

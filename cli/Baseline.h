@@ -11,20 +11,20 @@ namespace NCli {
 
 /// The findings of an earlier `check`, which no longer count.
 ///
-/// A finding is known again by file, code and message, so it may have moved to another line. Each finding of the
+/// A finding is recognised by file, code and message, so it may have moved to another line. Each finding of the
 /// baseline covers one: of three equal ones, of which two were there, one is new.
 class VBaseline {
 public:
     VBaseline() = default; ///< covers nothing
 
-    /// The answer of an earlier `check` in JSON or SARIF. Throws std::runtime_error with a message for a file that
-    /// cannot be read or is neither.
+    /// Reads the result of an earlier `check` in JSON or SARIF. Throws std::runtime_error with a message for a file
+    /// that cannot be read or is neither.
     explicit VBaseline(std::string const& file);
 
-    bool Covers(NReader::VDiagnostic const& diagnostic); ///< and covers it no second time
+    bool Covers(NReader::VDiagnostic const& diagnostic); ///< covers it only once
 
 private:
-    std::map<std::string, std::size_t> m_left; ///< findings, by what tells them apart
+    std::map<std::string, std::size_t> m_left; ///< findings, by file, code and message
     bool m_isSarif = false;
 };
 

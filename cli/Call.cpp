@@ -11,7 +11,7 @@ namespace {
 
 bool IsOption(std::string const& word) { return word.size() > 1 && word.front() == '-'; }
 
-/// Whether the next word is the value of this option, whichever command has it.
+/// Whether the next word is the value of this option, of any command.
 bool TakesNextWord(std::string const& word, CLI::App const& program) {
     auto const commands = program.get_subcommands(nullptr);
     return std::any_of(commands.begin(), commands.end(), [&word](CLI::App const* command) {
@@ -20,7 +20,7 @@ bool TakesNextWord(std::string const& word, CLI::App const& program) {
     });
 }
 
-/// Where the command stands; the end where there is none.
+/// The position of the command; the end where there is none.
 std::vector<std::string>::iterator FindCommand(std::vector<std::string>& words, CLI::App const& program) {
     auto word = words.begin();
     while (word != words.end() && IsOption(*word) && *word != "--") {
@@ -36,7 +36,7 @@ bool IsCommand(std::string const& word, CLI::App const& program) {
                        [&word](CLI::App const* command) { return command->get_name() == word; });
 }
 
-/// `help [COMMAND]` as the option; what is no command is left alone, to be complained about.
+/// `help [COMMAND]` as the option; a word that is not a command stays, to be reported.
 std::vector<std::string> HelpAsOption(std::vector<std::string> words, CLI::App const& program) {
     words.erase(words.begin());
     auto const command = FindCommand(words, program);

@@ -10,8 +10,8 @@ class App;
 
 namespace NCli {
 
-/// The words of a call as its command takes them: options may stand before the command, and `help [COMMAND]` is the
-/// --help of it.
+/// The words of a call in the order that its command expects: options may come before the command, and `help [COMMAND]`
+/// is equivalent to --help.
 std::vector<std::string> CommandFirst(std::vector<std::string> words, CLI::App const& program);
 
 } // namespace NCli

@@ -47,10 +47,9 @@ void WriteDiagnostic(VJsonWriter& json, NReader::VDiagnostic const& diagnostic) 
 }
 
 void WriteAsJson(VJsonWriter& json, VDiagnostics const& diagnostics) {
-    std::size_t const errors = CountErrors(diagnostics);
     json.Object([&] {
-        json.Member("errors", errors);
-        json.Member("warnings", diagnostics.size() - errors);
+        json.Member("errors", CountErrors(diagnostics));
+        json.Member("warnings", CountOf(NReader::VSeverity::Warning, diagnostics));
         json.ArrayOf("diagnostics", diagnostics,
                      [&json](NReader::VDiagnostic const& diagnostic) { WriteDiagnostic(json, diagnostic); });
     });
@@ -60,9 +59,11 @@ void WriteText(VDiagnostics const& diagnostics, VOutput& output) {
     for (NReader::VDiagnostic const& diagnostic : diagnostics) {
         output.Write(LineOf(diagnostic));
     }
-    std::size_t const errors = CountErrors(diagnostics);
+    std::size_t const warnings = CountOf(NReader::VSeverity::Warning, diagnostics);
+    std::size_t const notes = CountOf(NReader::VSeverity::Note, diagnostics);
     output.Write(diagnostics.empty() ? "" : "\n");
-    output.Write(fmt::format("{}, {}\n", Counted(errors, "error"), Counted(diagnostics.size() - errors, "warning")));
+    output.Write(fmt::format("{}, {}{}\n", Counted(CountErrors(diagnostics), "error"), Counted(warnings, "warning"),
+                             notes > 0 ? ", " + Counted(notes, "note") : ""));
 }
 
 VDiagnostics Check(VArguments const& arguments, NReader::VReadResult& result) {
@@ -74,7 +75,7 @@ bool IsAmong(std::vector<std::string> const& codes, std::string const& code) {
     return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
-/// What the call asks about. What is not asked about covers nothing of the baseline.
+/// The selected findings. Findings that are not selected cover nothing of the baseline.
 VDiagnostics Selected(VArguments const& arguments, VDiagnostics diagnostics, VBaseline& baseline) {
     auto const isLeftOut = [&](NReader::VDiagnostic const& diagnostic) {
         return IsAmong(arguments.ignored, diagnostic.code) ||
@@ -94,7 +95,7 @@ void WriteAnswer(VArguments const& arguments, VDiagnostics const& diagnostics, V
     }
 }
 
-/// What is wrong with the call; "" when nothing is.
+/// The usage error of the call; "" when there is none.
 std::string WrongUsage(VArguments const& arguments) {
     if (arguments.isJson && !arguments.format.empty() && arguments.format != "json") {
         return fmt::format("--json and --format {} exclude each other", arguments.format);
@@ -110,7 +111,8 @@ std::string WrongUsage(VArguments const& arguments) {
 }
 
 bool Fails(VArguments const& arguments, VDiagnostics const& diagnostics) {
-    return CountErrors(diagnostics) > 0 || (arguments.failOn == "warning" && !diagnostics.empty());
+    std::size_t const warnings = CountOf(NReader::VSeverity::Warning, diagnostics);
+    return CountErrors(diagnostics) > 0 || (arguments.failOn == "warning" && warnings > 0);
 }
 
 } // namespace
@@ -118,14 +120,14 @@ bool Fails(VArguments const& arguments, VDiagnostics const& diagnostics) {
 void DeclareCheck(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
     DeclareChoice(command, arguments, "--format", arguments.format, {"text", "json", "sarif"},
-                  "How to answer: text, json or sarif (SARIF 2.1.0)");
+                  "Output format: text, json or sarif (SARIF 2.1.0)");
     DeclareChoice(command, arguments, "--fail-on", arguments.failOn, {"error", "warning"},
-                  "What gives status 1: error, the default, or warning");
-    DeclareCodes(command, arguments, "--ignore", arguments.ignored, "A code that does not count; may be repeated");
-    DeclareCodes(command, arguments, "--only", arguments.only, "A code that counts alone; may be repeated");
+                  "The least severity that gives status 1: error (the default) or warning");
+    DeclareCodes(command, arguments, "--ignore", arguments.ignored, "Ignore findings of this code; may be repeated");
+    DeclareCodes(command, arguments, "--only", arguments.only, "Report only findings of this code; may be repeated");
     command
         .add_option("--baseline", arguments.baseline,
-                    "An earlier answer in JSON or SARIF, whose findings no longer count")
+                    "An earlier answer in JSON or SARIF; do not report its findings again")
         ->type_name("ANSWER");
 }
 
@@ -137,7 +139,7 @@ VStatus RunCheck(VArguments const& arguments, VOutput& output) {
     VBaseline baseline = arguments.baseline.empty() ? VBaseline() : VBaseline(arguments.baseline);
     NReader::VReadResult result;
     if (VStatus const status = LoadToCheck(arguments, output, result); status != VStatus::Done) {
-        if (!arguments.IsText()) { // what a program reads is whole, whatever the files are
+        if (!arguments.IsText()) { // output for programs is complete, whatever the files are
             WriteAnswer(arguments, Selected(arguments, result.diagnostics, baseline), output);
         }
         return status;

@@ -17,7 +17,7 @@ class VColumns {
 public:
     void Add(std::vector<std::string> cells);
 
-    /// One line a row, each with the indent before and a line end after it.
+    /// One line per row, each with the indent before and a line end after it.
     std::string Format(std::string_view indent = "  ") const;
 
 private:

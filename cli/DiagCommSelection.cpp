@@ -6,7 +6,7 @@
 namespace NCli {
 namespace {
 
-/// Calls `make` with the DIAG-COMM as what it is: a MULTIPLE-ECU-JOB must never be taken for a single-ECU job.
+/// Calls `make` with the DIAG-COMM by its class: a MULTIPLE-ECU-JOB must never be treated as a single-ECU job.
 template <class Make>
 auto MakeFor(VDiagCommSelection const& selection, Make make) {
     if (selection.job != nullptr) {

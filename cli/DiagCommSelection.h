@@ -12,10 +12,10 @@
 
 namespace NCli {
 
-/// The DIAG-COMM that --layer and --diag-comm, or --job, name.
+/// The DIAG-COMM selected by --layer and --diag-comm, or by --job.
 struct VDiagCommSelection {
-    NODX201::VDiagComm* diagComm = nullptr;  ///< null, with a message, when it is not there
-    NODX201::VMultipleEcuJob* job = nullptr; ///< the same where it is a MULTIPLE-ECU-JOB
+    NODX201::VDiagComm* diagComm = nullptr;  ///< null, with a message, when it does not exist
+    NODX201::VMultipleEcuJob* job = nullptr; ///< the same object if it is a MULTIPLE-ECU-JOB
     NODX201::VDiagLayer* layer = nullptr;    ///< --layer; null without it
 };
 

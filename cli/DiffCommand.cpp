@@ -40,13 +40,13 @@ struct VSides {
     std::vector<std::string> now;
 };
 
-/// What came of reading them.
+/// The results of reading them.
 struct VRead {
     NReader::VReadResult const& old;
     NReader::VReadResult const& now;
 };
 
-/// What is wrong with the call; null for nothing.
+/// The usage error of the call; null when there is none.
 char const* WrongCall(VArguments const& arguments) {
     bool const hasSides = !arguments.oldFiles.empty() || !arguments.newFiles.empty();
     if (!arguments.toLayer.empty()) {
@@ -82,7 +82,7 @@ VSides SidesOf(VArguments const& arguments) {
     return {ExpandedFiles({arguments.files.front()}), ExpandedFiles({arguments.files.back()})};
 }
 
-/// Reads the files of one side; says which it is when they cannot be read.
+/// Reads the files of one side; the message names the side when they cannot be read.
 VStatus LoadSide(VArguments const& arguments, char const* side, std::vector<std::string> const& files,
                  VOutput const& output, NReader::VReadResult& result) {
     VArguments one = arguments;
@@ -162,12 +162,12 @@ void WriteAsJson(VJsonWriter& json, VSides const& sides, VDiff const& diff, bool
     });
 }
 
-std::size_t CountUnknown(NReader::VReadResult const& result) {
-    std::size_t count = 0;
-    for (auto const& [tag, times] : result.unknownElements) {
-        count += times;
-    }
-    return count;
+/// Flash data, vehicle information, COMPARAM-SPECs and jobs of several ECUs: no layer's view shows what is in them.
+std::size_t CountWithoutLayers(NReader::VReadResult const& result) {
+    return static_cast<std::size_t>(
+        std::count_if(result.documents.begin(), result.documents.end(), [](NReader::VDocumentInfo const& document) {
+            return document.category != "DIAG-LAYER-CONTAINER";
+        }));
 }
 
 /// What was looked at and could not be compared, on standard error.
@@ -183,9 +183,11 @@ void TellWhatWasNotCompared(VDiff const& diff, VRead const& read, VArguments con
     bool const isOneDatabase = &read.old == &read.now;
     char const* const old = isOneDatabase ? "" : " of the old database";
     char const* const now = isOneDatabase ? "" : " of the new database";
+    tell(CountWithoutLayers(read.old), "document", old, "without layers");
+    tell(isOneDatabase ? 0 : CountWithoutLayers(read.now), "document", now, "without layers");
     constexpr char const* kUnknown = "without a place in the model";
-    tell(CountUnknown(read.old), "element", old, kUnknown);
-    tell(isOneDatabase ? 0 : CountUnknown(read.now), "element", now, kUnknown);
+    tell(CountWithoutPlace(read.old), "element", old, kUnknown);
+    tell(isOneDatabase ? 0 : CountWithoutPlace(read.now), "element", now, kUnknown);
     tell(diff.unresolvedOld, "reference", isOneDatabase ? " of the first layer" : old, "to nothing");
     tell(diff.unresolvedNew, "reference", isOneDatabase ? " of the second layer" : now, "to nothing");
     tell(diff.tooDeep, "element", "", "inside too many others");
@@ -257,27 +259,27 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
                     "OLD and NEW, each a document, a package or a folder of both; with --to-layer the files of one "
                     "database")
         ->type_name("");
-    command.add_option("--old", arguments.oldFiles, "The files of the old database, where they are several")
+    command.add_option("--old", arguments.oldFiles, "The files of the old database, if there are several")
         ->type_name("FILE");
-    command.add_option("--new", arguments.newFiles, "The files of the new database")->type_name("FILE");
+    command.add_option("--new", arguments.newFiles, "The files of the new database, if there are several")
+        ->type_name("FILE");
     command
         .add_option("--layer", arguments.layers,
-                    "Look at this layer only, by its short name or ID, or as CONTAINER/LAYER; may be repeated")
+                    "Compare only this layer: its short name or ID, or CONTAINER/LAYER; may be repeated")
         ->type_name("L")
         ->allow_extra_args(false);
-    command.add_option("--to-layer", arguments.toLayer, "Compare the one --layer with this layer of the same database")
+    command.add_option("--to-layer", arguments.toLayer, "Compare --layer with this layer of the same database")
         ->type_name("L");
     std::vector<std::string> words;
     for (VIgnored const& row : kIgnored) {
         words.emplace_back(row.word);
     }
     auto* const ignore = command.add_option("--ignore", arguments.ignored,
-                                            "What makes no difference: long-names, descriptions, admin-data, order; "
-                                            "several with commas between");
-    ignore->delimiter(',')->allow_extra_args(false)->check(CLI::IsMember(words))->type_name("WHAT");
-    arguments.choices[ignore] = words;
-    command.add_flag("--ids", arguments.comparesIds, "Other IDs are a difference, too");
-    DeclareLimits(command, arguments);
+                                            "Ignore differences in long-names, descriptions, admin-data or order; "
+                                            "separate several with commas");
+    DeclareOneOf(*ignore->delimiter(',')->allow_extra_args(false)->type_name("WHAT"), arguments, "word", words);
+    command.add_flag("--ids", arguments.comparesIds, "Report different IDs as well");
+    DeclareReading(command, arguments);
 }
 
 VStatus RunDiff(VArguments const& arguments, VOutput& output) {

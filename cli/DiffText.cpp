@@ -7,6 +7,7 @@
 #include <string>
 #include <tuple>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -23,10 +24,10 @@ using NQuery::VChangeKind;
 using NQuery::VDetail;
 
 constexpr std::size_t kWidth = 80;
-constexpr std::size_t kMostNamesListed = 20; ///< that a list tells; of more it tells how many
+constexpr std::size_t kMostNamesListed = 20; ///< in one list; of longer lists also the number of the rest
 
 /// A text with one blank for each white space in it, however long that is.
-std::string InOneLine(std::wstring const& text) {
+std::string WholeInOneLine(std::wstring const& text) {
     std::wstring line;
     for (wchar_t const character : text) {
         bool const isSpace = character == L' ' || character == L'\t' || character == L'\r' || character == L'\n';
@@ -36,10 +37,40 @@ std::string InOneLine(std::wstring const& text) {
             line += L' ';
         }
     }
-    return Cut(Shown(line));
+    return Shown(line);
 }
 
-/// One edit, as far as all who see it see the same.
+std::string InOneLine(std::wstring const& text) { return Cut(WholeInOneLine(text)); }
+
+/// From a little before the first difference on; what is left out before it is an ellipsis.
+std::string FromDifference(std::string const& text, std::size_t difference) {
+    constexpr std::size_t kBefore = 20;
+    std::size_t start = difference > kBefore ? difference - kBefore : 0;
+    auto const isInside = [&text](std::size_t place) {
+        return place < text.size() && (static_cast<unsigned char>(text[place]) & 0xC0U) == 0x80U; // of a character
+    };
+    while (start > 0 && isInside(start)) {
+        --start;
+    }
+    return (start > 0 ? "..." : "") + Cut(text.substr(start));
+}
+
+/// Both sides of a change, so that the difference is seen.
+std::pair<std::string, std::string> Sides(std::wstring const& oldText, std::wstring const& newText) {
+    std::string const old = WholeInOneLine(oldText);
+    std::string const now = WholeInOneLine(newText);
+    if (Cut(old) != Cut(now)) {
+        return {Cut(old), Cut(now)};
+    }
+    if (old == now) {
+        return {Cut(old), "the same with other white space or control characters"};
+    }
+    auto const end = old.begin() + static_cast<std::ptrdiff_t>(std::min(old.size(), now.size()));
+    auto const difference = static_cast<std::size_t>(std::mismatch(old.begin(), end, now.begin()).first - old.begin());
+    return {FromDifference(old, difference), FromDifference(now, difference)};
+}
+
+/// One edit, with the details common to all layers that see it.
 struct VEdit {
     VChangeKind kind = VChangeKind::Changed;
     NODX201::VOdxElement* old = nullptr;
@@ -47,15 +78,22 @@ struct VEdit {
     std::string name{};
     std::string was{};
     std::vector<std::string> details{};
-    std::set<std::string> told{};       ///< the same details
+    std::set<std::string> told{};       ///< the common details
     std::vector<std::string> through{}; ///< entries that lead to it
     std::vector<NODX201::VDiagLayer const*> layers{};
 };
 
-/// Finds the edits behind what the layers see: what many layers inherit, or many entries refer to, is told once.
+/// Finds the edits behind the changes in layers: an edit that many layers inherit, or to which many entries refer, is
+/// written once.
 class VEdits {
 public:
     explicit VEdits(NQuery::VDiff const& diff) {
+        for (NQuery::VLayerChange const& layer : diff.layers) {
+            if (layer.kind == VChangeKind::Renamed) {
+                m_seenBy.try_emplace(layer.newLayer);
+                m_renamed.insert(layer.oldLayer);
+            }
+        }
         for (NQuery::VLayerChange const& layer : diff.layers) {
             for (NQuery::VViewChanges const& view : layer.views) {
                 for (VChange const& change : view.changes) {
@@ -67,11 +105,31 @@ public:
 
     std::vector<VEdit> const& Edits() const { return m_edits; }
 
+    using VLayers = std::vector<NODX201::VDiagLayer const*>;
+
+    /// The layers in whose views a renamed layer stands, which is no edit of its own.
+    VLayers const& SeenBy(NODX201::VDiagLayer const& renamed) const { return m_seenBy.at(&renamed); }
+
 private:
     using VKey = std::tuple<VChangeKind, NODX201::VOdxElement*, NODX201::VOdxElement*>;
     using VIndices = std::vector<std::size_t>;
 
+    /// Views of PROTOCOLs lose the old name and get the new one.
+    bool IsOfRenamedLayer(VChange const& change, NODX201::VDiagLayer const* layer) {
+        if (change.kind == VChangeKind::Removed) {
+            return m_renamed.count(change.oldElement) != 0;
+        }
+        auto const seen = change.kind == VChangeKind::Added ? m_seenBy.find(change.newElement) : m_seenBy.end();
+        if (seen != m_seenBy.end()) {
+            seen->second.push_back(layer);
+        }
+        return seen != m_seenBy.end();
+    }
+
     void Add(VChange const& change, NODX201::VDiagLayer const* layer) {
+        if (IsOfRenamedLayer(change, layer)) {
+            return;
+        }
         if (change.details == nullptr) {
             NoteLayer(EditOf(change.kind, change.oldElement, change.newElement, change), layer);
             return;
@@ -113,7 +171,7 @@ private:
         }
     }
 
-    /// What came has a plus before it, what went a minus. The name of an item is not repeated.
+    /// Additions have a plus before them, removals a minus. The name of an item is not repeated.
     static std::string LineOf(std::string const& path, VDetail const& detail) {
         auto const isNamed = [&path](std::string const& text) {
             std::string const end = '[' + text + ']';
@@ -121,8 +179,7 @@ private:
         };
         std::string const place = path.empty() ? "" : path + ": ";
         if (detail.oldText.has_value() && detail.newText.has_value()) {
-            std::string const old = InOneLine(*detail.oldText);
-            std::string const now = InOneLine(*detail.newText);
+            auto const [old, now] = Sides(*detail.oldText, *detail.newText);
             bool const isLong = place.size() + old.size() + now.size() + 8 > kWidth;
             return fmt::format("    {}{}{} -> {}", place, isLong && !place.empty() ? "\n      " : "", old, now);
         }
@@ -151,9 +208,11 @@ private:
         }
     }
 
-    std::vector<VEdit> m_edits; // in the order in which they were met
+    std::vector<VEdit> m_edits; // in the order in which they were found
     std::map<VKey, std::size_t> m_byPlace;
     std::unordered_map<void const*, VIndices> m_byDetails;
+    std::map<NODX201::VOdxElement const*, VLayers> m_seenBy; // by the new one of a renamed layer
+    std::set<NODX201::VOdxElement const*> m_renamed;         // the old ones
 };
 
 /// Names with commas between, in lines of the width.
@@ -180,7 +239,7 @@ std::string WhereOf(NODX201::VOdxElement const& element) {
     return layer != nullptr ? Titled(*layer) : "outside layers";
 }
 
-/// Where an element stands; a layer stands for itself.
+/// The layer of an element; for a layer, the layer itself.
 std::string InLayer(NODX201::VOdxElement const& element) {
     NODX201::VDiagLayer const* const layer = LayerAround(element);
     return layer != nullptr ? ", in " + Titled(*layer) : "";
@@ -204,6 +263,14 @@ std::string HeadingOf(VEdit const& edit) {
     return what;
 }
 
+void WriteSeenBy(std::vector<NODX201::VDiagLayer const*> const& layers, VOutput& output) {
+    std::vector<std::string> names;
+    for (NODX201::VDiagLayer const* const layer : layers) {
+        names.push_back(ShownName(*layer));
+    }
+    output.Write(Listed(fmt::format("  seen in {}:", Counted(names.size(), "layer")), names));
+}
+
 void WriteEdit(VEdit const& edit, VOutput& output) {
     output.Write(output.Heading(HeadingOf(edit)) + '\n');
     for (std::string const& detail : edit.details) {
@@ -212,15 +279,12 @@ void WriteEdit(VEdit const& edit, VOutput& output) {
     if (!edit.through.empty()) {
         output.Write(Listed("  through", edit.through));
     }
-    std::vector<std::string> layers;
-    for (NODX201::VDiagLayer const* const layer : edit.layers) {
-        layers.push_back(ShownName(*layer));
-    }
-    output.Write(Listed(fmt::format("  seen in {}:", Counted(layers.size(), "layer")), layers) + '\n');
+    WriteSeenBy(edit.layers, output);
+    output.Write("\n");
 }
 
 /// A layer that is there on one side alone, or under another name.
-void WriteLayer(NQuery::VLayerChange const& layer, VOutput& output) {
+void WriteLayer(NQuery::VLayerChange const& layer, VEdits const& edits, VOutput& output) {
     switch (layer.kind) {
     case VChangeKind::Added:
         output.Write(fmt::format("added: {}\n", Titled(*layer.newLayer)));
@@ -230,6 +294,9 @@ void WriteLayer(NQuery::VLayerChange const& layer, VOutput& output) {
         break;
     case VChangeKind::Renamed:
         output.Write(fmt::format("renamed: {}, formerly {}\n", Titled(*layer.newLayer), ShownName(*layer.oldLayer)));
+        if (!edits.SeenBy(*layer.newLayer).empty()) {
+            WriteSeenBy(edits.SeenBy(*layer.newLayer), output);
+        }
         break;
     case VChangeKind::Changed:
     case VChangeKind::Moved:
@@ -244,13 +311,13 @@ void WriteDiff(NQuery::VDiff const& diff, VOutput& output) {
         output.Write("No differences in what the layers see\n");
         return;
     }
+    VEdits const edits(diff);
     std::size_t others = 0;
     for (NQuery::VLayerChange const& layer : diff.layers) {
-        WriteLayer(layer, output);
+        WriteLayer(layer, edits, output);
         others += layer.kind == VChangeKind::Changed ? 0 : 1;
     }
     output.Write(others > 0 ? "\n" : "");
-    VEdits const edits(diff);
     for (VEdit const& edit : edits.Edits()) {
         WriteEdit(edit, output);
     }

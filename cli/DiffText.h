@@ -6,7 +6,7 @@
 
 namespace NCli {
 
-/// Writes what changed for people: each edit once, with the layers that see it.
+/// Writes the changes for people: each edit once, with the layers that see it.
 void WriteDiff(NQuery::VDiff const& diff, VOutput& output);
 
 } // namespace NCli

@@ -20,7 +20,7 @@
 namespace NCli {
 namespace {
 
-/// An element that may be meant, and what it stands in; null for one that stands in the database itself.
+/// A possible match, and its owner for messages; null for one directly in the database.
 template <class Element>
 struct VCandidate {
     Element* element;
@@ -30,7 +30,7 @@ struct VCandidate {
 template <class Element>
 using VCandidates = std::vector<VCandidate<Element>>;
 
-/// How messages call the kind of an element and the kind of what it stands in.
+/// The names in messages for the kind of an element and the kind of its owner.
 struct VKindOfElement {
     char const* name;
     char const* place = "";
@@ -42,7 +42,7 @@ std::wstring InPlace(VAnyCandidate const& candidate, wchar_t const* name) {
     return candidate.place != nullptr ? std::wstring(candidate.place->GetShortName()) + L"/" + name : L"";
 }
 
-// Every way to name an element.
+// All ways to select an element.
 std::wstring ById(VAnyCandidate const& candidate) { return candidate.element->GetId(); }
 std::wstring ByShortName(VAnyCandidate const& candidate) { return candidate.element->GetShortName(); }
 std::wstring ByPlaceAndShortName(VAnyCandidate const& candidate) {
@@ -55,7 +55,7 @@ bool IsNamed(VAnyCandidate const& candidate, std::wstring_view wanted) {
            wanted == ByPlaceAndId(candidate);
 }
 
-/// With a note that explains it, and near names.
+/// With an explanatory note, and similar names.
 std::string MissingMessage(std::string_view kind, std::wstring_view wanted, std::vector<VAnyCandidate> const& all,
                            std::string const& whyNot = "") {
     std::vector<std::wstring_view> names;
@@ -66,7 +66,7 @@ std::string MissingMessage(std::string_view kind, std::wstring_view wanted, std:
     return fmt::format("no {} has the short name or ID '{}'{}{}", kind, Shown(wanted), whyNot, NearNote(wanted, names));
 }
 
-/// Whether a way to name elements tells these apart.
+/// Whether a way to select elements distinguishes these.
 bool TellsApart(std::vector<VAnyCandidate> const& candidates, std::wstring (*way)(VAnyCandidate const& candidate)) {
     std::set<std::wstring> names;
     for (VAnyCandidate const& candidate : candidates) {
@@ -147,7 +147,7 @@ VCandidates<NMemory::VMemMultipleEcuJob> JobsOf(NMemory::VDatabase& database) {
     return jobs;
 }
 
-/// The first DIAG-COMM of this short name or ID that stands in any layer; null when none does.
+/// The first DIAG-COMM of this short name or ID in any layer; null when there is none.
 NODX201::VDiagComm const* DiagCommOfLayers(NMemory::VDatabase& database, std::wstring_view wanted) {
     for (VPlacedLayer const& placed : LayersOf(database)) {
         if (!placed.layer->HasDiagCommProxyCollection()) {
@@ -237,7 +237,7 @@ NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLay
         visible.push_back({diagComm});
     }
     std::wstring const wanted = NReader::FromUtf8(name);
-    for (auto const way : {&ByShortName, &ById}) { // what has the name in the view goes before an ID that is spelt so
+    for (auto const way : {&ByShortName, &ById}) { // a name in the view has precedence over an equal ID
         for (VCandidate<NODX201::VDiagComm> const& candidate : visible) {
             if (wanted == way({candidate.element})) {
                 return candidate.element;
@@ -248,7 +248,12 @@ NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLay
         output.Complain(fmt::format("'{}' is a MULTIPLE-ECU-JOB; use --job instead of --diag-comm", Shown(wanted)));
         return nullptr;
     }
-    std::string const whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, wanted, layerInCall);
+    std::string whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, wanted, layerInCall);
+    NODX201::VDiagComm const* const meant = whyNot.empty() ? DiagCommOfLayers(database, wanted) : nullptr;
+    if (meant != nullptr) { // by its ID
+        whyNot =
+            WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, meant->GetShortName(), layerInCall, meant);
+    }
     output.Complain(
         fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible), whyNot)));
     return nullptr;

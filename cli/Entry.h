@@ -9,16 +9,16 @@
 
 namespace NCli {
 
-/// Writes the entry object of an element, with its members in their fixed order; what the element lacks is null.
+/// Writes the entry object of an element, with its members in their fixed order; absent ones are null.
 void WriteEntry(VJsonWriter& json, NODX201::VOdxElement const& element);
 
-/// The members of an entry object alone, for an object that has more of them.
+/// Only the members of an entry object, for an object with further members.
 void WriteEntryMembers(VJsonWriter& json, NODX201::VOdxElement const& element);
 
 /// The same as a member; null without an element.
 void WriteEntryOrNull(VJsonWriter& json, std::string_view name, NODX201::VOdxElement const* element);
 
-/// The members "file", "line" and "column" of a place; null and 0 for what stands nowhere.
+/// The members "file", "line" and "column" of a place; null and 0 where there is none.
 void WritePlaceMembers(VJsonWriter& json, NQuery::VFilePlace const& place);
 
 } // namespace NCli

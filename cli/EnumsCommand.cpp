@@ -23,7 +23,7 @@ using Mapper = NDIAGKIT::VEnumMapper;
 
 struct VTable {
     char const* name;
-    wchar_t const* (*literal)(int value); ///< "?" for a value that the table does not hold
+    wchar_t const* (*literal)(int value); ///< "?" for a value that is not in the table
 };
 
 template <class Enumeration>
@@ -130,7 +130,7 @@ VStatus WriteLiteral(VTable const& table, VArguments const& arguments, VOutput& 
     return VStatus::Done;
 }
 
-/// A word that may be missing; CLI11 itself takes an empty one for a missing one.
+/// An optional word; CLI11 itself treats an empty one as missing.
 CLI::Option& DeclareWord(CLI::App& command, char const* name, std::optional<std::string>& word, char const* help) {
     auto const take = [&word](std::string const& text) { word = text; };
     return *command.add_option_function<std::string>(name, take, help)->type_name("");

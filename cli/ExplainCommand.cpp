@@ -173,6 +173,7 @@ std::string TitleAround(NODX201::VOdxElement const& element) {
 void WriteCandidates(VExplained const& explained, VOutput& output) {
     NQuery::VExplanation const& explanation = explained.explanation;
     VColumns columns;
+    columns.Add({"Of", "Kind", "ID", "Way", "Fate", "Decided at"});
     for (VWay const& way : explanation.candidates) {
         NODX201::VOdxElement const& decisive = way.decidedBy != nullptr ? *way.decidedBy : *way.element;
         columns.Add({TitleAround(*way.element), KindOf(*way.element), ShownId(*way.element), WayText(way, explained),
@@ -214,7 +215,7 @@ void WriteText(VExplained const& explained, VOutput& output) {
     WriteElsewhere(explained, output);
 }
 
-/// Where the whole database has nothing of the name it may be misspelt.
+/// If nothing in the whole database has the name, it may be misspelled.
 void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
     NQuery::VExplanation const& explanation = explained.explanation;
     if (explanation.visible.has_value() || !explanation.candidates.empty() || !explanation.elsewhere.empty()) {
@@ -231,10 +232,10 @@ void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
 } // namespace
 
 void DeclareExplain(CLI::App& command, VArguments& arguments) {
-    DeclareKind(command, arguments, NamesOf(kInheritedKinds), "What the name stands for");
+    DeclareKind(command, arguments, NamesOf(kInheritedKinds), "The kind of element that the name stands for");
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
-    DeclareLayer(command, arguments);
-    DeclareCount(command, "--max-candidates", arguments.maxCandidates, "Elements on their ways that are told");
+    DeclareLayer(command, arguments).required();
+    DeclareCount(command, "--max-candidates", arguments.maxCandidates, "The most candidates to list");
     DeclareFiles(command, arguments);
 }
 

@@ -63,7 +63,7 @@ void WriteGraph(VJsonWriter& json, NMemory::VDatabase const& database, NQuery::V
 
 std::string FirstLineOf(std::string const& text) { return Shown(std::string_view(text).substr(0, text.find('\n'))); }
 
-/// Has Graphviz lay the graph out.
+/// Lets Graphviz draw the graph.
 VStatus WriteSvg(NQuery::VInheritanceGraph const& graph, NQuery::VInheritanceGraph const& whole, VOutput& output) {
     VProgramRun const run = RunProgram({"dot", "-Tsvg"}, DotTextOf(graph, whole));
     switch (run.outcome) {
@@ -71,14 +71,14 @@ VStatus WriteSvg(NQuery::VInheritanceGraph const& graph, NQuery::VInheritanceGra
         output.Write(run.output);
         return VStatus::Done;
     case VProgramRun::VOutcome::NotFound:
-        output.Complain("an SVG takes the program 'dot' of Graphviz, which no folder of PATH has; install it, or use "
+        output.Complain("SVG output requires the program 'dot' of Graphviz, which is not in PATH; install it, or use "
                         "--format dot or --format mermaid");
         return VStatus::Unreadable;
     case VProgramRun::VOutcome::Failed:
         break;
     }
     std::string const reason = FirstLineOf(run.errors);
-    output.Complain(fmt::format("the program 'dot' of Graphviz failed{}{}; --format dot gives what it was to lay out",
+    output.Complain(fmt::format("the program 'dot' of Graphviz failed{}{}; --format dot prints its input",
                                 reason.empty() ? "" : ": ", reason));
     return VStatus::Unreadable;
 }
@@ -91,7 +91,7 @@ void DeclareGraph(CLI::App& command, VArguments& arguments) {
         .description("Only what this layer inherits from and what inherits from it: its short name or ID, or "
                      "CONTAINER/LAYER");
     DeclareChoice(command, arguments, "--format", arguments.format, {"svg", "dot", "mermaid"},
-                  "How to draw: svg, the default, which takes the program dot of Graphviz; dot or mermaid");
+                  "Output format: svg (the default; requires Graphviz), dot or mermaid");
 }
 
 VStatus RunGraph(VArguments const& arguments, VOutput& output) {

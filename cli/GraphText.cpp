@@ -20,8 +20,8 @@ using NQuery::VGraphNode;
 using NQuery::VInheritanceGraph;
 using NQuery::VParentRefState;
 
-/// How the nodes of a kind look: in Graphviz their attributes; in Mermaid what stands around their text, the name of
-/// their style, and the style.
+/// The style of the nodes of a kind: in Graphviz their attributes; in Mermaid the brackets around their text, the name
+/// of their style, and the style.
 struct VLook {
     std::wstring_view kind;
     char const* dot;
@@ -60,7 +60,7 @@ VNameCounts NameCountsOf(VInheritanceGraph const& graph) {
     return counts;
 }
 
-/// The lines that a node shows: its name, its kind, and its ID where the name tells no layer from others.
+/// The lines of a node: its name, its kind, and its ID where the name is not unique.
 std::vector<std::string> LinesOf(VGraphNode const& node, VNameCounts const& counts) {
     bool const isThere = node.layer != nullptr;
     std::vector<std::string> lines{isThere ? ShownName(*node.layer) : "? " + Shown(node.name)};
@@ -75,7 +75,7 @@ std::vector<std::string> LinesOf(VGraphNode const& node, VNameCounts const& coun
 
 bool IsBroken(VGraphEdge const& edge) { return edge.state != VParentRefState::Inherited; }
 
-/// What stands at an arrow; "" for nothing.
+/// The label of an arrow; "" for none.
 std::string LabelOf(VGraphEdge const& edge) {
     std::size_t const excluded = edge.excludedDiagComms + edge.excludedVariables;
     switch (edge.state) {
@@ -104,7 +104,7 @@ std::string InQuotes(std::vector<std::string> const& lines) {
 
 /// The language of Graphviz.
 struct VDot {
-    // Upwards, bottom and top of a container are turned over.
+    // Drawn upwards, top and bottom of a container are exchanged.
     static constexpr char const* kStart = "digraph inheritance {\n"
                                           "  rankdir=BT\n"
                                           "  labelloc=b\n"
@@ -147,7 +147,7 @@ struct VMermaid {
     static constexpr char const* kLineEnd = "<br/>";
     static constexpr char const* kContainerEnd = "  end\n";
 
-    /// Many characters mean something, also in quotes; every character may be written by its number.
+    /// Many characters are special, also in quotes; every character may be written by its number.
     static std::string Escaped(std::string_view text) {
         constexpr std::string_view kPlain = " -.,?_0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
         std::string escaped;

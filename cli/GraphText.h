@@ -7,10 +7,10 @@
 
 namespace NCli {
 
-// An inheritance graph as the text of a language for graphs: a node for each layer, in the containers that they stand
-// in, and an arrow from each layer to each of its parents. Kinds of layers differ in colour and shape; broken
-// references are red. Names are texts to these languages, whatever they hold. A layer shows its ID where another one of
-// the whole graph has its name.
+// An inheritance graph as the text of a graph language: a node for each layer, in its container, and an arrow from each
+// layer to each of its parents. Kinds of layers differ in colour and shape; broken references are red. Names are
+// escaped, so that they are always plain text. A layer shows its ID where another one of the whole graph has the same
+// name.
 
 /// In the language of Graphviz.
 std::string DotTextOf(NQuery::VInheritanceGraph const& graph, NQuery::VInheritanceGraph const& whole);

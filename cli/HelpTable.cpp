@@ -8,7 +8,7 @@
 namespace NCli {
 namespace {
 
-/// What stands for the value of an option, without what it is checked for; "" for a flag.
+/// The placeholder for the value of an option, without what it is checked for; "" for a flag.
 std::string ValueOf(CLI::Option const& option) {
     std::string const type = option.get_type_name();
     return option.get_items_expected_max() == 0 ? "" : type.substr(0, type.find(':'));
@@ -29,7 +29,7 @@ void WriteOption(VJsonWriter& json, CLI::Option const& option, VArguments const&
     });
 }
 
-/// The options of the program or a command, or what it takes without naming it.
+/// The options of the program or a command, or its positional arguments.
 void WriteOptions(VJsonWriter& json, CLI::App const& app, bool isPositional, VArguments const& arguments) {
     json.Array(isPositional ? "positionals" : "options", [&] {
         for (CLI::Option const* const option : app.get_options()) {

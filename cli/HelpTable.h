@@ -6,8 +6,8 @@
 
 namespace NCli {
 
-/// The options and commands of the program as JSON, which `packaging/generate` makes the man page and the completions
-/// of.
+/// The options and commands of the program as JSON, from which `packaging/generate` makes the man page and the
+/// completions.
 void WriteHelpTable(CLI::App const& program, VArguments const& arguments, VOutput& output);
 
 } // namespace NCli

@@ -23,7 +23,7 @@ constexpr std::array kTags{
 
 using VCounts = std::map<std::string, std::size_t>;
 
-/// A document, as the category list holds it.
+/// A document as an entry of the category list.
 class VDocument final : public NDIAGKIT::VOdxCategoryInfo {
 public:
     explicit VDocument(NReader::VDocumentInfo const& info)
@@ -74,7 +74,7 @@ VCounts CountsOf(NMemory::VDatabase const& database) {
     return counts;
 }
 
-/// Every version once, in load order; documents without one add nothing.
+/// Every version once, in load order; documents without a version add nothing.
 std::vector<std::string> ModelVersionsOf(VDocuments& documents) {
     std::vector<std::string> versions;
     documents.ForEach([&versions](VDocument const& document) {
@@ -136,8 +136,7 @@ void WriteText(VDocuments& documents, NReader::VReadResult const& result, VOutpu
     }
     WriteCounts(fmt::format("{} of {}", Counted(all, "element"), Counted(counts.size(), "kind")), counts, output);
     if (!result.unknownElements.empty()) {
-        WriteCounts("Left out with their contents, because the model has no place for them", result.unknownElements,
-                    output);
+        WriteCounts("Ignored, with their children: not supported", result.unknownElements, output);
     }
 }
 

@@ -9,24 +9,25 @@
 
 namespace NCli {
 
-/// A kind of element that layers inherit, as commands and answers call it.
+/// A kind of inherited element, with its names in commands and output.
 struct VInheritedKindRow {
     char const* name; ///< KIND of `explain` and `resolve`
     VSelectionRule const& selection;
     NQuery::VInheritedKind kind;
     char const* views;     ///< KIND of `view`
     char const* noun;      ///< in texts: "DIAG-COMM"
-    char const* reference; ///< what makes an element of another layer a layer's own; null where nothing does
+    char const* reference; ///< the reference that adds an element of another layer to a layer; null where there is none
 };
 
 extern std::array<VInheritedKindRow, 4> const kInheritedKinds;
 
 VInheritedKindRow const& RowOf(NQuery::VInheritedKind kind);
 
-/// Whose an element is that came to a layer by PARENT-REFs: the last layer of the way; the layer itself without any.
+/// The owner of an element that came to a layer through PARENT-REFs: the last layer of the way; the layer itself
+/// without any.
 NODX201::VDiagLayer const& OwnerOn(std::vector<NDIAGKIT::VParent> const& path, NODX201::VDiagLayer const& layer);
 
-/// Where something stands, for people: "FILE:LINE"; "" for what stands nowhere.
+/// A place for people: "FILE:LINE"; "" where there is none.
 std::string ShownPlace(NMemory::VDatabase const& database, NODX201::VOdxElement const& element);
 
 } // namespace NCli

@@ -12,8 +12,7 @@ namespace {
 
 constexpr char32_t kNone = 0x110000; // beyond Unicode
 
-/// The character that a text goes on with, and how many bytes it takes; `kNone` for bytes that are the start of one at
-/// most.
+/// The next character of a text, and its number of bytes; `kNone` for bytes that are at most the start of a character.
 struct VCharacter {
     char32_t code;
     std::size_t length;
@@ -29,7 +28,7 @@ VCharacter FirstOf(std::string_view text) {
         return {kNone, 1};
     }
     std::size_t const length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    // The second byte tells longer spellings than needed, surrogates and what is beyond Unicode.
+    // The second byte rules out overlong forms, surrogates and values beyond Unicode.
     unsigned char least = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
     unsigned char most = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
     char32_t code = first & (0xFFU >> (length + 1));
@@ -46,7 +45,7 @@ VCharacter FirstOf(std::string_view text) {
 
 bool StandsForItself(char32_t code) { return code != kNone && code != U'"' && code != U'\\' && !IsSteering(code); }
 
-/// A character that does not stand for itself; what steers is all below U+10000.
+/// An escaped character; all control characters are below U+10000.
 void WriteEscape(char32_t code, VOutput& output) {
     constexpr std::string_view kShort = "\"\\\b\f\n\r\t";
     constexpr std::string_view kLetters = "\"\\bfnrt";
@@ -138,7 +137,7 @@ void VJsonWriter::WriteNumber(std::uint64_t number) {
 
 void VJsonWriter::WriteText(std::string_view text) {
     m_output.Write("\"");
-    std::size_t plain = 0; // bytes at the start that stand for themselves
+    std::size_t plain = 0; // bytes at the start that need no escape
     while (plain < text.size()) {
         VCharacter const character = FirstOf(text.substr(plain));
         if (StandsForItself(character.code)) {
@@ -163,7 +162,7 @@ void VJsonWriter::StartEntry() {
     StartLine();
 }
 
-/// A value is an item of its own unless it stands behind a name, or is the document.
+/// A value is an item itself unless it comes after a name, or is the document.
 void VJsonWriter::StartValue() {
     if (!m_isNamed && m_depth > 0) {
         StartEntry();

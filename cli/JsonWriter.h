@@ -10,8 +10,8 @@
 
 namespace NCli {
 
-/// Writes a JSON document while it is being told, and keeps nothing of it: an answer costs no memory however large it
-/// is. What an object or array holds is written by a function that is called in between, so every bracket is closed.
+/// Writes a JSON document as a stream, and keeps nothing of it: the output uses no memory however large it is. The
+/// contents of an object or array are written by a function that is called in between, so every bracket is closed.
 ///
 ///     WriteJson(output, [&entries](VJsonWriter& json) {
 ///         json.Object([&] {
@@ -20,12 +20,12 @@ namespace NCli {
 ///         });
 ///     });
 ///
-/// Texts are UTF-8; bytes that are not become U+FFFD. Characters that steer a terminal or turn the direction of text
-/// are escaped, and no others beyond those that JSON itself wants escaped.
+/// Texts are UTF-8; invalid bytes become U+FFFD. Characters that control a terminal or change the direction of text are
+/// escaped, and no others except those that JSON itself requires to be escaped.
 class VJsonWriter {
 public:
     enum class VForm {
-        Indented, ///< a line for each member and item, two blanks a level
+        Indented, ///< a line for each member and item, two blanks per level
         Line,     ///< all in one line, without blanks
     };
 
@@ -105,7 +105,7 @@ private:
     VOutput& m_output;
     bool m_isIndented;
     std::size_t m_depth = 0;
-    bool m_isFirst = true;  // nothing stands yet in what is open
+    bool m_isFirst = true;  // nothing has been written yet in the open object or array
     bool m_isNamed = false; // a name has been written, its value comes next
 };
 

@@ -18,9 +18,10 @@ namespace {
 
 constexpr char const* kSharedData = "ECU-SHARED-DATA";
 
-/// A layer, or what an unresolved PARENT-REF names.
+/// A layer, or the missing target of a PARENT-REF.
 struct VNode {
-    /// Heirs inherit from their parent. Others name a parent of a kind that such a layer inherits nothing from.
+    /// Heirs inherit from their parent. The others refer to a parent of a kind from which such a layer inherits
+    /// nothing.
     struct VChild {
         std::size_t node;
         bool isHeir;
@@ -81,7 +82,7 @@ void VLayerTree::AddBelowParents(std::size_t node, NODX201::VDiagLayer& layer) {
         bool const isHeir = parent.layer == nullptr || parent.isFollowed;
         std::size_t const parentNode = NodeOf(parent);
         std::vector<VNode::VChild>& siblings = m_nodes[parentNode].children;
-        // A layer may name one parent twice; all its references are seen in one go.
+        // A layer may refer to one parent twice; all its references are processed together.
         if (siblings.empty() || siblings.back().node != node) {
             siblings.push_back({node, isHeir});
         }
@@ -120,7 +121,7 @@ void VLayerTree::ShowRoots(Test isRoot) {
     }
 }
 
-/// The kinds of heirs descend from level to level, so this goes no deeper than there are kinds.
+/// Every level has another kind of heir, so this goes no deeper than the number of kinds.
 void VLayerTree::ShowHeir(std::size_t index, std::size_t depth) {
     VNode& node = m_nodes[index];
     if (node.isUnfolded) {

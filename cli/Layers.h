@@ -9,7 +9,7 @@
 
 namespace NCli {
 
-/// A layer and the container it stands in.
+/// A layer and its container.
 struct VPlacedLayer {
     NODX201::VDiagLayer* layer;
     NODX201::VDiagLayerContainer* container;
@@ -18,10 +18,10 @@ struct VPlacedLayer {
 /// Every layer of the database, in document order.
 std::vector<VPlacedLayer> LayersOf(NMemory::VDatabase& database);
 
-/// The layer around an element; null outside layers, as for a layer itself.
+/// The layer around an element; null outside layers, and for a layer itself.
 NODX201::VDiagLayer const* LayerAround(NODX201::VOdxElement const& element);
 
-/// A layer with its kind, as headings and notes call it: "PROTOCOL UDS".
+/// A layer with its kind, for headings and notes: "PROTOCOL UDS".
 std::string Titled(NODX201::VDiagLayer const& layer);
 
 } // namespace NCli

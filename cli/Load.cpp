@@ -20,7 +20,7 @@ NReader::VReadResult Read(VArguments const& arguments, bool keepsElements) {
     return NReader::ReadOdx(arguments.files, options);
 }
 
-/// Whether the command may go on with what was read.
+/// Whether the command may continue with the result.
 VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VReadResult const& result) {
     if (result.database == nullptr) {
         return VStatus::Unreadable;
@@ -30,9 +30,9 @@ VStatus Judge(VArguments const& arguments, VOutput const& output, NReader::VRead
         return VStatus::Done;
     }
     if (!arguments.isQuiet) {
-        // One of many databases is named; a single one is the call itself.
+        // One of many databases is named; for a single one the call is sufficient.
         std::string const file = arguments.isEach ? Shown(arguments.files.front()) + ": " : "";
-        output.Complain(fmt::format("{}{}, which --strict does not pass", file, Counted(errors, "error")));
+        output.Complain(fmt::format("{}{}, which --strict does not allow", file, Counted(errors, "error")));
     }
     return VStatus::Unreadable;
 }
@@ -57,11 +57,22 @@ VStatus LoadAndTell(VArguments const& arguments, bool keepsElements, VOutput con
 
 std::string LineOf(NReader::VDiagnostic const& diagnostic) { return Shown(FormatDiagnostic(diagnostic)) + "\n"; }
 
-std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
+std::size_t CountOf(NReader::VSeverity severity, std::vector<NReader::VDiagnostic> const& diagnostics) {
     return static_cast<std::size_t>(
-        std::count_if(diagnostics.begin(), diagnostics.end(), [](NReader::VDiagnostic const& diagnostic) {
-            return diagnostic.severity == NReader::VSeverity::Error;
-        }));
+        std::count_if(diagnostics.begin(), diagnostics.end(),
+                      [severity](NReader::VDiagnostic const& diagnostic) { return diagnostic.severity == severity; }));
+}
+
+std::size_t CountErrors(std::vector<NReader::VDiagnostic> const& diagnostics) {
+    return CountOf(NReader::VSeverity::Error, diagnostics);
+}
+
+std::size_t CountWithoutPlace(NReader::VReadResult const& result) {
+    std::size_t count = 0;
+    for (auto const& [tag, times] : result.unknownElements) {
+        count += times;
+    }
+    return count;
 }
 
 VStatus Load(VArguments const& arguments, VOutput const& output, NReader::VReadResult& result) {

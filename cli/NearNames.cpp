@@ -16,6 +16,7 @@ namespace NCli {
 namespace {
 
 constexpr std::size_t kMostNames = 5;
+constexpr std::size_t kFewNames = 25;     // that may be listed where none is near
 constexpr std::size_t kLongestName = 256; // what people type and misspell is shorter
 
 std::wstring LowerCase(std::wstring_view text) {
@@ -51,9 +52,8 @@ std::size_t Distance(std::wstring_view from, std::wstring_view to) {
     return row[to.size()];
 }
 
-std::size_t MostSteps(std::wstring_view wanted) {
-    return wanted.size() < 4 ? 1 : std::max<std::size_t>(2, wanted.size() / 4);
-}
+/// A third of the characters, or a quarter of many: beyond that it is another name.
+std::size_t MostSteps(std::wstring_view wanted) { return wanted.size() < 8 ? wanted.size() / 3 : wanted.size() / 4; }
 
 } // namespace
 
@@ -66,7 +66,7 @@ std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<s
     std::wstring const wantedInLowerCase = LowerCase(wanted);
     std::size_t const mostSteps = MostSteps(wanted);
     for (std::wstring_view const name : names) {
-        // Each character more or less is a step, so that most names need no closer look.
+        // Every difference in length is at least one step, so most names need no further comparison.
         if (name.empty() || name.size() > wanted.size() + mostSteps || wanted.size() > name.size() + mostSteps) {
             continue;
         }
@@ -92,12 +92,16 @@ std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> co
     return note;
 }
 
-std::string NearOrAllNote(std::string const& wanted, std::vector<std::string> const& names) {
+std::string NearNote(std::string const& wanted, std::vector<std::string> const& names) {
     std::vector<std::wstring> wide(names.size());
     std::transform(names.begin(), names.end(), wide.begin(), &NReader::FromUtf8);
-    std::string const note =
-        NearNote(NReader::FromUtf8(wanted), std::vector<std::wstring_view>(wide.begin(), wide.end()));
-    return note.empty() ? fmt::format("; there are {}", fmt::join(names, ", ")) : note;
+    return NearNote(NReader::FromUtf8(wanted), std::vector<std::wstring_view>(wide.begin(), wide.end()));
+}
+
+std::string NearOrAllNote(std::string const& wanted, std::vector<std::string> const& names) {
+    std::string const note = NearNote(wanted, names);
+    bool const areFew = names.size() <= kFewNames;
+    return note.empty() && areFew ? fmt::format("; there are {}", fmt::join(names, ", ")) : note;
 }
 
 } // namespace NCli

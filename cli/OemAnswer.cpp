@@ -28,7 +28,7 @@ using NDIAGKIT::VOemRuleReport;
 struct VManufacturerRow {
     VManufacturer manufacturer;
     std::string_view name;  ///< of the value, for programs
-    std::string_view title; ///< for people, who may not know Porsche by its initials
+    std::string_view title; ///< for people, who may not know that Pag is Porsche
 };
 
 // clang-format off
@@ -71,7 +71,7 @@ std::string TitleOf(VManufacturer manufacturer) {
                                  : fmt::format("{} ({}, {})", row.title, row.name, CodeOf(manufacturer));
 }
 
-/// Why several heuristics that match name nobody.
+/// Why several matching heuristics give no manufacturer.
 std::string AmbiguityOf(std::vector<VOemHeuristicReport const*> const& matching) {
     std::vector<std::string> names;
     bool areOfOne = true;
@@ -89,7 +89,7 @@ std::string AnswerOf(VOemRuleReport const& rule) {
     if (!rule.matches) {
         return rule.isDecisive ? "no  <- decides" : "no";
     }
-    return rule.isVacuous ? "yes, nothing to look at" : "yes";
+    return rule.isVacuous ? "yes, nothing to check" : "yes";
 }
 
 /// "DIAG-SERVICE Read, ID S.Read, in PROTOCOL UDS"
@@ -154,7 +154,7 @@ void WriteHeuristic(VJsonWriter& json, VOemHeuristicReport const& heuristic) {
     });
 }
 
-/// Why nobody is named; "" when somebody is.
+/// Why there is no manufacturer; "" when there is one.
 std::string_view ReasonOf(VOemReport const& report) {
     if (report.manufacturer != VManufacturer::Unknown) {
         return "";

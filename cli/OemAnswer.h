@@ -7,14 +7,14 @@
 #include <cli/Output.h>
 #include <diagkit/tools/oem/OemReport.h>
 
-/// A report of manufacturer detection, as `oem` gives it.
+/// A report of manufacturer detection, as output of `oem`.
 
 namespace NCli {
 
-/// The answer in a line: "Daimler (1)", "Porsche (Pag, 4)"; or why nobody can be named.
+/// The result in one line: "Daimler (1)", "Porsche (Pag, 4)"; or why there is none.
 std::string LineOf(NDIAGKIT::VOemReport const& report);
 
-/// The answer with every heuristic, its rules and why they say no.
+/// The result with every heuristic, its rules and why they do not match.
 void WriteReport(NDIAGKIT::VOemReport const& report, VOutput& output);
 
 /// The same as members of the object that is being written.

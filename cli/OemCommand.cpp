@@ -34,10 +34,10 @@ VOemReport ReportOf(NReader::VReadResult const& result) {
     return NDIAGKIT::VOemChecker().Report(result.database->GetOdx());
 }
 
-/// Why a file is not answered for: what made the reader refuse it is the last that it said.
+/// Why there is no result for a file: the last diagnostic is the one for which the reader refused it.
 std::string ReasonOf(NReader::VReadResult const& result) {
     if (result.database != nullptr) {
-        return "has errors, which --strict does not pass";
+        return "has errors, which --strict does not allow";
     }
     std::string reason = "cannot be read";
     for (NReader::VDiagnostic const& diagnostic : result.diagnostics) {
@@ -74,7 +74,7 @@ void WriteError(std::string const& file, std::string const& reason, bool isJson,
     }
 }
 
-/// Documents, by number, in sets of those that refer to one another, directly or through others.
+/// Documents, by number, in sets that are connected by references, directly or indirectly.
 class VDocumentSets {
 public:
     void Join(std::uint32_t a, std::uint32_t b) { m_first[FirstOf(std::max(a, b))] = FirstOf(std::min(a, b)); }
@@ -94,7 +94,7 @@ private:
 
 constexpr std::size_t kNoDocument = std::numeric_limits<std::size_t>::max();
 
-/// The files of documents in the sets in which they refer to one another; null when one of them cannot be read.
+/// The files of documents in sets that are connected by references; null when one of them cannot be read.
 std::optional<std::vector<std::vector<std::string>>> SetsOf(std::vector<std::string> const& files,
                                                             VArguments const& arguments) {
     NReader::VReadOptions options = arguments.readOptions;
@@ -117,7 +117,7 @@ std::optional<std::vector<std::vector<std::string>>> SetsOf(std::vector<std::str
     }
     std::map<std::size_t, std::vector<std::string>> sets;
     for (std::string const& file : files) {
-        auto const number = numbers.find(file); // none for one that holds nothing
+        auto const number = numbers.find(file); // none for an empty one
         sets[number != numbers.end() ? documents.FirstOf(number->second) : kNoDocument - sets.size()].push_back(file);
     }
     std::vector<std::vector<std::string>> listed;
@@ -131,8 +131,8 @@ bool CanBeRead(std::string const& file, VArguments const& arguments) {
     return NReader::ReadOdx({file}, arguments.readOptions).database != nullptr;
 }
 
-/// The databases that a name stands for: the documents of a folder that refer to one another are one, and so is every
-/// other file.
+/// The databases for a name: the documents of a folder that are connected by references are one, and so is every other
+/// file.
 std::vector<VNamedFiles> DatabasesOf(std::string const& name, VArguments const& arguments) {
     std::vector<VNamedFiles> databases;
     std::vector<std::string> documents;
@@ -177,7 +177,7 @@ VStatus RunOne(VNamedFiles const& database, VArguments const& arguments, VOutput
     return status;
 }
 
-/// Every database for itself; what is worst about one is the status of all.
+/// Every database separately; the worst status of one is the status of all.
 VStatus RunEach(VArguments const& arguments, VOutput& output) {
     VStatus status = VStatus::Done;
     for (std::string const& name : arguments.files) {
@@ -197,8 +197,8 @@ void DeclareOem(CLI::App& command, VArguments& arguments) {
     DeclareFiles(command, arguments);
     command.add_flag(
         "--each", arguments.isEach,
-        "Every FILE is a database of its own, and so are the documents of a folder that refer to one another; "
-        "with --json one line each");
+        "Treat every FILE as a database of its own, and in a folder the documents that refer to one another; "
+        "with --json one line for each database");
 }
 
 VStatus RunOem(VArguments const& arguments, VOutput& output) {

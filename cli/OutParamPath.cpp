@@ -10,7 +10,7 @@
 namespace NCli {
 namespace {
 
-/// Walks what the search walks, in its order.
+/// Walks the same parameters as the search, in its order.
 class VPathFinder : public NDIAGKIT::VParamWalk {
 public:
     VPathFinder(VOutParamPath& path, std::wstring const& shortName, NDIAGKIT::IDopFinder& dops)
@@ -42,7 +42,7 @@ VOutParamPath PathToOutParam(NODX201::VDiagService& service, NODX201::VSearchRan
     NDIAGKIT::ForEachSelectedParam(service, range, take);
 
     VOutParamPath path;
-    for (NODX201::VParam* const root : roots) { // a parameter at the top goes before everything nested
+    for (NODX201::VParam* const root : roots) { // a parameter at the top has precedence over all nested ones
         if (dynamic_cast<NODX201::VValue*>(root) != nullptr && shortName == root->GetShortName()) {
             path.steps.push_back(root);
             return path;

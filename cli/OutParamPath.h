@@ -11,12 +11,11 @@
 
 namespace NCli {
 
-/// The way that the search for an output parameter takes from the parameters of a service to what it finds.
+/// The path of the search for an output parameter from the parameters of a service to its result.
 struct VOutParamPath {
-    /// From a parameter of the request or a response to the one found, both included; empty when nothing has the name.
+    /// From a parameter of the request or a response to the one found, inclusive; empty when nothing has the name.
     std::vector<NODX201::VOdxElement const*> steps;
-    /// What the parameters that were looked at in vain are called, nested ones included; with nothing found, that is
-    /// all.
+    /// The names of the parameters that did not match, including nested ones; if nothing is found, all.
     std::vector<std::wstring_view> names;
 };
 

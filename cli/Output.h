@@ -6,11 +6,11 @@
 
 namespace NCli {
 
-/// What is said when there is no memory left.
+/// The message when memory is exhausted.
 inline constexpr char const* kOutOfMemory = "diagkit: out of memory\n";
 
-/// Standard output, and the program's own messages on standard error. A write that fails is remembered; what follows it
-/// is dropped, and `Finish` says so.
+/// Standard output, and the program's own messages on standard error. A failed write is remembered; everything after it
+/// is discarded, and `Finish` reports it.
 class VOutput {
 public:
     VOutput();
@@ -23,10 +23,10 @@ public:
     /// A message of the program about the call itself; --quiet does not silence it.
     void Complain(std::string_view message) const;
 
-    /// The same for `kOutOfMemory`, which takes no memory.
+    /// The same for `kOutOfMemory`, without allocating memory.
     void ComplainOfNoMemory() const noexcept;
 
-    bool HasFailed() const { return m_error != 0; } ///< long work may as well end
+    bool HasFailed() const { return m_error != 0; } ///< long work may then stop
 
     bool Finish(); ///< false, with a message, when not everything could be written
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// What differs between the platforms; `Platform_posix.cpp` and `Platform_win32.cpp` hold the bodies.
+/// The differences between platforms, implemented in `Platform_posix.cpp` and `Platform_win32.cpp`.
 
 namespace NCli {
 
@@ -14,6 +14,6 @@ void PreparePlatform(); ///< once, before anything is written
 /// The words after the program's name.
 std::vector<std::string> ArgumentsInUtf8(int count, char** words);
 
-bool IsTerminal(std::FILE* stream); ///< one that understands escape sequences
+bool IsTerminal(std::FILE* stream); ///< whether it understands escape sequences
 
 } // namespace NCli

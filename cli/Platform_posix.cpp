@@ -14,8 +14,8 @@
 namespace NCli {
 namespace {
 
-constexpr std::size_t kStack = 1U << 20U;    // several times what walks and searches take at their deepest
-constexpr std::size_t kMessages = 1U << 20U; // several times what the longest help takes
+constexpr std::size_t kStack = 1U << 20U;    // several times the deepest walks and searches
+constexpr std::size_t kMessages = 1U << 20U; // several times the longest help
 
 bool IsAvailable(std::size_t size) {
     void* const room = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
@@ -27,15 +27,15 @@ bool MayStackGrow() {
     return ::getrlimit(RLIMIT_STACK, &limit) == 0 && (limit.rlim_cur == RLIM_INFINITY || limit.rlim_cur >= 2 * kStack);
 }
 
-/// A stack that has to grow when memory has run out ends the program by a signal. So it takes its addresses at once.
+/// If the stack has to grow when memory is exhausted, a signal ends the program. So it grows at the start.
 [[gnu::noinline]] void GrowStack() {
     [[maybe_unused]] char volatile room[kStack];
     room[0] = '\0'; // the far end
 }
 
-/// Comes before the objects of the program are made, some of which take memory. Without enough of it the program ends
-/// as any call does whose memory runs out later; text streams, which write the help, would take that for the end of a
-/// text.
+/// Runs before the objects of the program are constructed, some of which allocate memory. If memory is insufficient
+/// here, the program ends like any call whose memory is exhausted later; text streams, which write the help, would take
+/// it for the end of a text.
 [[gnu::constructor(101)]] void TakeRoom() {
     if (!IsAvailable(kStack + kMessages)) {
         std::fputs(kOutOfMemory, stderr);

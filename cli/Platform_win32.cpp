@@ -20,7 +20,7 @@ namespace {
 
 UINT s_codePageBefore = 0;
 
-/// The code page belongs to the console, which lives on.
+/// The code page belongs to the console, which outlives the program.
 void WriteUtf8ToConsole() {
     s_codePageBefore = GetConsoleOutputCP();
     if (s_codePageBefore != 0 && SetConsoleOutputCP(CP_UTF8) != 0) {
@@ -31,7 +31,7 @@ void WriteUtf8ToConsole() {
 } // namespace
 
 void PreparePlatform() {
-    // Answers are the same bytes on every platform, line ends included.
+    // Output is the same bytes on every platform, including line ends.
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
     WriteUtf8ToConsole();
@@ -52,7 +52,8 @@ std::vector<std::string> ArgumentsInUtf8(int count, char** words) {
 }
 
 bool IsTerminal(std::FILE* stream) {
-    // _isatty takes the device NUL for a terminal, and a console of an old Windows shows escape sequences as they are.
+    // _isatty reports the device NUL as a terminal, and consoles of old Windows versions show escape sequences as they
+    // are.
     HANDLE const console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
     DWORD mode = 0;
     return GetConsoleMode(console, &mode) != 0 &&

@@ -7,7 +7,7 @@
 
 namespace NCli {
 
-/// A progress bar in one line of standard error. It appears when the work takes a while and is gone afterwards.
+/// A progress bar in one line of standard error. It appears when the work takes long and is removed afterwards.
 class VProgressBar {
 public:
     VProgressBar();
@@ -15,7 +15,7 @@ public:
     VProgressBar(VProgressBar const&) = delete;
     VProgressBar& operator=(VProgressBar const&) = delete;
 
-    /// To be called with the steps done and those in all; empty when nobody would see the bar.
+    /// A callback for the steps done and in total; empty when nobody would see the bar.
     std::function<void(std::uint64_t done, std::uint64_t all)> Progress(bool isQuiet);
 
 private:

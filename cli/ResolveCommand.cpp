@@ -35,15 +35,15 @@
 namespace NCli {
 namespace {
 
-/// What a resolution came to.
+/// The result of a resolution.
 struct VAnswer {
-    bool isSelected = false; ///< the selection itself is there; otherwise a message has been given
+    bool isSelected = false; ///< the selected element exists; otherwise a message has been given
     NODX201::VOdxElement const* found = nullptr;
-    std::string where;                    ///< what was searched, for the message when nothing is found
+    std::string where;                    ///< the place that was searched, for the message when nothing is found
     std::vector<std::wstring_view> names; ///< those visible there
-    std::string path{};                   ///< how the search got to what was found, where that is more than its owners
-    NODX201::VOdxElement const* other = nullptr; ///< what has the name but is of another kind; null when nothing is
-    std::string whyNot{};                        ///< what becomes of the name on its way to a layer; "" for nothing
+    std::string path{};                   ///< the path of the search to its result, where it is more than the owners
+    NODX201::VOdxElement const* other = nullptr; ///< an element with the name but of another kind; null without one
+    std::string whyNot{};                        ///< what happens to the name on its way to a layer; "" for nothing
 };
 
 template <class Element>
@@ -270,7 +270,7 @@ VStatus Answer(VQuestion const& question, VAnswer const& answer, VOutput& output
 } // namespace
 
 void DeclareResolve(CLI::App& command, VArguments& arguments) {
-    DeclareKind(command, arguments, NamesOf(kResolveKinds), "What the name stands for");
+    DeclareKind(command, arguments, NamesOf(kResolveKinds), "The kind of element that the name stands for");
     command.add_option("NAME", arguments.name, "The short name")->required()->type_name("");
     DeclareSelections(command, arguments);
     DeclareFiles(command, arguments);

@@ -39,8 +39,8 @@ private:
     int m_descriptor;
 };
 
-/// A channel to or from the program. It is a pair of sockets: unlike a pipe, one can be written to whose other end is
-/// closed without a signal that ends this program.
+/// A channel to or from the program. It is a pair of sockets: unlike with a pipe, writing to one whose other end is
+/// closed does not send a signal that ends this program.
 struct VChannel {
     VDescriptor own;
     VDescriptor other;
@@ -54,7 +54,7 @@ VChannel MakeChannel() {
     return {VDescriptor(ends[0]), VDescriptor(ends[1])};
 }
 
-/// What the program starts with.
+/// The setup for starting the program.
 class VFileActions {
 public:
     VFileActions() { Require(::posix_spawn_file_actions_init(&m_actions)); }
@@ -76,7 +76,7 @@ private:
     posix_spawn_file_actions_t m_actions{};
 };
 
-/// Takes what is there to be read; closes the channel at its end.
+/// Reads the available bytes; closes the channel at its end.
 void Read(VChannel& channel, std::string& text, std::size_t most) {
     std::array<char, 65536> bytes{};
     ssize_t const count = ::read(channel.own.Get(), bytes.data(), bytes.size());
@@ -87,7 +87,7 @@ void Read(VChannel& channel, std::string& text, std::size_t most) {
     }
 }
 
-/// Writes as much as there is room for; closes the channel after all, and when nobody reads any more.
+/// Writes as much as possible; closes the channel when all is written, or when the other end is closed.
 void Write(VChannel& channel, std::string_view& rest) {
     ssize_t const count = ::send(channel.own.Get(), rest.data(), rest.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
     if (count >= 0) {
@@ -99,11 +99,11 @@ void Write(VChannel& channel, std::string_view& rest) {
     }
 }
 
-/// Feeds the program and takes what it writes, whichever it is ready for.
+/// Writes to the program and reads from it, whichever is ready.
 void Exchange(VChannel& input, VChannel& output, VChannel& errors, std::string_view rest, VProgramRun& run) {
     while (input.own.IsOpen() || output.own.IsOpen() || errors.own.IsOpen()) {
         std::array<pollfd, 3> waiting{{{input.own.Get(), POLLOUT, 0},
-                                       {output.own.Get(), POLLIN, 0}, // < 0 is passed over
+                                       {output.own.Get(), POLLIN, 0}, // < 0 is ignored
                                        {errors.own.Get(), POLLIN, 0}}};
         if (::poll(waiting.data(), waiting.size(), -1) < 0 && errno != EINTR) {
             throw std::system_error(errno, std::generic_category());
@@ -120,7 +120,7 @@ void Exchange(VChannel& input, VChannel& output, VChannel& errors, std::string_v
     }
 }
 
-/// The program that was started. It is waited for in any case, so that nothing is left of it.
+/// The program that was started. It is always waited for, so that no zombie remains.
 class VChild {
 public:
     explicit VChild(pid_t id) : m_id(id) {}
@@ -150,11 +150,13 @@ VProgramRun Failed(int error) {
     return run;
 }
 
-VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
-    constexpr int kNotFoundByShells = 127; // what a system ends the program with that looks for it too late
+} // namespace
+
+VProgramRun RunUnguarded(std::vector<std::string> const& words, std::string_view input) {
+    constexpr int kNotFoundByShells = 127; // exit status of systems that detect a missing program only in the child
     std::vector<char*> arguments;
     for (std::string const& word : words) {
-        arguments.push_back(const_cast<char*>(word.c_str())); // which the function does not change
+        arguments.push_back(const_cast<char*>(word.c_str())); // not changed by the function
     }
     arguments.push_back(nullptr);
     VChannel toProgram = MakeChannel();
@@ -169,7 +171,8 @@ VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
         error != 0) {
         return Failed(error);
     }
-    // In this order: the ends that are closed when memory runs out let the program end before it is waited for.
+    // The order matters: when memory is exhausted, the ends are closed first, so that the program ends before it is
+    // waited for.
     VChild child(id);
     VChannel channels[] = {std::move(toProgram), std::move(output), std::move(errors)};
     for (VChannel& channel : channels) {
@@ -185,18 +188,6 @@ VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
                                                : VProgramRun::VOutcome::Failed;
     }
     return run;
-}
-
-} // namespace
-
-VProgramRun RunProgram(std::vector<std::string> const& words, std::string_view input) {
-    try {
-        return Run(words, input);
-    } catch (std::system_error const& error) {
-        VProgramRun run;
-        run.errors = error.what();
-        return run;
-    }
 }
 
 } // namespace NCli

@@ -43,7 +43,7 @@ struct VChannel {
     VHandle writing;
 };
 
-/// A pipe whose end for the program is inherited by it, and the other one is not.
+/// A pipe whose end for the program is inherited by it, and the other end is not.
 VChannel MakeChannel(bool isRead) {
     SECURITY_ATTRIBUTES attributes{sizeof attributes, nullptr, TRUE};
     HANDLE reading = nullptr;
@@ -58,20 +58,20 @@ VChannel MakeChannel(bool isRead) {
     return channel;
 }
 
-/// The program in a folder of PATH, and nowhere else: neither in the current folder nor beside this program. "" for
+/// The program in a folder of PATH, and nowhere else: neither in the current folder nor next to this program. "" for
 /// none.
 std::wstring FindProgram(std::wstring const& name) {
     DWORD const length = GetEnvironmentVariableW(L"PATH", nullptr, 0);
     std::wstring folders(length, L'\0');
     folders.resize(GetEnvironmentVariableW(L"PATH", folders.data(), length));
-    std::wstring found(32768, L'\0'); // the longest path that there can be
+    std::wstring found(32768, L'\0'); // the longest possible path
     DWORD const foundLength =
         SearchPathW(folders.c_str(), name.c_str(), L".exe", static_cast<DWORD>(found.size()), found.data(), nullptr);
     found.resize(foundLength < found.size() ? foundLength : 0);
     return found;
 }
 
-/// A word as the program takes it apart again: in quotes, with backslashes doubled where a quote follows.
+/// A word in the form that the program parses again: in quotes, with backslashes doubled where a quote follows.
 std::wstring QuotedWord(std::string const& word) {
     std::wstring quoted = L"\"";
     std::size_t backslashes = 0;
@@ -98,13 +98,13 @@ void WriteAll(HANDLE into, std::string_view text) {
     while (!text.empty()) {
         DWORD const next = static_cast<DWORD>(std::min<std::size_t>(text.size(), 65536));
         if (WriteFile(into, text.data(), next, &count, nullptr) == 0) {
-            return; // nobody reads any more
+            return; // the other end is closed
         }
         text.remove_prefix(count);
     }
 }
 
-/// Does a part of the exchange beside the others; what it throws is thrown at its end.
+/// Runs a part of the exchange in parallel; an exception in it is rethrown at its end.
 class VBeside {
 public:
     template <class Work>
@@ -134,7 +134,9 @@ private:
     std::thread m_thread; // last: it uses the other
 };
 
-VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
+} // namespace
+
+VProgramRun RunUnguarded(std::vector<std::string> const& words, std::string_view input) {
     VProgramRun run;
     std::wstring const program = FindProgram(NReader::FromUtf8(words.front()));
     if (program.empty()) {
@@ -178,18 +180,6 @@ VProgramRun Run(std::vector<std::string> const& words, std::string_view input) {
     GetExitCodeProcess(process.Get(), &status);
     run.outcome = status == 0 ? VProgramRun::VOutcome::Done : VProgramRun::VOutcome::Failed;
     return run;
-}
-
-} // namespace
-
-VProgramRun RunProgram(std::vector<std::string> const& words, std::string_view input) {
-    try {
-        return Run(words, input);
-    } catch (std::system_error const& error) {
-        VProgramRun run;
-        run.errors = error.what();
-        return run;
-    }
 }
 
 } // namespace NCli

@@ -7,9 +7,6 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include <cli/NearNames.h>
-#include <cli/Text.h>
-
 namespace NCli {
 namespace {
 
@@ -64,7 +61,7 @@ VSelectionRule const kFlashSelection            {kFlash, &NeedsFlash, "--flash F
 // clang-format on
 
 char const* const kRangesHelp =
-    "What the values of --range take of a DIAG-SERVICE (a job has only its output parameters):\n"
+    "Output parameters of a DIAG-SERVICE by --range (a job has only its own):\n"
     "  0  positive and negative responses\n"
     "  1  request and negative responses\n"
     "  2  nothing\n"
@@ -83,13 +80,8 @@ std::string WrongSelection(VSelectionRule const& rule, VArguments const& argumen
 }
 
 void DeclareKind(CLI::App& command, VArguments& arguments, std::vector<std::string> const& names, char const* help) {
-    auto const check = [names](std::string const& word) -> std::string {
-        bool const isKind = std::find(names.begin(), names.end(), word) != names.end();
-        return isKind ? "" : fmt::format("no kind '{}'{}", Shown(word), NearOrAllNote(word, names));
-    };
     auto* const kind = command.add_option("KIND", arguments.kind, fmt::format("{}: {}", help, fmt::join(names, ", ")));
-    kind->required()->check(check)->type_name("");
-    arguments.choices[kind] = names;
+    DeclareOneOf(*kind->required()->type_name(""), arguments, "kind", names);
 }
 
 } // namespace NCli

@@ -10,11 +10,11 @@
 #include <cli/Columns.h>
 #include <cli/Output.h>
 
-/// What the commands with a KIND share: the list of kinds, and what each must be told to look at.
+/// Common to the commands with a KIND: the list of kinds, and the selections that each requires.
 
 namespace NCli {
 
-/// The options that select what to look at, as bits of a set.
+/// The options that select elements, as bits of a set.
 enum VSelection : unsigned {
     kLayer = 1U << 0U,
     kContainer = 1U << 1U,
@@ -24,10 +24,10 @@ enum VSelection : unsigned {
     kRange = 1U << 5U,
 };
 
-/// What a KIND can and must be told to look at.
+/// The selections that a KIND accepts and requires.
 struct VSelectionRule {
     unsigned taken;                                      ///< a set of `VSelection`
-    char const* (*missing)(VArguments const& arguments); ///< what it needs beside what is given; null for nothing
+    char const* (*missing)(VArguments const& arguments); ///< the missing requirement; null when there is none
     char const* usage;                                   ///< the selection, as help shows it
 };
 
@@ -36,10 +36,10 @@ extern VSelectionRule const kContainerSelection;
 extern VSelectionRule const kContainerOrLayerSelection;
 extern VSelectionRule const kDiagCommSelection;        ///< in a layer, or a MULTIPLE-ECU-JOB
 extern VSelectionRule const kOutParamSelection;        ///< the same with a search range
-extern VSelectionRule const kOutParamSelectionInLayer; ///< a layer in either case
+extern VSelectionRule const kOutParamSelectionInLayer; ///< with a layer in either case
 extern VSelectionRule const kFlashSelection;
 
-/// What is wrong with the selection of a call: "takes no --job", "needs --layer"; "" for one that fits.
+/// The error in the selection of a call: "takes no --job", "needs --layer"; "" when there is none.
 std::string WrongSelection(VSelectionRule const& rule, VArguments const& arguments);
 
 /// KIND, which must be one of the names.
@@ -58,18 +58,18 @@ std::vector<std::string> NamesOf(Kinds const& kinds) {
     return names;
 }
 
-/// Which selection belongs to which KIND, for help.
+/// The selections of each KIND, for help.
 template <class Kinds>
 std::string SelectionsOf(Kinds const& kinds) {
     VColumns columns;
     for (auto const& kind : kinds) {
         columns.Add({kind.name, kind.selection.usage});
     }
-    return "What each KIND looks at:\n" + columns.Format();
+    return "Selection for each KIND:\n" + columns.Format();
 }
 
-/// The row of the KIND that was given, which the command line has checked to be there. Null, with a message, when the
-/// selection does not fit it.
+/// The row of the given KIND, which the command line has checked. Null, with a message, when the selection does not fit
+/// it.
 template <class Kinds>
 auto const* FittingKind(std::string_view command, Kinds const& kinds, VArguments const& arguments,
                         VOutput const& output) {

@@ -3,10 +3,10 @@
 
 namespace NCli {
 
-/// What the program ends with; scripts rely on the values.
+/// The exit statuses of the program; scripts rely on the values.
 enum class VStatus : int {
     Done = 0,
-    NotThere = 1,   ///< the thing asked for is not there, or not unambiguously; of `check`: errors were found
+    NotThere = 1,   ///< the requested element does not exist, or is ambiguous; of `check`: errors were found
     Usage = 2,      ///< wrong usage
     Unreadable = 3, ///< a file cannot be read, or has errors with `--strict`, or the answer cannot be written
 };

@@ -9,12 +9,12 @@
 
 namespace NCli {
 
-/// Whether a character steers what shows it and stands for nothing itself: control characters, the separators of lines
-/// and paragraphs, and those that turn the direction of text.
+/// Whether a character controls a display and has no visible form: control characters, the separators of lines and
+/// paragraphs, and those that change the direction of text.
 bool IsSteering(char32_t character);
 
-/// A text of a database or of the command line for people to read, in UTF-8. What steers becomes U+FFFD, so that no
-/// data can steer a terminal or show as something else than it is.
+/// A text of a database or of the command line for people to read, in UTF-8. Control characters become U+FFFD, so that
+/// no data can control a terminal or be displayed misleadingly.
 std::string Shown(std::wstring_view text);
 std::string Shown(std::string_view text);
 

@@ -26,10 +26,10 @@ struct VCall {
     std::size_t depth;                   ///< 0 for the layer
 };
 
-/// Thrown to leave a walk that nobody waits for.
+/// Thrown to stop a walk that is too long.
 struct VWalkLeft {};
 
-/// A walk that hands on all its calls one by one.
+/// A walk that passes on all its calls one by one.
 class VPrintingWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
     VPrintingWalk(NODX201::VDiagLayer& layer, std::uint64_t maxVisits, VOutput& output)
@@ -120,7 +120,7 @@ protected:
     }
 
 private:
-    /// Beyond what anybody reads as an indent, the depth as a number: lines stay short on data however deep.
+    /// For very deep data the depth as a number, so that lines stay short.
     static std::string IndentOf(std::size_t depth) {
         constexpr std::size_t kDeepest = 100;
         std::string indent(2 * std::min(depth, kDeepest), ' ');
@@ -151,15 +151,14 @@ VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& 
             walk.TraverseDiagLayer();
         }
     } catch (VWalkLeft const&) {
-        // Told below, or by the output itself.
+        // Reported below, or by the output itself.
     }
     if (walk.IsTooLong()) {
-        output.Complain(fmt::format("the walk ends after {} visits; --max-visits allows more", arguments.maxVisits));
+        output.Complain(fmt::format("stopped after {} visits; --max-visits allows more", arguments.maxVisits));
         return VStatus::Unreadable;
     }
     if (walk.IsTooDeep()) {
-        output.Complain(
-            fmt::format("elements deeper than {} inside one another are left out", VPrintingWalk::kMaxDepth));
+        output.Complain(fmt::format("elements nested deeper than {} are left out", VPrintingWalk::kMaxDepth));
         return VStatus::Unreadable;
     }
     return VStatus::Done;
@@ -169,8 +168,8 @@ VStatus Walk(VPrintingWalk& walk, NODX201::VDiagLayer& layer, VArguments const& 
 
 void DeclareTraverse(CLI::App& command, VArguments& arguments) {
     DeclareLayer(command, arguments).required();
-    command.add_flag("--dictionary", arguments.isDictionary, "Only what the layer's DIAG-DATA-DICTIONARY-SPEC holds");
-    DeclareCount(command, "--max-visits", arguments.maxVisits, "End after so many visits, with status 3");
+    command.add_flag("--dictionary", arguments.isDictionary, "Walk only the layer's DIAG-DATA-DICTIONARY-SPEC");
+    DeclareCount(command, "--max-visits", arguments.maxVisits, "Stop after N visits, with status 3");
     DeclareFiles(command, arguments);
 }
 

@@ -19,7 +19,7 @@
 namespace NCli {
 namespace {
 
-/// Whether a word can be one of FILE...: something of that name is there, or it is spelt as files of ODX are.
+/// Whether a word can be one of FILE...: there is a file of that name, or it is spelled like a file of ODX.
 bool MayBeFile(std::string const& word) {
     std::error_code ignored;
     if (word.find_first_of("/\\") != std::string::npos || std::filesystem::exists(word, ignored)) {
@@ -30,7 +30,8 @@ bool MayBeFile(std::string const& word) {
     return extension.substr(0, 4) == ".odx" || extension == ".xml" || extension == ".pdx" || extension == ".zip";
 }
 
-/// What is wrong with the call; "" when nothing is. The first word is NAME or, with --unused, the first of the files.
+/// The usage error of the call; "" when there is none. The first word is NAME or, with --unused, the first of the
+/// files.
 std::string UsageMistake(VArguments const& arguments) {
     if (arguments.isUnused && (!arguments.layer.empty() || !arguments.tag.empty())) {
         return std::string("--unused and ") + (arguments.layer.empty() ? "--kind" : "--layer") + " exclude each other";
@@ -39,7 +40,7 @@ std::string UsageMistake(VArguments const& arguments) {
         return "NAME is required without --unused";
     }
     if (arguments.isUnused && !arguments.name.empty() && !MayBeFile(arguments.name)) {
-        return fmt::format("--unused takes no NAME such as '{}'", Shown(std::string_view(arguments.name)));
+        return fmt::format("--unused does not take a NAME such as '{}'", Shown(std::string_view(arguments.name)));
     }
     bool const hasFile = !arguments.files.empty() || (arguments.isUnused && !arguments.name.empty());
     return hasFile ? "" : "FILE is required";
@@ -72,9 +73,20 @@ NQuery::VUses::VProgress ProgressOf(VProgressBar& bar, VArguments const& argumen
     return bar.Progress(arguments.isQuiet);
 }
 
+/// References in what has no place in the model are not seen.
+void TellWhatWasNotRead(VArguments const& arguments, NReader::VReadResult const& result, VOutput const& output) {
+    std::size_t const count = CountWithoutPlace(result);
+    if (count > 0 && !arguments.isQuiet) {
+        output.Complain(fmt::format("not read: {} without a place in the model; references inside are not seen{}",
+                                    Counted(count, "element"),
+                                    arguments.isUnused ? ", and may lead to what is listed as unused" : ""));
+    }
+}
+
 VStatus AnswerUnused(VArguments const& arguments, NReader::VReadResult const& result, VOutput& output) {
     VProgressBar bar;
     NQuery::VUses const uses(*result.database, result.elements, ProgressOf(bar, arguments));
+    TellWhatWasNotRead(arguments, result, output);
     if (arguments.isJson) {
         WriteEntriesAsJson("unused", uses.Unused(), output);
     } else {
@@ -89,6 +101,7 @@ VStatus AnswerUses(VArguments const& arguments, NReader::VReadResult const& resu
     VProgressBar bar;
     std::vector<NQuery::VUse> const uses =
         NQuery::VUses(database, result.elements, ProgressOf(bar, arguments)).Of(element);
+    TellWhatWasNotRead(arguments, result, output);
     if (!arguments.isJson) {
         WriteUses(database, element, uses, output);
         return VStatus::Done;
@@ -125,13 +138,14 @@ VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& resu
 } // namespace
 
 void DeclareUses(CLI::App& command, VArguments& arguments) {
-    command.add_option("NAME", arguments.name, "An ID, or a short name; none with --unused")->type_name("");
-    command.add_option("--kind", arguments.tag, "The tag of the element, where several kinds bear the name")
-        ->type_name("TAG");
+    command.add_option("NAME", arguments.name, "An ID or a short name; omitted with --unused")->type_name("");
+    auto* const kind = command.add_option("--kind", arguments.tag,
+                                          "The tag of the element, if elements of several kinds have the name");
+    RefuseEmpty(*kind->type_name("TAG"));
     DeclareLayer(command, arguments);
-    command.add_flag("--unused", arguments.isUnused, "What no reference leads to in any layer");
+    command.add_flag("--unused", arguments.isUnused, "List the elements that no reference leads to in any layer");
     DeclareFiles(command, arguments);
-    command.get_option("FILE")->required(false); // CLI11 takes the first of them for NAME with --unused as well
+    command.get_option("FILE")->required(false); // CLI11 takes the first of them as NAME even with --unused
     command.footer("uses NAME FILE... or uses --unused FILE...");
 }
 

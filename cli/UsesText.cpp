@@ -7,21 +7,24 @@
 #include <fmt/format.h>
 
 #include <cli/Columns.h>
+#include <cli/InheritedKinds.h>
 #include <cli/Layers.h>
 #include <cli/Text.h>
 #include <cli/ViewText.h>
-#include <diagkit/query/FilePlace.h>
 
 namespace NCli {
 namespace {
 
-/// What comes in groups, each with a heading, in the order in which the groups first occur.
+/// What comes in groups, each with a heading, in the order in which the groups first occur. Groups of one title
+/// show their IDs, too.
+template <class Key>
 class VGroups {
 public:
-    void Add(std::string const& title, std::vector<std::string> cells) {
-        auto const [place, isNew] = m_places.try_emplace(title, m_groups.size());
+    void Add(Key const& key, std::string const& title, std::string const& id, std::vector<std::string> cells) {
+        auto const [place, isNew] = m_places.try_emplace(key, m_groups.size());
         if (isNew) {
-            m_groups.push_back({title});
+            m_groups.push_back({title, id});
+            ++m_titles[title];
         }
         VGroup& group = m_groups[place->second];
         group.columns.Add(std::move(cells));
@@ -30,7 +33,8 @@ public:
 
     void Write(VOutput& output) const {
         for (VGroup const& group : m_groups) {
-            output.Write(fmt::format("\n{}\n", output.Heading(fmt::format("{} ({})", group.title, group.count))));
+            std::string const id = m_titles.at(group.title) > 1 && !group.id.empty() ? ", ID " + group.id : "";
+            output.Write(fmt::format("\n{}\n", output.Heading(fmt::format("{}{} ({})", group.title, id, group.count))));
             output.Write(group.columns.Format());
         }
     }
@@ -38,18 +42,15 @@ public:
 private:
     struct VGroup {
         std::string title;
+        std::string id;
         VColumns columns{};
         std::size_t count = 0;
     };
 
     std::vector<VGroup> m_groups;
-    std::map<std::string, std::size_t> m_places;
+    std::map<Key, std::size_t> m_places;
+    std::map<std::string, std::size_t> m_titles; // and how many groups have each
 };
-
-std::string PlaceText(NMemory::VDatabase const& database, NODX201::VOdxElement const& element) {
-    NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, element);
-    return place.line == 0 ? "" : fmt::format("{}:{}", Shown(std::string_view(place.file)), place.line);
-}
 
 /// The layer that an element stands in, or else its document; null for what stands in neither.
 NODX201::VOdxElement const* RoomOf(NODX201::VOdxElement const& element) {
@@ -68,7 +69,7 @@ std::string TitleOfRoom(NODX201::VOdxElement const* room) {
     return room != nullptr ? "In " + TagTextOf(*room) + " " + ShownName(*room) : "Elsewhere";
 }
 
-/// What has a short name on the way to a reference from the layer or document that it stands in.
+/// The elements with short names between the layer or document and a reference.
 std::string PathInside(NODX201::VOdxElement const* room, NODX201::VLink const& reference) {
     std::string path;
     for (NODX201::VOdxObject const* owner = reference.GetOwner(); owner != nullptr; owner = owner->GetOwner()) {
@@ -102,15 +103,16 @@ void WriteUses(NMemory::VDatabase const& database, NODX201::VOdxElement const& e
         output.Heading(fmt::format("{} {}{}", KindOf(element), ShownName(element), id.empty() ? "" : ", ID " + id)));
     VColumns where;
     NODX201::VOdxElement const* const home = RoomOf(element);
-    where.Add({PlaceText(database, element), home != nullptr ? "in " + TagTextOf(*home) + " " + ShownName(*home) : ""});
+    where.Add(
+        {ShownPlace(database, element), home != nullptr ? "in " + TagTextOf(*home) + " " + ShownName(*home) : ""});
     output.Write("\n" + where.Format());
-    VGroups groups;
+    VGroups<NODX201::VOdxElement const*> groups;
     std::size_t byName = 0;
     for (NQuery::VUse const& use : uses) {
         NODX201::VOdxElement const* const room = RoomOf(*use.reference);
         byName += dynamic_cast<NODX201::VSnref const*>(&use.reference->GetLink()) != nullptr ? 1 : 0;
-        groups.Add(TitleOfRoom(room),
-                   {PlaceText(database, *use.reference), TagTextOf(*use.reference),
+        groups.Add(room, TitleOfRoom(room), room != nullptr ? ShownId(*room) : "",
+                   {ShownPlace(database, *use.reference), TagTextOf(*use.reference),
                     Cut(PathInside(room, *use.reference)), use.layers.has_value() ? Cut(LayersText(*use.layers)) : ""});
     }
     groups.Write(output);
@@ -121,12 +123,14 @@ void WriteUses(NMemory::VDatabase const& database, NODX201::VOdxElement const& e
 
 void WriteUnused(NMemory::VDatabase const& database, std::vector<NODX201::VOdxElement*> const& unused,
                  VOutput& output) {
-    VGroups groups;
+    VGroups<std::string> groups;
     for (NODX201::VOdxElement const* const element : unused) {
         NODX201::VOdxElement const* const room = RoomOf(*element);
-        groups.Add(TagTextOf(*element), {ShownName(*element), ShownId(*element),
-                                         room != nullptr ? "in " + TagTextOf(*room) + " " + ShownName(*room) : "",
-                                         PlaceText(database, *element)});
+        std::string const tag = TagTextOf(*element);
+        groups.Add(tag, tag, "",
+                   {ShownName(*element), ShownId(*element),
+                    room != nullptr ? "in " + TagTextOf(*room) + " " + ShownName(*room) : "",
+                    ShownPlace(database, *element)});
     }
     output.Write(output.Heading("Elements to which no reference leads") + "\n");
     groups.Write(output);

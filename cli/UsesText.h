@@ -8,7 +8,7 @@
 
 namespace NCli {
 
-/// An element and what refers to it, in groups by what the references stand in.
+/// An element and the references to it, in groups by layer or document.
 void WriteUses(NMemory::VDatabase const& database, NODX201::VOdxElement const& element,
                std::vector<NQuery::VUse> const& uses, VOutput& output);
 

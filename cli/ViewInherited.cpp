@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The views of what a layer inherits, with the way that each entry came and with what is left out.
+// The views of inherited elements, with the way of each entry and with the elements left out.
 
 #include <map>
 #include <utility>
@@ -37,7 +37,7 @@ std::string ViaOf(VViewEntry const& entry, VPath const& path) {
     return parent == nullptr || parent == LayerAround(*entry.element) ? "" : "via " + Titled(*parent);
 }
 
-/// Rows under a heading; nothing at all without rows.
+/// Rows under a heading; no output without rows.
 class VGroup {
 public:
     explicit VGroup(std::string title) : m_title(std::move(title)) {}
@@ -76,8 +76,8 @@ VGroup OwnGroup(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer
     return group;
 }
 
-/// One group for each way that entries took: the layer they stand in and the parent that brought them; in the order of
-/// their first entries.
+/// One group for each way of entries: their layer and the parent through which they came; in the order of their first
+/// entries.
 std::vector<VGroup> InheritedGroups(NQuery::VLayerView const& view) {
     std::vector<VGroup> groups;
     std::map<std::pair<NODX201::VDiagLayer const*, NODX201::VDiagLayer const*>, std::size_t> ways;

@@ -16,13 +16,13 @@ namespace NCli {
 void WriteEntries(std::string_view title, std::vector<NODX201::VOdxElement const*> const& entries,
                   std::string (*noteOf)(NODX201::VOdxElement const& entry), VOutput& output);
 
-/// The way to an element from the layer, document or job that it stands in: "POS-RESPONSE PR_Status".
+/// The path to an element from its layer, document or job: "POS-RESPONSE PR_Status".
 std::string PathTo(NODX201::VOdxElement const& element);
 
 /// The same as a note: "in POS-RESPONSE PR_Status".
 std::string PlaceOf(NODX201::VOdxElement const& element);
 
-/// What an element is, for columns: its tag, and a parameter's type beside it.
+/// The kind of an element, for columns: its tag, with the type of a parameter.
 std::string KindOf(NODX201::VOdxElement const& element);
 
 } // namespace NCli

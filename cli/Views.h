@@ -9,7 +9,7 @@
 #include <cli/Status.h>
 #include <diagkit/memory/Database.h>
 
-/// The KINDs of `view`, each in the source of its name, and what they share.
+/// The KINDs of `view`, each in the source of its name, and their common parts.
 
 namespace NCli {
 
@@ -23,7 +23,7 @@ VStatus ViewOutParams(VArguments const& arguments, NMemory::VDatabase& database,
 VStatus ViewIdents(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output);
 VStatus ViewSessions(VArguments const& arguments, NMemory::VDatabase& database, VOutput& output);
 
-/// The answer of a KIND in JSON: the entries in view order, in the context of what was viewed.
+/// The output for a KIND in JSON: the entries in view order, in the context of the viewed element.
 void WriteViewAsJson(std::string_view kind, NODX201::VOdxElement const& context,
                      std::vector<NODX201::VOdxElement const*> const& entries, VOutput& output);
 

@@ -69,22 +69,23 @@ NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways) {
     };
     return *std::min_element(ways.begin(), ways.end(), [&](NDIAGKIT::VWay const& left, NDIAGKIT::VWay const& right) {
         auto const rank = [&](NDIAGKIT::VWay const& way) {
-            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // what ODX forbids says least
+            return std::pair(way.fate == NDIAGKIT::VFate::NoPass, stepsLeft(way)); // forbidden ways are last
         };
         return rank(left) < rank(right);
     });
 }
 
 std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, NQuery::VInheritedKind kind,
-                       std::wstring_view shortName, std::string const& layerInCall) {
-    NQuery::VExplanation const explanation = NQuery::Explain(database, layer, kind, shortName);
-    if (explanation.candidates.empty()) {
+                       std::wstring_view shortName, std::string const& layerInCall, NODX201::VOdxElement const* only) {
+    std::vector<NDIAGKIT::VWay> ways = NQuery::Explain(database, layer, kind, shortName).candidates;
+    auto const isOther = [only](NDIAGKIT::VWay const& way) { return only != nullptr && way.element != only; };
+    ways.erase(std::remove_if(ways.begin(), ways.end(), isOther), ways.end());
+    if (ways.empty()) {
         return "";
     }
     VInheritedKindRow const& row = RowOf(kind);
-    return fmt::format("; {}; diagkit explain {} {} FILE... --layer {} tells more",
-                       FateOf(NearestOf(explanation.candidates), layer, row), row.name, Quoted(Shown(shortName)),
-                       Quoted(Shown(std::string_view(layerInCall))));
+    return fmt::format("; {}; diagkit explain {} {} FILE... --layer {} tells more", FateOf(NearestOf(ways), layer, row),
+                       row.name, Quoted(Shown(shortName)), Quoted(Shown(std::string_view(layerInCall))));
 }
 
 } // namespace NCli

@@ -12,12 +12,14 @@ namespace NCli {
 /// the one that the way leads to.
 std::string FateOf(NDIAGKIT::VWay const& way, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind);
 
-/// Of ways that all end before the layer, the one that comes nearest to it; the first of several.
+/// Of ways that all end before the layer, the one that ends nearest to it; the first of several.
 NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways);
 
 /// For the end of a message that a name is not visible in a layer: what stops it on its way there, and the call that
-/// tells more, in which the layer is called as the user did; "" where nothing of the name is on any way.
+/// tells more, in which the layer is called as the user did; "" where nothing of the name is on any way. With `only`
+/// this one element of the name is looked at.
 std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, NQuery::VInheritedKind kind,
-                       std::wstring_view shortName, std::string const& layerInCall);
+                       std::wstring_view shortName, std::string const& layerInCall,
+                       NODX201::VOdxElement const* only = nullptr);
 
 } // namespace NCli

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <memory>
 #include <new>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 
 #include <cli/Call.h>
 #include <cli/Commands.h>
+#include <cli/HelpFormatter.h>
 #include <cli/HelpTable.h>
 #include <cli/NearNames.h>
 #include <cli/Platform.h>
@@ -30,18 +32,18 @@ struct VCommand {
 
 // clang-format off
 constexpr std::array kCommands{
-    VCommand{"info",     "Documents, model versions and how many elements of each kind", &DeclareFiles,    &RunInfo},
-    VCommand{"layers",   "The diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
-    VCommand{"graph",    "A picture of what inherits from what",                         &DeclareGraph,    &RunGraph},
-    VCommand{"view",     "What is visible in a layer, with the layer it comes from",     &DeclareView,     &RunView},
-    VCommand{"resolve",  "What a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
-    VCommand{"explain",  "Why a short name means what it means in a layer, or nothing",  &DeclareExplain,  &RunExplain},
-    VCommand{"traverse", "All that a layer holds and refers to, as a tree",              &DeclareTraverse, &RunTraverse},
-    VCommand{"oem",      "Whose habits a database shows, and why no other's",             &DeclareOem,      &RunOem},
-    VCommand{"enums",    "The literals of the ODX enumerations and their values",        &DeclareEnums,    &RunEnums},
-    VCommand{"check",    "Everything that is wrong with the files, or looks like it",    &DeclareCheck,    &RunCheck},
-    VCommand{"uses",     "The references that lead to an element, or what none leads to",   &DeclareUses,     &RunUses},
-    VCommand{"diff",     "What changed between two databases, as seen from each layer",  &DeclareDiff,     &RunDiff},
+    VCommand{"info",     "Show documents, model versions and element counts",                 &DeclareFiles,    &RunInfo},
+    VCommand{"layers",   "List the diagnostic layers and what they inherit from",             &DeclareFiles,    &RunLayers},
+    VCommand{"graph",    "Draw the inheritance graph",                                        &DeclareGraph,    &RunGraph},
+    VCommand{"view",     "List what is visible in a layer, and the layer it comes from",      &DeclareView,     &RunView},
+    VCommand{"resolve",  "Find what a short name means in a layer, service, job or flash",    &DeclareResolve,  &RunResolve},
+    VCommand{"explain",  "Explain why a short name is visible in a layer, or why not",        &DeclareExplain,  &RunExplain},
+    VCommand{"traverse", "Print the tree of what a layer holds and refers to",                &DeclareTraverse, &RunTraverse},
+    VCommand{"oem",      "Detect the manufacturer whose tools wrote the database",            &DeclareOem,      &RunOem},
+    VCommand{"enums",    "List the literals and values of the ODX enumerations",              &DeclareEnums,    &RunEnums},
+    VCommand{"check",    "Report errors and questionable data in the files",                  &DeclareCheck,    &RunCheck},
+    VCommand{"uses",     "List the references to an element, or all unused elements",         &DeclareUses,     &RunUses},
+    VCommand{"diff",     "Compare two databases as each layer sees them",                     &DeclareDiff,     &RunDiff},
 };
 // clang-format on
 
@@ -49,7 +51,7 @@ void Declare(CLI::App& program, VArguments& arguments) {
     program.set_version_flag("-V,--version", "diagkit " DIAGKIT_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.allow_windows_style_options(false); // a path may begin with '/' everywhere
-    program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    program.formatter(std::make_shared<VHelpFormatter>());
     for (VCommand const& row : kCommands) {
         CLI::App& command = *program.add_subcommand(row.name, row.help)->group("Commands");
         row.declare(command, arguments);
@@ -64,7 +66,7 @@ VStatus RunCommand(CLI::App const& program, VArguments const& arguments, VOutput
     return row->run(arguments, output);
 }
 
-/// The options of the command that is called, or of the program without one.
+/// The options of the given command, or of the program without one.
 std::vector<std::string> OptionsOf(CLI::App const& program) {
     auto const commands = program.get_subcommands();
     CLI::App const& called = commands.empty() ? program : *commands.front();
@@ -84,7 +86,7 @@ bool IsOptionOfACommand(CLI::App const& program, std::string const& word) {
     });
 }
 
-/// What CLI11 says, where it is about how many values an option has, in this program's words.
+/// An error of CLI11 about the number of values of an option, in this program's words.
 std::string ValueMessage(CLI::ParseError const& error) {
     std::string const text = error.what();
     bool const isAboutCount = dynamic_cast<CLI::ArgumentMismatch const*>(&error) != nullptr;
@@ -98,7 +100,7 @@ std::string ValueMessage(CLI::ParseError const& error) {
     return Shown(std::string_view(text));
 }
 
-/// What is wrong with a call that could not be understood, with near names for what may be misspelt in it.
+/// The message for a call with wrong usage, with near names for what may be misspelled in it.
 std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) {
     std::vector<std::string> const left = program.remaining(true);
     auto const parsed = program.get_subcommands();
@@ -112,7 +114,7 @@ std::string UsageMessage(CLI::App const& program, CLI::ParseError const& error) 
         return fmt::format("a command is required{}", NearOrAllNote("", NamesOf(kCommands)));
     }
     if (option != left.end()) {
-        return fmt::format("unknown option '{}'{}", Shown(*option), NearOrAllNote(*option, OptionsOf(program)));
+        return fmt::format("unknown option '{}'{}", Shown(*option), NearNote(*option, OptionsOf(program)));
     }
     if (word != left.end()) {
         return fmt::format("unexpected argument '{}'", Shown(*word));
@@ -125,13 +127,13 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
     CLI::App program("Answers questions about ODX 2.0.1 diagnostic data", "diagkit");
     VArguments arguments;
     Declare(program, arguments);
-    if (words == std::vector<std::string>{"--help-table"}) { // for packaging/generate, so --help keeps silent about it
+    if (words == std::vector<std::string>{"--help-table"}) { // for packaging/generate, so --help does not mention it
         WriteHelpTable(program, arguments, output);
         return VStatus::Done;
     }
     try {
         words = CommandFirst(std::move(words), program);
-        std::reverse(words.begin(), words.end()); // CLI11 takes the last word first
+        std::reverse(words.begin(), words.end()); // CLI11 expects the words in reverse order
         program.parse(std::move(words));
     } catch (CLI::CallForHelp const&) {
         output.Write(program.help());
@@ -146,7 +148,7 @@ VStatus Run(std::vector<std::string> words, VOutput& output) {
     return RunCommand(program, arguments, output);
 }
 
-/// The call with a message for whatever ends it before its time, but for a lack of memory.
+/// Runs the call, with a message for every exception except a lack of memory.
 VStatus RunAndTell(int count, char** words, VOutput& output) {
     try {
         PreparePlatform();
@@ -165,7 +167,7 @@ int Main(int count, char** words) {
     try {
         status = RunAndTell(count, words, output);
         status = output.Finish() ? status : VStatus::Unreadable;
-    } catch (std::bad_alloc const&) { // messages may take memory, too
+    } catch (std::bad_alloc const&) { // messages may need memory, too
         output.ComplainOfNoMemory();
         status = VStatus::Unreadable;
     }

@@ -1,4 +1,4 @@
-# Run by CPack before it makes a package: turns what is installed into what Debian's policy asks of a package.
+# Run by CPack before it makes a package: changes the installed files as Debian's policy requires for a package.
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
@@ -7,7 +7,7 @@ endif()
 file(TIMESTAMP ${CPACK_DIAGKIT_CHANGELOG} date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 set(debian_changelog "diagkit (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
 
-  * What is new is in changelog.gz.
+  * See changelog.gz for the changes.
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")
@@ -33,7 +33,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     foreach(page ${pages})
         gzip(${page})
     endforeach()
-    # Packages find their libraries without being told where.
+    # Packages find their libraries without a run path.
     file(GLOB programs ${root}/bin/*)
     foreach(program ${programs})
         file(RPATH_REMOVE FILE ${program})

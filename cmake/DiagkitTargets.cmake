@@ -1,10 +1,10 @@
-# What every target of the tree shares: the include style, the warnings, the sanitizers.
+# Settings of every target of the tree: the include style, the warnings, the sanitizers.
 
-# Headers are included as <diagkit/FOLDER/Header.h>, which is their path in the tree as in an installed one. The build
-# adds those that it makes.
+# Headers are included as <diagkit/FOLDER/Header.h>, which is their path both in the tree and where they are installed.
+# The build adds generated headers.
 set(DIAGKIT_INCLUDE_DIR ${PROJECT_BINARY_DIR}/include)
 
-# What the sources of a platform are called: CodePages_win32.cpp.
+# The suffix of the sources for a platform: CodePages_win32.cpp.
 if(WIN32)
     set(DIAGKIT_PLATFORM win32)
 else()
@@ -21,7 +21,7 @@ function(diagkit_settings target)
                                                 $<BUILD_INTERFACE:${DIAGKIT_INCLUDE_DIR}>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     if(MSVC)
-        # Not warned about: standard classes inside exported ones, what virtual bases dominate, C functions.
+        # No warnings about standard classes inside exported ones, dominance by virtual bases, and C functions.
         target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8 /bigobj /wd4251 /wd4275 /wd4250)
         target_compile_definitions(${target} PRIVATE NOMINMAX _CRT_SECURE_NO_WARNINGS)
     else()
@@ -35,8 +35,8 @@ function(diagkit_settings target)
     endif()
 endfunction()
 
-# For a target of many sources that include the same headers: to read those once for several sources takes a fraction of
-# the time. The names of such sources are unique in their target, those of no linkage included.
+# For a target of many sources that include the same headers: reading those once for several sources takes a fraction of
+# the time. Names in such sources are unique in their target, including those with internal linkage.
 function(diagkit_compile_together target)
     if(DIAGKIT_COMPILE_TOGETHER)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
@@ -44,7 +44,7 @@ function(diagkit_compile_together target)
 endfunction()
 
 # For an archive: without import attributes it links with the toolkit's library as well as with the toolkit's objects,
-# which tests take that replace what the library calls. MSVC knows no such code.
+# which tests use that replace functions called by the library. MSVC does not support such code.
 function(diagkit_links_either_way target)
     if(MINGW)
         target_compile_definitions(${target} PRIVATE DIAGKIT_STATIC_DEFINE)

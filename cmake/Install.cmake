@@ -1,8 +1,8 @@
-# What `cmake --install` puts where, in three components: Library (what programs need to run), Development (what it
-# takes to build them) and Program.
+# Installation by `cmake --install`, in three components: Library (required to run programs), Development (required to
+# build them) and Program.
 
 # Debian has a folder of libraries for each architecture, below /usr/local as below /usr, and looks for them in both.
-# One build then serves packages and prefixes alike; -DCMAKE_INSTALL_LIBDIR=lib says otherwise.
+# One build then works for packages and for prefixes; -DCMAKE_INSTALL_LIBDIR=lib overrides this.
 if(PROJECT_IS_TOP_LEVEL AND EXISTS /etc/debian_version AND CMAKE_LIBRARY_ARCHITECTURE AND NOT CMAKE_CROSSCOMPILING)
     set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of libraries below the prefix")
 endif()
@@ -19,11 +19,11 @@ install(FILES ${DIAGKIT_INCLUDE_DIR}/diagkit/Export.h ${DIAGKIT_INCLUDE_DIR}/dia
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/diagkit)
 
-# What is installed is built by this target; ./run and scripts/package ask for it.
+# This target builds everything that is installed; ./run and scripts/package use it.
 add_custom_target(diagkit_products)
 
-# Targets are called diagkit::NAME here as there. The export sets are those of the headers' dependencies: a program that
-# reads no files needs neither expat nor libzip.
+# Targets are called diagkit::NAME both here and where they are installed. The export sets follow the dependencies of
+# the headers: a program that reads no files needs neither expat nor libzip.
 function(diagkit_install_targets export)
     foreach(target ${ARGN})
         string(REPLACE "diagkit_" "" name ${target})
@@ -38,7 +38,7 @@ function(diagkit_install_targets export)
     install(EXPORT ${export} NAMESPACE diagkit:: DESTINATION ${package_dir} COMPONENT Development)
 endfunction()
 
-# A library has a file for pkg-config, too. REQUIRES of an archive are all that it needs, since it is linked statically.
+# A library also has a file for pkg-config. REQUIRES of an archive has all dependencies, since it is linked statically.
 function(diagkit_install_pkgconfig name library description requires)
     set(from_file ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
     if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
@@ -56,9 +56,9 @@ endfunction()
 
 diagkit_install_targets(diagkitTargets diagkit diagkit_model diagkit_memory diagkit_conformance)
 diagkit_install_pkgconfig(diagkit diagkit "toolkit for ODX 2.0.1 diagnostic data" "")
-diagkit_install_pkgconfig(diagkit-memory diagkit_memory "model of ODX data in memory"
+diagkit_install_pkgconfig(diagkit-memory diagkit_memory "in-memory model of ODX data"
                           "diagkit = ${PROJECT_VERSION}")
-diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "whether a model keeps the promises of the contract"
+diagkit_install_pkgconfig(diagkit-conformance diagkit_conformance "conformance checks for models of ODX data"
                           "diagkit = ${PROJECT_VERSION}")
 install(FILES diagkit/conformance/reference.odx-d diagkit/conformance/reference.txt
         DESTINATION ${CMAKE_INSTALL_DATADIR}/diagkit/conformance COMPONENT Development)
@@ -66,9 +66,9 @@ if(TARGET diagkit_reader)
     diagkit_install_targets(diagkitReaderTargets diagkit_reader diagkit_check diagkit_query)
     diagkit_install_pkgconfig(diagkit-reader diagkit_reader "reader of ODX documents and PDX packages"
                               "diagkit-memory = ${PROJECT_VERSION}, expat, libzip")
-    diagkit_install_pkgconfig(diagkit-check diagkit_check "what is wrong with an ODX database"
+    diagkit_install_pkgconfig(diagkit-check diagkit_check "checks of ODX databases"
                               "diagkit-reader = ${PROJECT_VERSION}")
-    diagkit_install_pkgconfig(diagkit-query diagkit_query "questions about an ODX database"
+    diagkit_install_pkgconfig(diagkit-query diagkit_query "queries about ODX databases"
                               "diagkit-check = ${PROJECT_VERSION}")
 endif()
 
@@ -81,7 +81,7 @@ install(FILES ${PROJECT_BINARY_DIR}/cmake/diagkitConfig.cmake ${PROJECT_BINARY_D
 
 if(TARGET diagkit_cli)
     if(UNIX AND NOT APPLE)
-        # Found wherever the prefix is moved to.
+        # Works wherever the prefix is moved to.
         file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
         set_target_properties(diagkit_cli PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
     endif()

@@ -2,7 +2,7 @@
 # `scripts/package` runs it over the build of ./run.
 set(CPACK_PACKAGE_NAME diagkit)
 set(CPACK_PACKAGE_VENDOR diagkit)
-# An address that reaches nobody, until whoever makes packages says theirs; see scripts/package.
+# A placeholder address, replaced by that of the person who makes packages; see scripts/package.
 set(CPACK_PACKAGE_CONTACT "diagkit contributors <contributors@diagkit.invalid>")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
@@ -43,7 +43,7 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "${about}
 .
-This package holds the shared library.")
+This package contains the shared library.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libdiagkit-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -53,7 +53,7 @@ if(TARGET diagkit_reader)
 endif()
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "${about}
 .
-This package holds the headers, the reader and the model as archives, and the
+This package contains the headers, the reader and the model as archives, and the
 files for CMake and pkg-config.")
 
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME diagkit)
@@ -63,6 +63,6 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library_package} (= ${debian_version
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS graphviz)
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "${about}
 .
-This package holds the program diagkit.")
+This package contains the program diagkit.")
 
 include(CPack)

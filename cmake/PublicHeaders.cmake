@@ -1,5 +1,5 @@
-# The headers that are installed: what a program over each target may include. In these folders all are public but those
-# named here; of the others only those named here are.
+# The headers that are installed, which programs may include. In the folders of the loop below all are public except the
+# internal ones listed here; in the other folders only the public ones listed here are.
 set(internal_headers
     diagkit/memory/Instances.def
     diagkit/memory/InstancesEnd.def

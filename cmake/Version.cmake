@@ -1,4 +1,4 @@
-# The version stands in project() alone; everything else takes it from there.
+# The version is defined only in project(); everything else uses it from there.
 configure_file(${CMAKE_CURRENT_LIST_DIR}/Version.h.in ${DIAGKIT_INCLUDE_DIR}/diagkit/Version.h @ONLY)
 
 # Before 1.0 every minor version may break programs, so it is part of the soname.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Builds a database by hand, looks at it, changes it and looks again:
+// Builds a database by hand, reads it, changes it and reads it again:
 //
 //     build_database
 
@@ -52,7 +52,7 @@ int main() {
         std::cout << "Angle is " << NReader::ToUtf8(angle.GetDopBaseLink().GetDopBase().GetId()) << '\n';
     }
 
-    delete &reset; // it leaves its layer, and no reference finds it any more
+    delete &reset; // it is removed from its layer, and references no longer find it
     std::cout << "visible without Reset:\n";
     PrintDiagComms(rearDoor);
     std::cout << database.Count(NODX201::VOdxTagEnum::DiagService) << " DIAG-SERVICEs are left\n";

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Collects all elements of a kind that a layer holds or refers to, here its trouble codes:
+// Collects all elements of a kind that a layer contains or refers to, here its trouble codes:
 //
 //     collect_elements FILE LAYER
 
@@ -11,8 +11,8 @@
 #include <diagkit/Reader.h>
 #include <diagkit/Toolkit.h>
 
-/// `DefaultVisit` is called for every element, so no other hook is needed. What is referred to from several places is
-/// visited for each; it is collected once, where it is met first.
+/// `DefaultVisit` is called for every element, so no other hook is needed. An element that is referred to from several
+/// places is visited for each; it is collected once, where it is found first.
 template <class Element>
 class VCollector : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:

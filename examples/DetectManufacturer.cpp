@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Tells whose tools wrote a database, and what speaks against each other manufacturer:
+// Prints which manufacturer's tools wrote a database, and why the other manufacturers do not match:
 //
 //     detect_manufacturer FILE...
 

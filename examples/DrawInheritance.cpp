@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Prints which layer inherits from which, with what breaks off, and what a layer alone has to do with:
+// Prints which layer inherits from which, with broken references, and the part of the graph around one layer:
 //
 //     draw_inheritance FILE [ID-OF-LAYER]
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Who refers to an element, and what is left with nobody who does once it has been removed:
+// Prints who refers to an element, and which elements are unused once it has been removed:
 //
 //     find_uses FILE ID
 
@@ -26,7 +26,7 @@ void PrintUse(NMemory::VDatabase const& database, NQuery::VUse const& use) {
     std::cout << '\n';
 }
 
-/// Removes an element, and tells which others nothing refers to afterwards.
+/// Removes an element, and prints which others nothing refers to afterwards.
 void RemoveAndTell(NReader::VReadResult& result, NODX201::VOdxElement& element) {
     NQuery::LeaveOut(result.elements, element); // while it is still there
     delete &element;

@@ -10,7 +10,7 @@
 #include <diagkit/Reader.h>
 #include <diagkit/Toolkit.h>
 
-/// The list of kinds gives every hook the same body, so the tree says where each element was entered and left.
+/// The list of kinds gives every hook the same body, so the tree shows where each element was entered and left.
 class VPrinter : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
     using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;

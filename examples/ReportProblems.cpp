@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Reads a database and reports what is wrong, in each of the ways in which the library tells:
+// Reads a database and reports problems, in each of the ways in which the library reports them:
 //
 //     report_problems FILE...
 
@@ -19,7 +19,7 @@ public:
     void Log(int, std::wstring const& message) override { std::cerr << "log: " << NReader::ToUtf8(message) << '\n'; }
 };
 
-/// Says what a caller did wrong and lets the library carry on; the handler of the start ends the process instead.
+/// Prints what a caller did wrong and lets the library continue; the initial handler ends the process instead.
 void OnAssertion(NPavonaUtil::VAssertion const& assertion) {
     std::cout << "assertion in " << NReader::ToUtf8(assertion.source) << '\n';
 }
@@ -30,13 +30,13 @@ int main(int count, char** words) try {
     NPavonaUtil::VScopedAssertionHandler const handler(&OnAssertion);
 
     NReader::VReadOptions options;
-    options.maxFileSize = 64 << 20; // whoever takes files from others says how much they may be
+    options.maxFileSize = 64 << 20; // programs that take files from others should limit their size
     NReader::VReadResult const result = NReader::ReadOdx(std::vector<std::string>(words + 1, words + count), options);
     for (NReader::VDiagnostic const& diagnostic : result.diagnostics) {
         std::cout << FormatDiagnostic(diagnostic) << '\n';
     }
     if (result.database == nullptr) {
-        return 1; // a file that was named could not be read; a diagnostic above says why
+        return 1; // a named file could not be read; a diagnostic above says why
     }
 
     NDIAGKIT::VStringContainer texts;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Says for every layer of a database what a parameter of a service means there, by name and by its own link:
+// Prints for every layer of a database the meaning of a service's parameter there, by name and by its own link:
 //
 //     resolve_names FILE SERVICE PARAMETER
 
@@ -22,7 +22,7 @@ NODX201::VValue* FindParam(NODX201::VAbstractSnrefResolver& resolver, NODX201::V
     return found != nullptr && found->IsValue() ? dynamic_cast<NODX201::VValue*>(found) : nullptr;
 }
 
-/// The ID of its DOP. The link itself is asked, which knows whether it names an ID or a short name.
+/// The ID of its DOP. The link itself is used, which knows whether it refers by ID or by short name.
 std::string DopOf(NODX201::VValue& param, NODX201::VDiagLayer& layer) {
     if (!param.HasDopBaseLink() || !param.GetDopBaseLink().HasDopBase(layer)) {
         return "no DOP";

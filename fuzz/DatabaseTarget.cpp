@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Bytes as the documents of one database, and then everything that programs do with it. Between two documents stands
-// the byte 0x1C, FILE SEPARATOR, which no XML document holds.
+// Bytes as the documents of one database, and then everything that programs do with it. Documents are separated by the
+// byte 0x1C, FILE SEPARATOR, which no XML document contains.
 
 #include <memory>
 #include <string>

@@ -5,7 +5,7 @@
 
 namespace NFuzz {
 
-/// Limits low enough for small inputs to meet them.
+/// Limits low enough for small inputs to reach them.
 inline NReader::VReadOptions LowLimits() {
     NReader::VReadOptions options;
     options.maxMemberSize = 256 * 1024;

@@ -12,7 +12,7 @@ namespace {
 using namespace NMemory;
 using namespace NODX201;
 
-/// Where a reference is resolved; each kind takes what it needs.
+/// The context in which a reference is resolved; each kind uses what it needs.
 struct VScene {
     VDiagLayer& layer;
     VDiagLayerContainer* container = nullptr;
@@ -20,7 +20,8 @@ struct VScene {
     VDiagComm* diagComm = nullptr;
 };
 
-/// Asks a reference of class `Link` for its target, and the target for what it is. The answer must be the same twice.
+/// Queries a reference of class `Link` for its target, and the target for its kind. Both results must be the same
+/// twice.
 template <class Link, auto Get, class Has>
 void Resolve(VLink& reference, Has has) {
     auto& link = dynamic_cast<Link&>(reference);
@@ -59,7 +60,7 @@ void ResolveInLayer(VLink& reference, VScene const& scene) {
     Resolve<Link, Get>(reference, [&](Link& link) { return (link.*Has)(scene.layer); });
 }
 
-/// In whatever `At` of the scene is, if there is any.
+/// With the member `At` of the scene, if it is present.
 template <class Link, auto At, auto Has, auto Get>
 void ResolveAt(VLink& reference, VScene const& scene) {
     Resolve<Link, Get>(reference, [&](Link& link) { return scene.*At != nullptr && (link.*Has)(*(scene.*At)); });

@@ -4,7 +4,7 @@
 //
 //     replay_TARGET FILE|FOLDER...
 //
-// A folder that is absent is passed over. Exit status: 0 all were run, 1 there was none, 2 a file cannot be read.
+// A folder that is absent is skipped. Exit status: 0 all were run, 1 there was none, 2 a file cannot be read.
 
 #include <algorithm>
 #include <filesystem>
@@ -46,7 +46,7 @@ int main(int count, char** words) {
                 std::cerr << file.string() << ": cannot be read\n";
                 return 2;
             }
-            std::cerr << file.string() << std::endl; // flushed: a crash is that of the last one named
+            std::cerr << file.string() << std::endl; // flushed: a crash belongs to the last one named
             LLVMFuzzerTestOneInput(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size());
             ++runs;
         }

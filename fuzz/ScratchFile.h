@@ -6,9 +6,9 @@
 
 namespace NFuzz {
 
-/// A file that holds one input after the other: the reader takes paths, so that it is the reader as users call it that
-/// is tried. It lies in the folder for temporary files, under a name of its own, and is gone with this object.
-/// `fuzz/run` makes that folder one in memory.
+/// A file for one input after the other: the reader takes paths, so that the reader is tested as users call it. It is
+/// in the folder for temporary files, under a unique name, and is removed with this object. `fuzz/run` uses a folder in
+/// memory.
 class VScratchFile {
 public:
     explicit VScratchFile(std::string const& suffix); ///< of the file's name, such as ".odx"
@@ -19,7 +19,7 @@ public:
     /// Replaces the contents. Throws `std::runtime_error` when that fails.
     void Write(std::string_view bytes);
 
-    std::string const& Path() const { return m_path; } ///< UTF-8, as the reader wants it
+    std::string const& Path() const { return m_path; } ///< UTF-8, as the reader requires
 
 private:
     std::string m_path;

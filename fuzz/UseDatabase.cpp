@@ -31,7 +31,7 @@ namespace NFuzz {
 namespace {
 
 constexpr std::size_t kSteps = 2000;    // of each part
-constexpr std::size_t kQuestions = 200; // that look at all layers
+constexpr std::size_t kQuestions = 200; // that use all layers
 
 void Require(bool isTrue) {
     if (!isTrue) {
@@ -39,7 +39,7 @@ void Require(bool isTrue) {
     }
 }
 
-/// Reads the entries of a view and finds each of them by itself; hands them on while there are steps left.
+/// Reads the entries of a view and finds each of them by name; passes them on while there are steps left.
 template <class View, class Take>
 void Use(View& view, VBudget& budget, Take take) {
     unsigned long long count = 0;
@@ -58,7 +58,7 @@ void Use(View& view, VBudget& budget) {
     Use(view, budget, [](auto&) {});
 }
 
-/// The same for a view by short name, which finds the entry that stands first under its name.
+/// The same for a view by short name, which finds the first entry of a name.
 template <class View, class Take>
 void UseNamed(View& view, VBudget& budget, Take take) {
     Use(view, budget, [&](auto& entry) {
@@ -109,7 +109,7 @@ void ViewLayer(NODX201::VDiagLayer& layer, VBudget& budget) {
     NDIAGKIT::VDiagCommView& diagCommView = *diagComms.CreateDiagCommView(layer);
     UseNamed(diagCommView, budget, [&](NODX201::VDiagComm& diagComm, NODX201::VDiagComm& first) {
         UseParams(diagComm, layer, budget);
-        if (diagCommView.Count() < 100) { // each answer makes a view
+        if (diagCommView.Count() < 100) { // each call makes a view
             Require(resolver.ResolveDiagCommSnref(first.GetShortName(), layer) == &first);
         }
     });
@@ -136,7 +136,7 @@ void ViewLayer(NODX201::VDiagLayer& layer, VBudget& budget) {
     }
 }
 
-/// A view with reasons, and why its first names are what they are.
+/// A view with reasons, and explanations of its first names.
 void ExplainLayer(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, VBudget& budget) {
     using NQuery::VInheritedKind;
     for (VInheritedKind const kind : {VInheritedKind::DiagComm, VInheritedKind::DiagVariable,
@@ -146,7 +146,7 @@ void ExplainLayer(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, VBud
         for (auto const* const entries : {&view.entries, &view.hidden, &view.excluded}) {
             std::size_t count = 0;
             for (NQuery::VViewEntry const& entry : *entries) {
-                if (++count > 5 || !budget.Take()) { // each answer looks at all layers
+                if (++count > 5 || !budget.Take()) { // each explanation uses all layers
                     break;
                 }
                 NQuery::VExplanation const explanation =
@@ -167,7 +167,7 @@ public:
         try {
             TraverseDiagLayer();
         } catch (VBudget const&) {
-            // Related DIAG-COMMs that all name each other make walks that nobody waits for.
+            // Related DIAG-COMMs that all refer to each other make walks that take too long.
         }
     }
 
@@ -192,8 +192,8 @@ void ForEachLayer(NODX201::VOdx& odx, Use use) {
     }
 }
 
-/// Every use of an element must be a reference of the database, of the layers one at least, and an element without any
-/// use is unused where it may be.
+/// Every use of an element must be a reference of the database, with at least one layer if it has layers, and an
+/// element without uses must be listed as unused where it may be.
 void AskForUses(NReader::VReadResult const& result, VBudget& budget) {
     NQuery::VUses const uses(*result.database, result.elements);
     std::vector<NODX201::VOdxElement*> const unused = uses.Unused();
@@ -213,7 +213,7 @@ void AskForUses(NReader::VReadResult const& result, VBudget& budget) {
     }
 }
 
-/// A database is equal to itself, and what differs between neighbours differs both ways.
+/// A database must equal itself, and adjacent layers that differ must differ in both directions.
 void CompareLayers(NMemory::VDatabase& database) {
     constexpr std::size_t kMostPairs = 3;
     Require(NQuery::DiffDatabases(database, database).IsEqual());

@@ -5,15 +5,16 @@
 
 namespace NFuzz {
 
-/// Does with a database what programs do: checks it, asks for its cycles and its manufacturer, builds every view of
-/// every layer, container and FLASH and finds what is in it, compares it with itself and layers with each other, asks for
-/// the parts of every element, resolves every reference in every layer, and walks all layers. Each of these ends after a number of steps, so that hostile data do not take long. Answers that contradict
-/// one another end the program (`std::abort`), which is a finding.
+/// Does with a database what programs do: checks it, finds its cycles and its manufacturer, builds every view of every
+/// layer, container and FLASH and finds its entries, compares it with itself and layers with each other, lists the
+/// parts of every element, resolves every reference in every layer, and walks all layers. Each of these ends after a
+/// number of steps, so that hostile data do not take long. Contradictory results end the program (`std::abort`), which
+/// is a finding.
 ///
-/// Wants a result with a database whose elements were kept. Returns what the check said.
+/// Requires a result with a database whose elements were kept. Returns the findings of the check.
 std::vector<NReader::VDiagnostic> UseDatabase(NReader::VReadResult& result);
 
-/// Counts steps down. Thrown as it is, it leaves a walk.
+/// Counts steps down. It is thrown to leave a walk.
 class VBudget {
 public:
     explicit VBudget(std::size_t steps) : m_left(steps) {}

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Changes XML as what it is: elements are copied, moved and left out whole, and attributes and texts get the values of
-// others, so that references come to name what is there. libFuzzer's own changes of bytes, every other time, mostly
-// break the document, which is wanted as well but not always.
+// Changes XML with its structure: elements are copied, moved and removed as a whole, and attributes and texts get the
+// values of others, so that references have targets. libFuzzer's own changes of bytes, every other time, usually break
+// the document, which is useful as well but not always.
 
 #include <cstring>
 #include <iterator>
@@ -46,7 +46,7 @@ std::vector<VRange> Between(std::string_view text, std::string_view open, char c
     return ranges;
 }
 
-/// The element whose start tag stands at `start`; nothing where that is no start tag or the end is not found.
+/// The element whose start tag begins at `start`; nothing where there is no start tag or the end is not found.
 std::optional<VRange> ElementAt(std::string_view text, std::size_t start) {
     int depth = 0;
     for (std::size_t at = start; at != std::string_view::npos; at = text.find('<', at + 1)) {
@@ -82,7 +82,7 @@ std::string Replaced(std::string_view text, VRange const& range, std::string_vie
     return changed.append(by).append(text.substr(range.end));
 }
 
-/// Another of the same kind of range in place of one.
+/// Replaces a range by another of the same kind.
 std::string ExchangeOne(std::string_view text, std::vector<VRange> const& ranges, VRandom& random) {
     VRange const* const target = Choose(ranges, random);
     VRange const* const source = Choose(ranges, random);

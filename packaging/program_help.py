@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""What the program tells about itself: its commands, their options and arguments, from --help-table."""
+"""The program's own description: its commands, their options and arguments, from --help-table."""
 
 import json
 import subprocess
@@ -10,9 +10,9 @@ from dataclasses import dataclass
 class Option:
     name: str
     text: str
-    value: str  # what stands for its value, "" for a flag and for an argument
+    value: str  # the placeholder of its value, "" for a flag and for an argument
     default: str
-    group: str  # the heading that it stands under, "" among the usual options
+    group: str  # its heading, "" among the usual options
     isRequired: bool
     isRepeated: bool
     choices: list
@@ -24,7 +24,7 @@ class Command:
     text: str
     positionals: list
     options: list
-    notes: str  # what follows the options in its help
+    notes: str  # the text after the options in its help
 
     def usage(self):
         words = [option.name + ("..." if option.isRepeated else "") for option in self.positionals]

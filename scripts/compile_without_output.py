@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Have the compiler look at every source of a build, and print what it says.
+"""Check every source of a build with the compiler, and print its messages.
 
     compile_without_output.py COMPILE_COMMANDS
 """
@@ -13,7 +13,7 @@ import sys
 
 
 def look_at(entry):
-    """What the compiler says of a source, and whether it takes it."""
+    """The compiler's messages about a source, and whether it accepts it."""
     command = f"{entry['command']} -fsyntax-only"
     done = subprocess.run(
         command, shell=True, cwd=entry["directory"], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8"

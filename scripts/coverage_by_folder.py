@@ -4,7 +4,7 @@
 
     coverage_by_folder.py JSON
 
-Ends with status 1 where a folder does not reach its goal.
+Exit status 1 when a folder does not reach its goal.
 """
 
 import json

@@ -1,17 +1,17 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Changes of C++ by what they do.
+"""Changes to C++ sources, described by their effect.
 
 A scope is a function or a table of a file by name; NAME(WORD) is the overload with WORD among its parameters, or the row
 NAME(WORD, ...) of a list for the preprocessor. A change
-is one of these, where A is what stands in the scope, in tokens: blanks, line breaks and comments do not count.
+is one of these, where A is a part of the scope, in tokens: blanks, line breaks and comments do not count.
 
     replace A by B
     swap A and B
-    drop A [unless E]     the statement that has A is done only if E holds; never without E
-    never A [unless E]    the condition that has A holds only if E does, too; never without E
-    always A              the condition that has A holds
+    drop A [unless E]     the statement with A is executed only if E is true; never without E
+    never A [unless E]    the condition with A is true only if E is true, too; never without E
+    always A              the condition with A is true
 
-A #2 is the second A of the scope; without a number there has to be one alone. A condition is that of if, while or ?,
+A #2 is the second A of the scope; without a number there has to be exactly one. A condition is that of if, while or ?,
 or what is returned.
 """
 
@@ -55,7 +55,7 @@ class Source:
         return [place for place in range(first, end - size + 1) if self.tokens[place : place + size] == wanted]
 
     def body_behind(self, place, overload):
-        """The braces of what is defined by the name that ends before the place; None where it is only used."""
+        """The braces of the definition whose name ends before the place; None where the name is only used."""
         is_initialised = False
         if self.tokens[place] == "(":
             if overload and overload not in self.tokens[place : self.partner[place]]:
@@ -81,7 +81,7 @@ class Source:
         return bodies[0]
 
     def place(self, words, scope):
-        """Where the words stand in the scope, as the first of their tokens and the one behind."""
+        """The place of the words in the scope, as the first of their tokens and the one after the last."""
         words, number = re.fullmatch(r"(.+?)(?: #(\d+))?", words).groups()
         found = self.places_of(words, *scope)
         if len(found) != 1 and not (number and int(number) <= len(found)):
@@ -90,7 +90,7 @@ class Source:
         return first, first + len(tokens_of(words))
 
     def edge(self, place, step, ends):
-        """The next of such tokens in a direction, beyond all in brackets."""
+        """The next of such tokens in a direction, outside of brackets."""
         place += step
         while self.tokens[place] not in ends:
             is_bracket = self.tokens[place] in (")]" if step < 0 else "([{")
@@ -126,7 +126,7 @@ class Source:
         return self.text[self.spans[first][0] : self.spans[end - 1][1]]
 
     def changed(self, *changes):
-        """The text with other text in places, which are pairs of the first token and the one behind."""
+        """The text with places replaced, which are pairs of the first token and the one after the last."""
         text = self.text
         for (first, end), new in sorted(changes, reverse=True):
             text = text[: self.spans[first][0]] + new + text[self.spans[end - 1][1] :]

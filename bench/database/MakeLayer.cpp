@@ -301,7 +301,7 @@ void VLayerMaker::WriteParentRefs() {
                     if (m_plan.base == nullptr) {
                         return;
                     }
-                    // A service of the base that nothing names and that this layer has not anew.
+                    // A service of the base that nothing refers to and that this layer does not override.
                     std::size_t const last = m_plan.base->services - 1;
                     std::size_t const excluded = last % 8 == 0 ? last - 1 : last;
                     VLayerMaker const base(m_xml, *m_plan.base, 0);

@@ -12,12 +12,12 @@
 
 namespace NBench {
 
-/// The layers that all others build on.
+/// The layers on which all others are based.
 inline constexpr char const* kSharedLibrary = "SharedLibrary";
 inline constexpr char const* kComparamSpec = "Communication";
 inline constexpr std::size_t kLibraryServices = 24;
 
-/// What a made layer is to be.
+/// The specification of a layer to make.
 struct VLayerPlan {
     struct VParentRefPlan {
         char const* xsiType;
@@ -29,7 +29,7 @@ struct VLayerPlan {
     std::size_t services;                  ///< and about as many DOPs
     std::string suffix{};                  ///< of the names in it, so that layers of different kinds do not share names
     std::vector<VParentRefPlan> parents{}; ///< in the order of the PARENT-REFs
-    VLayerPlan const* base = nullptr;      ///< of an ECU-VARIANT; half of its services stand in front of the base's
+    VLayerPlan const* base = nullptr;      ///< of an ECU-VARIANT; half of its services override those of the base
 };
 
 /// Writes one layer.
@@ -43,7 +43,7 @@ private:
     struct VParam {
         char const* xsiType;
         std::size_t bytePosition;
-        VXmlWriter::VAttribute attribute{nullptr, {}}; ///< one more, of some kinds
+        VXmlWriter::VAttribute attribute{nullptr, {}}; ///< an additional one, of some kinds
     };
 
     // MakeLayer.cpp
@@ -93,7 +93,7 @@ private:
     bool IsHierarchical() const { return std::string_view(m_plan.tag) != "ECU-SHARED-DATA"; }
     std::string FewName(std::size_t number, char const* suffix) const;
     bool IsLibrary() const { return m_plan.name == kSharedLibrary; }
-    /// How many of what is needed now and then.
+    /// The number of elements that are used only occasionally.
     std::size_t Few() const { return m_plan.services / 32 + 1; }
     std::size_t StructureCount() const { return m_plan.services / 4 + 2; }
     std::size_t DopCount() const { return m_plan.services + 4; }

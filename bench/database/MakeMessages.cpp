@@ -91,7 +91,7 @@ void VLayerMaker::WriteRequest(std::size_t service) {
     });
 }
 
-/// The kinds of PARAM that are used now and then.
+/// The kinds of PARAM that are used only occasionally.
 void VLayerMaker::WriteSpecialRequestParams(std::size_t service) {
     switch (service % 16) {
     case 3:

@@ -70,7 +70,8 @@ std::uint64_t VRandom::Next() {
     return mixed ^ (mixed >> 31);
 }
 
-/// Neighbours are about different parts and quantities: a step that shares no factor with the number of combinations.
+/// Consecutive names are about different parts and quantities: the step has no common factor with the number of
+/// combinations.
 std::size_t VNames::Combination(std::size_t number) const { return (number * 1031 + m_shift * 7) % kCombinations; }
 
 std::string VNames::LongName(std::size_t number) const {

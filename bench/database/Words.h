@@ -39,7 +39,7 @@ private:
 /// A sentence or two about something.
 std::string Sentences(VRandom& random, std::string const& about);
 
-/// What a value of a text table is called, such as "running"; different for every number below 32.
+/// The name of a value of a text table, such as "running"; different for every number below 32.
 std::string StateName(std::size_t number);
 
 } // namespace NBench

@@ -10,11 +10,11 @@
 
 namespace NBench {
 
-/// Writes an XML document as a stream, an element a line, indented by two blanks. Texts and values are UTF-8 and are
+/// Writes an XML document as a stream, one element per line, indented by two blanks. Texts and values are UTF-8 and are
 /// escaped.
 class VXmlWriter {
 public:
-    /// One without a name is left out.
+    /// An attribute without a name is left out.
     struct VAttribute {
         char const* name;
         std::string_view value;
@@ -27,7 +27,7 @@ public:
     VXmlWriter(VXmlWriter const&) = delete;
     VXmlWriter& operator=(VXmlWriter const&) = delete;
 
-    /// An element and what `inside` writes into it.
+    /// Writes an element with what `inside` writes into it.
     template <class Inside>
     void Element(char const* name, VAttributeList attributes, Inside inside) {
         Open(name, attributes);

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Shapes of documents: flash data, jobs, many of them, and what is odd in XML."""
+"""Shapes of documents: flash data, jobs, many documents, and unusual XML."""
 
 from shapes.odx import (by_id, by_name, container, dictionary, document, dop, ident, layer, many, message, service,
                         value, wrap)
@@ -52,7 +52,7 @@ def flash_sessions(count):
 
 
 def connectors(count):
-    """ECU-MEM-CONNECTORs that all name the same layers."""
+    """ECU-MEM-CONNECTORs that all refer to the same layers."""
     base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("Service"))
     mem = ident("ECU-MEM", "Mem", "<MEM><SESSIONS/><DATABLOCKS/><FLASHDATAS/></MEM>")
     one = lambda index: ident(
@@ -69,7 +69,7 @@ def connectors(count):
 
 
 def multiple_ecu_jobs(count):
-    """Jobs whose parameters name DOPs of the layers that they run in by short name."""
+    """Jobs whose parameters refer by short name to DOPs of the layers in which they run."""
     code = "<PROG-CODE><CODE-FILE>a.jar</CODE-FILE><SYNTAX>JAR</SYNTAX><REVISION>1</REVISION></PROG-CODE>"
     param = lambda index: "<SHORT-NAME>P</SHORT-NAME>" + by_name(f"Dop{index}", "DOP-BASE-SNREF")
     job = lambda index: ident(
@@ -103,7 +103,7 @@ def unknown_elements(count):
 
 
 def nested_groups(count):
-    """SDGs inside one another."""
+    """Nested SDGs."""
     groups = "<SDG>" * count + "<SD>x</SD>" + "</SDG>" * count
     holder = service("S").replace("<AUDIENCE/>", wrap("SDGS", groups) + "<AUDIENCE/>")
     base = layer("BASE-VARIANT", "V0", DIAG_COMMS=holder)
@@ -111,7 +111,7 @@ def nested_groups(count):
 
 
 def team_members(count):
-    """What detection of the manufacturer looks at: companies, team members, texts."""
+    """The data used for detection of the manufacturer: companies, team members, texts."""
     member = lambda index: ident("TEAM-MEMBER", f"T{index}", f"<DEPARTMENT>D{index}</DEPARTMENT>")
     company = ident("COMPANY-DATA", "Company", wrap("TEAM-MEMBERS", many(count, member)))
     base = layer("BASE-VARIANT", "V0", DIAG_COMMS=service("S")).replace(

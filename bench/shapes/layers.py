@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Shapes of layers: what they inherit, and over how many ways."""
+"""Shapes of layers: what they inherit, and on how many ways."""
 
 from shapes.odx import (by_id, by_name, container, dictionary, dop, layer, many, message, parent, service, structure,
                         value)
@@ -55,7 +55,7 @@ def services_in_one_layer(count):
 
 
 def stack(count, shared=""):
-    """Four levels, each of which names its parent so many times."""
+    """Four levels, each of which refers to its parent n times."""
     return {
         "c.odx-d": container(
             {
@@ -88,7 +88,7 @@ def parents_named_often_with_a_cycle(count):
 
 
 def parents_with_exclusions(count):
-    """An ECU-VARIANT that names its parent so many times, and excludes another service each time."""
+    """An ECU-VARIANT that refers to its parent n times, and excludes another service each time."""
     base = layer("BASE-VARIANT", "Base", DIAG_COMMS=many(count, lambda index: service(f"S{index}")))
     refs = many(count, lambda index: parent("BASE-VARIANT", "Base", [f"S{index}"]))
     return {
@@ -97,7 +97,7 @@ def parents_with_exclusions(count):
 
 
 def lattice(count):
-    """So many layers on each of four levels, each of which inherits from all of the level above."""
+    """n layers on each of four levels, each of which inherits from all of the level above."""
 
     def level(tag, parent_tag):
         def one(index):
@@ -120,7 +120,7 @@ def lattice(count):
 
 
 def levels_with_two_parents(count):
-    """So many levels of two BASE-VARIANTs, each with both of the level above as parents: no pass takes them."""
+    """n levels of two BASE-VARIANTs, each with both of the level above as parents: no pass takes them."""
 
     def level(index):
         refs = many(2, lambda side: parent("BASE-VARIANT", f"L{index - 1}.{side}")) if index else ""
@@ -144,7 +144,7 @@ def circles_of_parents(count):
 
 
 def long_name_of_a_child(count):
-    """A short name that is as long as there are PARENT-REFs in its layer."""
+    """A short name with as many characters as its layer has PARENT-REFs."""
     name = "V" + "x" * (40 * count)
     bases = many(count, lambda index: layer("BASE-VARIANT", f"B{index}"))
     variant = layer(
@@ -154,7 +154,7 @@ def long_name_of_a_child(count):
 
 
 def long_name_in_findings(count):
-    """A short name that is as long as there are findings that quote it."""
+    """A short name with as many characters as there are findings that quote it."""
     name = "V" + "x" * (40 * count)
     refs = many(count, lambda _: parent("ECU-VARIANT", "V0"))
     return {"c.odx-d": container({"ECU-VARIANTS": layer("ECU-VARIANT", name, "V0", PARENT_REFS=refs)})}

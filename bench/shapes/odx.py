@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""ODX as text, as short as the shapes of databases need it. Short names are IDs where nothing else is said."""
+"""ODX as text, as short as the shapes of databases allow. Short names are also the IDs unless stated otherwise."""
 
 HEAD = (
     '<?xml version="1.0" encoding="UTF-8"?>\n'

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Shapes of references: by ID, by short name, in circles."""
+"""Shapes of references: by ID, by short name, in cycles."""
 
 from shapes.odx import (by_id, by_name, container, dictionary, dop, ident, layer, many, message, parent, service,
                         structure, value, wrap)
@@ -46,7 +46,7 @@ def imports(count):
 
 
 def imports_without_the_id(count):
-    """A layer imports many libraries and refers as often to an ID that other layers have, none of them these."""
+    """A layer imports many libraries and refers as often to an ID of layers that it does not import."""
     libraries = many(count, lambda index: layer("ECU-SHARED-DATA", f"L{index}"))
     own = dictionary(dop("Dop"))
     others = many(2, lambda index: layer("ECU-SHARED-DATA", f"O{index}", DIAG_DATA_DICTIONARY_SPEC=own))
@@ -87,7 +87,7 @@ def imports_of_each(count):
 
 
 def imports_of_one_id(count):
-    """One ID is that of every layer, and of every IMPORT-REF."""
+    """Every layer and every IMPORT-REF has the same ID."""
     libraries = many(count, lambda index: layer("ECU-SHARED-DATA", f"L{index}", "Library"))
     refs = many(count, lambda _: by_id("Library", "IMPORT-REF"))
     last = layer("BASE-VARIANT", "V0", IMPORT_REFS=refs)
@@ -113,7 +113,7 @@ def short_name_cycles(count):
 
 
 def cycles_that_each_variant_changes(count):
-    """The same, where each variant has a STRUCTURE of its own in place of one of them."""
+    """The same, where each variant has its own STRUCTURE in place of one of them."""
     cycles = many(count, lambda index: structure(f"S{index}", value("P", by_name(f"S{index}"))))
     above = layer("BASE-VARIANT", "Base", DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=cycles))
     variants = many(
@@ -129,14 +129,14 @@ def cycles_that_each_variant_changes(count):
 
 
 def short_name_cycles_of_each(count):
-    """Layers that each have a STRUCTURE of their own which contains itself by its short name."""
+    """Layers that each have their own STRUCTURE, which contains itself by its short name."""
     own = lambda index: dictionary(structures=structure(f"S{index}", value("P", by_name(f"S{index}"))))
     layers = many(count, lambda index: layer("BASE-VARIANT", f"V{index}", DIAG_DATA_DICTIONARY_SPEC=own(index)))
     return {"c.odx-d": container({"BASE-VARIANTS": layers})}
 
 
 def cycles_of_equal_names(count):
-    """Layers that each have two STRUCTUREs of the same names, which contain one another by them."""
+    """Layers that each have two STRUCTUREs of the same names, which contain each other by short name."""
 
     def one(index):
         first = structure("A", value("P", by_name("B")), f"A{index}")
@@ -178,7 +178,7 @@ def described(index, target="Dop"):
 
 
 def env_data_desc(count, descs=1, structures="", more=""):
-    """Services that all lead to an ENV-DATA-DESC, which reads a parameter of theirs."""
+    """Services that all lead to an ENV-DATA-DESC, which reads one of their parameters."""
     params = lambda index: value("Code", by_id("Dop")) + value(f"P{index}", by_id(f"Desc{index % descs}")) + more
     return base(
         DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop"), structures, env_data_descs=many(descs, described)),
@@ -252,7 +252,7 @@ def matching_parameters(count):
 
 
 def comm_relations(count):
-    """COMM-RELATIONs that name as many services by short name, with a parameter each."""
+    """COMM-RELATIONs that refer to as many services by short name, with a parameter each."""
     relation = (
         lambda index: '<COMM-RELATION VALUE-TYPE="CURRENT"><RELATION-TYPE>READ</RELATION-TYPE>'
         + by_name(f"S{index}", "DIAG-COMM-SNREF")
@@ -285,7 +285,7 @@ def names_that_do_not_resolve(count):
 
 
 def one_name_for_each_variant(count):
-    """References by one short name, which means another DOP in each of as many variants."""
+    """References by one short name, whose target is another DOP in each of as many variants."""
     params = many(count, lambda index: value(f"P{index}", by_name("Dop")))
     above = layer(
         "BASE-VARIANT",
@@ -303,6 +303,33 @@ def one_name_for_each_variant(count):
         ),
     )
     return {"c.odx-d": container({"BASE-VARIANTS": above, "ECU-VARIANTS": variants})}
+
+
+def library_by_id(count, layers):
+    """Services, spread over so many layers, that lead by ID to a STRUCTURE of a library that is no parent."""
+    large = structure("Large", many(count, lambda index: value(f"P{index}", by_name("Dop"))))
+    library = layer("ECU-SHARED-DATA", "Library", DIAG_DATA_DICTIONARY_SPEC=dictionary(structures=large))
+
+    def variant(index):
+        numbers = range(index, count, layers)
+        request = lambda number: message("REQUEST", f"Request{number}", value("In", by_id("Large")))
+        return layer(
+            "BASE-VARIANT",
+            f"V{index}",
+            DIAG_DATA_DICTIONARY_SPEC=dictionary(dop("Dop", f"Dop{index}")),
+            DIAG_COMMS="".join(service(f"Service{number}", f"Request{number}") for number in numbers),
+            REQUESTS="".join(request(number) for number in numbers),
+        )
+
+    return {"c.odx-d": container({"ECU-SHARED-DATAS": library, "BASE-VARIANTS": many(layers, variant)})}
+
+
+def library_by_id_in_one_layer(count):
+    return library_by_id(count, 1)
+
+
+def library_by_id_in_each_layer(count):
+    return library_by_id(count, count)
 
 
 def related_diag_comms(count):

@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: Apache-2.0
-"""Shapes of two databases that are compared: what changed, and how many see it."""
+"""Shapes of two databases to compare: what changed, and in how many layers."""
 
 from shapes.odx import (by_id, by_name, container, dictionary, dop, layer, many, message, parent, service, structure,
                         value)
 
 
 def sides(make):
-    """The old database and the new one, by whether it is new."""
+    """The old or the new database, as requested."""
     return {"1-old.odx-d": make(False), "2-new.odx-d": make(True)}
 
 
@@ -69,7 +69,7 @@ def layers_that_all_changed_their_names(count):
 
 
 def short_names_with_a_meaning_in_each(count):
-    """Services of a base by short names, of which one is a DOP of its own in each ECU-VARIANT."""
+    """Services of a base with references by short name, one of which has its own DOP in each ECU-VARIANT."""
     def make(is_new):
         base = layer(
             "BASE-VARIANT",
@@ -88,7 +88,7 @@ def short_names_with_a_meaning_in_each(count):
 
 
 def chain_that_changed_at_its_end(count):
-    """Structures of which each leads to the next one."""
+    """Structures that each lead to the next one."""
     def make(is_new):
         structures = many(count, lambda index: structure(
             f"S{index}", value("P", by_id(f"S{index + 1}" if index + 1 < count else "Dop"))))

@@ -14,7 +14,7 @@ namespace {
 using NDIAGKIT::VCandidate;
 using NDIAGKIT::VLayerKinds;
 
-/// The DOP view is the one that has an order of its own.
+/// Only the DOP view has its own order.
 template <class Kind>
 void PutInViewOrder(std::vector<VCandidate const*>& rivals) {
     if constexpr (std::is_same_v<Kind, NDIAGKIT::VInheritedDops>) {
@@ -24,13 +24,13 @@ void PutInViewOrder(std::vector<VCandidate const*>& rivals) {
     }
 }
 
-/// ODX ranks a FUNCTIONAL-GROUP above a PROTOCOL; where it also stands first, all agree on who wins.
+/// ODX ranks a FUNCTIONAL-GROUP above a PROTOCOL; where it also comes first, all readers agree on the result.
 bool IsRankedAbove(VCandidate const& first, VCandidate const& second) {
     return first.parent->layer.kind == VLayerKinds::FunctionalGroup &&
            second.parent->layer.kind == VLayerKinds::Protocol;
 }
 
-/// Whether it is the order of PARENT-REFs alone that hides a candidate.
+/// Whether only the order of PARENT-REFs hides a candidate.
 bool IsRival(VCandidate const& candidate) {
     VCandidate const* const winner = candidate.hiddenBy;
     return winner != nullptr && candidate.pass != 0 && winner->pass == candidate.pass &&

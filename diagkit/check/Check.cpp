@@ -12,11 +12,14 @@ namespace NCheck {
 namespace {
 
 constexpr void (*kTopics[])(VChecked const& checked, VFindings& findings) = {
-    &CheckShortNames,          &CheckDocrefs, &CheckLayerReferences, &CheckExclusions, &CheckAmbiguousNames,
-    &CheckShortNameReferences, &CheckCycles,
+    &CheckShortNames,  &CheckDocrefs,        &CheckLayerReferences,
+    &CheckExclusions,  &CheckAmbiguousNames, &CheckShortNameReferences,
+    &CheckCycles,      &CheckCodedTypes,     &CheckConstants,
+    &CheckConversions, &CheckKeys,           &CheckUnits,
+    &CheckPlacement,   &CheckRequestsAlike,
 };
 
-/// How far a check is: a step for each layer of each topic.
+/// The progress of a check: a step for each layer of each topic.
 class VSteps {
 public:
     VSteps(std::size_t layers, std::function<void(std::uint64_t done, std::uint64_t all)> const& progress)
@@ -65,7 +68,7 @@ CheckDatabase(NReader::VReadResult& result,
     VViews views;
     for (auto const topic : kTopics) {
         topic({database, result.elements, views, layerDone}, findings);
-        database.StartNewResolver(); // the views of all layers are more than most programs want to hold
+        database.StartNewResolver(); // most programs do not need the views of all layers, which use much memory
         steps.TopicDone();
     }
     std::vector<NReader::VDiagnostic> found = findings.Sorted(database);

@@ -13,7 +13,7 @@ using NReader::VCode;
 /// Every code of the reader and of `CheckDatabase`, in alphabetical order.
 std::vector<VCode> const& Codes();
 
-/// The row of a code; null for a text that is none.
+/// The row of a code; null for a text that is not a code.
 VCode const* FindCode(std::string_view code);
 
 } // namespace NCheck

@@ -63,7 +63,7 @@ VEdges RelatedEdges(NODX201::VReferencable& element) {
 
 using VChain = NReader::VCycleSearch::VChain;
 
-/// What is found of a cycle besides its chain, of which each user needs another part.
+/// Data about a cycle in addition to its chain, of which each user needs another part.
 struct VFoundCycle {
     VCycleKind kind;
     NODX201::VLink* reference;
@@ -101,7 +101,7 @@ private:
     void FindByShortNames(VReferencables const& containers) {
         VReferencables const suspects = containers.empty() ? containers : Suspects(containers);
         if (suspects.empty()) {
-            return; // no layer needs to be asked
+            return; // no layer has to be examined
         }
         NReader::VSuspects const known(suspects, VFollow::Tables);
         NReader::VDopMeanings const meanings(m_database, known.RelevantNames());
@@ -125,8 +125,8 @@ private:
         }
     }
 
-    /// Those that lead into a cycle other than those that are known, short names being followed to whatever bears them:
-    /// nearly always none, and then nothing else is looked at.
+    /// Those that lead into a cycle other than the known ones, where a short name leads to every element with that
+    /// name: nearly always none, and then nothing else is examined.
     VReferencables Suspects(VReferencables const& containers) const {
         return NReader::LeadingIntoCycles(containers,
                                           [this](NODX201::VReferencable& container) { return MayLeadFrom(container); });
@@ -136,7 +136,7 @@ private:
         return NReader::MayLeadFrom(container, VFollow::Tables, m_inEveryLayer);
     }
 
-    /// The ways that contain, without those that are known to close a cycle.
+    /// The ways of containment, without those that are known to close a cycle.
     VEdgesOf Containing(NDIAGKIT::IDopFinder& dops) const {
         return [this, &dops](NODX201::VReferencable& container) {
             VEdges edges = NReader::EdgesOf(container, VFollow::Tables, dops);
@@ -171,7 +171,7 @@ constexpr VCycleText kCycleTexts[] = {
     {VCycleKind::RelatedDiagComms, NCode::RelatedDiagCommCycle, "is related to itself"},
 };
 
-/// One finding for each reference, however many layers read it in how many ways.
+/// One finding for each reference, however many layers read it and in however many ways.
 class VCycleReport {
 public:
     explicit VCycleReport(NMemory::VDatabase& database) : m_database(database) {}
@@ -184,7 +184,7 @@ public:
             m_entries.push_back({text->code,
                                  cycle.reference,
                                  Titled(chain[0]) + ' ' + text->leads,
-                                 "; walks that follow references do not end there: " + ListedIn(chain),
+                                 "; programs that follow references may not terminate: " + ListedIn(chain),
                                  {}});
         }
         if (cycle.layers != nullptr) {

@@ -10,7 +10,7 @@
 
 namespace NCheck {
 
-/// What a cycle runs through.
+/// The kinds of cycle.
 enum class VCycleKind {
     Containment,      ///< DOPs that contain themselves; the reader severs them, so only databases made by hand have any
     TableRows,        ///< DOPs that reach themselves through tables
@@ -19,22 +19,23 @@ enum class VCycleKind {
 
 /// A chain of elements that leads back to its start. Walks and searches that follow references do not end on it.
 struct VCycle {
-    VCycleKind kind; ///< what the chain runs through
-    /// The chain, each element followed by one that it refers to or holds: DOPs, TABLEs and TABLE-ROWs, or DIAG-COMMs.
+    VCycleKind kind; ///< the kind of elements in the chain
+    /// The chain, each element followed by one that it refers to or contains: DOPs, TABLEs and TABLE-ROWs, or
+    /// DIAG-COMMs.
     std::vector<NODX201::VReferencable*> elements;
     NODX201::VLink* reference; ///< the one that leads from the end of the chain back to its start
-    /// The layers in which short names mean these elements, in document order; cycles share them. Null where the
+    /// The layers in which short names refer to these elements, in document order; cycles share them. Null where the
     /// references are all by ID.
     std::shared_ptr<std::vector<NODX201::VDiagLayer*> const> layers;
 };
 
-/// The cycles of a database: for programs that ask before they walk or search. Every reference that closes a chain
-/// gives one cycle: a walk in a layer that follows none of those given for every layer or for that one comes to its
-/// end. First those that exist in every layer, DOPs and tables before DIAG-COMMs, then those that exist by short names
-/// alone, for all layers together in which the names that matter mean the same; these in the order of their first
-/// layers.
+/// The cycles of a database, for programs that check before they walk or search. Every reference that closes a chain
+/// gives one cycle: a walk in a layer terminates if it follows none of the references given for every layer or for that
+/// one. First come those that exist in every layer, DOPs and tables before DIAG-COMMs, then those that exist only by
+/// short names, once for all layers in which the relevant names have the same meaning; these in the order of their
+/// first layers.
 ///
-/// Layers are only looked at when a short name might lead into a cycle at all. Nothing is changed. The pointers are
+/// Layers are only examined when a short name might lead into a cycle at all. Nothing is changed. The pointers are
 /// valid until something is removed from the database.
 std::vector<VCycle> FindCycles(NMemory::VDatabase& database);
 

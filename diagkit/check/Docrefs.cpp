@@ -11,7 +11,7 @@ namespace {
 
 using NMemory::Tag;
 
-/// The documents that an element stands in, as references name them.
+/// The documents that contain an element, by the names used in references.
 struct VPlaces {
     NODX201::VOdxElement const* layer = nullptr;
     NODX201::VOdxElement const* category = nullptr;
@@ -45,7 +45,7 @@ void CheckDocrefs(VChecked const& checked, VFindings& findings) {
         }
         auto const* const entry = checked.database.GetIdIndex().Find(link->GetIdRef());
         if (entry == nullptr || NMemory::IsInNamedDocument(checked.database, *link)) {
-            continue; // one that names nothing is reported as unresolved
+            continue; // one without a target is reported as unresolved
         }
         std::string const doctype = *link->GetDoctype() != L'\0' ? " and DOCTYPE " + Quoted(link->GetDoctype()) : "";
         findings.Add(PositionOf(*reference), NCode::WrongDocref,

@@ -8,7 +8,7 @@
 namespace NCheck {
 namespace {
 
-/// The short names of what is visible of one kind, layer by layer.
+/// The short names of the visible elements of one kind, layer by layer.
 template <class Kind>
 class VNamesOf {
 public:
@@ -29,7 +29,7 @@ private:
     std::unordered_map<NODX201::VDiagLayer*, VNames> m_names;
 };
 
-/// Reports exclusions that name none of the parent's elements.
+/// Reports exclusions that match none of the parent's elements.
 class VExclusions {
 public:
     VExclusions(VViews& views, VFindings& findings)

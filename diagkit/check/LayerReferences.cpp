@@ -11,7 +11,7 @@
 namespace NCheck {
 namespace {
 
-/// A kind of reference from layer to layer, which makes no sense twice.
+/// A kind of reference from layer to layer, which is useless if repeated.
 struct VLayerReference {
     VCode code;
     NODX201::VDiagLayer* (*targetOf)(NODX201::VOdxElement& element); ///< null for other elements too
@@ -41,7 +41,7 @@ void CheckRepeated(VChecked const& checked, VLayerReference const& kind, VFindin
     for (NODX201::VOdxElement* const element : checked.elements) {
         NODX201::VDiagLayer* const target = kind.targetOf(*element);
         if (target == nullptr || target == element->GetOwner()) {
-            continue; // reported as unresolved, and as a layer that names itself
+            continue; // reported as unresolved, or as a layer that refers to itself
         }
         NODX201::VOdxElement* const first = firsts.try_emplace({element->GetOwner(), target}, element).first->second;
         if (first != element) {
@@ -63,10 +63,10 @@ NReader::VEdges ImportsOf(NODX201::VReferencable& layer) {
 }
 
 void ReportCycle(NReader::VEdge const& closing, NReader::VCycleSearch::VChain const& chain, VFindings& findings) {
-    std::string const ring = chain.Count() > 1 ? ", in the ring of " + ListedIn(chain) : "";
+    std::string const ring = chain.Count() > 1 ? ", in the cycle of " + ListedIn(chain) : "";
     findings.Add(PositionOf(*closing.link), NCode::ImportCycle,
                  Titled(chain[0]) + " imports itself by this reference" + ring +
-                     "; programs that follow imports do not end there");
+                     "; programs that follow imports may not terminate");
 }
 
 void CheckImportCycles(VChecked const& checked, VFindings& findings) {

@@ -85,7 +85,6 @@ NODX201::VOdxElement* TargetInFlash(NODX201::VLink& reference) {
 }
 
 NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference) {
-    NODX201::VOdxElement* anchor = nullptr;
     for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
         bool const isAnchor = dynamic_cast<NODX201::VDiagComm*>(object) != nullptr ||
                               dynamic_cast<NODX201::VRequest*>(object) != nullptr ||
@@ -93,10 +92,10 @@ NODX201::VOdxElement* AnchorOf(NODX201::VLink const& reference) {
                               dynamic_cast<NODX201::VDopBase*>(object) != nullptr ||
                               dynamic_cast<NODX201::VDiagVariable*>(object) != nullptr;
         if (isAnchor) {
-            anchor = dynamic_cast<NODX201::VOdxElement*>(object); // the outermost: ENV-DATA stands in an ENV-DATA-DESC
+            return dynamic_cast<NODX201::VOdxElement*>(object);
         }
     }
-    return anchor;
+    return nullptr;
 }
 
 std::vector<NODX201::VDiagLayer*> LayersOfConnector(NODX201::VLink const& reference) {

@@ -44,7 +44,7 @@ VServiceGraph::VNode VServiceGraph::NodeOf(NODX201::VReferencable& container) {
 }
 
 void VServiceGraph::Explore(NDIAGKIT::IDopFinder& dops) {
-    for (VNode node = 0; node < m_elements.size(); ++node) { // grows on the way
+    for (VNode node = 0; node < m_elements.size(); ++node) { // grows during the loop
         if (m_elements[node] == nullptr) {
             continue;
         }
@@ -54,7 +54,7 @@ void VServiceGraph::Explore(NDIAGKIT::IDopFinder& dops) {
     }
 }
 
-/// Finds the components, what is contained before all that contains it (Tarjan's algorithm, with a list in place of
+/// Finds the components, contained nodes before all that contain them (Tarjan's algorithm, with a list in place of
 /// recursion).
 class VServiceGraph::VComponentSearch {
 public:
@@ -134,7 +134,7 @@ private:
     std::size_t m_count = 0;
 };
 
-/// From the services on: what is contained comes after all that contains it.
+/// From the services on: contained nodes come after all that contain them.
 void VServiceGraph::MakeGroups() {
     std::size_t count = 0;
     std::tie(m_components, count) = VComponentSearch(m_to).Find();
@@ -194,7 +194,7 @@ std::vector<VServiceGraph::VNode> VServiceGraph::ServicesOf(VGroup group) const 
     std::vector<VNode> services;
     std::unordered_set<VGroup> seen{group};
     std::vector<VGroup> groups{group};
-    for (std::size_t next = 0; next < groups.size(); ++next) { // grows on the way
+    for (std::size_t next = 0; next < groups.size(); ++next) { // grows during the loop
         if (m_groupContainers[groups[next]].empty()) {
             services.push_back(m_groupService[groups[next]]);
         }
@@ -214,7 +214,7 @@ void VServiceGraph::LookBelow(VGroup group) {
     m_asked = group;
     m_below = ServicesOf(group);
     m_isBelow.clear();
-    for (std::size_t next = 0; next < m_below.size(); ++next) { // grows on the way
+    for (std::size_t next = 0; next < m_below.size(); ++next) { // grows during the loop
         for (VNode const to : m_to[m_below[next]]) {
             if (m_isBelow.insert(to).second) {
                 m_below.push_back(to);
@@ -223,7 +223,8 @@ void VServiceGraph::LookBelow(VGroup group) {
     }
 }
 
-/// Whether `take` says so for one of the parameters that stand in what was looked at last; looks at whatever is fewer.
+/// Whether `take` returns true for one of the parameters below the group that was queried last; searches the smaller
+/// set.
 template <class Take>
 bool VServiceGraph::AnyBelow(VHolders const& holders, Take take) const {
     if (holders.size() < m_below.size()) {

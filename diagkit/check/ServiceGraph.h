@@ -14,14 +14,14 @@
 
 namespace NCheck {
 
-/// What the messages of some DIAG-SERVICEs lead to in one layer, for the question which parameters an ENV-DATA-DESC may
-/// read: those of whatever message leads to it.
+/// The targets of the messages of some DIAG-SERVICEs in one layer, to find the parameters that an ENV-DATA-DESC may
+/// read: those of every message that leads to it.
 class VServiceGraph {
 public:
     VServiceGraph(std::vector<NODX201::VDiagComm*> const& diagComms, NDIAGKIT::IDopFinder& dops);
 
-    /// Whether a service that leads to the ENV-DATA-DESC has a VALUE parameter of that name in what its messages lead
-    /// to; nothing where none leads to it.
+    /// Whether a service that leads to the ENV-DATA-DESC has a VALUE parameter of that name below its messages; nothing
+    /// where none leads to it.
     std::optional<bool> HasParamFor(NODX201::VEnvDataDesc& envDataDesc, std::wstring_view shortName);
 
     /// All these parameters; of several in one STRUCTURE or message, the first.
@@ -30,9 +30,10 @@ public:
 
 private:
     using VNode = std::size_t;
-    /// Nodes that lead to one another, in whatever circles, are one component.
+    /// Nodes that lead to one another, in any cycles, are one component.
     using VComponent = std::size_t;
-    /// Components that the same services lead to are in one group; it is told by the groups of what contains them.
+    /// Components to which the same services lead are in one group; it is identified by the groups of the containing
+    /// components.
     using VGroup = std::size_t;
 
     class VComponentSearch;
@@ -64,7 +65,7 @@ private:
     std::map<std::vector<VGroup>, VGroup> m_groupsByContainers;
     std::map<VQuestion, bool> m_answers;
     std::map<VQuestion, std::vector<NODX201::VOdxElement*>> m_params;
-    std::vector<VNode> m_below; // what the services of the group that was asked about last lead to
+    std::vector<VNode> m_below; // nodes below the services of the group that was queried last
     std::unordered_set<VNode> m_isBelow;
     std::optional<VGroup> m_asked;
 };

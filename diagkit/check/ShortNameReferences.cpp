@@ -12,7 +12,7 @@
 namespace NCheck {
 namespace {
 
-/// A reference by short name, and in how many of the layers tried it names nothing.
+/// A reference by short name, and the number of layers tried in which it has no target.
 struct VPending {
     NODX201::VLink* reference;
     VWantedName wanted;
@@ -23,7 +23,7 @@ struct VPending {
     NMemory::VMemMultipleEcuJobSpec* spec = nullptr; ///< that it stands in, and that does not have the name itself
 };
 
-/// What messages say that a reference wants.
+/// The required kind of target, in messages.
 char const* TextOf(VWantedName wanted) {
     switch (wanted) {
     case VWantedName::Dop:
@@ -67,8 +67,9 @@ public:
         if (m_pending.empty()) {
             return;
         }
+        VPlacesById const byId(m_checked.elements, DopsAmong(m_at));
         for (NODX201::VDiagLayer* const layer : LayersOf(m_checked.database)) {
-            TryIn(*layer);
+            TryIn(*layer, byId);
             m_checked.layerDone();
         }
         for (VPending const& pending : m_pending) {
@@ -79,7 +80,7 @@ public:
 private:
     using VIndices = std::vector<std::size_t>; // of pending ones
 
-    /// A MULTIPLE-ECU-JOB-SPEC, and its references that its own dictionary does not answer.
+    /// A MULTIPLE-ECU-JOB-SPEC, and its references that its own dictionary does not resolve.
     struct VSpec {
         explicit VSpec(NMemory::VMemMultipleEcuJobSpec& spec) : names(spec), layers(LayersOfJobs(spec)) {}
 
@@ -107,7 +108,8 @@ private:
         }
     }
 
-    /// What the dictionary of the job's document does not have, the layers in which its jobs run may.
+    /// References that the dictionary of the job's document does not resolve may be resolved in the layers in which its
+    /// jobs run.
     void AddOfSpec(NMemory::VMemMultipleEcuJobSpec& spec, std::size_t index) {
         auto const [known, isNew] = m_specs.try_emplace(&spec, spec);
         VSpec& of = known->second;
@@ -125,18 +127,18 @@ private:
         of.pending.push_back(index);
     }
 
-    void TryIn(NODX201::VDiagLayer& layer) {
+    void TryIn(NODX201::VDiagLayer& layer, VPlacesById const& byId) {
         VVisibleNames names(layer, m_checked.views);
         if (auto const specs = m_specsOf.find(&layer); specs != m_specsOf.end()) {
             for (VSpec const* const spec : specs->second) {
                 Try(spec->pending, names, layer);
             }
         }
-        ForEachPlaceIn(layer, names, m_checked.views,
+        ForEachPlaceIn(layer, names, m_checked.views, byId,
                        [&](NODX201::VOdxElement const& place) { TryAt(place, names, layer); });
     }
 
-    /// Tries the references that stand in an element, once in each layer.
+    /// Tries the references inside an element, once in each layer.
     void TryAt(NODX201::VOdxElement const& place, VVisibleNames& names, NODX201::VDiagLayer& layer) {
         if (auto const found = m_at.find(&place); found != m_at.end()) {
             Try(found->second, names, layer);
@@ -171,7 +173,7 @@ private:
         }
         bool const isNowhere = pending.failed == pending.tried;
         if (!isNowhere && pending.wanted == VWantedName::Protocol) {
-            return; // it says for which PROTOCOL something holds, and not every layer has that one
+            return; // it gives the PROTOCOL for which something applies, and not every layer has that one
         }
         char const* const rest = isNowhere ? "" : "; it is in the other layers that see the reference";
         findings.Add(PositionOf(*pending.reference),
@@ -199,7 +201,7 @@ void ReportInFlash(NODX201::VLink& reference, NMemory::VMemFlash const& flash, c
                  Named(reference) + ", but the " + Titled(flash) + " has no " + kind + " of that name");
 }
 
-/// References that stand in flash data and name flash data.
+/// References from flash data to flash data.
 void CheckFlash(NODX201::VLink& reference, VFindings& findings) {
     auto* const flash = Around<NMemory::VMemFlash>(reference);
     auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&reference.GetLink());

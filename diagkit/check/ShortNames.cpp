@@ -30,7 +30,7 @@ void CheckCharacters(NODX201::VOdxElement const& element, VFindings& findings) {
     findings.Add(PositionOf(element), NCode::ShortNameCharacters, Titled(element) + ' ' + what);
 }
 
-/// What shares its names with others in one list: ODX has several element kinds in some.
+/// The list in which names are shared: some lists of ODX have several element kinds.
 std::wstring_view ListOf(NODX201::VOdxElement const& element) {
     if (dynamic_cast<NODX201::VDiagLayer const*>(&element) != nullptr) {
         return L"layer";
@@ -47,10 +47,10 @@ std::wstring_view ListOf(NODX201::VOdxElement const& element) {
 
 struct VNamed {
     NODX201::VOdxElement const* element;
-    NODX201::VOdxElement const* named; ///< the same, or what a reference in the list brings into it
+    NODX201::VOdxElement const* named; ///< the same, or the target of a reference in the list
 };
 
-/// What a DIAG-COMM-REF or DIAG-VARIABLE-REF brings into the list of its layer; null for other elements.
+/// The target of a DIAG-COMM-REF or DIAG-VARIABLE-REF in the list of its layer; null for other elements.
 NODX201::VOdxElement const* BroughtBy(NODX201::VOdxElement& element) {
     auto* const layer = dynamic_cast<NODX201::VDiagLayer*>(element.GetOwner());
     if (layer == nullptr) {
@@ -73,7 +73,7 @@ std::string ShownFirst(VNamed const& entry) {
     return (entry.named != entry.element ? "what is named by the " : "the ") + TagOf(*entry.element);
 }
 
-/// Looks at elements that can stand several times in what owns them. The categories are the files' own.
+/// Checks elements that may occur several times in their owner. The names of categories are left to the files.
 void CheckDuplicates(VChecked const& checked, VFindings& findings) {
     using VKey = std::tuple<NODX201::VOdxObject const*, std::wstring_view, std::wstring_view>;
     struct VHash {

@@ -15,13 +15,13 @@
 
 namespace NCheck {
 
-/// What the topics report, each kind a `VCode` of its name.
+/// The findings of the topics, each kind a `VCode` of its name.
 namespace NCode {
 #define DIAGNOSTIC(name, code, severity, title) inline constexpr VCode name{code, NReader::VSeverity::severity, title};
 #include <diagkit/check/Codes.def>
 } // namespace NCode
 
-/// What the topics look at, and whom they tell how far they are.
+/// The input of the topics, and their progress callback.
 struct VChecked {
     NMemory::VDatabase& database;
     std::vector<NODX201::VOdxElement*> const& elements; ///< all, in document order
@@ -29,7 +29,7 @@ struct VChecked {
     std::function<void()> const& layerDone;             ///< called by topics that take layers one by one
 };
 
-/// The innermost element of the class that an element stands in, perhaps itself; null where there is none.
+/// The innermost element of the class around an element, possibly itself; null where there is none.
 template <class Element>
 Element* Around(NODX201::VOdxElement& inner) {
     for (NODX201::VOdxObject* object = &inner; object != nullptr; object = object->GetOwner()) {
@@ -42,7 +42,7 @@ Element* Around(NODX201::VOdxElement& inner) {
 
 std::string ListedIn(NReader::VCycleSearch::VChain const& chain); ///< the titles of its elements, as `Listed` has them
 
-// What they collect findings in, and how messages name things.
+// Functions to collect findings, and to name elements in messages.
 using NReader::InLayers;
 using NReader::kMostListed;
 using NReader::LayersOf;
@@ -53,7 +53,7 @@ using NReader::TagOf;
 using NReader::Titled;
 using NReader::VFindings;
 
-// The topics, each in the source of its name. They report in no particular order, but the same one on every run.
+// The topics, each in the source of its name. The order of their findings is unspecified, but the same on every run.
 void CheckShortNames(VChecked const& checked, VFindings& findings);
 void CheckDocrefs(VChecked const& checked, VFindings& findings);
 void CheckLayerReferences(VChecked const& checked, VFindings& findings);
@@ -61,5 +61,12 @@ void CheckExclusions(VChecked const& checked, VFindings& findings);
 void CheckAmbiguousNames(VChecked const& checked, VFindings& findings);
 void CheckShortNameReferences(VChecked const& checked, VFindings& findings);
 void CheckCycles(VChecked const& checked, VFindings& findings);
+void CheckCodedTypes(VChecked const& checked, VFindings& findings);
+void CheckConstants(VChecked const& checked, VFindings& findings);
+void CheckConversions(VChecked const& checked, VFindings& findings);
+void CheckKeys(VChecked const& checked, VFindings& findings);
+void CheckUnits(VChecked const& checked, VFindings& findings); // in Keys.cpp
+void CheckPlacement(VChecked const& checked, VFindings& findings);
+void CheckRequestsAlike(VChecked const& checked, VFindings& findings);
 
 } // namespace NCheck

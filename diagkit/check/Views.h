@@ -12,7 +12,7 @@
 #include <diagkit/model/Responses.h>
 #include <diagkit/tools/Inheritance.h>
 
-/// What is visible in a layer, as plain lists in view order, and what of it is the layer's own.
+/// The elements visible in a layer, as plain lists in view order, and which of them are the layer's own.
 
 namespace NCheck {
 
@@ -26,7 +26,7 @@ std::vector<NODX201::VDopBase*> OwnDops(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VDiagVariable*> OwnDiagVariables(NODX201::VDiagLayer& layer);
 std::vector<NODX201::VGlobalNegResponse*> OwnGlobalNegResponses(NODX201::VDiagLayer& layer);
 
-/// What is visible in the layers of one database, parents being looked at once.
+/// The elements visible in the layers of one database; parents are computed once.
 struct VViews {
     NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDiagComms> diagComms;
     NDIAGKIT::VInheritance<NDIAGKIT::VInheritedDops> dops;

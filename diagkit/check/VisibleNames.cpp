@@ -21,11 +21,11 @@ Element* FindIn(std::unordered_map<std::wstring_view, Element*> const& byName, s
     return found != byName.end() ? found->second : nullptr;
 }
 
-/// A layer and all that it inherits from, each once.
+/// A layer and all layers from which it inherits, each once.
 std::vector<NDIAGKIT::VLayerOfKind> WithAncestors(NODX201::VDiagLayer& layer) {
     std::vector<NDIAGKIT::VLayerOfKind> layers{layer};
     std::unordered_set<NODX201::VDiagLayer*> seen{&layer};
-    for (std::size_t next = 0; next < layers.size(); ++next) { // grows on the way
+    for (std::size_t next = 0; next < layers.size(); ++next) { // grows during the loop
         for (NDIAGKIT::VParent const& parent : NDIAGKIT::ParentsOf(layers[next])) {
             if (seen.insert(parent.layer.layer).second) {
                 layers.push_back(parent.layer);
@@ -65,12 +65,12 @@ VElementsByName TablesFor(NODX201::VDiagLayer& layer) {
     return tables;
 }
 
-/// Collects all VALUE parameters below others; of one name the one that is met first.
+/// Collects all VALUE parameters below others; of one name the one found first.
 class VParamCollector : public NDIAGKIT::VParamWalk {
 public:
     VParamCollector(NDIAGKIT::IDopFinder& dops, VElementsByName& params) : VParamWalk(dops), m_params(params) {}
 
-    /// The parameters of messages, and then what they contain.
+    /// The parameters of messages, and then those below them.
     void WalkAll(std::vector<NODX201::VParamCollection*> const& messages) {
         for (NODX201::VParamCollection* const params : messages) {
             for (NODX201::VParam& param : *params) {

@@ -15,7 +15,7 @@
 
 namespace NCheck {
 
-/// What short names mean in one layer. What has been asked is remembered.
+/// The meaning of short names in one layer. Results are cached.
 class VVisibleNames final : private NDIAGKIT::IDopFinder {
 public:
     VVisibleNames(NODX201::VDiagLayer& layer, VViews& views);
@@ -23,15 +23,15 @@ public:
     VVisibleNames(VVisibleNames const&) = delete;
     VVisibleNames& operator=(VVisibleNames const&) = delete;
 
-    /// Whether a reference by short name, which stands in an element visible in the layer, names something. Nothing for
-    /// a reference to a parameter of a DIAG-COMM that is not there itself, and for the one of an ENV-DATA-DESC to which
-    /// no DIAG-SERVICE of the layer leads: jobs make their answers themselves.
+    /// Whether a reference by short name, in an element visible in the layer, has a target. Nothing for a reference to
+    /// a parameter of a DIAG-COMM that is missing itself, and for that of an ENV-DATA-DESC to which no DIAG-SERVICE of
+    /// the layer leads: jobs make their responses themselves.
     std::optional<bool> Resolves(NODX201::VLink& reference);
 
-    /// What such a reference names; nothing when it does not resolve. Several parameters for the one of an
-    /// ENV-DATA-DESC: those of the name in all that the messages of the services lead to that lead to it. Of parameters
-    /// of one name, a DIAG-COMM has the first: those of the responses go before those of the request, and those of a
-    /// message itself before what they contain. Valid until the next question.
+    /// The targets of such a reference; empty when it does not resolve. There can be several parameters for that of an
+    /// ENV-DATA-DESC: those of the name below the messages of all services whose messages lead to it. Of parameters of
+    /// one name in a DIAG-COMM only the first counts: those of the responses come before those of the request, and
+    /// those of a message itself before nested ones. Valid until the next call.
     std::vector<NODX201::VOdxElement*> const& TargetsOf(NODX201::VLink& reference);
 
     std::vector<NODX201::VDiagComm*> const& DiagComms() const { return m_diagComms; }
@@ -49,10 +49,10 @@ private:
     NODX201::VOdxElement* FindTable(std::wstring_view shortName);
     VServiceGraph& Services();
 
-    /// For references to anything but the parameters of an ENV-DATA-DESC. Nothing where `Resolves` says nothing.
+    /// For references to anything but the parameters of an ENV-DATA-DESC. Nothing where `Resolves` returns nothing.
     std::optional<NODX201::VOdxElement*> FindOne(NODX201::VLink& reference);
 
-    /// The DIAG-COMM that stands beside a reference to one of its parameters; null when it does not resolve.
+    /// The DIAG-COMM to which a reference to one of its parameters belongs; null when it does not resolve.
     NODX201::VDiagComm* DiagCommBeside(NODX201::VLink& reference) const;
     NODX201::VDiagComm* TargetOf(NODX201::VDiagCommLink& link) const;
     NODX201::VOdxElement* FindParam(NODX201::VDiagComm& diagComm, std::wstring_view shortName, bool isInput);
@@ -69,15 +69,15 @@ private:
     std::optional<VElementsByName> m_tables;
     std::optional<VServiceGraph> m_services;
     std::map<std::pair<NODX201::VDiagComm*, bool>, VElementsByName> m_params; ///< output or input parameters
-    std::vector<NODX201::VOdxElement*> m_targets;                             ///< of the latest question
+    std::vector<NODX201::VOdxElement*> m_targets;                             ///< of the latest call
 };
 
-/// What short names of DOPs mean in a MULTIPLE-ECU-JOB-SPEC by itself: its dictionary.
+/// The meaning of short names of DOPs in a MULTIPLE-ECU-JOB-SPEC itself: its dictionary.
 class VNamesOfSpec {
 public:
     explicit VNamesOfSpec(NMemory::VMemMultipleEcuJobSpec& spec);
 
-    /// Null when it means none, and for a reference to anything but a DOP. REQUIRES: a reference by short name.
+    /// Null when it has no target, and for a reference to anything but a DOP. REQUIRES: a reference by short name.
     NODX201::VDopBase* Find(NODX201::VLink& reference) const;
 
 private:

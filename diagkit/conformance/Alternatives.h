@@ -14,7 +14,7 @@
 #include <diagkit/model/Sdgs.h>
 #include <diagkit/model/Tables.h>
 
-/// The interfaces that only tell alternatives apart: what each of their tests says, and whether the cast works.
+/// The interfaces that only distinguish alternatives: the result of each test, and whether the cast works.
 
 namespace NConformance {
 
@@ -60,10 +60,10 @@ TWO_ALTERNATIVES(IBasicStructureEnvDataDescChoice,     IsBasicStructureLink, VBa
 #undef ALTERNATIVE
 #undef TWO_ALTERNATIVES
 
-/// What an operation hands out: an element, by its class or by an interface.
+/// The result of an operation: an element, by its class or by an interface.
 struct VChild {
     void const* address = nullptr;
-    NODX201::VOdxElement* element = nullptr; ///< null where an interface is of no element
+    NODX201::VOdxElement* element = nullptr; ///< null where the object behind an interface is not an element
     VAlternatives alternatives{};
 };
 

@@ -31,7 +31,7 @@ bool Is(VOdxElement& element) {
     return dynamic_cast<Class*>(&element) != nullptr;
 }
 
-/// Kinds that others are derived from: they count only where none of those fits.
+/// Kinds from which others are derived: they count only where none of those fits.
 std::vector<VKind> const& GeneralKinds() {
     static std::vector<VKind> const kinds = {
         {L"VParentRef", &Is<VParentRef>, {Tag::ParentRef}},
@@ -40,7 +40,8 @@ std::vector<VKind> const& GeneralKinds() {
     return kinds;
 }
 
-/// An element that a class stands for: what the rows of all classes call its references, and limits, which have two.
+/// An element that a class represents: the names that the rows of all classes give its references, and limits, which
+/// have two.
 struct VUse {
     std::wstring_view kind;
     wchar_t const* odxElement;
@@ -106,7 +107,7 @@ void CollectKinds(std::vector<VKind> const& kinds, VOdxElement& element, std::ve
     }
 }
 
-/// Writes down what an element calls back. Elements are compared by where their part of `VOdxElement` is.
+/// Records what an element calls back. Elements are compared by the address of their `VOdxElement` part.
 class VRecorder : public VDiagLayerVisitor, public VDiagCommVisitor, public VDopBaseVisitor, public VParamVisitor {
 public:
     explicit VRecorder(VOdxElement& element) : m_element(&element) { m_visit.calls = 0; }

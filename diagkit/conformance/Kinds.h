@@ -8,17 +8,17 @@
 
 namespace NConformance {
 
-/// A class of the contract that elements are of, and the tags that it stands for.
+/// A class of the contract that elements can have, and the tags that it represents.
 struct VKind {
     wchar_t const* name;
     bool (*isOf)(NODX201::VOdxElement& element);
     std::vector<NODX201::VOdxTagEnum> tags;
 };
 
-/// The kinds that an element is of: one, if the model is sound.
+/// The kinds of an element: one, if the model is correct.
 std::vector<VKind const*> KindsOf(NODX201::VOdxElement& element);
 
-/// What `Accept` calls back. An element that takes no visitor is fine: it called once, with itself.
+/// What `Accept` calls back. For an element that takes no visitor: one call, with itself.
 struct VVisit {
     bool isToCall = true;
     int calls = 1;

@@ -18,7 +18,7 @@ namespace {
 
 using namespace NODX201;
 
-/// What is asked with each DIAG-COMM that the layer itself holds, which is where the link may be read.
+/// The queries with each of the layer's own DIAG-COMMs, which is where the link may be read.
 std::vector<VQuestion> QuestionsFor(VOutParamIfLink& link, VDiagLayer& layer) {
     std::vector<VQuestion> questions;
     for (IDiagCommProxy& proxy : layer.DiagCommProxyCollection()) {
@@ -31,7 +31,7 @@ std::vector<VQuestion> QuestionsFor(VOutParamIfLink& link, VDiagLayer& layer) {
     return questions;
 }
 
-/// How a link of this class is asked, if the link is one; a class without a target in the contract is not asked.
+/// How a link of this class is queried, if the link is one; a class without a target in the contract is not queried.
 template <class Link, class Has, class Get>
 void AskIf(VLink& link, std::vector<VQuestion>& questions, Has has, Get get) {
     if constexpr (std::is_invocable_v<Has, Link&>) {

@@ -9,17 +9,17 @@
 
 namespace NConformance {
 
-/// A way to ask a link for its target.
+/// A way to query a link for its target.
 struct VQuestion {
     std::function<bool()> has;
     std::function<VChild()> get;
 };
 
-/// The ways for a link in the context of a layer, or, with null, in none; a link that needs one has none then. A
-/// COMPARAM-REF and a PARENT-REF of no kind have no target in the contract.
+/// The queries for a link in the context of a layer or, with null, without context; a link that needs one then has
+/// none. A COMPARAM-REF and a PARENT-REF of unknown kind have no target in the contract.
 std::vector<VQuestion> QuestionsFor(NODX201::VLink& link, NODX201::VDiagLayer* layer);
 
-/// Whether its answer may depend on the layer.
+/// Whether its result may depend on the layer.
 bool IsAskedForLayer(NODX201::VLink& link);
 
 } // namespace NConformance

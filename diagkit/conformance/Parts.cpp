@@ -24,7 +24,7 @@ void If(NODX201::VOdxElement& odxElement, WalkPartsOf walkParts) {
 template <class WalkPartsOf>
 void Never(WalkPartsOf) {}
 
-// What the rows say of a class goes beyond the contract in places. Only what the contract has can be asked.
+// In places the rows of a class go beyond the contract. Only what is in the contract can be called.
 
 template <class X, class Has, class Get>
 void WalkChild(VWalk& walk, wchar_t const* operation, X& x, Has has, Get get) {
@@ -64,7 +64,7 @@ void WalkOptionalList(VWalk& walk, wchar_t const* operation, X& x, Has has, Get 
     }
 }
 
-/// Calls an operation of whatever class has it.
+/// Calls an operation of any class that has it.
 #define CALL(operation) [](auto& asked) -> decltype(asked.operation()) { return asked.operation(); }
 
 #define CHILD(name) WalkChild(walk, L"Get" L## #name, x, CALL(Has##name), CALL(Get##name));
@@ -89,7 +89,7 @@ void WalkScalesOrProgCode(VWalk& walk, NODX201::VCompuInternalToPhys& x) {
               [&x] { return ListOf(dynamic_cast<NODX201::VCompuScaleCollection&>(x.GetCompuScalesProgCodeChoice())); });
 }
 
-/// What no row says.
+/// Parts that are not in any row.
 void WalkOtherParts(VWalk& walk, NODX201::VOdxElement& odxElement) {
     walk.Name(L"GetShortName", [&odxElement] { return odxElement.GetShortName(); });
     If<NODX201::VReferencable>(odxElement, [&walk](auto& x) { TEXT(Id) });

@@ -26,7 +26,7 @@ namespace {
 
 using namespace NODX201;
 
-/// Writes down what the toolkit's views make of a model that was walked.
+/// Records the results of the toolkit's views for a model that was walked.
 class VViewAnswers {
 public:
     VViewAnswers(VWalk const& walk, std::vector<std::wstring>& answers) : m_walk(walk), m_answers(answers) {}

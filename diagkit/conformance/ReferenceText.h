@@ -3,7 +3,7 @@
 
 namespace NConformance {
 
-/// The text of reference.txt; the build makes the source of it.
+/// The text of reference.txt; the build generates its source.
 extern wchar_t const* const kReferenceText;
 
 } // namespace NConformance

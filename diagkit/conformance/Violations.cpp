@@ -11,7 +11,7 @@ constexpr int kToldOfEachCheck = 10;
 
 wchar_t const* NameOf(VCheckId check) { return Checks()[static_cast<std::size_t>(check)].name; }
 
-/// The answers by what is asked: all up to the first ": ".
+/// The answers by question: everything up to the first ": ".
 std::map<std::wstring, std::wstring> ByQuestion(std::vector<std::wstring> const& answers) {
     std::map<std::wstring, std::wstring> byQuestion;
     for (std::wstring const& answer : answers) {
@@ -21,7 +21,7 @@ std::map<std::wstring, std::wstring> ByQuestion(std::vector<std::wstring> const&
     return byQuestion;
 }
 
-/// What is in `left` and not, or otherwise, in `right`, in the order of `left`.
+/// Reports entries of `left` that are missing in `right`, or different there, in the order of `left`.
 template <class Report>
 void EachUnlike(std::vector<std::wstring> const& left, std::vector<std::wstring> const& right, Report report) {
     std::map<std::wstring, std::wstring> const others = ByQuestion(right);

@@ -13,10 +13,10 @@ enum class VCheckId : int {
 #include <diagkit/conformance/Checks.def>
 };
 
-/// Collects what is found.
+/// Collects violations.
 class VViolations {
 public:
-    /// Without effect when the check has been told of often enough.
+    /// No effect when the check has been reported often enough.
     void Add(VCheckId check, std::wstring where, std::wstring expected, std::wstring found);
     std::vector<VViolation> Take() { return std::move(m_violations); }
 
@@ -25,7 +25,7 @@ private:
     std::map<VCheckId, int> m_told;
 };
 
-/// For every answer that is missing, another or not meant, in the order of what is expected.
+/// For every answer that is missing, different or unexpected, in the order of what is expected.
 std::vector<VViolation> CompareAnswers(std::vector<std::wstring> const& expected,
                                        std::vector<std::wstring> const& found);
 

@@ -15,10 +15,10 @@ namespace {
 
 using namespace NODX201;
 
-/// Longer than any chain of owners, to leave one that runs in a circle.
+/// Longer than any chain of owners, to end one that forms a cycle.
 constexpr int kLongestChain = 10000;
 
-/// Layers and containers are known by name; of all others the path says what they are.
+/// Layers and containers are shown by name; for all others the path shows what they are.
 std::wstring Shortened(VOdxElement& element, std::wstring const& component) {
     bool const isKnown =
         dynamic_cast<VDiagLayer*>(&element) != nullptr || dynamic_cast<VDiagLayerContainer*>(&element) != nullptr;
@@ -28,7 +28,7 @@ std::wstring Shortened(VOdxElement& element, std::wstring const& component) {
 
 std::wstring Quoted(wchar_t const* text) { return L"'" + std::wstring(text) + L"'"; }
 
-/// The last of an object's owners: the root, unless the chain runs in a circle.
+/// The last of an object's owners: the root, unless the chain forms a cycle.
 VOdxObject const& TopOf(VOdxObject const& object) {
     VOdxObject const* top = &object;
     for (int length = 0; length < kLongestChain && top->GetOwner() != nullptr; ++length) {
@@ -59,7 +59,7 @@ void VWalk::WalkModel(VModel const& model) {
     CheckTexts();
 }
 
-/// What owns it is the model's affair, but targets may lie there as well.
+/// Its owner is up to the model, but targets may be in it as well.
 void VWalk::EnterDocument(VOdxElement& document) {
     VOdxObject* owner = nullptr;
     Ask(L"GetOwner", [&] {
@@ -91,7 +91,7 @@ std::wstring VWalk::PathOf(VOdxElement const& element) const {
 void VWalk::Enter(VOdxElement& element, VOdxObject* owner, std::wstring const& component) {
     std::wstring const name = Shortened(element, component);
     std::wstring const path = m_path.empty() ? name : m_path + L"/" + name;
-    // A DIAG-COMM that a layer lists twice is met twice; whatever contains itself must not be followed.
+    // A DIAG-COMM that a layer lists twice is met twice; an element that contains itself must not be followed.
     if (!m_paths.emplace(&element, path).second) {
         return;
     }

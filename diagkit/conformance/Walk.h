@@ -14,9 +14,9 @@
 
 namespace NConformance {
 
-/// An entry of a collection, whatever that is a collection of.
+/// An entry of a collection of any type.
 struct VEntry {
-    void const* address = nullptr; ///< null where the collection holds a null
+    void const* address = nullptr; ///< null where the collection contains a null
     VChild child{};
     NODX201::VProcessingInstruction* instruction = nullptr;
     std::wstring const* text = nullptr;
@@ -30,7 +30,7 @@ struct VList {
     std::vector<VEntry> entries{};
 };
 
-/// The only way to a null entry, which an iterator cannot hand out.
+/// The only access to a null entry, which an iterator cannot return.
 template <class T>
 struct VInside : NODX201::VElementCollection<T> {
     static auto const& ListOf(NODX201::VElementCollection<T>& collection) { return collection.*(&VInside::m_elements); }
@@ -70,8 +70,8 @@ VList ListOf(Collection& collection) {
     return list;
 }
 
-/// Walks a database once, from the root down, checks every promise on the way and, if wanted, writes down the answers.
-/// Links are asked at the end, when all elements are known.
+/// Walks a database once, from the root down, checks every promise on the way and, if requested, records the answers.
+/// Links are queried at the end, when all elements are known.
 class VWalk {
 public:
     using VHas = std::function<bool()>;
@@ -87,7 +87,7 @@ public:
     std::wstring PathOf(NODX201::VOdxElement const& element) const;
     std::vector<NODX201::VDiagLayer*> const& Layers() const { return m_layers; }
 
-    // What the facts about the classes do, for the element that the walk is at. `has` may be empty.
+    // Called for the facts about the classes, with the current element. `has` may be empty.
 
     void Name(wchar_t const* operation, VGetText const& get);
     void Text(wchar_t const* operation, VHas const& has, VGetText const& get);
@@ -95,7 +95,7 @@ public:
     void List(wchar_t const* operation, VHas const& has, VGetList const& get);
     void Link(NODX201::VLink& link);
 
-    /// Whether an operation of that element threw nothing.
+    /// Whether an operation of that element did not throw.
     bool Ask(wchar_t const* operation, std::function<void()> const& call);
 
 private:
@@ -103,8 +103,8 @@ private:
         NODX201::VLink* link;
         NODX201::VDiagLayer* layer;
         std::wstring path;
-        std::wstring id;        ///< that it names; "" for a short name
-        std::wstring shortName; ///< that it names; "" for an ID
+        std::wstring id;        ///< of its target; "" for a short name
+        std::wstring shortName; ///< of its target; "" for an ID
     };
     struct VKeptText {
         std::wstring where;
@@ -140,8 +140,8 @@ private:
     VViolations& m_violations;
     std::vector<std::wstring>* m_answers;
     std::wstring m_path;
-    NODX201::VOdxElement* m_element = nullptr; // that the walk is at
-    NODX201::VDiagLayer* m_layer = nullptr;    // in which that stands
+    NODX201::VOdxElement* m_element = nullptr; // the current element
+    NODX201::VDiagLayer* m_layer = nullptr;    // the layer that contains it
     std::map<NODX201::VOdxObject const*, std::wstring> m_paths;
     std::vector<NODX201::VOdxObject const*> m_tops; // of the chains of owners
     std::vector<NODX201::VDiagLayer*> m_layers;
@@ -149,7 +149,7 @@ private:
     std::vector<VKeptText> m_texts;
 };
 
-/// Walks what the facts say of the element's class, as far as the contract has it.
+/// Walks the parts in the facts about the element's class, as far as the contract has them.
 void WalkParts(VWalk& walk, NODX201::VOdxElement& element);
 
 } // namespace NConformance

@@ -7,7 +7,7 @@
 
 namespace NLogging {
 
-/// What a host implements to receive the library's log lines.
+/// What a host implements to receive the log messages of the library.
 class DIAGKIT_EXPORT ILogListener {
 public:
     /// One message. Severity 0 is the only one that the library uses. The text is valid during the call.
@@ -21,18 +21,18 @@ protected:
     virtual ~ILogListener();
 };
 
-/// The logger that the library and its host share, one a process. It starts without a listener and enabled; messages
-/// without a listener go nowhere.
+/// The logger shared by the library and its host, one per process. Initially it is enabled and has no listener;
+/// messages without a listener are discarded.
 ///
-/// Not locked: set the listener before the library is used from several threads. The library keeps no listener beyond
-/// the call in which it logs, so a host may remove and destroy its own at any other time.
+/// Not thread-safe: set the listener before the library is used from several threads. The library keeps no listener
+/// beyond the call in which it logs, so a host may remove and destroy its listener at any other time.
 class DIAGKIT_EXPORT VSharedLogger {
 public:
     static VSharedLogger* Instance(); ///< never null
 
-    bool IsEnabled() const; ///< whether it passes messages on
+    bool IsEnabled() const; ///< whether messages are passed on
     void Enable();          ///< messages go to the listener again
-    void Disable();         ///< messages go nowhere until `Enable`
+    void Disable();         ///< messages are discarded until `Enable`
 
     ILogListener* GetLogger() const;        ///< null when no listener is set
     void SetLogger(ILogListener* listener); ///< not owned; null removes it

@@ -9,10 +9,10 @@
 
 namespace NMemory {
 
-/// What an SDG holds: SDs and further SDGs in free mix.
+/// The contents of an SDG: SDs and further SDGs in any combination.
 class VMemSdgContents {
 public:
-    ~VMemSdgContents(); ///< takes no more of the stack however deep SDGs nest
+    ~VMemSdgContents(); ///< uses no more of the call stack for deeply nested SDGs
 
     NODX201::VSdgSdChoiceCollection& Get() const { return m_contents.Get(); }
     VMemCollection<NODX201::VSdgSdChoiceCollection>& Make() { return m_contents.Make(); }

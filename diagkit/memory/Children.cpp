@@ -9,7 +9,7 @@ namespace NMemory {
 
 void RequireById(VReference const& reference) {
     if (reference.IsByShortName()) {
-        throw std::invalid_argument("DIAG-COMMS and DIAG-VARIABLES take references by ID only");
+        throw std::invalid_argument("DIAG-COMMS and DIAG-VARIABLES allow references by ID only");
     }
 }
 

@@ -9,9 +9,9 @@
 #include <diagkit/memory/Link.h>
 #include <diagkit/model/Collections.h>
 
-/// How the classes of the memory model hold their children. The bodies are compiled once for each class, in
-/// `Instances*.cpp` alone, so that a program that uses elements does not compile the whole model again. A child comes
-/// into its parent when it is finished, so that one whose making fails is not there at all.
+/// How the classes of the memory model own their children. The bodies are compiled once for each class, only in
+/// `Instances*.cpp`, so that a program that uses elements does not compile the whole model again. A child is added to
+/// its parent when it is complete, so that a child whose construction fails is not there at all.
 
 namespace NMemory {
 
@@ -47,7 +47,7 @@ public:
     bool Has() const { return m_child != nullptr; }
     Child& Get() const { return *m_child; } ///< REQUIRES: `Has`
     Child& Make(VPlace const& place);       ///< the child, made when it is absent
-    Child& Take(VMemMade<Child> child);     ///< in place of the one before
+    Child& Take(VMemMade<Child> child);     ///< replaces the previous one
     void Remove();                          ///< destroys it; no effect when there is none
 
 private:
@@ -65,14 +65,14 @@ public:
 
     bool Has() const { return m_link != nullptr; }
     Link& Get() const { return *m_link; }                        ///< REQUIRES: `Has`
-    Link& Set(VPlace const& place, VReference const& reference); ///< the link, made or directed at another target
+    Link& Set(VPlace const& place, VReference const& reference); ///< the link, made or given another target
     void Remove();                                               ///< destroys it; no effect when there is none
 
 private:
     Link* m_link = nullptr;
 };
 
-/// One of several alternatives as a member: the new one takes the place of the one before.
+/// One of several alternatives as a member: a new one replaces the previous one.
 template <class Interface>
 class VMemChoice {
 public:
@@ -105,8 +105,8 @@ class VMemStrings {
 public:
     bool IsPresent() const { return m_collection != nullptr; } ///< whether it was ever added to, or made
     NODX201::VStringCollection& Get() const;                   ///< in document order; empty when absent
-    void Make();                                               ///< from now on it is present
-    void Add(VPart& part, wchar_t const* text);                ///< a copy, at the end, which the part holds
+    void Make();                                               ///< makes it present
+    void Add(VPart& part, wchar_t const* text);                ///< a copy, at the end, which the part owns
 
 private:
     class VMemStringCollection : public NODX201::VStringCollection {

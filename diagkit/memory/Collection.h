@@ -10,17 +10,17 @@
 
 namespace NMemory {
 
-// The rows of the classes name collections without saying whether they are the contract's.
+// The rows of the classes name collections of the contract and others alike.
 #define ODX_COLLECTION_CLASS(name, entry) using NODX201::name;
 #include <diagkit/model/facts/Collections.def>
 using NODX201::VCompuScaleCollection;
 
-/// An element that was made and has no place yet. It owns it, as `std::unique_ptr` would, and is as small as can be
-/// because every program that includes the classes has one for each of them.
+/// An element that was made and has no place yet. It owns the element, as `std::unique_ptr` would, and is as small as
+/// possible because every program that includes the classes has one for each of them.
 template <class Element>
 class VMemMade {
 public:
-    explicit VMemMade(Element* element) : m_element(element) {}         ///< takes it over; null for none
+    explicit VMemMade(Element* element) : m_element(element) {}         ///< takes ownership; null for none
     VMemMade(VMemMade&& other) noexcept : m_element(other.Release()) {} ///< leaves the other one empty
     VMemMade& operator=(VMemMade&&) = delete;
     ~VMemMade() { delete m_element; }
@@ -28,7 +28,7 @@ public:
     Element& operator*() const { return *m_element; }
     Element* operator->() const { return m_element; }
 
-    /// The element, which is the caller's from now on.
+    /// The element, which the caller owns from now on.
     Element* Release() noexcept {
         Element* const element = m_element;
         m_element = nullptr;
@@ -44,7 +44,7 @@ template <class Collection>
 class VMemCollection final : public Collection, public VMemHome {
 public:
     using List = typename Collection::List;
-    /// What the list has pointers to.
+    /// The type that the pointers of the list point to.
     using Entry = std::remove_pointer_t<typename List::value_type>;
 
     VMemCollection() = default;
@@ -58,7 +58,7 @@ public:
         }
     }
 
-    /// Takes the element in before the position.
+    /// Inserts the element before the position.
     template <class Element>
     Element& Insert(typename List::iterator before, VMemMade<Element> element) {
         Entry* const entry = &*element;
@@ -66,21 +66,21 @@ public:
         return *element.Release();
     }
 
-    /// Takes in at the end what the caller owned: an element, known as an entry of this collection and as a node.
+    /// Takes ownership, at the end, of an element known as an entry of this collection and as a node.
     void TakeIn(Entry* entry, VMemNode& node) { SetHome(node, this->m_elements.insert(this->m_elements.end(), entry)); }
 
     typename List::iterator EndPosition() { return this->m_elements.end(); } ///< where `Insert` adds at the end
 
-    /// Where an element of this collection stands; the end for any other.
+    /// The position of an element of this collection; the end for any other.
     typename List::iterator Position(VMemNode const& element) {
         return element.m_home == this ? element.m_place.In(this->m_elements) : this->m_elements.end();
     }
 
-    /// Moves an element of the same database from wherever it stands into this collection of `owner`: before the entry
-    /// `before`, or to the end. Links that name it resolve as before, as far as its new place allows. Throws
-    /// std::invalid_argument, and changes nothing, for an element that stands in no collection, such as the one
-    /// REQUEST-REF of a service, for one of another database or of a detached part, for one that `owner` stands in, and
-    /// for an entry `before` that this collection does not hold.
+    /// Moves an element of the same database from its current place into this collection of `owner`: before the entry
+    /// `before`, or to the end. Links to it resolve as before, as far as its new place allows. Throws
+    /// std::invalid_argument, and changes nothing, for an element that is not in a collection, such as the one
+    /// REQUEST-REF of a service, for one of another database or of a detached part, for one that contains `owner`, and
+    /// for an entry `before` that is not in this collection.
     template <class Owner, class Element>
     void Adopt(Owner& owner, Element& element, Entry* before = nullptr) {
         VMemNode& node = element;
@@ -104,8 +104,8 @@ public:
         }
     }
 
-    /// Everything in `other` is about to be destroyed with the entries of this one: it stands here from now on. So what
-    /// is nested however deep is destroyed one after another. Allocates nothing.
+    /// Moves everything in `other` here, where it is about to be destroyed with the entries of this one. So nested
+    /// elements are destroyed one after another, however deep they nest. Allocates nothing.
     void TakeDying(VMemCollection& other) {
         for (auto position = other.m_elements.begin(); position != other.m_elements.end(); ++position) {
             dynamic_cast<VMemNode&>(**position).m_home = this;
@@ -113,7 +113,7 @@ public:
         this->m_elements.splice(this->m_elements.end(), other.m_elements);
     }
 
-    /// For what destroys its entries with `TakeDying`: no entry needs to leave any more.
+    /// For collections whose entries are destroyed with `TakeDying`: entries no longer need to leave.
     typename List::iterator Close() {
         m_isClosing = true;
         return this->m_elements.begin();
@@ -124,7 +124,7 @@ private:
         if constexpr (std::has_virtual_destructor_v<Entry>) {
             delete entry;
         } else {
-            // Proxies have no public destructor; the element behind one has.
+            // Proxies have no public destructor; the element behind a proxy has one.
             delete dynamic_cast<NODX201::VOdxObject*>(entry);
         }
     }
@@ -146,8 +146,8 @@ private:
     bool m_isClosing = false;
 };
 
-/// A repeated child as a member: no collection until the first item or the empty wrapper comes, so that an absent
-/// wrapper costs one pointer. Reads of an absent one get a shared empty collection.
+/// A repeated child as a member: no collection until the first item or the empty wrapper is added, so that an absent
+/// wrapper costs one pointer. Reading an absent one returns a shared empty collection.
 template <class Collection>
 class VMemMany {
 public:
@@ -161,7 +161,7 @@ public:
     /// For reading: empty when it is absent.
     Collection& Get() const { return m_collection != nullptr ? *m_collection : Empty(); }
 
-    /// The collection for adding to; from now on it is present.
+    /// The collection for adding; makes it present.
     VMemCollection<Collection>& Make();
 
     /// A new element at the end.

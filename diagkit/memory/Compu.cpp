@@ -18,7 +18,7 @@ NODX201::ICompuScalesProgCodeChoice& VMemScalesOrProgCode::Get() const {
 
 VMemCompuScales& VMemScalesOrProgCode::MakeScales(VPlace const& place) {
     VMemCompuScales& scales = m_scales.Make(place);
-    scales.MakeCompuScaleCollection(); // the contract knows it by its collection, empty as that may be
+    scales.MakeCompuScaleCollection(); // the contract knows it by its collection, even an empty one
     m_progCode.Remove();
     return scales;
 }

@@ -7,15 +7,15 @@
 #include <diagkit/model/Compu.h>
 #include <diagkit/model/Params.h>
 
-/// Conversions, coded and physical types, constraints. Values stay text as written: hex, signs and decimal commas are
-/// for those to read who know what they want.
+/// Conversions, coded and physical types, constraints. Values remain text as written; hex, signs and decimal commas are
+/// left to the reader of the value.
 
 namespace NMemory {
 
 /// A LOWER-LIMIT or UPPER-LIMIT.
 VMemMade<VMemLimit> NewLimit(VPlace const& place, Tag tag, wchar_t const* text);
 
-/// COMPU-SCALES, which the contract knows as a collection, or a PROG-CODE.
+/// COMPU-SCALES, which is a collection in the contract, or a PROG-CODE.
 class VMemScalesOrProgCode {
 public:
     bool Has() const { return m_scales.Has() || m_progCode.Has(); }
@@ -35,8 +35,8 @@ public:
 
     bool HasCompuScalesProgCodeChoice() const override { return m_choice.Has(); }
     NODX201::ICompuScalesProgCodeChoice& GetCompuScalesProgCodeChoice() override { return m_choice.Get(); }
-    VMemCompuScales& MakeCompuScales() { return m_choice.MakeScales(this->Inside()); } ///< in place of a PROG-CODE
-    VMemProgCode& MakeProgCode() { return m_choice.MakeProgCode(this->Inside()); }     ///< in place of COMPU-SCALES
+    VMemCompuScales& MakeCompuScales() { return m_choice.MakeScales(this->Inside()); } ///< replaces a PROG-CODE
+    VMemProgCode& MakeProgCode() { return m_choice.MakeProgCode(this->Inside()); }     ///< replaces COMPU-SCALES
 
 private:
     VMemScalesOrProgCode m_choice;

@@ -95,14 +95,14 @@ void VDatabase::Adopt(std::unique_ptr<VPart>&& part) {
     m_counts.resize(std::max(m_counts.size(), part->m_counts.size()));
     m_parts.push_back(std::move(part));
     VPart& adopted = *m_parts.back();
-    AddIds(adopted); // when it fails the part stays detached, and is kept for the texts that the index has seen
+    AddIds(adopted); // on failure the part stays detached, and is kept because the index refers to its texts
     std::transform(adopted.m_counts.begin(), adopted.m_counts.end(), m_counts.begin(), m_counts.begin(), std::plus<>());
     adopted.m_ids = {};
     adopted.m_isDetached = false;
     NoteChange();
 }
 
-/// All IDs of a part, or none.
+/// Adds all IDs of a part, or none.
 void VDatabase::AddIds(VPart const& part) {
     m_ids.MakeRoom(part.m_ids.size());
     std::size_t added = 0;

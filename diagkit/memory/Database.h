@@ -18,8 +18,8 @@ namespace NMemory {
 
 class VPlaceIndex;
 
-/// An ODX database in memory: owns the root and, through it, every element. This is how programs build a database by
-/// hand, and what the reader fills. With `diagkit/memory/Layers.h`:
+/// An ODX database in memory: owns the root and, through it, every element. Programs use it to build a database by
+/// hand, and the reader fills it. With `diagkit/memory/Layers.h`:
 ///
 ///     NMemory::VDatabase database;
 ///     auto& container = database.AddDiagLayerContainer(L"Doors");
@@ -28,21 +28,21 @@ class VPlaceIndex;
 ///     auto& door = container.AddBaseVariant(L"Door");
 ///     door.AddParentRef(protocol).ExcludeDiagComm(L"ReadIdent");
 ///
-/// Adding. `AddX(...)` puts a new element at the end of the collection it belongs to, `MakeX()` returns the one
-/// optional child and makes it when it is absent. Texts given to the model are copied and stay valid until the database
-/// is destroyed.
+/// Adding. `AddX(...)` adds a new element at the end of the collection it belongs to, `MakeX()` returns the one
+/// optional child and creates it when it is absent. Texts given to the model are copied and stay valid until the
+/// database is destroyed.
 ///
 /// Removing. Destroy any element of a collection with `delete &element`, or through a view's `Remove(iterator)`: it
-/// leaves its collection and the ID index, and links that name it do not resolve any more. Iterators at the element
-/// become invalid, all others stay valid. Never destroy an optional child directly; its owner has `RemoveX()`.
+/// leaves its collection and the ID index, and links to it no longer resolve. Iterators at the element become invalid,
+/// all others stay valid. Never destroy an optional child directly; its owner has `RemoveX()`.
 ///
-/// Links find their target when asked: by ID through the index, by short name through the resolver of the database in
-/// the layer that the link is asked for. An answer is remembered until the database changes.
+/// Links find their target when it is requested: by ID through the index, by short name through the resolver of the
+/// database in the layer given to the link. A result is remembered until the database changes.
 ///
-/// Not thread-safe, reading included, because links remember their answers.
+/// Not thread-safe, including reading, because links remember their results.
 class VDatabase {
 public:
-    /// Makes a resolver that knows nothing yet.
+    /// Makes a new resolver without cached results.
     using VResolverFactory = std::function<std::unique_ptr<NODX201::VAbstractSnrefResolver>()>;
 
     VDatabase();
@@ -64,35 +64,35 @@ public:
     VMultipleEcuJobSpecCollection& MultipleEcuJobSpecCollection(); ///< in load order
     VVehicleInfoSpecCollection& VehicleInfoSpecCollection();       ///< in load order
 
-    /// Says how to make the resolver that answers short-name links. Without one they do not resolve.
+    /// Sets how to make the resolver for short-name links. Without it they do not resolve.
     void SetResolverFactory(VResolverFactory factory);
-    /// Forgets the resolver; the next short-name link starts a new one, which sees the database as it is then.
-    /// Removing, moving or renaming an element and directing a PARENT-REF at another layer do the same by themselves,
+    /// Discards the resolver; the next short-name link creates a new one, which sees the database in its current state.
+    /// Removing, moving or renaming an element and giving a PARENT-REF another target do the same automatically,
     /// because a resolver may remember what was there before. Adding does not.
     void StartNewResolver();
     NODX201::VAbstractSnrefResolver* GetResolver(); ///< null without a factory
 
-    /// Names a file for positions; the number is what `VPosition::document` holds.
+    /// Registers a file name for positions; the result is a value for `VPosition::document`.
     std::uint32_t AddDocumentName(std::string name);
     std::string const& GetDocumentName(VPosition const& position) const; ///< UTF-8; "" when not known
 
-    /// Takes in what was made detached: the IDs and the count of its elements, or nothing when memory runs out. The
-    /// part lives as long as the database, unless the pointer still holds it afterwards. Throws std::invalid_argument
-    /// for a part that is not a detached one of this database.
+    /// Adopts what was made detached: the IDs and the count of its elements, or nothing when memory runs out. The part
+    /// lives as long as the database, unless the pointer still owns it afterwards. Throws std::invalid_argument for a
+    /// part that is not a detached one of this database.
     void Adopt(std::unique_ptr<VPart>&& part);
 
-    /// How many elements of a kind the database holds.
+    /// The number of elements of a kind in the database.
     std::size_t Count(NODX201::VOdxTagEnum tag) const;
 
     // For the elements and links of the database.
 
-    void Index(wchar_t const* id, NODX201::VReferencable& element);         ///< from now on references find it
+    void Index(wchar_t const* id, NODX201::VReferencable& element);         ///< references can find it afterwards
     void Unindex(wchar_t const* id, NODX201::VReferencable const& element); ///< no effect when not indexed
     VIdIndex const& GetIdIndex() const { return m_ids; }                    ///< of all adopted elements
     VPlaceIndex& GetPlaceIndex() { return *m_places; }                      ///< of elements that share an ID
     std::wstring MakeId();                                                  ///< an ID that no element has
-    void NoteChange() { ++m_generation; }                        ///< what links remember may not hold any more
-    void NoteRedirection();                                      ///< nor what the resolver remembers
+    void NoteChange() { ++m_generation; }                                   ///< what links remember may be outdated
+    void NoteRedirection();                                      ///< what the resolver remembers may be outdated too
     std::uint64_t GetGeneration() const { return m_generation; } ///< grows with every change
 
 private:

@@ -7,7 +7,7 @@
 #include <diagkit/model/Reference.h>
 #include <diagkit/model/Text.h>
 
-/// The layers that the memory model's classes are made of: each template adds one thing that many ODX elements share to
+/// The layers that the memory model's classes consist of: each template adds one feature common to many ODX elements to
 /// the contract class below it.
 
 namespace NMemory {
@@ -23,11 +23,11 @@ public:
     wchar_t const* GetShortName() const override { return L""; }
     NODX201::VOdxObject* GetOwner() const override { return Owner(); }
 
-    /// What a child of this element is born into.
+    /// The place for a child of this element.
     VPlace Inside() { return {this, &Part()}; }
 };
 
-/// An element of a class that bears one of several tags, such as LOWER-LIMIT and UPPER-LIMIT.
+/// An element of a class with one of several tags, such as LOWER-LIMIT and UPPER-LIMIT.
 template <class Contract>
 class VMemTagged : public Contract, public VMemNode {
 public:
@@ -35,7 +35,7 @@ public:
     ~VMemTagged() override { this->CountOut(m_tag); }
 
     NODX201::VOdxTagEnum GetOdxTag() const override { return m_tag; }
-    /// The element is of another kind from now on, for the counts as well.
+    /// Changes the kind of the element, also in the counts.
     void SetOdxTag(NODX201::VOdxTagEnum tag) {
         this->ChangeTag(m_tag, tag);
         m_tag = tag;
@@ -44,14 +44,14 @@ public:
     wchar_t const* GetShortName() const override { return L""; }
     NODX201::VOdxObject* GetOwner() const override { return Owner(); }
 
-    /// What a child of this element is born into.
+    /// The place for a child of this element.
     VPlace Inside() { return {this, &Part()}; }
 
 private:
     NODX201::VOdxTagEnum m_tag;
 };
 
-/// The same, born with the tag `Tag`.
+/// The same, created with the tag `Tag`.
 template <class Contract, NODX201::VOdxTagEnum Tag>
 class VMemRetaggable : public VMemTagged<Contract> {
 public:
@@ -77,8 +77,8 @@ private:
     wchar_t const* m_textId;
 };
 
-// Some contract classes have LONG-NAME and OID and some have not, so these operations override where there is something
-// to override.
+// Only some contract classes have LONG-NAME and OID, so these operations override only where there is something to
+// override.
 #ifdef __clang__
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Winconsistent-missing-override"
@@ -91,7 +91,7 @@ public:
     using VMemElement<Contract, Tag>::VMemElement;
 
     wchar_t const* GetShortName() const override { return m_shortName; }
-    void SetShortName(wchar_t const* shortName); ///< links and views that know the old name do not find it any more
+    void SetShortName(wchar_t const* shortName); ///< links and views no longer find it by the old name
 
     bool HasLongName() const { return m_longName != nullptr; }
     NODX201::VText& GetLongName() { return *m_longName; }
@@ -129,13 +129,13 @@ private:
     wchar_t const* m_oid = L"";
 };
 
-/// The same, with a tag that says which xsi:type it has. It counts as one of `Tag`.
+/// The same, with a tag for its xsi:type. It counts as one of `Tag`.
 template <class Contract, NODX201::VOdxTagEnum Tag>
 class VMemTypedIdent : public VMemIdent<Contract, Tag> {
 public:
     using VMemIdent<Contract, Tag>::VMemIdent;
 
-    NODX201::VOdxTagEnum GetOdxTag() const override { return m_kind; } ///< `Tag` where no type was said
+    NODX201::VOdxTagEnum GetOdxTag() const override { return m_kind; } ///< `Tag` without a type
     void SetKind(NODX201::VOdxTagEnum kind) { m_kind = kind; }
 
 private:
@@ -146,8 +146,8 @@ private:
 #pragma clang diagnostic pop
 #endif
 
-/// What the elements of a tag have besides their names and what the rows of their class say: a base that is written by
-/// hand, over the one that has the names.
+/// Members of the elements of a tag that are neither their names nor in the rows of their class: a base that is written
+/// by hand, over the one that has the names.
 template <NODX201::VOdxTagEnum Tag, class Names>
 struct VByHand {
     using Type = Names;

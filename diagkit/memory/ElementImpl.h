@@ -32,12 +32,12 @@ void VMemIdent<Contract, Tag>::SetId(wchar_t const* id) {
     if (std::wcscmp(stored, m_id) == 0) {
         return;
     }
-    // The new one first: when memory runs out, the old one still finds the element.
+    // Add the new one first: when memory runs out, the old one still finds the element.
     this->Part().Index(stored, *this);
     this->Part().Unindex(m_id, *this);
     m_id = stored;
     if constexpr (std::is_base_of_v<NODX201::VDiagLayer, Contract>) {
-        this->NoteRedirection(); // PARENT-REFs find it, or do not any more
+        this->NoteRedirection(); // PARENT-REFs may find it now, or no longer
     }
 }
 

@@ -20,7 +20,7 @@ void VIdIndex::Add(std::wstring_view id, std::uint32_t hash, NODX201::VReferenca
 
 namespace {
 
-/// Elements mostly leave in the order in which they came, or in that from the last to the first.
+/// Elements are mostly removed in the order in which they were added, or in the reverse order.
 void Erase(std::deque<NODX201::VReferencable*>& elements, NODX201::VReferencable const& element) {
     if (elements.back() == &element) {
         elements.pop_back();

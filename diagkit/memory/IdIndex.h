@@ -12,11 +12,11 @@
 
 namespace NMemory {
 
-/// The elements of a database by ID. An ID may occur several times: in several documents, and in faulty data in one.
-/// The keys are texts of the database's pools.
+/// The elements of a database by ID. An ID may occur several times: in several documents, and in faulty data several
+/// times in one. The keys are texts of the database's pools.
 class VIdIndex {
 public:
-    /// The elements of one ID. An entry stays where it is until an ID is added.
+    /// The elements of one ID. An entry stays at its address until an ID is added.
     struct VEntry {
         NODX201::VReferencable* first = nullptr;                    ///< in load order; null when all have been removed
         std::unique_ptr<std::deque<NODX201::VReferencable*>> later; ///< in load order; null where there are none
@@ -50,11 +50,11 @@ public:
 
     void Add(std::wstring_view id, NODX201::VReferencable& element) { Add(id, HashOf(id), element); } ///< as its last
     void Add(std::wstring_view id, std::uint32_t hash, NODX201::VReferencable& element); ///< with what `HashOf` gives
-    void Remove(std::wstring_view id, NODX201::VReferencable const& element); ///< no effect when it is not held
+    void Remove(std::wstring_view id, NODX201::VReferencable const& element); ///< no effect when it is not in the index
     VEntry const* Find(std::wstring_view id) const;                           ///< null when no element has the ID
-    void MakeRoom(std::size_t more) { m_entries.Reserve(m_entries.Count() + more); } ///< for so many more IDs
+    void MakeRoom(std::size_t more) { m_entries.Reserve(m_entries.Count() + more); } ///< for that many more IDs
 
-    /// Calls `take` with every entry of an ID that occurs more than once, in no order.
+    /// Calls `take` with every entry of an ID that occurs more than once, in unspecified order.
     template <class Take>
     void ForEachRepeated(Take take) const {
         m_entries.ForEach([&take](VEntry const& entry) {

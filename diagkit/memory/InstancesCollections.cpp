@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The code of the collections, compiled here alone.
+// The code of the collections, compiled only here.
 
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>

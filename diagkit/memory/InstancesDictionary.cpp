@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The code of the dictionary's classes, compiled here alone.
+// The code of the dictionary's classes, compiled only here.
 
 #include <diagkit/memory/Dops.h>
 #include <diagkit/memory/NewImpl.h>

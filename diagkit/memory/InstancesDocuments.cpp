@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The code of flash data, of vehicle information and of all references, compiled here alone.
+// The code of flash data, of vehicle information and of all references, compiled only here.
 
 #include <diagkit/memory/Flash.h>
 #include <diagkit/memory/Layers.h>

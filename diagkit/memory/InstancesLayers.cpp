@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The code of the classes of layers and what they hold, compiled here alone.
+// The code of the classes of layers and their contents, compiled only here.
 
 #include <diagkit/memory/Layers.h>
 #include <diagkit/memory/NewImpl.h>

@@ -28,7 +28,7 @@ void CopyPositions(NODX201::VOdxElement& from, NODX201::VOdxElement& fromReferen
     toReference.SetPosition(dynamic_cast<VMemNode&>(fromReference).GetPosition());
 }
 
-/// What a PARENT-REF holds besides its kind and its reference.
+/// The contents of a PARENT-REF apart from its kind and its reference.
 void CopyContent(IMemParentRef& parentRef, IMemParentRef& changed) {
     NODX201::VParentRef& before = parentRef.ParentRef();
     changed.Node().SetPosition(parentRef.Node().GetPosition());

@@ -11,7 +11,7 @@
 
 namespace NMemory {
 
-/// What the five kinds of layer have besides their contract.
+/// Members common to the five kinds of layer that are not in their contract.
 template <class Base>
 class VWithSeveredGroups : public Base, public IMemLayer {
 public:
@@ -26,14 +26,14 @@ private:
 /// PARENT-REFS
 using VMemParentRefCollection = VMemCollection<NODX201::VParentRefCollection>;
 
-/// A new PARENT-REF of the kind before the position.
+/// Inserts a new PARENT-REF of the kind before the position.
 IMemParentRef& InsertParentRef(VMemParentRefCollection& parentRefs, VMemParentRefCollection::List::iterator before,
                                VPlace const& place, VParentRefKind kind, VReference const& reference);
 /// See `VWithParents::ChangeParentRefKind`.
 IMemParentRef& ChangeParentRefKind(VMemParentRefCollection& parentRefs, VPlace const& place, IMemParentRef& parentRef,
                                    VParentRefKind kind);
 
-/// What the four kinds of layer with parents share.
+/// Members common to the four kinds of layer with parents.
 template <class Base>
 class VWithParents : public Base {
 public:
@@ -42,18 +42,18 @@ public:
     bool HasParentRefCollection() const override { return m_parentRef.IsPresent(); }
     NODX201::VParentRefCollection& ParentRefCollection() override { return m_parentRef.Get(); } ///< PARENT-REFS
     VMemCollection<NODX201::VParentRefCollection>& MakeParentRefCollection() { return m_parentRef.Make(); }
-    /// Of the kind that fits the parent's; whether ODX allows that kind here is not asked.
+    /// Of the kind that fits the parent's; whether ODX allows that kind here is not checked.
     template <class Parent, class = decltype(std::declval<Parent&>().EnsureId())>
     IMemParentRef& AddParentRef(Parent& parent) {
         return AddParentRef(ParentRefKindOf(parent), parent);
     }
-    /// Of this kind, to a layer that need not be there yet.
+    /// Of this kind, to a layer that need not exist yet.
     IMemParentRef& AddParentRef(VParentRefKind kind, VReference const& reference) {
         auto& parentRefs = m_parentRef.Make();
         return InsertParentRef(parentRefs, parentRefs.EndPosition(), this->Inside(), kind, reference);
     }
-    /// Puts a PARENT-REF of another kind, with the same reference, exclusions and position in file, into the place of
-    /// this one, which is destroyed.
+    /// Replaces a PARENT-REF by one of another kind with the same reference, exclusions and position in file; the old
+    /// one is destroyed.
     IMemParentRef& ChangeParentRefKind(IMemParentRef& parentRef, VParentRefKind kind) {
         return NMemory::ChangeParentRefKind(m_parentRef.Make(), this->Inside(), parentRef, kind);
     }

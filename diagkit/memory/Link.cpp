@@ -11,7 +11,7 @@ namespace NMemory {
 namespace {
 
 /// The places that DOCREF and DOCTYPE name, the one that is searched first before the other. A DOCTYPE of later
-/// versions of ODX names no kind of document.
+/// versions of ODX does not name a kind of document.
 std::array<VSearchPlace, 2> PlacesNamedBy(NODX201::VOdxLink const& link) {
     static constexpr std::array<std::pair<std::wstring_view, Tag>, 4> kDoctypes{{
         {L"FLASH", Tag::Flash},
@@ -74,7 +74,7 @@ NODX201::VReferencable* VSearch::Around(NODX201::VOdxElement& from) const {
     if (auto* const found = In(own.document)) {
         return found;
     }
-    // Imports do not chain: an IMPORT-REF itself looks no further.
+    // Imports are not transitive: an IMPORT-REF itself is not searched further.
     if (own.layer == nullptr || from.GetOdxTag() == Tag::ImportRef) {
         return nullptr;
     }

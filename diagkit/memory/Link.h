@@ -10,23 +10,23 @@
 
 namespace NMemory {
 
-/// What a link is to name, for the operations that make links. It views the texts it is given and is meant to be passed
-/// on at once.
+/// The target of a link, for the operations that make links. It refers to the texts that it is given and must be used
+/// before they become invalid, usually at once.
 ///
 ///     service.SetRequestRef(request);                                     // an element: by its ID
-///     service.SetRequestRef(VReference::ById(L"RQ.1", L"Lib", L"LAYER")); // an ID, in a document where that is named
+///     service.SetRequestRef(VReference::ById(L"RQ.1", L"Lib", L"LAYER")); // an ID, in the document with that name
 ///     value.SetDopBaseLink(VReference::ByShortName(L"Voltage"));          // a short name
 class VReference {
 public:
-    /// The element of this ID, whether it is there yet or not; in the document or layer that the other texts name.
+    /// The element of this ID, whether it exists already or not; in the document or layer that the other texts name.
     static VReference ById(wchar_t const* id, wchar_t const* docref = L"", wchar_t const* doctype = L"",
                            wchar_t const* revision = L"") {
         return VReference(id, docref, doctype, revision, nullptr);
     }
-    /// Whatever bears this short name where the link is asked.
+    /// The element with this short name in the context where the link is resolved.
     static VReference ByShortName(wchar_t const* shortName) { return VReference(L"", L"", L"", L"", shortName); }
 
-    /// An element of the memory model with an ID; one without is given an ID.
+    /// An element of the memory model with an ID; an element without one is given an ID.
     template <class Target, class = decltype(std::declval<Target&>().EnsureId())>
     VReference(Target& target) : VReference(target.EnsureId(), L"", L"", L"", nullptr) {}
 
@@ -46,13 +46,13 @@ private:
         : m_id(id), m_docref(docref), m_doctype(doctype), m_revision(revision), m_shortName(shortName) {}
 };
 
-/// The same with texts of the part's pool, which stay.
+/// The same with texts in the part's pool, which stay valid.
 VReference StoredIn(VPart& part, VReference const& reference);
 
-/// What a link names, to make another like it.
+/// The reference in a link, to make another link with the same target.
 VReference ReferenceOf(NODX201::ILink const& link);
 
-/// A reference by ID in the memory model. It keeps pointers to texts that are stored.
+/// A reference by ID in the memory model. It points to stored texts.
 class VMemOdxLink final : public NODX201::VOdxLink {
 public:
     VMemOdxLink() = default;
@@ -71,7 +71,7 @@ private:
     wchar_t const* m_revision = L"";
 };
 
-/// A reference by short name in the memory model. It keeps a pointer to a text that is stored.
+/// A reference by short name in the memory model. It points to a stored text.
 class VMemSnref final : public NODX201::VSnref {
 public:
     explicit VMemSnref(VReference const& stored) noexcept : m_shortName(stored.m_shortName) {}
@@ -82,7 +82,7 @@ private:
     wchar_t const* m_shortName;
 };
 
-/// Whether an element is of the class that a reference expects; a hit of another class is none.
+/// Whether an element is of the class that a reference expects; an element of another class is not a target.
 using VExpect = bool (*)(NODX201::VReferencable& element);
 
 /// Whether the element is a `Target`.
@@ -91,41 +91,41 @@ bool IsOfClass(NODX201::VReferencable& element) {
     return dynamic_cast<Target*>(&element) != nullptr;
 }
 
-/// A reference to a DIAG-COMM leads to one that stands in a layer: a service or a single-ECU job.
+/// The target of a reference to a DIAG-COMM belongs to a layer: a service or a single-ECU job.
 template <>
 bool IsOfClass<NODX201::VDiagComm>(NODX201::VReferencable& element);
 
-/// The same for a reference of this tag, which may want one of several kinds of a class.
+/// The same for a reference of this tag, which may require one of several kinds of a class.
 template <NODX201::VOdxTagEnum Tag, class Target>
 bool IsTargetOf(NODX201::VReferencable& element) {
     return IsOfClass<Target>(element);
 }
 
-/// The target of a reference by ID that stands at `from`, or null. The order of places searched: the document that
-/// DOCREF and DOCTYPE name, then whatever bears the name of DOCREF; without DOCREF the own layer, the own document, the
-/// imported layers; and last the whole database.
+/// The target of a reference by ID at `from`, or null. The order of places searched: the document that DOCREF and
+/// DOCTYPE name, then any document or layer with the name in DOCREF; without DOCREF the own layer, the own document,
+/// the imported layers; and last the whole database.
 NODX201::VReferencable* ResolveId(VDatabase& database, NODX201::VOdxLink const& link, NODX201::VOdxElement& from,
                                   VExpect expect);
 
-/// What a reference by ID means, and what it might mean as well.
+/// The target of a reference by ID, and another possible target.
 struct VDoubt {
     NODX201::VReferencable* target;
-    NODX201::VReferencable* other; ///< null where there is no doubt
+    NODX201::VReferencable* other; ///< null where the target is unambiguous
 };
 
-/// Whether the DOCREF of a reference is the short name of several documents or layers that have such an element: its
-/// target stands in one of them, the other one in the next.
+/// Whether the DOCREF of a reference is the short name of several documents or layers that have such an element: the
+/// target is in one of them, the other one in the next.
 VDoubt FindDoubt(VDatabase& database, NODX201::VOdxLink const& link, VExpect expect);
 
-/// Whether an element, of whatever class, has the ID of the reference and stands in a document or layer that DOCREF and
-/// DOCTYPE name.
+/// Whether an element of any class has the ID of the reference and is in a document or layer that DOCREF and DOCTYPE
+/// name.
 bool IsInNamedDocument(VDatabase& database, NODX201::VOdxLink const& link);
 
-/// A link element, born with the tag `Tag`: an ID reference or a short-name reference, and the answer found last.
+/// A link element, created with the tag `Tag`: an ID reference or a short-name reference, and the result found last.
 template <class Contract, NODX201::VOdxTagEnum Tag, class Target>
 class VMemLink : public VMemTagged<Contract> {
 public:
-    /// A link that names this target; it is looked for when the link is asked.
+    /// A link to this target, which is looked for when the link is resolved.
     VMemLink(VPlace const& place, VReference const& reference) : VMemTagged<Contract>(place, Tag) {
         SetReference(reference);
     }
@@ -134,7 +134,7 @@ public:
         return std::visit([](auto& form) -> NODX201::ILink& { return form; }, m_form);
     }
 
-    /// Names another target from now on, or the same as before when memory runs out.
+    /// Gives the link another target, or leaves it unchanged when memory runs out.
     void SetReference(VReference const& reference) {
         VReference const stored = StoredIn(this->Part(), reference);
         if (stored.IsByShortName()) {
@@ -144,7 +144,7 @@ public:
         }
         m_generation = 0;
         m_isSevered = false;
-        this->NoteChange(); // other links may lead over this one
+        this->NoteChange(); // other links may depend on this one
     }
 
     /// From now on the link, if by ID, resolves to nothing, until it is given another reference. For readers of data in
@@ -154,7 +154,8 @@ public:
         m_generation = 0;
     }
 
-    /// What a reference by ID names, also where it is severed; null where that is nothing, and for one by short name.
+    /// The target of a reference by ID, even if it is severed; null where there is none, and for a reference by short
+    /// name.
     Target* FindEvenSevered() const {
         auto const* const link = std::get_if<VMemOdxLink>(&m_form);
         if (link == nullptr || !m_isSevered) {
@@ -181,7 +182,7 @@ protected:
         return snref != nullptr ? snref->GetShortName() : nullptr;
     }
 
-    /// Looks for the target of a reference by ID. The answer cannot change until the database does.
+    /// Looks for the target of a reference by ID. The result cannot change until the database does.
     bool FindById() const {
         VDatabase& database = this->GetDatabase();
         auto const* const link = m_isSevered ? nullptr : std::get_if<VMemOdxLink>(&m_form);

@@ -8,8 +8,8 @@
 
 namespace NMemory {
 
-/// Where an element stands in a list of pointers, whatever these point to: what a list's iterator is, for elements that
-/// are in lists of several types, and at no more than its size. It holds as long as the element stays in the list.
+/// The position of an element in a list of pointers, whatever their type: like a list's iterator, for elements that are
+/// in lists of several types, and not larger than one. It is valid as long as the element stays in the list.
 class VListPosition {
 public:
     VListPosition() = default;
@@ -23,7 +23,7 @@ public:
         }
     }
 
-    /// The position in the list that it was made for.
+    /// The position in the list for which it was made.
     template <class Entry>
     typename std::list<Entry*>::iterator In(std::list<Entry*>& list) const {
         using Iterator = typename std::list<Entry*>::iterator;
@@ -37,7 +37,7 @@ public:
     }
 
 private:
-    /// Everywhere but where a library checks its iterators: there the entry is held, and searched.
+    /// Used unless a library checks its iterators: there the entry is stored, and searched for.
     template <class Iterator>
     static constexpr bool IsPlain() {
         return sizeof(Iterator) == sizeof(void*) && std::is_trivially_copyable_v<Iterator>;

@@ -13,20 +13,20 @@ using Tag = NODX201::VOdxTagEnum; ///< for the lists of template arguments
 
 class VMemNode;
 
-/// Where an element stands in a file. Line and column count from 1; 0 means not known, as for elements made by hand.
+/// The position of an element in a file. Line and column count from 1; 0 means unknown, as for elements made by hand.
 struct VPosition {
     std::uint32_t document = 0; ///< see `VDatabase::GetDocumentName`
     std::uint32_t line = 0;     ///< from 1
     std::uint32_t column = 0;   ///< from 1, in characters
 };
 
-/// What a new element is born into.
+/// The place of a new element.
 struct VPlace {
-    NODX201::VOdxObject* owner; ///< what it will stand in
-    VPart* part;                ///< whose pool holds its texts
+    NODX201::VOdxObject* owner; ///< the future owner
+    VPart* part;                ///< whose pool has its texts
 };
 
-/// A collection, from the side of an element that leaves it.
+/// A collection as seen by an element that leaves it.
 class VMemHome {
 public:
     virtual void Forget(VListPosition const& position) = 0; ///< the element there is being destroyed or moved away
@@ -36,8 +36,8 @@ protected:
     ~VMemHome() = default;
 };
 
-/// What every element of the memory model has besides its contract: its owner, its database, its place in a collection
-/// and its position in a file. An element that is destroyed, by whomever, leaves its collection by itself.
+/// The members of every element of the memory model that are not in its contract: its owner, its database, its place in
+/// a collection and its position in a file. An element that is destroyed removes itself from its collection.
 class VMemNode {
 public:
     VMemNode(VMemNode const&) = delete;
@@ -52,14 +52,14 @@ protected:
     ~VMemNode();
 
     NODX201::VOdxObject* Owner() const { return m_owner; } ///< null for the root
-    VPart& Part() const { return *m_part; }                ///< that its children belong to as well
+    VPart& Part() const { return *m_part; }                ///< also that of its children
     wchar_t const* Store(wchar_t const* text) const;       ///< in the part's text pool
 
     /// Throws std::invalid_argument where the element cannot move there; see `VMemCollection::Adopt`.
     void RequireMoveTo(VMemNode const& to, NODX201::VOdxObject const& owner, NODX201::VOdxObject const& self) const;
 
-    void NoteChange();                                                  ///< what links remember may not hold any more
-    void NoteRedirection();                                             ///< nor what the resolver remembers
+    void NoteChange();                                                  ///< what links remember may be outdated
+    void NoteRedirection();                                             ///< the same for what the resolver remembers
     void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< in the database's counts
     void CountOut(NODX201::VOdxTagEnum tag);                            ///< the element of this tag is being destroyed
 

@@ -12,8 +12,7 @@
 
 namespace NMemory {
 
-/// The root. Besides what the contract asks for it holds the FLASH, MULTIPLE-ECU-JOB-SPEC and
-/// VEHICLE-INFO-SPEC documents.
+/// The root. In addition to the contract it contains the FLASH, MULTIPLE-ECU-JOB-SPEC and VEHICLE-INFO-SPEC documents.
 class VMemOdx final : public VMemElement<NODX201::VOdx, Tag::Odx> {
 public:
     using VMemElement::VMemElement;
@@ -42,12 +41,12 @@ public:
     VMemVehicleInfoSpec& AddVehicleInfoSpec(wchar_t const* shortName) {
         return m_vehicleInfoSpec.Add(NewNamed<VMemVehicleInfoSpec>(Inside(), shortName));
     }
-    /// A category document, made in a part that is detached, joins the others of its kind as the last.
+    /// A category document, made in a detached part, becomes the last of its kind.
     template <class Category>
     std::unique_ptr<Category> MakeDetached(VPart& part) {
         return std::unique_ptr<Category>(New<Category>(VPlace{this, &part}).Release());
     }
-    /// A category document that was made here takes its place. Throws std::invalid_argument for any other.
+    /// Puts a category document that was made here into its place. Throws std::invalid_argument for any other.
     // clang-format off
     void Adopt(std::unique_ptr<VMemDiagLayerContainer> made) { m_diagLayerContainer.Add(MadeHere(made)); }
     void Adopt(std::unique_ptr<VMemComparamSpec> made)       { m_comparamSpec.Add(MadeHere(made)); }
@@ -56,7 +55,7 @@ public:
     void Adopt(std::unique_ptr<VMemVehicleInfoSpec> made)    { m_vehicleInfoSpec.Add(MadeHere(made)); }
     // clang-format on
 
-    /// At the end of those of the root.
+    /// At the end of the processing instructions of the root.
     void AddProcessingInstruction(wchar_t const* name, wchar_t const* content) {
         m_instructions.Add(Store(name), Store(content));
     }

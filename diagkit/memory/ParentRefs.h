@@ -24,7 +24,7 @@ namespace NMemory {
 
 #include <diagkit/model/facts/Clear.def>
 
-/// The kinds of PARENT-REF, by the kind of layer that they lead to; `Unknown` is one that no view follows.
+/// The kinds of PARENT-REF, by the kind of layer that they lead to; no view follows `Unknown`.
 enum class VParentRefKind {
     Unknown,
 #define ODX_PARENT_REF(name, target, value, type) target,
@@ -35,17 +35,17 @@ enum class VParentRefKind {
 #include <diagkit/model/facts/Clear.def>
 };
 
-/// The kind of reference that names a layer; `Unknown` for an ECU-VARIANT, which nothing inherits from.
+/// The kind of reference to a layer; `Unknown` for an ECU-VARIANT, from which nothing inherits.
 VParentRefKind ParentRefKindOf(NODX201::VDiagLayer& layer);
 
-/// What a program does with a PARENT-REF without knowing its kind.
+/// The operations on a PARENT-REF of any kind.
 class IMemParentRef {
 public:
-    virtual void MakeNotInheritedDiagCommCollection() = 0; ///< present from now on, with contents or without
-    virtual void MakeNotInheritedVariableCollection() = 0; ///< present from now on, with contents or without
+    virtual void MakeNotInheritedDiagCommCollection() = 0; ///< makes it present, even if empty
+    virtual void MakeNotInheritedVariableCollection() = 0; ///< makes it present, even if empty
     virtual VMemNotInheritedDiagComm& AddNotInheritedDiagComm(VReference const& reference) = 0;
     virtual VMemNotInheritedVariable& AddNotInheritedVariable(VReference const& reference) = 0;
-    virtual NODX201::VParentRef& ParentRef() = 0; ///< the same element as the contract has it
+    virtual NODX201::VParentRef& ParentRef() = 0; ///< the same element as a class of the contract
     virtual VMemNode& Node() = 0;                 ///< the same element, for its position and database
 
     /// Adds a NOT-INHERITED-DIAG-COMM; returns this reference, for more of them.
@@ -64,14 +64,14 @@ protected:
     ~IMemParentRef() = default;
 };
 
-/// What the kinds of PARENT-REF share.
+/// Members common to the kinds of PARENT-REF.
 template <class Contract, Tag TheTag, class Target>
 class VMemAnyParentRef : public VMemLink<Contract, TheTag, Target>, public IMemParentRef {
 public:
     VMemAnyParentRef(VPlace const& place, VReference const& reference)
         : VMemLink<Contract, TheTag, Target>(place, reference) {}
 
-    /// Names another layer from now on.
+    /// Gives the reference another layer as target.
     void SetReference(VReference const& reference) {
         VMemLink<Contract, TheTag, Target>::SetReference(reference);
         this->NoteRedirection();
@@ -99,7 +99,7 @@ private:
     VMemMany<NODX201::VNotInheritedVariableCollection> m_variables;
 };
 
-/// PARENT-REF: a class for each xsi:type. `ParentRef`, of no known kind, leads to layers of every kind.
+/// PARENT-REF: a class for each xsi:type. `ParentRef`, of unknown kind, leads to layers of every kind.
 #define ODX_PARENT_REF(name, target, value, type)                                                                      \
     DIAGKIT_LINK(name, VMemAnyParentRef, NODX201::V##name, name, target, NODX201::V##target) ODX_END
 #define ODX_UNTYPED_PARENT_REF(name, target, value) ODX_PARENT_REF(name, target, value, "")

@@ -30,7 +30,7 @@ void VPart::Unindex(wchar_t const* id, NODX201::VReferencable const& element) {
     if (!m_isDetached) {
         m_database.Unindex(id, element);
     } else if (*id != L'\0' && !m_isClosing) {
-        // What leaves again while it is being read came just now.
+        // Elements that are removed while reading were added recently.
         auto const found = std::find_if(m_ids.rbegin(), m_ids.rend(), [&element, id](VId const& held) {
             return held.element == &element && held.id.data() == id;
         });

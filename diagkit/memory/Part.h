@@ -15,12 +15,13 @@ namespace NMemory {
 
 class VDatabase;
 
-/// What the elements of one document share: the pool of their texts, and the way to their database. The elements made
-/// by hand at the root of a database share its own part; elements made inside of others belong to the part of those.
+/// Common to the elements of one document: the pool of their texts, and access to their database. The elements made by
+/// hand at the root of a database share the database's own part; elements made inside of others belong to the part of
+/// those.
 ///
-/// A part is born detached: its elements are not counted and their IDs not known in the database, which nothing that
-/// they do changes, until `VDatabase::Adopt` takes it in. So documents can be read beside one another, each by one
-/// thread, and what becomes of them depends on the order of adoption alone.
+/// A part is created detached: until `VDatabase::Adopt` takes it in, its elements are not counted, their IDs are not
+/// known, and nothing they do changes the database. So documents can be read in parallel, each by one thread, and the
+/// result depends only on the order of adoption.
 class VPart {
 public:
     explicit VPart(VDatabase& database) : m_database(database) {} ///< detached, for `VDatabase::Adopt`
@@ -30,9 +31,9 @@ public:
     VDatabase& GetDatabase() const { return m_database; }
     bool IsDetached() const { return m_isDetached; }
 
-    /// All elements of a detached part are about to be destroyed: none needs to leave it one by one.
+    /// All elements of a detached part are about to be destroyed: they need not leave it one by one.
     void Close() { m_isClosing = true; }
-    /// No more texts come, or few.
+    /// No more texts will be stored, or few.
     void Complete() { m_texts.ForgetShared(); }
 
     // For the elements of the part.
@@ -43,10 +44,10 @@ public:
     /// The copy, as long as the database lives.
     std::wstring const& StoreString(wchar_t const* text) { return m_strings.emplace_back(text); }
     void NoteChange();                                                  ///< to the database; no effect while detached
-    void NoteRedirection();                                             ///< what short names mean has changed; the same
-    void CountIn(NODX201::VOdxTagEnum tag);                             ///< there is one more of the kind
-    void CountOut(NODX201::VOdxTagEnum tag);                            ///< there is one less of the kind
-    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< one is of another kind now
+    void NoteRedirection();                                             ///< the same for the meaning of short names
+    void CountIn(NODX201::VOdxTagEnum tag);                             ///< one more of the kind
+    void CountOut(NODX201::VOdxTagEnum tag);                            ///< one less of the kind
+    void ChangeTag(NODX201::VOdxTagEnum from, NODX201::VOdxTagEnum to); ///< one changes its kind
 
 private:
     friend class VDatabase;

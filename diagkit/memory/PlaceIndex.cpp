@@ -20,7 +20,7 @@ bool IsDocument(Tag tag) {
            tag == Tag::MultipleEcuJobSpec || tag == Tag::VehicleInfoSpec;
 }
 
-/// Calls `take` with every place that an element stands in.
+/// Calls `take` with every place that contains an element.
 template <class Take>
 void ForEachPlaceOf(NODX201::VOdxElement& element, Take take) {
     VScope const scope = ScopeOf(element);
@@ -44,7 +44,7 @@ bool StandsIn(NODX201::VOdxElement& element, VSearchPlace const& place) {
     return stands;
 }
 
-/// The layer or document around an element which makes it stand in a place that short names tell.
+/// The layer or document around an element that puts it into a place given by short names.
 NODX201::VOdxElement const* NamedIn(NODX201::VOdxElement& element, VSearchPlace const& place) {
     VScope const scope = ScopeOf(element);
     bool const isByLayer = scope.layer != nullptr && place.kind != VPlaceKind::NamedDocument &&
@@ -112,7 +112,7 @@ NODX201::VReferencable* VPlaceIndex::FindOther(VIdIndex::VEntry const& entry, VE
     return answer->second;
 }
 
-/// Null when no element of the ID stands in the place.
+/// Null when no element of the ID is in the place.
 VPlaceIndex::VGroup* VPlaceIndex::GroupOf(VIdIndex::VEntry const& entry, VSearchPlace const& place,
                                           std::uint64_t generation) {
     ForgetOld(generation);
@@ -129,7 +129,7 @@ NODX201::VReferencable* VPlaceIndex::FindInImports(VIdIndex::VEntry const& entry
     ForgetOld(generation);
     auto known = m_imports.find(&layer);
     if (known == m_imports.end()) {
-        // To look for imports is to ask this index.
+        // Looking for imports uses this index.
         VImports imports = ImportsOf(layer);
         known = m_imports.emplace(&layer, std::move(imports)).first;
     }
@@ -159,7 +159,7 @@ VPlaceIndex::VImports VPlaceIndex::ImportsOf(NODX201::VOdxElement& layer) {
     return imports;
 }
 
-/// Looks at whatever is fewer: the layers that are imported, or the elements of the ID.
+/// Searches the smaller set: the imported layers, or the elements of the ID.
 NODX201::VReferencable* VPlaceIndex::FirstImported(VIdIndex::VEntry const& entry, VExpect expect,
                                                    VImports const& imports, std::uint64_t generation) {
     if (imports.layers.size() <= entry.Count()) {

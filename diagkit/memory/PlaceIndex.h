@@ -15,11 +15,11 @@
 
 namespace NMemory {
 
-/// Where a reference by ID may look: the whole database, this very layer or document, the layers of a short name, the
-/// documents of a short name and category, or whatever bears a short name.
+/// Where a reference by ID may look: the whole database, one particular layer or document, the layers of a short name,
+/// the documents of a short name and category, or both for a short name.
 enum class VPlaceKind { Anywhere, Element, NamedLayer, NamedDocument, Named };
 
-/// What is not part of the kind stays empty.
+/// Members that the kind does not use are empty.
 struct VSearchPlace {
     VPlaceKind kind = VPlaceKind::Anywhere;
     NODX201::VOdxElement const* element = nullptr;
@@ -36,7 +36,7 @@ struct VSearchPlace {
     }
 };
 
-/// The layer and the category document that an element stands in; a layer stands in itself.
+/// The layer and the category document that contain an element; a layer is in itself.
 struct VScope {
     NODX201::VOdxElement* layer = nullptr;
     NODX201::VOdxElement* document = nullptr;
@@ -44,23 +44,23 @@ struct VScope {
 
 VScope ScopeOf(NODX201::VOdxElement& element);
 
-/// Finds the elements of one ID by the places they stand in. Of an ID that few elements have each is looked at; those
-/// of an ID that many have are sorted by their places once, until the database changes, so that many references to it
-/// take no longer each. Which layer imports which is remembered as long.
+/// Finds the elements of one ID by the places that contain them. Of an ID with few elements each is checked; the
+/// elements of an ID with many are sorted by place once, until the database changes, so that many references to it take
+/// no longer each. Which layer imports which is cached equally long.
 ///
-/// `generation` is that of the database. An answer that fails for lack of memory is not remembered.
+/// `generation` is that of the database. A result that fails for lack of memory is not cached.
 class VPlaceIndex {
 public:
-    /// The first element of the entry in load order that is of the expected class and stands in the place, or null.
+    /// The first element of the entry in load order that is of the expected class and in the place, or null.
     NODX201::VReferencable* Find(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
                                  std::uint64_t generation);
 
-    /// The first one in a place that short names tell which stands in another layer or document than the one that
-    /// `Find` gives, or null.
+    /// The first one in a place given by short names that is in another layer or document than the result of `Find`, or
+    /// null.
     NODX201::VReferencable* FindOther(VIdIndex::VEntry const& entry, VExpect expect, VSearchPlace const& place,
                                       std::uint64_t generation);
 
-    /// The same as `Find` in the layers that a layer imports; the one that it imports first goes before the others.
+    /// The same as `Find` in the layers that a layer imports; the layer imported first has precedence.
     NODX201::VReferencable* FindInImports(VIdIndex::VEntry const& entry, VExpect expect, NODX201::VOdxElement& layer,
                                           std::uint64_t generation);
 

@@ -8,7 +8,7 @@
 
 namespace NMemory {
 
-/// A processing instruction; its texts are those of a pool.
+/// A processing instruction; its texts belong to a pool.
 class VMemProcessingInstruction final : public NODX201::VProcessingInstruction {
 public:
     /// Keeps the pointers, not copies.

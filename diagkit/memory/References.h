@@ -19,17 +19,17 @@
 #include <diagkit/model/Tables.h>
 #include <diagkit/model/Units.h>
 
-/// References. Those that may stand by short name ask the database's resolver in the context that they are read in.
+/// References. Those that may be by short name use the database's resolver in the context in which they are read.
 
 namespace NMemory {
 
-/// A group of layers of the memory model in which links are severed. The layers know it by its number, so it need not
-/// outlive them or the links, and whatever comes to stand where a layer was destroyed is not meant.
+/// A group of layers of the memory model in which links are severed. The layers store its number, so it need not
+/// outlive them or the links, and an object that is later created at the address of a destroyed layer is not affected.
 class VSeveredLayers {
 public:
     VSeveredLayers(); ///< empty
     void Add(NODX201::VDiagLayer& layer);
-    std::uint64_t GetNumber() const { return m_number; } ///< no other group of the process ever has it
+    std::uint64_t GetNumber() const { return m_number; } ///< unique among all groups of the process
 
 private:
     std::uint64_t m_number;
@@ -42,7 +42,7 @@ public:
     bool HasDopBase(NODX201::VDiagLayer& layer) override;
     NODX201::VDopBase& GetDopBase() override { return Found(); }
 
-    /// Names another target from now on, in every layer.
+    /// Gives the link another target, in every layer.
     void SetReference(VReference const& reference) {
         VMemLink::SetReference(reference);
         m_severedIn.reset();
@@ -123,7 +123,7 @@ public:
     NODX201::IIdentIf& GetIdentIf() { return Found(); }
 };
 
-/// IMPORT-REF: a layer whose IDs can be referenced as if they stood in the own layer. It inherits nothing.
+/// IMPORT-REF: a layer whose IDs can be referenced as if they were in the own layer. Nothing is inherited from it.
 class VMemImportRef final : public VMemLink<NODX201::VLink, NODX201::VOdxTagEnum::ImportRef, NODX201::VDiagLayer> {
 public:
     using VMemLink::VMemLink;
@@ -131,7 +131,7 @@ public:
     bool HasDiagLayer() const;
     NODX201::VDiagLayer& GetDiagLayer() { return Found(); }
 
-    /// Names another layer from now on, in which PARENT-REFs may find theirs.
+    /// Gives the reference another layer as target, in which PARENT-REFs may find theirs.
     void SetReference(VReference const& reference) {
         VMemLink::SetReference(reference);
         NoteRedirection();
@@ -140,7 +140,7 @@ public:
 
 class VImportRefCollection : public NODX201::VElementCollection<VMemImportRef> {};
 
-/// What every kind of layer of this model has besides its contract.
+/// Members of every kind of layer of this model that are not in its contract.
 class IMemLayer {
 public:
     virtual VImportRefCollection& ImportRefCollection() = 0;

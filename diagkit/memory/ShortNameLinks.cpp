@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Links that may stand by short name: these ask the database's resolver in the context they are read in, every time,
-// because the answer belongs to the context and not to the link.
+// Links that may be by short name: these use the database's resolver in the context in which they are read, every time,
+// because the result depends on the context and not only on the link.
 
 #include <algorithm>
 #include <atomic>
@@ -14,8 +14,8 @@
 namespace NMemory {
 namespace {
 
-/// An entry of DIAG-COMMS or DIAG-VARIABLES is part of the very view in which its short name would be looked up: it
-/// takes an ID only, whatever reference it was given since.
+/// An entry of DIAG-COMMS or DIAG-VARIABLES is part of the view in which its short name would be looked up: it accepts
+/// only an ID, whatever reference it was given since.
 bool IsEntryOfALayer(NODX201::VOdxElement const& link) {
     return dynamic_cast<NODX201::VDiagLayer const*>(link.GetOwner()) != nullptr;
 }
@@ -52,7 +52,7 @@ bool VMemDopBaseLink::HasDopBase(NODX201::VDiagLayer& layer) {
 
 namespace {
 
-std::atomic<std::uint64_t> numberOfGroups{0}; // of all databases, which threads may fill beside one another
+std::atomic<std::uint64_t> numberOfGroups{0}; // of all databases, which threads may fill in parallel
 
 } // namespace
 
@@ -66,7 +66,7 @@ void VMemDopBaseLink::SeverIn(VSeveredLayers const& layers) {
     if (m_severedIn == nullptr) {
         m_severedIn = std::make_unique<std::vector<std::uint64_t>>();
     }
-    // At the end nearly always: links are severed in one group after the other.
+    // Nearly always at the end: links are severed in one group after the other.
     m_severedIn->insert(std::upper_bound(m_severedIn->begin(), m_severedIn->end(), layers.GetNumber()),
                         layers.GetNumber());
 }
@@ -91,7 +91,7 @@ bool VMemDataObjectPropLink::HasDataObjectProp(NODX201::VDiagLayer& layer) {
     return Remember(resolver != nullptr ? resolver->ResolveDataObjectPropSnref(shortName, layer) : nullptr);
 }
 
-// A MULTIPLE-ECU-JOB is a DIAG-COMM by class, and a resolver has operations of their own for it.
+// A MULTIPLE-ECU-JOB is a DIAG-COMM by class, and a resolver has separate operations for it.
 
 bool VMemOutParamIfLink::HasOutParamIf(NODX201::VDiagComm& diagComm, NODX201::VDiagLayer& layer,
                                        NODX201::VSearchRange range) {

@@ -6,7 +6,7 @@
 namespace NMemory {
 namespace {
 
-constexpr std::size_t kLongestShared = 96; // longer texts hardly ever repeat
+constexpr std::size_t kLongestShared = 96; // longer texts rarely repeat
 constexpr std::size_t kBlockSize = 16 * 1024;
 
 } // namespace

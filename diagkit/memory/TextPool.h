@@ -10,14 +10,14 @@
 namespace NMemory {
 
 /// Stores texts: each once, zero-terminated, at an address that stays valid until the pool is destroyed. Nothing is
-/// freed before.
+/// freed earlier.
 class VTextPool {
 public:
     /// The stored copy of `text`. Short texts (names, IDs, literals) that are equal share one copy; the empty text is
     /// always "".
     wchar_t const* Store(std::wstring_view text);
 
-    /// No text stored so far is shared by later ones any more, which saves the memory of knowing them all.
+    /// Texts stored so far are not shared with later ones, which saves the memory for the table of texts.
     void ForgetShared() { m_shared.Clear(); }
 
 private:

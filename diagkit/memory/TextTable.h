@@ -11,8 +11,8 @@ namespace NMemory {
 
 std::uint32_t HashOf(std::wstring_view text); ///< the same on every call in a process
 
-/// A hash table by texts that stay where they are, such as those of a pool: all entries in one array, so that a look-up
-/// costs one far access to memory. Entries move when another one is added; none leaves.
+/// A hash table keyed by texts with stable addresses, such as those of a pool: all entries are in one array, so that a
+/// look-up costs one cache miss. Entries move when another one is added; none is removed.
 template <class Value>
 class VTextTable {
 public:
@@ -32,7 +32,7 @@ public:
         return m_entries.empty() ? nullptr : Occupied(m_entries[Place(text, HashOf(text))]);
     }
 
-    /// The entry of the text; a new one refers to what `store` makes of it, which may throw.
+    /// The entry of the text; a new one refers to the result of `store`, which may throw.
     template <class Store>
     VEntry& Add(std::wstring_view text, std::uint32_t hash, Store store) {
         Reserve(m_count + 1);
@@ -47,7 +47,7 @@ public:
         return entry;
     }
 
-    /// Makes room for so many entries in all.
+    /// Makes room for that many entries in all.
     void Reserve(std::size_t count) {
         std::size_t places = m_entries.empty() ? kFewest : m_entries.size();
         while (places - places / 4 < count) {
@@ -66,13 +66,13 @@ public:
     }
 
     std::size_t Count() const { return m_count; } ///< of entries
-    /// Forgets all entries and gives their memory back.
+    /// Removes all entries and frees their memory.
     void Clear() {
         m_entries = {};
         m_count = 0;
     }
 
-    /// Calls `take` with every entry, in no order.
+    /// Calls `take` with every entry, in unspecified order.
     template <class Take>
     void ForEach(Take take) const {
         for (VEntry const& entry : m_entries) {
@@ -83,7 +83,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kFewest = 16; // a power of two, as all numbers of places
+    static constexpr std::size_t kFewest = 16; // a power of two, like every capacity
 
     static VEntry* Occupied(VEntry& entry) { return entry.text != nullptr ? &entry : nullptr; }
     static VEntry const* Occupied(VEntry const& entry) { return entry.text != nullptr ? &entry : nullptr; }
@@ -93,7 +93,7 @@ private:
                (entry.text == text.data() || std::wstring_view(entry.text, entry.size) == text);
     }
 
-    /// Where the text stands, or the free place where it belongs.
+    /// The place of the text, or the free place where it belongs.
     std::size_t Place(std::wstring_view text, std::uint32_t hash) const {
         std::size_t const mask = m_entries.size() - 1;
         std::size_t place = hash & mask;

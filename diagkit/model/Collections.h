@@ -8,8 +8,8 @@
 #include <diagkit/model/Forward.h>
 #include <diagkit/model/OdxElement.h>
 
-/// The collections of the contract: all are ordered in document order and behave as `VElementCollection` says. Those
-/// that are no more than that are the rows of `facts/Collections.def`.
+/// The collections of the contract: all are ordered in document order and behave as `VElementCollection` says.
+/// Collections without further operations are the rows of `facts/Collections.def`.
 
 namespace NODX201 {
 

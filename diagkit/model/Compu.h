@@ -138,7 +138,7 @@ public:
     virtual VLimit& GetUpperLimit() = 0;
 };
 
-/// DIAG-CODED-TYPE: how a value lies in the message. Its four kinds are told apart in XML by xsi:type.
+/// DIAG-CODED-TYPE: the coding of a value in the message. Its four kinds are distinguished in XML by xsi:type.
 class DIAGKIT_EXPORT VDiagCodedType : public VOdxElement {
 public:
     /// @BASE-DATA-TYPE

@@ -42,7 +42,7 @@ protected:
     IOutParamIf() = default;
 };
 
-/// What services and jobs share.
+/// Base of services and jobs.
 class DIAGKIT_EXPORT VDiagComm : public VReferencable {
 public:
     /// @DIAGNOSTIC-CLASS
@@ -105,7 +105,7 @@ public:
     virtual VNegOutputParamCollection& NegOutputParamCollection() = 0;
 };
 
-/// MULTIPLE-ECU-JOB: stands in a MULTIPLE-ECU-JOB-SPEC, never in a layer.
+/// MULTIPLE-ECU-JOB: belongs to a MULTIPLE-ECU-JOB-SPEC, never to a layer.
 class DIAGKIT_EXPORT VMultipleEcuJob : public VDiagComm {
 public:
     ~VMultipleEcuJob() override;
@@ -117,7 +117,7 @@ public:
     virtual VNegOutputParamCollection& NegOutputParamCollection() = 0;
 };
 
-/// DIAG-COMM-REF or DIAG-COMM-SNREF (and the like of other names).
+/// DIAG-COMM-REF or DIAG-COMM-SNREF, and similar references with other names.
 class DIAGKIT_EXPORT VDiagCommLink : public VLink, public IDiagCommProxy {
 public:
     ~VDiagCommLink() override;
@@ -183,7 +183,8 @@ public:
 class DIAGKIT_EXPORT VOutParamIfLink : public VLink {
 public:
     ~VOutParamIfLink() override;
-    /// Looks for the parameter in the DIAG-COMM as `VAbstractSnrefResolver` does; the layer is what DOPs resolve in.
+    /// Looks for the parameter in the DIAG-COMM as `VAbstractSnrefResolver` does; DOP references are resolved in the
+    /// layer.
     virtual bool HasOutParamIf(VDiagComm& diagComm, VDiagLayer& layer, VSearchRange range) = 0;
     virtual IOutParamIf& GetOutParamIf() = 0;
 };

@@ -16,14 +16,14 @@ public:
     virtual VAdminData& GetAdminData() = 0;
     /// The DOPs of all kinds but ENV-DATA, in one list in document order.
     virtual VDopBaseCollection& DopBaseCollection() = 0;
-    /// ENV-DATAS of the dictionary itself; those of an ENV-DATA-DESC stand there.
+    /// ENV-DATAS of the dictionary itself; an ENV-DATA-DESC has its own.
     virtual VEnvDataProxyCollection& EnvDataProxyCollection() = 0;
     virtual bool HasUnitSpec() const = 0;
     virtual VUnitSpec& GetUnitSpec() = 0;
     virtual VTableCollection& TableCollection() = 0;
 };
 
-/// What the ten kinds of DOP share.
+/// Base of the ten kinds of DOP.
 class DIAGKIT_EXPORT VDopBase : public VReferencable {
 public:
     ~VDopBase() override;
@@ -96,13 +96,13 @@ public:
     virtual VDtc& GetDtc() = 0;
 };
 
-/// What the DOPs of several values share.
+/// Base of the DOPs that consist of several values.
 class DIAGKIT_EXPORT VComplexDop : public VDopBase {
 public:
     ~VComplexDop() override;
 };
 
-/// What STRUCTURE and ENV-DATA share.
+/// Base of STRUCTURE and ENV-DATA.
 class DIAGKIT_EXPORT VBasicStructure : public VComplexDop {
 public:
     ~VBasicStructure() override;
@@ -193,7 +193,7 @@ protected:
     ~IBasicStructureEnvDataDescChoice() = default;
 };
 
-/// BASIC-STRUCTURE-REF; hits a STRUCTURE or an ENV-DATA.
+/// BASIC-STRUCTURE-REF; its target is a STRUCTURE or an ENV-DATA.
 class DIAGKIT_EXPORT VBasicStructureLink : public VLink, public IBasicStructureEnvDataDescChoice {
 public:
     ~VBasicStructureLink() override;
@@ -213,7 +213,7 @@ public:
     virtual VEnvDataDesc& GetEnvDataDesc() = 0;
 };
 
-/// What the four kinds of field share.
+/// Base of the four kinds of field.
 class DIAGKIT_EXPORT VField : public VComplexDop {
 public:
     ~VField() override;
@@ -321,7 +321,7 @@ public:
     virtual VDopBase& GetDopBase() = 0;
 };
 
-/// DOP-REF, DOP-SNREF, DATA-OBJECT-PROP-REF, KEY-DOP-REF where only a DATA-OBJECT-PROP will do.
+/// DOP-REF, DOP-SNREF, DATA-OBJECT-PROP-REF, KEY-DOP-REF where only a DATA-OBJECT-PROP is allowed.
 class DIAGKIT_EXPORT VDataObjectPropLink : public VLink {
 public:
     ~VDataObjectPropLink() override;

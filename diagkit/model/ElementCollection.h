@@ -8,8 +8,8 @@
 
 namespace NODX201 {
 
-/// An ordered collection of model elements, in document order. It holds pointers; who owns the elements is the
-/// model's affair, the toolkit never does.
+/// An ordered collection of model elements, in document order. It contains pointers. The model decides who owns the
+/// elements; the toolkit never does.
 ///
 /// `Begin()`/`End()` are the contract's names; `begin()`/`end()` walk the same elements in a range-for and with the
 /// algorithms of the standard library. A constant collection hands out the same elements: constant is what it lists,

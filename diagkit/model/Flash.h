@@ -90,7 +90,7 @@ public:
     ~VEncryptCompressMethod() override;
 };
 
-/// CHECKSUM-RESULT; its type also stands on SECURITY-METHOD, FW-SIGNATURE, FW-CHECKSUM and VALIDITY-FOR.
+/// CHECKSUM-RESULT; SECURITY-METHOD, FW-SIGNATURE, FW-CHECKSUM and VALIDITY-FOR use the same type.
 class DIAGKIT_EXPORT VChecksumResult : public VOdxElement {
 public:
     /// @TYPE

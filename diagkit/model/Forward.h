@@ -22,7 +22,7 @@ class VDiagLayerVisitor;
 class VDopBaseVisitor;
 class VParamVisitor;
 
-// What only tells alternatives apart.
+// Interfaces that only distinguish alternatives.
 class IAllValueDtcValuesChoice;
 class IBasicStructureEnvDataDescChoice;
 class ICompuConstCompuRationalCoeffsChoice;

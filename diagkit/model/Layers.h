@@ -4,8 +4,8 @@
 #include <diagkit/model/Collections.h>
 #include <diagkit/model/Reference.h>
 
-/// Diagnostic layers and their parts. Nothing that is inherited is in them: a layer has its own contents alone, and the
-/// toolkit's views compute what is visible in it.
+/// Diagnostic layers and their parts. A layer contains only its own elements, nothing inherited; the toolkit's views
+/// compute what is visible in it.
 
 namespace NODX201 {
 
@@ -16,7 +16,7 @@ public:
     virtual VDiagLayerCollection& DiagLayerCollection() = 0;
 };
 
-/// What the five kinds of layer share.
+/// Base of the five kinds of layer.
 class DIAGKIT_EXPORT VDiagLayer : public VReferencable {
 public:
     ~VDiagLayer() override;
@@ -96,7 +96,7 @@ public:
     virtual VEcuVariantPatternCollection& EcuVariantPatternCollection() = 0;
 };
 
-/// ECU-SHARED-DATA: the one kind without parents.
+/// ECU-SHARED-DATA: the only kind without parents.
 class DIAGKIT_EXPORT VEcuSharedData : public VDiagLayer {
 public:
     ~VEcuSharedData() override;
@@ -135,7 +135,7 @@ public:
     virtual VDynIdDefModeInfoCollection& DynIdDefModeInfoCollection() = 0;
 };
 
-/// DYN-ID-DEF-MODE-INFO; each of the three messages stands as ...-REF or ...-SNREF.
+/// DYN-ID-DEF-MODE-INFO; each of the three messages is given by a ...-REF or a ...-SNREF.
 class DIAGKIT_EXPORT VDynIdDefModeInfo : public VOdxElement {
 public:
     ~VDynIdDefModeInfo() override;

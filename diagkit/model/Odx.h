@@ -12,7 +12,8 @@ public:
     ~VOdx() override;
     virtual VDiagLayerContainerCollection& DiagLayerContainerCollection() = 0; ///< in load order
     virtual VComparamSpecCollection& ComparamSpecCollection() = 0;             ///< in load order
-    /// Those of the prolog, the epilog and the direct children of ODX, of all documents, in load and document order.
+    /// The processing instructions of the prolog, of the epilog and directly in ODX, of all documents, in load and
+    /// document order.
     virtual VProcessingInstructionCollection& ProcessingInstructionCollection() = 0;
 };
 

@@ -6,13 +6,13 @@
 
 namespace NODX201 {
 
-/// Whatever can own an element of the model: an element, or the collection of a container's layers.
+/// Anything that can own an element of the model: an element, or the collection of a container's layers.
 class DIAGKIT_EXPORT VOdxObject {
 public:
     virtual ~VOdxObject();
 
-    /// What this object stands in: the element that directly contains it. The owner of a layer is its
-    /// `VDiagLayerCollection`, whose owner in turn is the container. Null for the root.
+    /// The element that directly contains this object. The owner of a layer is its `VDiagLayerCollection`, whose owner
+    /// in turn is the container. Null for the root.
     virtual VOdxObject* GetOwner() const = 0;
 
     VOdxObject(VOdxObject const&) = delete;
@@ -26,13 +26,13 @@ protected:
 /// Text accessors return zero-terminated wide text owned by the element, valid until the element is changed or
 /// destroyed; absent text is "".
 ///
-/// Optional children come in pairs: call `GetX()` only after `HasX()` returned true. Collections may always be asked
-/// for; an absent one is empty.
+/// Optional children come in pairs: call `GetX()` only after `HasX()` returned true. A collection may always be
+/// requested; an absent one is empty.
 class DIAGKIT_EXPORT VOdxElement : public VOdxObject {
 public:
     ~VOdxElement() override;
 
-    /// The ODX element kind: the tag, with xsi:type where that decides.
+    /// The ODX element kind: the tag, with xsi:type where that determines the kind.
     virtual VOdxTagEnum GetOdxTag() const = 0;
 
     /// SHORT-NAME; "" for elements without one.

@@ -19,7 +19,8 @@ static_assert(static_cast<int>(VOdxTagEnum::GlobalNegResponse) == 233);
 /// The XML element of a kind: "DIAG-SERVICE", and "PARAM" for every kind of parameter. "" for `None`.
 DIAGKIT_EXPORT wchar_t const* OdxTagText(VOdxTagEnum tag);
 
-/// The xsi:type that tells a kind apart: "CODED-CONST", "PROTOCOL-REF"; "" for kinds that have an element of their own.
+/// The xsi:type that distinguishes a kind: "CODED-CONST", "PROTOCOL-REF"; "" for kinds with an element name of their
+/// own.
 DIAGKIT_EXPORT wchar_t const* OdxTypeText(VOdxTagEnum tag);
 
 /// The kind of an XML element; with an xsi:type where the element has several kinds. `None` for a tag that the model

@@ -5,7 +5,7 @@
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Reference.h>
 
-/// The eleven kinds of PARAM, told apart in XML by xsi:type.
+/// The eleven kinds of PARAM, distinguished in XML by xsi:type.
 
 namespace NODX201 {
 
@@ -17,7 +17,7 @@ public:
     /// Calls back the Visit operation of the parameter's kind, exactly once.
     virtual void Accept(VParamVisitor& visitor) = 0;
 
-    /// The processing instructions that stand directly inside the PARAM.
+    /// The processing instructions directly inside the PARAM.
     virtual VProcessingInstructionCollection& ProcessingInstructionCollection() = 0;
 };
 
@@ -73,7 +73,7 @@ public:
     virtual VDataObjectPropLink& GetDataObjectPropLink() = 0;
 };
 
-/// What a TABLE-KEY names: a whole table or one row.
+/// The target of a TABLE-KEY: a whole table or one row.
 class DIAGKIT_EXPORT ITableRefTableRowRefChoice {
 public:
     virtual bool IsTableLink() const = 0;    ///< castable to `VTableLink`
@@ -119,7 +119,7 @@ public:
     virtual VTableRowLink& GetTableRowRef() = 0;
 };
 
-/// PARAM of xsi:type VALUE: the one kind that input and output short names may name.
+/// PARAM of xsi:type VALUE: the only kind that short names of input and output parameters may refer to.
 class DIAGKIT_EXPORT VValue : public VParam, public IInParamIf, public IOutParamIf {
 public:
     ~VValue() override;

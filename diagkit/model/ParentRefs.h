@@ -4,9 +4,8 @@
 #include <diagkit/model/Collections.h>
 #include <diagkit/model/Reference.h>
 
-/// PARENT-REFs: what a layer inherits from. A test answers whether the target exists and is a layer of that kind; tell
-/// the kinds apart by dynamic cast. A reference whose kind nobody knows is a plain `VParentRef`, which every view
-/// skips.
+/// PARENT-REFs: what a layer inherits from. A test says whether the target exists and is a layer of that kind;
+/// distinguish the kinds by dynamic cast. A reference of unknown kind is a plain `VParentRef`, which every view skips.
 
 namespace NODX201 {
 
@@ -52,7 +51,8 @@ public:
     virtual VEcuSharedData& GetEcuSharedData() = 0;
 };
 
-/// NOT-INHERITED-DIAG-COMM: excludes the DIAG-COMM of one short name from what the parent reference brings.
+/// NOT-INHERITED-DIAG-COMM: excludes the DIAG-COMM of one short name from the elements inherited through the
+/// PARENT-REF.
 class DIAGKIT_EXPORT VNotInheritedDiagComm : public VOdxElement {
 public:
     ~VNotInheritedDiagComm() override;

@@ -3,13 +3,13 @@
 
 #include <diagkit/model/OdxElement.h>
 
-/// References between elements. A link element (`...-REF` or `...-SNREF` in XML) holds one `ILink`, which is either a
-/// `VSnref` or a `VOdxLink`, and resolves it: `HasX(...)` looks for the target, `GetX()` returns the one found last.
-/// A target that cannot be found is a false `HasX`, never an error.
+/// References between elements. A link element (`...-REF` or `...-SNREF` in XML) contains one `ILink`, which is either
+/// a `VSnref` or a `VOdxLink`, and resolves it: `HasX(...)` looks for the target, `GetX()` returns the one found last.
+/// When no target is found, `HasX` returns false; this is never an error.
 
 namespace NODX201 {
 
-/// The XML form of a reference: a `VSnref` or a `VOdxLink`; tell them apart by dynamic cast.
+/// The XML form of a reference: a `VSnref` or a `VOdxLink`; distinguish them by dynamic cast.
 class DIAGKIT_EXPORT ILink {
 public:
     virtual ~ILink();
@@ -27,7 +27,7 @@ public:
     virtual wchar_t const* GetShortName() const = 0; ///< @SHORT-NAME
 };
 
-/// A reference by ID (`...-REF`). DOCTYPE stays text, because data uses literals beyond the five of `VDoctype`.
+/// A reference by ID (`...-REF`). DOCTYPE remains text, because data use literals beyond the five of `VDoctype`.
 class DIAGKIT_EXPORT VOdxLink : public ILink {
 public:
     ~VOdxLink() override;

@@ -17,7 +17,7 @@ public:
     virtual VParamCollection& ParamCollection() = 0;
 };
 
-/// What the three kinds of response share.
+/// Base of the three kinds of response.
 class DIAGKIT_EXPORT VResponse : public VReferencable {
 public:
     ~VResponse() override;

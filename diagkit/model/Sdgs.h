@@ -3,7 +3,7 @@
 
 #include <diagkit/model/Collections.h>
 
-/// Special data groups: data of an author's own, nested in free mix.
+/// Special data groups: author-defined data, nested in any combination.
 
 namespace NODX201 {
 

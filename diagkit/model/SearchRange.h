@@ -3,13 +3,13 @@
 
 namespace NODX201 {
 
-/// Which parameters of a DIAG-SERVICE an output-parameter search looks at. The uneven combinations are meant.
+/// Which parameters of a DIAG-SERVICE an output-parameter search includes. The irregular combinations are intentional.
 enum class VSearchRange : int {
     Responses = 0,              ///< positive and negative responses
     RequestAndNegResponses = 1, ///< the request and the negative responses
     Nothing = 2,                ///< no parameter at all
-    Request = 3,                ///< the request alone
-    PosResponses = 4,           ///< the positive responses alone
+    Request = 3,                ///< only the request
+    PosResponses = 4,           ///< only the positive responses
     RequestAndResponses = 5,    ///< everything
 };
 

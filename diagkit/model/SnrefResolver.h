@@ -6,10 +6,10 @@
 
 namespace NODX201 {
 
-/// Turns short names into elements on behalf of a model. A model calls it for its SNREF links; what a short name means
-/// depends on the context it is read in, usually a layer with all that it inherits.
+/// Turns short names into elements on behalf of a model. A model calls it for its SNREF links. The meaning of a short
+/// name depends on its context, usually a layer with everything it inherits.
 ///
-/// Every operation takes a short name that is not null and returns an element of the model. It returns null where none
+/// Every operation accepts a short name that is not null and returns an element of the model, or null where no element
 /// of that name is visible. Names compare exactly.
 class DIAGKIT_EXPORT VAbstractSnrefResolver {
 public:

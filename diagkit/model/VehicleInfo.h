@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// The two enumerations of VEHICLE-INFO-SPEC. The toolkit reads nothing else of that category, so the classes exist for
-/// their names alone.
+/// The two enumerations of VEHICLE-INFO-SPEC. The toolkit reads nothing else of that category, so the classes exist
+/// only as scopes of the enumerations.
 
 namespace NODX201 {
 

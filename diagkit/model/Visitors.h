@@ -4,9 +4,9 @@
 #include <diagkit/Export.h>
 #include <diagkit/model/Forward.h>
 
-/// Double dispatch over the four families of elements that come in kinds. An element's `Accept` calls one Visit
-/// operation, that for its kind, and calls it once; `Dispatch...` is the same from the visitor's side. Visit operations
-/// are pure: a visitor says what it does with every kind.
+/// Double dispatch over the four families of elements that have several kinds. An element's `Accept` calls one Visit
+/// operation once, the one for its kind; `Dispatch...` does the same from the visitor's side. Visit operations are
+/// pure: a visitor defines what it does with every kind.
 
 namespace NODX201 {
 
@@ -24,7 +24,7 @@ public:
     virtual void DispatchDiagLayer(VDiagLayer& layer);
 };
 
-/// Visits the two kinds of DIAG-COMM that stand in layers.
+/// Visits the two kinds of DIAG-COMM that layers contain.
 class DIAGKIT_EXPORT VDiagCommVisitor {
 public:
     virtual ~VDiagCommVisitor();

@@ -15,7 +15,7 @@
 
 namespace NQuery {
 
-/// The root stands in no facts.
+/// The root is not in the facts.
 VContentTable const& ContentOf(NMemory::VMemOdx*) {
     using F = VContentOf<NMemory::VMemOdx>;
     using W = VContentFact::VWhat;
@@ -38,16 +38,16 @@ bool IsByShortName(NODX201::VLink& reference) {
     return dynamic_cast<NODX201::VSnref const*>(&reference.GetLink()) != nullptr;
 }
 
-/// What is known of a class of the memory model. Its elements are told by their type, since several classes of
+/// The data about a class of the memory model. Classes are distinguished by their type, since several classes of
 /// references share a tag, and elements of other models have tags as well.
 struct VContentClass {
-    VContentTable const* table = nullptr; ///< null for references that have attributes alone
+    VContentTable const* table = nullptr; ///< null for references with attributes only
     NODX201::VOdxElement* (*follow)(NODX201::VLink& reference, NODX201::VDiagLayer* layer) = nullptr;
-    bool isReadInLayer = false; ///< where it stands by short name
+    bool isReadInLayer = false; ///< if it is by short name
 };
 using VContentClasses = std::unordered_map<std::type_index, VContentClass>;
 
-/// What a reference leads to by its ID, or as `find` finds by short name.
+/// The target of a reference by its ID, or as `find` finds it by short name.
 template <class Link, class Find>
 bool Leads(Link& link, Find find) {
     return link.ResolvesById() || (IsByShortName(link) && find(link));
@@ -91,7 +91,7 @@ VContentClass const* ClassOf(NODX201::VOdxElement& element) {
     return found != classes.end() ? &found->second : nullptr;
 }
 
-/// The attributes of a reference, which no facts name.
+/// The attributes of a reference, which are not in the facts.
 void EmitReferenceAttributes(NODX201::VLink& reference, IPartSink& sink) {
     auto const emit = [&sink](wchar_t const* tag, wchar_t const* text) {
         EmitText(sink, VPartRole::Attribute, tag, L"", text);
@@ -123,7 +123,7 @@ bool HasChild(NODX201::VOdxElement& element, VContentTable const& table, wchar_t
     return isThere;
 }
 
-/// The xsi:type where the tag says it, or a child that one type alone has.
+/// The xsi:type where the tag implies it, or a child that only one type has.
 wchar_t const* TypeOf(NODX201::VOdxElement& element, VContentTable const* table) {
     wchar_t const* const type = NODX201::OdxTypeText(element.GetOdxTag());
     if (*type != L'\0' || table == nullptr) {

@@ -20,14 +20,14 @@ std::wstring Joined(std::wstring const& path, std::wstring const& rest) {
     return path.empty() || rest.empty() ? path + rest : path + L'/' + rest;
 }
 
-/// The data behind a facet, be it inside or referred to.
+/// The data of a facet, either inside or referred to.
 NODX201::VOdxElement* DataOf(VFacet const& facet) {
     return facet.kind == VFacet::VKind::Element ? facet.element : facet.target;
 }
 
 } // namespace
 
-/// Walks over the pairs of elements that differ, and tells what differs in each by the path to it.
+/// Walks over the pairs of elements that differ, and reports the differences in each with the path to it.
 class VContentDifferences::VEnumeration {
 public:
     VEnumeration(VContentDifferences& differences, VSeenFrom& oldFrom, VSeenFrom& newFrom)
@@ -64,7 +64,7 @@ private:
         VSeen const oldSeen{&old, &m_oldFrom};
         VSeen const newSeen{&now, &m_newFrom};
         VHash const key = m_differences.KeyOf(oldSeen, newSeen);
-        if (m_onPath.insert(key).second) { // met again inside itself, it counts by its short name
+        if (m_onPath.insert(key).second) { // found again inside itself, it counts by its short name
             m_frames.push_back({m_differences.StepsBetween(oldSeen, newSeen), key, &old, &now, pathLength});
         }
     }
@@ -95,8 +95,8 @@ private:
     std::wstring m_path;
     std::vector<VDetail> m_details;
     std::size_t m_visits = 0;
-    bool m_hasCut = false; // something is not looked into any further
-    bool m_isCut = false;  // nothing more is told
+    bool m_hasCut = false; // something is not examined any further
+    bool m_isCut = false;  // nothing more is reported
 };
 
 VContentDifferences::VDetails VContentDifferences::Between(VSeen const& old, VSeen const& now) {
@@ -169,7 +169,7 @@ void VContentDifferences::Compare(VSeen const& old, VSeen const& now, std::wstri
     }
 }
 
-/// By what parts are matched: the name in the path; where order does not count, the content of what has none.
+/// The keys by which parts are matched: the name in the path; where order does not count, the content of unnamed parts.
 std::vector<VHash> VContentDifferences::KeysOf(VFacetList const& facets, VSeenFrom& from) {
     std::vector<VHash> keys;
     std::unordered_map<VHash, std::uint64_t, VHashOfHash> counts;
@@ -205,7 +205,7 @@ void VContentDifferences::CompareFacets(VFacet const& old, VSeenFrom& oldFrom, V
     }
 }
 
-/// Of two, one at least is a reference.
+/// At least one of the two is a reference.
 void VContentDifferences::CompareReferences(VFacet const& old, VSeenFrom& oldFrom, VFacet const& now,
                                             VSeenFrom& newFrom, std::wstring const& path, std::size_t depth,
                                             std::vector<VStep>& steps) {

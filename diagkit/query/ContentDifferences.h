@@ -7,11 +7,11 @@
 
 #include <diagkit/query/ContentHashes.h>
 
-/// Where the contents of two elements differ. For the sources of this folder.
+/// The differences between the contents of two elements. For the sources of this folder.
 
 namespace NQuery {
 
-/// Knows what it told once. Two elements that many others lead to are compared once.
+/// Caches its results. Two elements to which many others lead are compared once.
 class VContentDifferences {
 public:
     using VDetails = std::shared_ptr<std::vector<VDetail> const>;
@@ -19,19 +19,19 @@ public:
     VContentDifferences(VFacets& facets, VContentHashes& hashes, VDiffOptions const& options)
         : m_facets(facets), m_hashes(hashes), m_options(options) {}
 
-    /// An element as a layer sees it.
+    /// An element as seen from a layer.
     struct VSeen {
         NODX201::VOdxElement* element;
         VSeenFrom* from;
     };
 
-    /// Null when nothing differs after all.
+    /// Null when there are no differences after all.
     VDetails Between(VSeen const& old, VSeen const& now);
 
     std::size_t CutDetails() const { return m_cut; }
 
 private:
-    /// What differs between two elements themselves, or two data that differ and to which they lead.
+    /// The differences between two elements themselves, or between two data to which they lead.
     struct VStep {
         std::wstring path;
         std::optional<std::wstring> oldText;

@@ -29,7 +29,7 @@ std::wstring_view WithoutRef(std::wstring_view tag) {
     return tag;
 }
 
-/// PARAMS around PARAM, DTCS around DTC-REF: says nothing that its items do not say.
+/// PARAMS around PARAM, DTCS around DTC-REF: adds no information to that of its items.
 bool IsPlural(std::wstring_view wrapper, std::wstring_view tag, std::wstring_view shortTag) {
     auto const isOf = [wrapper](std::wstring_view item) {
         return wrapper.size() == item.size() + 1 && wrapper.back() == L'S' && wrapper.substr(0, item.size()) == item;
@@ -37,13 +37,13 @@ bool IsPlural(std::wstring_view wrapper, std::wstring_view tag, std::wstring_vie
     return isOf(tag) || isOf(shortTag);
 }
 
-/// The attributes of references, which no other element has: a reference counts by what it leads to.
+/// The attributes of references, which no other element has: a reference counts by its target.
 bool IsOfReference(wchar_t const* attribute) {
     return IsTag(attribute, L"ID-REF") || IsTag(attribute, L"DOCREF") || IsTag(attribute, L"DOCTYPE") ||
            IsTag(attribute, L"REVISION") || IsTag(attribute, L"SHORT-NAME");
 }
 
-/// Elements that are as good as a wrapper: paths do not name them.
+/// Elements that act only as wrappers: paths leave them out.
 bool IsTransparent(wchar_t const* tag) { return IsTag(tag, L"COMPU-INTERNAL-TO-PHYS") || IsTag(tag, L"DTC-VALUES"); }
 
 /// A reference to a DOP by short name.
@@ -179,7 +179,7 @@ bool VFacets::AddReference(VContentPart const& part, VSeenFrom& from, std::vecto
     return isReadByDops;
 }
 
-/// A PARAM without BYTE-POSITION stands where the one before it ends.
+/// A PARAM without BYTE-POSITION starts where the previous one ends.
 void VFacets::AddPlace(NODX201::VOdxElement const& element, std::vector<VFacet>& facets) {
     auto const before = m_before.find(&element);
     if (before == m_before.end() || *before->second == L'\0') {
@@ -241,7 +241,7 @@ bool IsOfSameName(VFacet const& a, VFacet const& b) {
 
 } // namespace
 
-// Few are compared with each other, which takes no memory; that is nearly always so.
+// A few are compared with each other, which needs no memory; there are nearly always only a few.
 void VFacets::NumberItems(std::vector<VFacet>& facets, std::size_t start) {
     constexpr std::size_t kFew = 16;
     if (facets.size() - start <= kFew) {

@@ -16,7 +16,7 @@
 
 namespace NQuery {
 
-/// A digest of contents. Equal contents have equal ones; others have others, but for a chance that nobody meets.
+/// A digest of contents. Equal contents have equal digests; others have different ones, with negligible exceptions.
 struct VHash {
     std::uint64_t first = 0;
     std::uint64_t second = 0;
@@ -24,7 +24,7 @@ struct VHash {
     bool operator==(VHash const& other) const { return first == other.first && second == other.second; }
     bool operator!=(VHash const& other) const { return !(*this == other); }
 
-    /// Adds what stands beside others in any order.
+    /// Adds the digest of a part whose order does not count.
     void Add(VHash const& other) {
         first += other.first;
         second += other.second;
@@ -40,15 +40,15 @@ VHash HashOf(std::wstring_view text);
 VHash HashOf(std::uint64_t number);
 VHash Mixed(VHash const& a, VHash const& b); ///< in this order
 
-/// The layer in which contents are seen.
+/// The layer from which contents are seen.
 class VSeenFrom {
 public:
-    /// The DOPs that are visible in the layer, in view order; both live as long as this object.
+    /// The DOPs that are visible in the layer, in view order; both must outlive this object.
     VSeenFrom(NODX201::VDiagLayer& layer, std::vector<NODX201::VDopBase*> const& dops) : m_layer(layer), m_dops(dops) {}
 
-    /// What a reference to a DOP by short name leads to; null where it leads nowhere.
+    /// The target of a reference to a DOP by short name; null where it has none.
     NODX201::VOdxElement* TargetOf(NODX201::VLink& reference);
-    /// Equal for layers in which all such references lead to the same.
+    /// Equal for layers in which all such references have the same targets.
     VHash const& Meaning();
 
 private:
@@ -68,24 +68,24 @@ struct VFacet {
 
     VKind kind = VKind::Text;
     bool isItem = false;
-    bool isMissing = false;      ///< a reference that leads nowhere
+    bool isMissing = false;      ///< a reference without a target
     std::uint32_t component = 0; ///< number of "PARAM", "@SEMANTIC", "LONG-NAME/@TI"
     std::uint32_t number = 0;    ///< of an item: the n-th of its name, or of those without one, from 1
     wchar_t const* name = L"";   ///< short name of an item or of what is referred to; "" without one
     wchar_t const* text = L"";
     NODX201::VOdxElement* element = nullptr; ///< the child or the reference
-    NODX201::VOdxElement* target = nullptr;  ///< data that the reference leads to, to be compared as well
+    NODX201::VOdxElement* target = nullptr;  ///< data to which the reference leads, to be compared as well
 
     bool HasName() const { return *name != L'\0'; }
 };
 
-/// Reads the parts of elements, but for those that do not count.
+/// Reads the parts of elements, except those that do not count.
 class VFacets {
 public:
     explicit VFacets(VDiffOptions const& options) : m_options(options) {}
 
-    /// Adds the parts at the end of the list. `isNamed` is whether the holder has told the short name already. True
-    /// when what references by short name lead to depends on the layer.
+    /// Adds the parts at the end of the list. `isNamed` says whether the owner has already reported the short name.
+    /// True when the targets of references by short name depend on the layer.
     bool Read(NODX201::VOdxElement& element, VSeenFrom& from, bool isNamed, std::vector<VFacet>& facets);
 
     VHash const& HashOfComponent(std::uint32_t component) const { return m_components[component].hash; }
@@ -119,12 +119,13 @@ private:
 
     VDiffOptions const& m_options;
     std::vector<VComponent> m_components;
-    std::unordered_map<VNames, std::uint32_t, VHashOfNames> m_byPointers; // tags are texts that live for ever
+    std::unordered_map<VNames, std::uint32_t, VHashOfNames> m_byPointers; // tags are texts that are valid for ever
     std::unordered_map<std::wstring, std::uint32_t> m_byText;
-    std::unordered_map<NODX201::VOdxElement const*, wchar_t const*> m_before; // of PARAMs, the name of the one before
+    std::unordered_map<NODX201::VOdxElement const*, wchar_t const*> m_before; // of PARAMs, the name of the previous one
 };
 
-/// Whether elements of this kind are data that references are followed to: messages, DOPs, units, tables, FUNCT-CLASSs.
+/// Whether elements of this kind are data to which references are followed: messages, DOPs, units, tables,
+/// FUNCT-CLASSs.
 bool IsData(NODX201::VOdxTagEnum tag);
 
 } // namespace NQuery

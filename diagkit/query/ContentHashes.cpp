@@ -46,9 +46,9 @@ void VContentHashes::Store(NODX201::VOdxElement& element, VSeenFrom& from, VHash
     }
 }
 
-// References are followed depth first, with a stack of our own, however long their chains are. What lead to each other
-// are found as Tarjan finds strongly connected components. An element is walked over once when all that it leads to is
-// known, and otherwise a second time when it is.
+// References are followed depth first, with a separate stack, however long their chains are. Elements that lead to each
+// other are found by Tarjan's algorithm for strongly connected components. An element is walked over once if everything
+// that it leads to is known, and otherwise a second time later.
 void VContentHashes::Evaluate(NODX201::VOdxElement& element, VSeenFrom& from) {
     m_frames.clear();
     m_stack.clear();
@@ -126,7 +126,7 @@ VHash VContentHashes::HashOfElement(NODX201::VOdxElement& element, VSeenFrom& fr
     std::size_t const start = m_read.size();
     m_dependsOnLayer = m_facets.Read(element, from, isNamed, m_read) || m_dependsOnLayer;
     for (std::size_t i = start; i < m_read.size(); ++i) {
-        VFacet const facet = m_read[i]; // what it holds is read behind the others
+        VFacet const facet = m_read[i]; // its contents are read after the others
         std::size_t const end = m_read.size();
         hash.Add(HashOfFacet(facet, from, depth));
         m_read.resize(end);
@@ -155,7 +155,7 @@ VHash VContentHashes::HashOfFacet(VFacet const& facet, VSeenFrom& from, std::siz
     return name;
 }
 
-/// Of what is inside and what is referred to, a list may hold either, and neither is more than the other.
+/// A list may contain both direct children and references, which count alike.
 VHash VContentHashes::HashOfReference(VFacet const& facet, VSeenFrom& from, std::size_t depth) {
     auto& reference = static_cast<NODX201::VLink&>(*facet.element);
     VHash hash = facet.isItem && facet.HasName() ? VHash() : HashOf(facet.name);

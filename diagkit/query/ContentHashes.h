@@ -8,27 +8,27 @@
 
 #include <diagkit/query/ContentFacets.h>
 
-/// Digests of what elements are made of, with all data that references lead to. For the sources of this folder.
+/// Digests of the contents of elements, with all data to which references lead. For the sources of this folder.
 
 namespace NQuery {
 
-/// Knows the digest of everything that it was asked about, in the layers that it was asked for. What does not depend on
-/// the layer is looked at once. An element that is met again inside itself counts by its short name: elements that lead
-/// to each other have digests of the whole circle.
+/// Caches the digest of every element, in the layers that it was requested for. Elements that do not depend on the
+/// layer are examined once. An element that is found again inside itself counts by its short name: elements that lead
+/// to each other have digests of the whole cycle.
 class VContentHashes {
 public:
     VContentHashes(VFacets& facets, VDiffOptions const& options) : m_facets(facets), m_options(options) {}
 
     struct VKnown {
         VHash hash;
-        NODX201::VDiagLayer* owner; ///< the layer that it stands in; null outside layers
+        NODX201::VDiagLayer* owner; ///< the layer that contains it; null outside layers
         bool dependsOnLayer;
     };
 
     /// The digest of an element without its own short name.
     VKnown Of(NODX201::VOdxElement& element, VSeenFrom& from);
 
-    /// What takes the references that lead nowhere from now on; null for nothing.
+    /// The set that collects the references without a target from now on; null for none.
     void SetMissing(std::unordered_set<NODX201::VOdxElement const*>* missing) { m_missing = missing; }
     std::size_t TooDeep() const { return m_tooDeep; }
 
@@ -60,14 +60,14 @@ private:
     std::unordered_set<NODX201::VOdxElement const*>* m_missing = nullptr;
     std::size_t m_tooDeep = 0;
 
-    // Of the evaluation that runs.
+    // Of the current evaluation.
     std::vector<VFrame> m_frames;
     VElements m_stack;
-    std::unordered_map<NODX201::VOdxElement const*, std::size_t> m_open; // index of what is on the stack
-    std::unordered_set<NODX201::VOdxElement const*> m_circle;            // that is being closed
+    std::unordered_map<NODX201::VOdxElement const*, std::size_t> m_open; // index of the elements on the stack
+    std::unordered_set<NODX201::VOdxElement const*> m_circle;            // the cycle that is being closed
     std::vector<VFacet> m_read;
-    VElements m_wanted;            // data that the walk met and that is not known yet
-    bool m_dependsOnLayer = false; // what the walk met
+    VElements m_wanted;            // data found by the walk whose digests are not known yet
+    bool m_dependsOnLayer = false; // result of the walk
 };
 
 } // namespace NQuery

@@ -8,7 +8,7 @@
 namespace NQuery {
 namespace {
 
-/// DATAFILE is a text with an attribute, which must be there.
+/// DATAFILE is a text with a required attribute.
 void LateboundOfDatafile(NODX201::VOdxElement& owner, VContentRow const& row, IPartSink& sink) {
     auto const& flashdata = static_cast<NMemory::VMemFlashdata const&>(owner);
     if (*flashdata.GetDatafile() != L'\0') {

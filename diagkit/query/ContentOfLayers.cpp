@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The contents of layers and what they hold.
+// The contents of layers and of their elements.
 
 #include <diagkit/memory/Comparams.h>
 #include <diagkit/memory/Layers.h>

@@ -17,7 +17,7 @@ VContentRow const* Named(std::vector<VContentRow> const& rows, wchar_t const* na
     return found != rows.end() ? &*found : nullptr;
 }
 
-/// Makes a table of facts. A collection is asked for where its items stand, once for each wrapper.
+/// Makes a table from facts. A collection is read where its items are, once for each wrapper.
 class VTableMaker {
 public:
     VContentTable Make(VContentFact const* facts, std::size_t count) {
@@ -63,7 +63,7 @@ private:
         }
     }
 
-    /// The rows of one choice are one.
+    /// The rows of one choice become one.
     void AddReference(VContentFact const& fact) {
         if (*fact.name == L'\0' || Named(m_table.rows, fact.name) == nullptr) {
             m_table.rows.push_back({fact.emit, fact.tag, m_wrapper, fact.name});
@@ -88,7 +88,7 @@ private:
             m_table.rows.push_back({collection->emit, fact.tag, m_wrapper, fact.name});
             row = m_table.rows.end() - 1;
         } else {
-            row->tag = L""; // items of several tags say theirs themselves
+            row->tag = L""; // items of several tags have their own tags
         }
         NODX201::VOdxTagEnum const tag = NODX201::OdxTagOf(fact.tag);
         bool const isTaken = std::any_of(m_table.rows.begin(), m_table.rows.end(), [&](VContentRow const& other) {
@@ -98,7 +98,7 @@ private:
         row->tags.push_back(isTaken ? NODX201::VOdxTagEnum::None : tag);
     }
 
-    /// All items of a collection in one wrapper stand there, whatever their tags.
+    /// A collection with a single wrapper has all its items there, whatever their tags.
     void KeepTagsWhereNeeded(VContentRow& row) const {
         auto const isOfSame = [&row](VContentRow const& other) {
             return *row.name != L'\0' && AreSame(other.name, row.name);

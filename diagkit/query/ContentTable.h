@@ -11,15 +11,15 @@
 #include <diagkit/memory/ProcessingInstructions.h>
 #include <diagkit/query/Content.h>
 
-/// The parts of an element class as a table: a row for what is asked for, made of the facts. For the sources of this
-/// folder.
+/// The parts of an element class as a table: a row for each operation to call, made from the facts. For the sources of
+/// this folder.
 
 namespace NQuery {
 
 struct VContentRow;
 using VEmit = void (*)(NODX201::VOdxElement& owner, VContentRow const& row, IPartSink& sink);
 
-/// A row as it stands in the facts: a constant.
+/// A row of the facts: a constant.
 struct VContentFact {
     enum class VWhat : std::uint8_t { Attribute, Other, Reference, Alias, Collection, Wrapper, Item, WrapperEnd, Kind };
 
@@ -29,17 +29,17 @@ struct VContentFact {
     wchar_t const* name = L""; ///< of the collection, choice or reference in the code; of a kind, its child
 };
 
-/// What is asked for.
+/// The row of an operation to call.
 struct VContentRow {
     VEmit emit = nullptr;
     wchar_t const* tag = L"";
     wchar_t const* wrapper = L"";
     wchar_t const* name = L"";                ///< in the code
     std::vector<wchar_t const*> names{};      ///< other tags of a reference
-    std::vector<NODX201::VOdxTagEnum> tags{}; ///< the items of the collection that stand here; empty for all
+    std::vector<NODX201::VOdxTagEnum> tags{}; ///< the items of the collection in this place; empty for all
 };
 
-/// A type of an element whose class has several, and the child that shows it.
+/// A type of an element whose class has several, and the child that implies it.
 struct VContentKind {
     wchar_t const* xsiType;
     wchar_t const* child;
@@ -58,12 +58,12 @@ VContentTable ContentTableOf(VContentFact const (&facts)[Count]) {
     return ContentTableOf(facts, Count);
 }
 
-/// Whether references of this class may hold more than their attributes.
+/// Whether references of this class may have more than their attributes.
 bool HasContent(NODX201::VLink& reference);
 
-/// The name that a reference bears in this row.
+/// The name of a reference in this row.
 wchar_t const* TagIn(VContentRow const& row, NODX201::VLink& reference);
-/// Whether an item of the collection stands in the wrapper of this row.
+/// Whether an item of the collection is in the wrapper of this row.
 bool StandsIn(VContentRow const& row, NODX201::VOdxElement const& item);
 void EmitText(IPartSink& sink, VPartRole role, wchar_t const* tag, wchar_t const* wrapper, wchar_t const* text,
               bool isItem = false);
@@ -71,13 +71,13 @@ void EmitElement(IPartSink& sink, VContentRow const& row, NODX201::VOdxElement& 
 void EmitReference(IPartSink& sink, VContentRow const& row, NODX201::VLink& reference, bool isItem);
 
 inline NODX201::VOdxElement& ElementOf(NODX201::VOdxElement& element) { return element; }
-/// Interfaces that only tell alternatives apart are elements by another base.
+/// Interfaces that only distinguish alternatives are elements by another base.
 template <class Interface>
 NODX201::VOdxElement& ElementOf(Interface& entry) {
     return dynamic_cast<NODX201::VOdxElement&>(entry);
 }
 
-/// A child, as what its class says that it is; behind an interface may be either.
+/// A child, by its class; behind an interface may be either.
 template <class Child>
 void EmitChild(IPartSink& sink, VContentRow const& row, Child& child, bool isItem) {
     if constexpr (std::is_base_of_v<NODX201::VLink, Child>) {
@@ -91,7 +91,7 @@ void EmitChild(IPartSink& sink, VContentRow const& row, Child& child, bool isIte
     }
 }
 
-/// How the facts of the memory model's class `T` are asked for.
+/// The operations of the memory model's class `T` for its facts.
 template <class T>
 struct VContentOf {
     using VWhat = VContentFact::VWhat;
@@ -153,7 +153,7 @@ struct VContentOf {
     static void Part(NODX201::VOdxElement& owner, VContentRow const& row, IPartSink& sink) {
         EmitChild(sink, row, (Self(owner).*Get)(), false);
     }
-    /// One of several alternatives, which says itself which it is.
+    /// One of several alternatives, which knows which one it is.
     template <auto Has, auto Get>
     static void Choice(NODX201::VOdxElement& owner, VContentRow const&, IPartSink& sink) {
         T& self = Self(owner);
@@ -186,7 +186,7 @@ private:
     }
 };
 
-/// The tables of the classes, by class; the argument only chooses.
+/// The tables of the classes, by class; the argument only selects the overload.
 VContentTable const& ContentOf(NMemory::VMemOdx*);
 #define ODX_CLASS(name, tag, base, names, value, element, type) VContentTable const& ContentOf(NMemory::VMem##name*);
 #define ODX_EXTRA(name, contract, names, value, element, type) VContentTable const& ContentOf(NMemory::VMem##name*);

@@ -31,13 +31,13 @@ VLayers LayersIn(NMemory::VDatabase& database) {
     return layers;
 }
 
-/// A layer of each database that are one; one of them may be null.
+/// A layer of each database that are compared with each other; one of them may be null.
 struct VLayerPair {
     NODX201::VDiagLayer* old = nullptr;
     NODX201::VDiagLayer* now = nullptr;
 };
 
-/// The n-th layer of a short name and kind belongs to the n-th in the other database.
+/// The n-th layer of a short name and kind is compared with the n-th in the other database.
 std::vector<VLayerPair> Paired(VLayers const& old, VLayers const& now) {
     using VKey = std::pair<std::wstring_view, NODX201::VOdxTagEnum>;
     std::map<VKey, std::deque<NODX201::VDiagLayer*>> waiting;
@@ -67,10 +67,10 @@ std::vector<VLayerPair> Paired(VLayers const& old, VLayers const& now) {
 /// One side of a comparison.
 struct VSide {
     VDiffViewMaker maker;
-    std::unordered_set<NODX201::VOdxElement const*> missing; ///< references that lead nowhere
+    std::unordered_set<NODX201::VOdxElement const*> missing; ///< references without a target
 };
 
-/// A layer with what is visible in it, as long as it is looked at.
+/// A layer with its visible elements, while it is being examined.
 struct VSeenLayer {
     VSeenLayer(NODX201::VDiagLayer& seen, VSide& of) : layer(seen), side(of), views(of.maker.ViewsOf(seen)) {}
     VSeenLayer(VSeenLayer const&) = delete;
@@ -93,8 +93,8 @@ public:
         }
     }
 
-    /// Finds what is the same under another name. Parents first, since it counts in the views of what inherits from
-    /// them who owns an entry.
+    /// Finds equal elements with other names. Parents first, since the owner of an entry counts in the views of layers
+    /// that inherit from them.
     void MatchRenamed();
 
     VDiff Compare();
@@ -143,13 +143,13 @@ bool VComparison::IsWanted(VLayerPair const& pair) const {
            std::find(layers.begin(), layers.end(), pair.now) != layers.end();
 }
 
-/// The new one of two layers that are one.
+/// The new layer of a pair.
 NODX201::VDiagLayer const* VComparison::NowOf(NODX201::VDiagLayer const* layer) const {
     auto const found = m_newOf.find(layer);
     return found != m_newOf.end() ? found->second : layer;
 }
 
-/// Who owns an entry, equal for both databases.
+/// The owner of an entry, equal for both databases.
 VHash VComparison::OwnerOf(NODX201::VDiagLayer const* owner, NODX201::VDiagLayer const& seenFrom) const {
     NODX201::VDiagLayer const* const known = NowOf(owner);
     return known == NowOf(&seenFrom) ? HashOf(L"itself") : HashOf(reinterpret_cast<std::uintptr_t>(known));
@@ -277,7 +277,8 @@ std::vector<VChange> VComparison::CompareViews(VDiffView view, VSeenLayer& old, 
     return changes;
 }
 
-/// The n-th entry of a name belongs to the n-th in the other view: first those of the new one, then what is gone.
+/// The n-th entry of a name is compared with the n-th in the other view: first those of the new view, then removed
+/// ones.
 std::vector<VComparison::VMatch> VComparison::MatchNames(VEntries const& old, VEntries const& now) const {
     std::vector<VMatch> matches;
     matches.reserve(now.size());
@@ -323,7 +324,7 @@ std::vector<VComparison::VMatch> VComparison::MatchNames(VEntries const& old, VE
     return matches;
 }
 
-/// An added and a removed one of equal content are one, which was renamed.
+/// An added and a removed entry of equal content are one that was renamed.
 void VComparison::MatchContents(std::vector<VMatch>& matches, VSeenLayer& old, VSeenLayer& now) {
     std::unordered_map<VHash, std::deque<VMatch*>, VHashOfHash> gone;
     for (VMatch& match : matches) {
@@ -349,7 +350,7 @@ void VComparison::MatchContents(std::vector<VMatch>& matches, VSeenLayer& old, V
 std::optional<VChange> VComparison::CompareEntries(VDiffView view, VMatch const& match, VSeenLayer& old,
                                                    VSeenLayer& now) {
     if (match.old == nullptr && match.now == nullptr) {
-        return std::nullopt; // renamed, and told before
+        return std::nullopt; // renamed, and already reported
     }
     if (match.old == nullptr) {
         return VChange{VChangeKind::Added, nullptr, match.now->element, match.now->shortName, nullptr, nullptr};

@@ -119,7 +119,7 @@ VDiffViewMaker::VComparams VDiffViewMaker::ComparamsIn(NODX201::VDiagLayer& laye
     return std::move(firsts.firsts);
 }
 
-// Each kind of layer inherits from others alone, so this goes no deeper than there are kinds.
+// Each kind of layer inherits only from other kinds, so this goes no deeper than the number of kinds.
 VDiffViewMaker::VComparams const& VDiffViewMaker::ComparamsOfParent(NODX201::VDiagLayer& layer) {
     if (auto const known = m_comparams.find(&layer); known != m_comparams.end()) {
         return known->second;

@@ -8,11 +8,11 @@
 #include <diagkit/check/Views.h>
 #include <diagkit/query/Diff.h>
 
-/// The views that a comparison looks at. For the sources of this folder.
+/// The views that are compared. For the sources of this folder.
 
 namespace NQuery {
 
-/// An entry of a view, and what it is matched by.
+/// An entry of a view, and its key for matching.
 struct VDiffEntry {
     NODX201::VOdxElement* element;
     wchar_t const* shortName;
@@ -30,7 +30,7 @@ struct VLayerViews {
     std::vector<NODX201::VDopBase*> dops;
 };
 
-/// Makes the views of the layers of a database, parents being looked at once.
+/// Makes the views of the layers of a database; parents are computed once.
 class VDiffViewMaker {
 public:
     VLayerViews ViewsOf(NODX201::VDiagLayer& layer);

@@ -16,7 +16,7 @@ namespace {
 
 using NDIAGKIT::VLayerOfKind;
 
-/// The elements of a name that stand in layers to which nothing leads.
+/// The elements of a name in layers to which no way leads.
 template <class Kind>
 class VElsewhere {
 public:

@@ -6,7 +6,7 @@
 
 namespace NQuery {
 
-/// Calls the action with a value of the row that says how elements of the kind are inherited.
+/// Calls the action with a value of the row that defines how elements of the kind are inherited.
 template <class Action>
 auto ForKind(VInheritedKind kind, Action const& action) {
     switch (kind) {

@@ -25,7 +25,7 @@ std::wstring KindAskedFor(NODX201::VParentRef const& parentRef) {
     return std::wstring(type);
 }
 
-/// The layer that the reference names, whatever kind it asks for; null when there is none.
+/// The layer that the reference refers to, whatever kind it requires; null when there is none.
 NODX201::VDiagLayer* NamedLayer(NMemory::VDatabase& database, NODX201::VParentRef& parentRef) {
     auto const* const link = dynamic_cast<NODX201::VOdxLink*>(&parentRef.GetLink());
     if (link == nullptr) {
@@ -112,7 +112,7 @@ private:
     std::map<std::pair<std::wstring, std::wstring>, std::size_t> m_absent; // by name and kind
 };
 
-/// The nodes that edges of inheritance lead to from a start, in one direction.
+/// The nodes that can be reached from a start by edges of inheritance, in one direction.
 class VReach {
 public:
     VReach(VInheritanceGraph const& graph, std::size_t VGraphEdge::*from, std::size_t VGraphEdge::*to)
@@ -124,7 +124,7 @@ public:
         }
     }
 
-    /// Which nodes, the start among them.
+    /// Whether each node is reached, including the start.
     std::vector<bool> From(std::size_t start) && {
         std::vector<std::size_t> open{start};
         m_isReached[start] = true;

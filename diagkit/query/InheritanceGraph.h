@@ -18,46 +18,47 @@
 
 namespace NQuery {
 
-/// A layer, or what a PARENT-REF names that no loaded layer is.
+/// A layer, or the missing target of a PARENT-REF.
 struct VGraphNode {
-    NODX201::VDiagLayer* layer;              ///< of the database; null for what is not there
-    NODX201::VDiagLayerContainer* container; ///< that the layer stands in; null for what is not there
-    std::wstring name;                       ///< the layer's short name, or the ID that the PARENT-REF names
-    std::wstring kind; ///< the layer's ODX tag, or the one that the PARENT-REF asks for; "" when it asks for none
+    NODX201::VDiagLayer* layer;              ///< of the database; null for a missing target
+    NODX201::VDiagLayerContainer* container; ///< that contains the layer; null for a missing target
+    std::wstring name;                       ///< the layer's short name, or the ID in the PARENT-REF
+    std::wstring kind; ///< the layer's ODX tag, or the one required by the PARENT-REF; "" when it requires none
 };
 
-/// What becomes of a PARENT-REF.
+/// The effect of a PARENT-REF.
 enum class VParentRefState {
     Inherited,     ///< the layer inherits from its target
-    Contradicting, ///< its target is a layer of another kind than its xsi:type says; nothing is inherited
-    NotAllowed,    ///< its target is a layer that such a layer can have nothing from: of a wrong kind, or itself
+    Contradicting, ///< its target is a layer of another kind than its xsi:type requires; nothing is inherited
+    NotAllowed,    ///< its target is a layer from which such a layer cannot inherit: of a wrong kind, or itself
     Unresolved,    ///< it has no target
 };
 
 /// A PARENT-REF.
 struct VGraphEdge {
     std::size_t child;              ///< the node of the layer that has the PARENT-REF
-    std::size_t parent;             ///< the node of what it names
+    std::size_t parent;             ///< the node of its target
     NODX201::VParentRef* parentRef; ///< of the database
     VParentRefState state;
-    std::wstring kind;             ///< of layer, which the PARENT-REF asks for: its ODX tag; "" when it asks for none
+    std::wstring kind;             ///< the ODX tag of the layers that the PARENT-REF requires; "" when it requires none
     std::size_t excludedDiagComms; ///< NOT-INHERITED-DIAG-COMMs in the PARENT-REF
     std::size_t excludedVariables; ///< NOT-INHERITED-VARIABLEs
 };
 
-/// The nodes are all layers in document order, then what the PARENT-REFs name that is not there, each name and kind
-/// once, in the order in which they come. The edges are all PARENT-REFs in document order.
+/// The nodes are all layers in document order, then the missing targets of PARENT-REFs, each name and kind once, in the
+/// order in which they come. The edges are all PARENT-REFs in document order.
 struct VInheritanceGraph {
     std::vector<VGraphNode> nodes;
     std::vector<VGraphEdge> edges;
 };
 
-/// The graph of a database. It points into the database, which must outlive it and stay as it is.
+/// The graph of a database. It points into the database, which must outlive it and must not be changed.
 VInheritanceGraph InheritanceGraphOf(NMemory::VDatabase& database);
 
-/// What a layer inherits from and what inherits from it, directly or through others: these layers and the edges of
-/// inheritance among them, and besides them the edges that break off, of the layer and of all that it inherits from,
-/// with what those name. Nodes and edges keep their order. Empty when the graph does not hold the layer.
+/// The part of a graph around a layer: all layers from which it inherits and that inherit from it, directly or
+/// indirectly, and the edges of inheritance among them; in addition the edges without inheritance, of the layer and of
+/// all layers from which it inherits, with their targets. Nodes and edges keep their order. Empty when the layer is not
+/// in the graph.
 VInheritanceGraph PartAround(VInheritanceGraph const& graph, NODX201::VDiagLayer const& layer);
 
 } // namespace NQuery

@@ -15,7 +15,7 @@ void VLayerRuns::AddRun(VRun const& run) {
     }
 }
 
-/// Calls `take` with the runs that both have until it says that this is enough.
+/// Calls `take` with the common runs until it returns that this is enough.
 template <class Take>
 void VLayerRuns::ForEachCommon(VLayerRuns const& one, VLayerRuns const& other, Take take) {
     auto left = one.m_runs.begin();

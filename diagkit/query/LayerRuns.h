@@ -6,16 +6,16 @@
 
 namespace NQuery {
 
-/// Layers by their numbers in document order, kept as runs: variants of one base nearly always stand side by side.
+/// Layers by their numbers in document order, stored as runs: variants of one base are nearly always adjacent.
 class VLayerRuns {
 public:
-    void Add(std::uint32_t layer); ///< REQUIRES: none of those that are there comes after it
+    void Add(std::uint32_t layer); ///< REQUIRES: no layer with a higher number was added before
 
     bool IsEmpty() const { return m_runs.empty(); }
     bool Meets(VLayerRuns const& other) const; ///< whether both have a layer
 
-    static VLayerRuns Common(VLayerRuns const& one, VLayerRuns const& other); ///< what both have
-    static VLayerRuns Joined(VLayerRuns const& one, VLayerRuns const& other); ///< what either has
+    static VLayerRuns Common(VLayerRuns const& one, VLayerRuns const& other); ///< the layers that both have
+    static VLayerRuns Joined(VLayerRuns const& one, VLayerRuns const& other); ///< the layers that either has
 
     /// Calls `take` with every layer, in ascending order.
     template <class Take>

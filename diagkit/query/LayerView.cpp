@@ -16,7 +16,7 @@ namespace {
 
 using NDIAGKIT::VCandidate;
 
-/// The view of DOPs is in the order of their short names, whatever the passes look at first.
+/// The view of DOPs is in the order of their short names, whatever the order of the passes.
 void SortByShortName(std::vector<VCandidate const*>& candidates) {
     NDIAGKIT::VDopView::Map::key_compare const isBefore;
     std::sort(candidates.begin(), candidates.end(), [&isBefore](VCandidate const* left, VCandidate const* right) {
@@ -38,7 +38,7 @@ public:
         std::unordered_set<NODX201::VOdxElement const*> told;
         for (VCandidate const* const candidate : m_leftOut) {
             if (told.insert(candidate->element).second) {
-                bool const isHidden = candidate->hiddenBy != nullptr; // the passes look for the name first
+                bool const isHidden = candidate->hiddenBy != nullptr; // the passes check the name first
                 (isHidden ? m_view.hidden : m_view.excluded).push_back(EntryFor(*candidate));
             }
         }
@@ -66,7 +66,8 @@ private:
         }
     }
 
-    /// What another PARENT-REF brings after all, and what is the layer's own under a name that it has already.
+    /// Removes elements that another PARENT-REF contributes after all, and own elements under a name that is already
+    /// visible.
     void ForgetWhatIsVisible() {
         std::unordered_set<NODX201::VOdxElement const*> leftOut;
         for (VCandidate const* const candidate : m_leftOut) {
@@ -92,7 +93,7 @@ private:
     }
 
     std::size_t WayOf(VCandidate const& candidate) {
-        if (candidate.way != m_lastWay.first) { // neighbours mostly came on the same way
+        if (candidate.way != m_lastWay.first) { // adjacent entries mostly came on the same way
             auto const [way, isNew] = m_ways.try_emplace(candidate.way, m_view.ways.size());
             if (isNew) {
                 m_view.ways.push_back(m_inheritance.WayOf(candidate));

@@ -9,11 +9,11 @@
 #include <diagkit/query/InheritedKind.h>
 #include <diagkit/tools/InheritanceNotes.h>
 
-/// What is visible in a layer, with the reasons.
+/// The elements visible in a layer, with the reasons.
 
 namespace NQuery {
 
-/// An element as a layer has it, or would have it.
+/// An element that is visible in a layer, or left out.
 struct VViewEntry {
     NODX201::VOdxElement* element;
     std::size_t way;                 ///< on which it came, by number; see `VLayerView::PathOf`
@@ -40,7 +40,7 @@ struct VLayerView {
     std::vector<VViewEntry> hidden;
     std::vector<VViewEntry> excluded;
 
-    /// The ways on which all of these came, each once, the empty one of own elements first.
+    /// The ways on which all of these came, each once, the empty way of own elements first.
     std::vector<std::vector<NDIAGKIT::VParent>> ways;
 
     /// The way of an entry, PARENT-REF by PARENT-REF: from the layer to the one that has the element.
@@ -59,7 +59,7 @@ struct VLayerView {
 /// The view of a layer, with reasons. It points into the model.
 VLayerView ViewOf(NODX201::VDiagLayer& layer, VInheritedKind kind);
 
-/// What is visible in a layer, in view order.
+/// The elements visible in a layer, in view order.
 std::vector<NODX201::VOdxElement*> EntriesOf(NODX201::VDiagLayer& layer, VInheritedKind kind);
 
 } // namespace NQuery

@@ -7,17 +7,18 @@
 
 namespace NQuery {
 
-/// Whether an element stands in another one, or is it.
+/// Whether an element is inside another one, or is it.
 bool StandsIn(NODX201::VOdxObject const& inner, NODX201::VOdxObject const& outer);
 
-/// Whether an element is of a kind of which elements may be unused.
+/// Whether elements of this kind can be reported as unused.
 bool MayBeUnused(NODX201::VOdxElement const& element);
 
-/// Elements of those kinds that are used, as references to them and to their parts are told.
+/// Elements of those kinds that are used, determined from references to them and to their parts.
 class VUsed {
 public:
-    /// Uses what the target stands in, and itself, but for that in which all of the references stand: `any(test)` says
-    /// whether the test holds for one of these. False when something is left that other references may use.
+    /// Marks the elements around the target, and the target itself, as used, except the element that contains all of
+    /// the references: `any(test)` says whether the test is true for one of these. False when an element is left that
+    /// other references may use.
     template <class Any>
     bool Use(NODX201::VOdxElement const& target, Any any) {
         bool isAllUsed = true;

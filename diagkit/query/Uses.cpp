@@ -39,7 +39,7 @@ public:
             }
         }
         std::uint64_t done = 0;
-        m_byName.LookUp([&] {
+        m_byName.LookUp(elements, [&] {
             if (progress) {
                 progress(++done, m_byName.Layers().size());
             }
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    /// A reference that means the same wherever it is read.
+    /// A reference that has the same target wherever it is read.
     struct VDirect {
         NODX201::VOdxElement const* target;
         NODX201::VLink* reference;
@@ -99,7 +99,7 @@ private:
         }
     }
 
-    /// What the reference means wherever it is read; null where that is nothing, or differs from layer to layer.
+    /// The target of the reference wherever it is read; null where there is none, or it differs from layer to layer.
     NODX201::VOdxElement* AddByName(NODX201::VLink& reference, std::uint32_t number) {
         auto const wanted = NCheck::WantedNameOf(reference);
         if (!wanted.has_value()) {
@@ -147,7 +147,7 @@ private:
 VUses::VUses(NMemory::VDatabase& database, std::vector<NODX201::VOdxElement*> const& elements,
              VProgress const& progress)
     : m_index(std::make_unique<VIndex>(database, elements, progress)) {
-    database.StartNewResolver(); // the views that it remembers are more than most programs want to hold
+    database.StartNewResolver(); // most programs do not need the views that it caches, which use much memory
 }
 
 VUses::~VUses() = default;

@@ -15,7 +15,7 @@ using NCheck::VWantedName;
 
 namespace {
 
-/// The innermost element of the class that a reference stands in; null where there is none.
+/// The innermost element of the class around a reference; null where there is none.
 template <class Element>
 Element* ElementAround(NODX201::VLink const& reference) {
     for (NODX201::VOdxObject* object = reference.GetOwner(); object != nullptr; object = object->GetOwner()) {
@@ -84,7 +84,7 @@ void VUsesByName::AddTo(VPlace& place, VName& name, NODX201::VLink& reference) {
     place.groups.back().end = place.references.size();
 }
 
-/// A place outside of layers; `layersOf` tells, when it is new, which layers read it.
+/// A place outside of layers; for a new one `layersOf` returns the layers that read it.
 template <class LayersOf>
 VUsesByName::VPlace& VUsesByName::PlaceIn(NODX201::VOdxElement const& element, LayersOf layersOf) {
     auto const [place, isNew] = m_places.try_emplace(&element);
@@ -109,17 +109,17 @@ NODX201::VOdxElement* VUsesByName::AddOfSpec(VName& name, NODX201::VLink& refere
 }
 
 void VUsesByName::AddOfConnector(VName& name, NODX201::VLink& reference) {
-    // The references of a connector are all read in its layers; any other one where it says itself.
+    // The references of a connector are all read in its layers; any other one determines its own.
     NODX201::VOdxElement const* place = ElementAround<NMemory::VMemEcuMemConnector>(reference);
     place = place != nullptr ? place : &reference;
     Read(name, reference, PlaceIn(*place, [&reference] { return NCheck::LayersOfConnector(reference); }), nullptr);
 }
 
-void VUsesByName::LookUpIn(std::uint32_t layer, NCheck::VViews& views) {
+void VUsesByName::LookUpIn(std::uint32_t layer, NCheck::VViews& views, NCheck::VPlacesById const& byId) {
     NODX201::VDiagLayer& here = *m_layers[layer];
     NCheck::VVisibleNames names(here, views);
     m_setsHere.clear();
-    NCheck::ForEachPlaceIn(here, names, views, [&](NODX201::VOdxElement const& element) {
+    NCheck::ForEachPlaceIn(here, names, views, byId, [&](NODX201::VOdxElement const& element) {
         if (auto const place = m_places.find(&element); place != m_places.end()) {
             Visit(place->second, layer, names);
         }
@@ -157,7 +157,7 @@ void VUsesByName::LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleN
     }
 }
 
-/// Uses what the references of the group mean in the layer that is looked at.
+/// Marks the targets of the group's references in the current layer as used.
 void VUsesByName::Settle(VPlace const& place, VGroup const& group) {
     VMeaning* const meaning = group.name->here;
     if (meaning == nullptr || meaning->isSettled) {
@@ -179,7 +179,7 @@ void VUsesByName::Settle(VPlace const& place, VGroup const& group) {
     }
 }
 
-/// In this layer the name means what has this address; `make` makes the meaning when it is the first such layer.
+/// In this layer the target of the name has this address; `make` makes the meaning in the first such layer.
 template <class Make>
 void VUsesByName::Mean(VName& name, std::uint32_t layer, void const* target, Make make) {
     if (name.latestTarget != target) {

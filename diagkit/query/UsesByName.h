@@ -17,34 +17,36 @@
 
 namespace NQuery {
 
-/// What references by short name mean in layers, from the side of what they mean.
+/// The targets of references by short name in layers, indexed by target.
 ///
-/// References that mean the same in every layer, because they want the same kind of element of the same name, share one
-/// name. What is kept is what each name means in which layers, and which layers read what stands in which place: the
-/// uses of an element are the references of those names that are read where the names mean it. So nothing is kept for
-/// each reference in each layer.
+/// References that have the same target in every layer, because they require the same kind of element of the same name,
+/// share one name. The index stores the target of each name in which layers, and which layers read which place: the
+/// uses of an element are the references of those names that are read where the element is their target. So nothing is
+/// stored per reference and layer.
 class VUsesByName {
 public:
-    /// All layers of the database, in document order, and who is told what they use; he must outlive this object.
+    /// All layers of the database, in document order, and the object that records used elements; it must outlive this
+    /// one.
     VUsesByName(std::vector<NODX201::VDiagLayer*> layers, VUsed& used);
 
-    /// Takes a reference that wants this. Null, or what the dictionary of the MULTIPLE-ECU-JOB-SPEC around it has of
-    /// its name, which is then all that it means.
+    /// Adds a reference with this required target. Null, or the element of its name in the dictionary of the
+    /// MULTIPLE-ECU-JOB-SPEC around it, which is then its only target.
     NODX201::VOdxElement* Add(NODX201::VLink& reference, NCheck::VWantedName wanted);
 
-    /// Looks all up in one layer after the other, and calls `layerDone` after each.
+    /// Looks all up in one layer after the other, and calls `layerDone` after each; `elements` are all of the database.
     template <class LayerDone>
-    void LookUp(LayerDone layerDone) {
+    void LookUp(std::vector<NODX201::VOdxElement*> const& elements, LayerDone layerDone) {
+        NCheck::VPlacesById const byId(elements, NCheck::DopsAmong(m_places));
         NCheck::VViews views;
         for (std::uint32_t number = 0; number < m_layers.size(); ++number) {
-            LookUpIn(number, views);
+            LookUpIn(number, views, byId);
             layerDone();
         }
     }
 
     std::vector<NODX201::VDiagLayer*> const& Layers() const { return m_layers; }
 
-    /// Calls `take(reference, layers)` for every reference that means the element in a layer, in no order and some
+    /// Calls `take(reference, layers)` for every reference to the element in a layer, in unspecified order and for some
     /// several times, with other layers each.
     template <class Take>
     void ForEachUse(NODX201::VOdxElement const& target, Take take) const {
@@ -55,31 +57,31 @@ private:
     using VTargets = std::vector<NODX201::VOdxElement*>;
     struct VName;
 
-    /// The layers in which a name means an element, or all elements of a set.
+    /// The layers in which the target of a name is an element, or all elements of a set.
     struct VMeaning {
         VName const* name;
         NODX201::VOdxElement const* target; ///< null where it is a set
         VTargets const* targets;            ///< the set
         VLayerRuns layers{};
-        bool isSettled = false; ///< no other reference would use anything more
+        bool isSettled = false; ///< no other reference would use more elements
     };
 
-    /// References of one name that follow one another in a place.
+    /// Consecutive references of one name in a place.
     struct VGroup {
         VName* name;
         std::size_t first; ///< in the place
         std::size_t end;
     };
 
-    /// Something that references stand in, and the layers that read it.
+    /// An element with references, and the layers that read it.
     struct VPlace {
         VLayerRuns layers{};
-        std::optional<std::uint32_t> latest{}; ///< of the layers that were looked at
+        std::optional<std::uint32_t> latest{}; ///< of the layers processed so far
         std::vector<NODX201::VLink*> references{};
         std::vector<VGroup> groups{}; ///< of the references
     };
 
-    /// A reference, the layer or the like that it stands in, and what of it other layers see.
+    /// A reference, its layer or document, and its part that is visible in other layers.
     struct VReader {
         NODX201::VLink* reference;
         VPlace const* home;
@@ -91,18 +93,18 @@ private:
 
         NCheck::VWantedName wanted;
         std::vector<VReader> readers{};
-        std::optional<std::uint32_t> latest{};  ///< of the layers that were looked at
+        std::optional<std::uint32_t> latest{};  ///< of the layers processed so far
         void const* latestTarget = nullptr;     ///< element or set
         VMeaning* latestMeaning = nullptr;      ///< of the latest target
-        VMeaning* here = nullptr;               ///< in the latest layer; null where it means nothing
+        VMeaning* here = nullptr;               ///< in the latest layer; null where it has no target
         std::map<void const*, VMeaning*> all{}; ///< where there are several, by target
     };
 
-    /// What references must have in common to share a name.
+    /// The common properties of references that share a name.
     struct VKey {
         NCheck::VWantedName wanted;
         std::wstring_view shortName;
-        std::wstring_view diagComm;              ///< the name of the one beside a reference to a parameter
+        std::wstring_view diagComm;              ///< the name in the DIAG-COMM reference for a parameter
         NODX201::VOdxObject const* in = nullptr; ///< that DIAG-COMM itself, or the ENV-DATA-DESC around
 
         bool operator==(VKey const& other) const {
@@ -132,7 +134,7 @@ private:
     template <class LayersOf>
     VPlace& PlaceIn(NODX201::VOdxElement const& element, LayersOf layersOf);
 
-    void LookUpIn(std::uint32_t layer, NCheck::VViews& views);
+    void LookUpIn(std::uint32_t layer, NCheck::VViews& views, NCheck::VPlacesById const& byId);
     void Visit(VPlace& place, std::uint32_t layer, NCheck::VVisibleNames& names);
     void LookUpName(VName& name, std::uint32_t layer, NCheck::VVisibleNames& names);
     void Settle(VPlace const& place, VGroup const& group);
@@ -151,14 +153,14 @@ private:
     VUsed& m_used;
     std::unordered_map<VKey, VName, VHash> m_names;
     std::unordered_map<NODX201::VOdxElement const*, VPlace> m_places;
-    std::unordered_map<NODX201::VDiagLayer const*, std::vector<VPlace*>> m_placesBeside; // that the layer reads as well
+    std::unordered_map<NODX201::VDiagLayer const*, std::vector<VPlace*>> m_placesBeside; // that the layer also reads
     std::map<NMemory::VMemMultipleEcuJobSpec*, VSpec> m_specs;
 
     std::deque<VMeaning> m_meanings;
     std::unordered_map<NODX201::VOdxElement const*, std::vector<VMeaning const*>> m_meaningsOf;
     std::map<VTargets, std::deque<VMeaning>> m_meaningsOfSets;
     std::unordered_map<NODX201::VOdxElement const*, std::vector<VSet const*>> m_setsOf;
-    std::unordered_map<VTargets const*, VSet*> m_setsHere; // of the layer that is looked at
+    std::unordered_map<VTargets const*, VSet*> m_setsHere; // of the current layer
 };
 
 template <class Take>

@@ -7,13 +7,13 @@
 
 namespace NReader {
 
-/// The part of a name behind its prefix: ODX elements are in no namespace, and prefixes in real files are accidents.
+/// The part of a name after its prefix: ODX elements are in no namespace, and prefixes in real files are accidental.
 inline std::string_view LocalName(std::string_view name) {
     auto const colon = name.find(':');
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-/// The attributes of a start tag, as the parser hands them out: names and values by turns, ended by null.
+/// The attributes of a start tag, as the parser passes them: alternating names and values, terminated by null.
 class VAttributes {
 public:
     explicit VAttributes(char const* const* attributes) : m_attributes(attributes) {

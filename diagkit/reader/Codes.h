@@ -3,7 +3,7 @@
 
 #include <diagkit/reader/Diagnostic.h>
 
-/// What reading reports, each kind a `VCode` of its name.
+/// The diagnostics of the reader, each kind a `VCode` of its name.
 namespace NReader::NCode {
 
 #define DIAGNOSTIC(name, code, severity, title) inline constexpr VCode name{code, VSeverity::severity, title};

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <diagkit/reader/Containment.h>
 
+#include <diagkit/reader/LinkTargets.h>
+
 namespace NReader {
 
 using NDIAGKIT::VContained;
 
 namespace {
 
-/// Collects the ways out of one container. Its parameters are no steps of their own.
+/// Collects the ways out of one container. Its parameters are not steps of their own.
 class VWaysOut : public NDIAGKIT::VContainment {
 public:
     explicit VWaysOut(VFollow follow) : m_follow(follow) {}
 
-    /// The references that lead out, and what stands inside.
+    /// The references that lead out, and the elements inside.
     std::vector<VContained> Of(NODX201::VReferencable& container) {
         if (auto* const params = ParamsOf(container)) {
             for (NODX201::VParam& param : *params) {
@@ -61,7 +63,7 @@ private:
         if (m_ways.size() == before) {
             return;
         }
-        // A TABLE-STRUCT and its TABLE-KEY lead to the same.
+        // A TABLE-STRUCT and its TABLE-KEY have the same target.
         if (m_seen.insert(m_ways.back().GetReference()).second) {
             m_tableWays.push_back(m_ways.back());
         }
@@ -69,7 +71,7 @@ private:
     }
 
     VFollow m_follow;
-    VDopsById m_none; // what leads to parameters needs none
+    VDopsById m_none; // ways to parameters need none
     std::vector<VContained> m_ways;
     std::vector<VContained> m_tableWays;
     VLinks m_seen;
@@ -77,6 +79,11 @@ private:
 
 bool IsContainer(NODX201::VDopBase const& dop) {
     return dop.GetOdxTag() != NODX201::VOdxTagEnum::DataObjectProp && dop.GetOdxTag() != NODX201::VOdxTagEnum::DtcDop;
+}
+
+/// Whether what the way leads to can contain anything.
+bool MayContain(VContained const& way, NODX201::VOdxElement const& target) {
+    return way.GetKind() != VContained::VKind::Dop || IsContainer(static_cast<NODX201::VDopBase const&>(target));
 }
 
 } // namespace
@@ -128,12 +135,23 @@ VMayLead MayLeadFrom(NODX201::VReferencable& container, VFollow follow, VLinks c
             continue;
         }
         auto* const target = way.Target(dops);
-        bool const isDop = way.GetKind() == VContained::VKind::Dop;
-        if (target != nullptr && (!isDop || IsContainer(static_cast<NODX201::VDopBase&>(*target)))) {
+        if (target != nullptr && MayContain(way, *target)) {
             mayLead.elements.push_back(static_cast<NODX201::VReferencable*>(target));
         }
     }
     return mayLead;
+}
+
+VReferencables TargetsById(NODX201::VReferencable& container) {
+    VReferencables targets;
+    VDopsById none;
+    for (VContained const& way : VWaysOut(VFollow::Tables).Of(container)) {
+        auto* const target = way.IsReference() ? TargetById(*way.GetReference()) : way.Target(none);
+        if (target != nullptr && MayContain(way, *target)) {
+            targets.push_back(static_cast<NODX201::VReferencable*>(target));
+        }
+    }
+    return targets;
 }
 
 VReferencables ContainersOf(NMemory::VDatabase& database) {

@@ -12,13 +12,13 @@
 
 namespace NReader {
 
-/// Follows references to DOPs by ID alone.
+/// Follows references to DOPs by ID only.
 class VDopsById final : public NDIAGKIT::IDopFinder {
 public:
     NODX201::VDopBase* Find(NODX201::VDopBaseLink& link) override;
 };
 
-/// The short name by which a reference names its target; empty for one by ID.
+/// The short name in a reference; empty for one by ID.
 std::wstring_view ShortNameIn(NODX201::VLink& reference);
 
 /// How far containment is followed.
@@ -33,13 +33,17 @@ VEdges EdgesOf(NODX201::VReferencable& container, VFollow follow, NDIAGKIT::IDop
 
 using VLinks = std::unordered_set<NODX201::VLink const*>;
 
-/// Where the same leads by ID, and the short names that it leads to; but for what these references lead to.
+/// The targets of the same ways by ID, and the short names that they refer to; the targets of those are not included.
 VMayLead MayLeadFrom(NODX201::VReferencable& container, VFollow follow, VLinks const& leftOut);
+
+/// The DOPs that can contain others, TABLEs and TABLE-ROWs that stand inside and to which references by ID lead, also
+/// those that the reader cut.
+VReferencables TargetsById(NODX201::VReferencable& container);
 
 /// The parameters of a STRUCTURE, an ENV-DATA, a request or a response; null for anything else.
 NODX201::VParamCollection* ParamsOf(NODX201::VReferencable& container);
 
-/// Every DOP of every dictionary that can contain others, in document order, those inside of others left out.
+/// Every DOP of every dictionary that can contain others, in document order, except those inside of others.
 VReferencables ContainersOf(NMemory::VDatabase& database);
 
 /// Every layer, in document order.

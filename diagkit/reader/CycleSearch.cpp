@@ -32,8 +32,8 @@ void VCycleSearch::Enter(NODX201::VReferencable& element, VEdge const& edge) {
 }
 
 /// The edge leads back into the path. It is the one that closes the cycle, or else the last one before it that may be:
-/// what stands inside its container closes a cycle without a reference, and an ID may close one that is none in other
-/// layers.
+/// an element inside its container closes a cycle without a reference, and an ID may close a cycle that is not one in
+/// other layers.
 void VCycleSearch::Close(VEdge const& edge, std::size_t target) {
     if (m_canClose(edge)) {
         m_found(edge, VChain(*this, target, target));
@@ -49,7 +49,7 @@ void VCycleSearch::Close(VEdge const& edge, std::size_t target) {
     } else {
         last = target + 1;
     }
-    while (m_path.size() > last) { // these are not searched to their ends
+    while (m_path.size() > last) { // these are not searched completely
         StateOf(*m_path.back().element) = kNew;
         m_path.pop_back();
     }
@@ -72,12 +72,12 @@ class VGraph {
 public:
     explicit VGraph(VMayLeadFrom const& mayLeadFrom) : m_mayLeadFrom(mayLeadFrom) {}
 
-    /// Adds everything to which the elements lead.
+    /// Adds everything that can be reached from the elements.
     void Add(VReferencables const& elements) {
         for (NODX201::VReferencable* const element : elements) {
             NumberOf(*element);
         }
-        for (std::size_t next = 0; next < m_elements.size(); ++next) { // grows on the way
+        for (std::size_t next = 0; next < m_elements.size(); ++next) { // grows during the loop
             AddWaysFrom(*m_elements[next]);
         }
         for (NODX201::VReferencable* const element : elements) {
@@ -88,8 +88,8 @@ public:
         }
     }
 
-    /// Whether each node, by its number, leads into a cycle: it is left when those that lead nowhere are taken away,
-    /// again and again.
+    /// Whether each node, by its number, leads into a cycle: such nodes remain when those that lead nowhere are removed
+    /// repeatedly.
     std::vector<bool> LeadsIntoCycle() const {
         std::vector<std::size_t> out(m_nodes);
         std::vector<std::vector<std::size_t>> in(m_nodes);
@@ -103,7 +103,7 @@ public:
                 ended.push_back(node);
             }
         }
-        for (std::size_t next = 0; next < ended.size(); ++next) { // grows on the way
+        for (std::size_t next = 0; next < ended.size(); ++next) { // grows during the loop
             for (std::size_t const from : in[ended[next]]) {
                 if (--out[from] == 0) {
                     ended.push_back(from);

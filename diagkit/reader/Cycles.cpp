@@ -34,7 +34,7 @@ void SeverAnyOf(NODX201::VLink& link) {
     (sever(dynamic_cast<Links*>(&link)), ...);
 }
 
-/// Follows references by ID alone.
+/// Follows references by ID only.
 void SearchByIds(VReading& reading, VReferencables const& containers) {
     VDopsById dops;
     auto const edgesOf = [&dops](NODX201::VReferencable& container) { return EdgesOf(container, VFollow::Dops, dops); };
@@ -48,7 +48,7 @@ void SearchByIds(VReading& reading, VReferencables const& containers) {
     }
 }
 
-/// Follows short names as well, to what they mean in each class of layers, and severs only these.
+/// Follows short names as well, to their targets in each class of layers, and severs only these.
 class VSearchByShortNames {
 public:
     VSearchByShortNames(VReading& reading, VReferencables const& suspects)

@@ -3,7 +3,10 @@
 
 namespace NReader {
 
-char const* SeverityText(VSeverity severity) { return severity == VSeverity::Error ? "error" : "warning"; }
+char const* SeverityText(VSeverity severity) {
+    constexpr char const* kTexts[] = {"note", "warning", "error"};
+    return kTexts[static_cast<std::size_t>(severity)];
+}
 
 std::string FormatDiagnostic(VDiagnostic const& diagnostic) {
     std::string text = diagnostic.file;

@@ -48,8 +48,7 @@ void VDocumentReading::AddInstruction(std::wstring name, std::wstring content) {
 void VDocumentReading::Complete(std::uint32_t document, NMemory::VPosition const& root,
                                 std::string const& modelVersion) {
     if (m_categories.empty()) {
-        findings.Add(root, NCode::NoCategory,
-                     "the document holds no category that the model has a place for, so nothing was loaded");
+        findings.Add(root, NCode::NoCategory, "the document has no supported category, so nothing was loaded");
     }
     for (VCategory const& category : m_categories) {
         documents.push_back({m_database.GetDocumentName({document, 0, 0}), modelVersion, category.name,

@@ -16,7 +16,7 @@
 
 namespace NReader {
 
-/// A reference that has been read, to be tried when everything is loaded.
+/// A reference that has been read, to be resolved when everything is loaded.
 struct VPendingLink {
     NMemory::VMemNode* node;
     NODX201::VLink* link;
@@ -29,7 +29,7 @@ struct VPendingParentRef {
     NMemory::IMemParentRef& (*changeKind)(NMemory::IMemParentRef& parentRef, NMemory::VParentRefKind kind);
 };
 
-/// What reading collects, of one document or of several.
+/// The collected results of reading one document or several.
 struct VCollected {
     VFindings findings;
     std::vector<VDocumentInfo> documents;
@@ -38,19 +38,19 @@ struct VCollected {
     std::vector<VPendingParentRef> parentRefs;
     bool keepsElements = false;
     std::vector<NODX201::VOdxElement*> elements; ///< when they are kept: all, in document order
-    /// The IDs of elements that found no place in the model, with their tags: a reference to one is not to nothing.
+    /// The IDs of elements that are not supported by the model, with their tags: a reference to one is not unresolved.
     std::unordered_map<std::string, std::string> idsLeftOut;
 
     void Append(VCollected&& later);
 };
 
-/// What reading several documents into one database comes to.
+/// The results of reading several documents into one database.
 struct VReading : VCollected {
     std::unique_ptr<NMemory::VDatabase> database;
 };
 
-/// What one document brings. It stands by itself: the database has nothing of it until it is adopted, so documents are
-/// read in any order, and beside one another. One that is not adopted leaves nothing behind.
+/// The contents of one document. It is independent: the database has nothing of it until it is adopted, so documents
+/// are read in any order, and in parallel. One that is not adopted leaves nothing behind.
 class VDocumentReading : public VCollected {
 public:
     VDocumentReading(NMemory::VDatabase& database, VReadOptions const& options);
@@ -60,7 +60,7 @@ public:
 
     NMemory::VDatabase& Database() { return m_database; }
 
-    /// A new category document. Its name in the table is kept.
+    /// A new category document. Its name in the table is recorded.
     template <class Category>
     Category& MakeCategory(char const* name) {
         auto made = m_database.GetMemOdx().MakeDetached<Category>(*m_part);
@@ -75,7 +75,7 @@ public:
     /// The document has been read to its end.
     void Complete(std::uint32_t document, NMemory::VPosition const& root, std::string const& modelVersion);
 
-    /// Puts all into the database and what is collected of it.
+    /// Moves everything into the database, including what was collected.
     void AdoptInto(VReading& reading);
 
 private:

@@ -31,7 +31,7 @@ VReferencables VDopMeanings::VClass::Visible() const {
     std::unordered_set<std::wstring_view> seen;
     std::unordered_set<VClass const*> known{this};
     std::vector<VClass const*> classes{this};
-    for (std::size_t next = 0; next < classes.size(); ++next) { // grows on the way
+    for (std::size_t next = 0; next < classes.size(); ++next) { // grows during the loop
         for (auto const& [shortName, dop] : classes[next]->m_own) {
             if (seen.insert(shortName).second) {
                 visible.push_back(Find(shortName));
@@ -112,7 +112,7 @@ NODX201::VDopBase* VDopsOfClass::Find(NODX201::VDopBaseLink& link) {
     return m_leftOut.count(&link) != 0 || IsSevered(link) ? nullptr : m_meaning.Find(shortName);
 }
 
-/// In one layer of the class as in all: nothing is severed but in whole classes, for these names or fewer.
+/// The same in one layer of the class as in all: links are severed only in whole classes, for these names or fewer.
 bool VDopsOfClass::IsSevered(NODX201::VDopBaseLink& link) const {
     return dynamic_cast<NMemory::VMemDopBaseLink&>(link).IsSeveredIn(*m_meaning.Layers().front());
 }

@@ -15,8 +15,8 @@
 
 namespace NReader {
 
-/// What some short names of DOPs mean in layers. Layers in which all of them mean the same are one class: of thousands
-/// of variants over one base few differ in the names that matter.
+/// The targets of some short names of DOPs in layers. Layers in which all of them have the same targets are one class:
+/// of thousands of variants with one base only few differ in the names that matter.
 class VDopMeanings {
 public:
     using VNames = std::unordered_set<std::wstring_view>;
@@ -25,8 +25,8 @@ public:
     class VClass {
     public:
         std::vector<NODX201::VDiagLayer*> const& Layers() const { return m_layers; }
-        NODX201::VDopBase* Find(std::wstring_view shortName) const; ///< null when the name means nothing
-        VReferencables Visible() const;                             ///< the DOPs that the names mean
+        NODX201::VDopBase* Find(std::wstring_view shortName) const; ///< null when the name has no target
+        VReferencables Visible() const;                             ///< the DOPs that are the targets of the names
 
     private:
         friend class VDopMeanings;
@@ -34,12 +34,12 @@ public:
         std::unordered_map<std::wstring_view, NODX201::VDopBase*> m_own;
         std::vector<VClass*> m_parents; // in the order of the passes; each once
         std::vector<NODX201::VDiagLayer*> m_layers;
-        mutable std::unordered_map<std::wstring_view, NODX201::VDopBase*> m_known; // what parents were asked for
+        mutable std::unordered_map<std::wstring_view, NODX201::VDopBase*> m_known; // names that parents were asked for
     };
 
     VDopMeanings(NMemory::VDatabase& database, VNames names);
 
-    /// In the order of their first layers; layers in which the names mean nothing are in none.
+    /// In the order of their first layers; layers in which the names have no targets are in none.
     std::vector<VClass const*> Classes() const;
 
 private:
@@ -48,12 +48,12 @@ private:
 
     VNames m_names;
     std::vector<std::unique_ptr<VClass>> m_classes;
-    std::unordered_map<NODX201::VDiagLayer const*, VClass*> m_byLayer; // null where the names mean nothing
-    std::map<std::vector<VClass*>, VClass*> m_byParents;               // that add nothing to their parents
-    std::vector<VClass const*> m_used;                                 // that layers are in
+    std::unordered_map<NODX201::VDiagLayer const*, VClass*> m_byLayer; // null where the names have no targets
+    std::map<std::vector<VClass*>, VClass*> m_byParents;               // those that add nothing to their parents
+    std::vector<VClass const*> m_used;                                 // those with layers
 };
 
-/// What references mean in a class of layers, but for those that are severed there and some that are left out.
+/// The targets of references in a class of layers, except references that are severed there and some that are left out.
 class VDopsOfClass final : public NDIAGKIT::IDopFinder {
 public:
     explicit VDopsOfClass(VDopMeanings::VClass const& meaning) : m_meaning(meaning) {}

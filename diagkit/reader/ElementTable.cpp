@@ -64,7 +64,7 @@ VRow TextRow(VFact const& fact) {
     return row;
 }
 
-/// Adds what the facts say to the type; returns where it stopped: at the end, or at that of a wrapper.
+/// Adds the facts to the type; returns where it stopped: at the end, or at that of a wrapper.
 VFact const* Add(VElementType& type, VFact const* fact, VFact const* end) {
     for (; fact != end && fact->what != VFact::VWhat::WrapperEnd; ++fact) {
         switch (fact->what) {

@@ -8,14 +8,15 @@
 namespace NReader {
 namespace {
 
-// What Windows-1252 has at 0x80 to 0x9F; the five codes it leaves open are the control characters of the same number.
+// The characters of Windows-1252 from 0x80 to 0x9F; the five unassigned codes are the control characters of the same
+// number.
 constexpr int kWindows1252[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                   0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 struct VEncodingName {
-    std::string_view plain;    ///< in small letters, without hyphens and underscores
+    std::string_view plain;    ///< in lower case, without hyphens and underscores
     std::string_view encoding; ///< for the XML parser
 };
 

@@ -82,25 +82,25 @@ struct VFactsOf {
     static constexpr VFact PlainWrapper(char const* name, VOften often) {
         return {VWhat::Wrapper, name, often, VContent::Text, nullptr, nullptr, &OpenOnOwner};
     }
-    /// The same, where the model tells an empty wrapper from none.
+    /// The same, where the model distinguishes an empty wrapper from none.
     template <auto Make>
     static constexpr VFact Wrapper(char const* name, VOften often) {
         return {VWhat::Wrapper, name, often, VContent::Text, nullptr, nullptr, &OpenWrapper<Make>};
     }
     static constexpr VFact WrapperEnd() { return {VWhat::WrapperEnd, ""}; }
 
-    /// A child with a way of its own.
+    /// A child that is read by a special function.
     static constexpr VFact Special(char const* name, VOften often, VOpenRow open, bool isFirstKept = false) {
         return {VWhat::Child, name, often, VContent::Text, nullptr, nullptr, open, nullptr, isFirstKept};
     }
 
     static constexpr VFact List() { return {VWhat::List, ""}; }
-    /// An xsi:type that its child shows as well.
+    /// An xsi:type that also follows from its child.
     static constexpr VFact Kind(char const* xsiType, char const* child) {
         return {VWhat::Kind, xsiType, Optional, VContent::Text, nullptr, nullptr,
                 nullptr,     nullptr, false,    false,          child};
     }
-    /// An xsi:type that nothing else shows.
+    /// An xsi:type that follows from nothing else.
     template <NMemory::Tag tag>
     static constexpr VFact TaggedKind(char const* xsiType, char const* child) {
         VFact fact = Kind(xsiType, child);
@@ -129,7 +129,7 @@ struct VFactsOf {
     }
 
 private:
-    /// Operations that want a short name or text first get it later, from the child element.
+    /// Operations that require a short name or text first get it later, from the child element.
     template <auto Make>
     static decltype(auto) Call(T& owner) {
         if constexpr (std::is_invocable_v<decltype(Make), T&>) {

@@ -9,13 +9,10 @@
 #include <diagkit/reader/Limits.h>
 
 namespace NReader {
-namespace {
 
 bool IsBefore(NMemory::VPosition const& a, NMemory::VPosition const& b) {
     return std::tie(a.document, a.line, a.column) < std::tie(b.document, b.line, b.column);
 }
-
-} // namespace
 
 std::string Clipped(std::string message) {
     if (message.size() <= kLongestMessage) {
@@ -65,11 +62,12 @@ void VFindings::LeaveOut(NMemory::VPosition const& first, VCounts const& counts)
 
 VFindings::VKept VFindings::Closing() const {
     std::uint64_t const errors = m_leftOut[IndexOf(VSeverity::Error)];
-    std::uint64_t const all = errors + m_leftOut[IndexOf(VSeverity::Warning)];
+    std::uint64_t const warnings = m_leftOut[IndexOf(VSeverity::Warning)];
+    std::uint64_t const all = errors + warnings + m_leftOut[IndexOf(VSeverity::Note)];
+    VSeverity const worst = errors > 0 ? VSeverity::Error : warnings > 0 ? VSeverity::Warning : VSeverity::Note;
     std::string const what = "left out are " + std::to_string(all) + " diagnostics, " + std::to_string(errors) +
-                             " of them errors, the first here: there are more errors or more warnings than";
-    return {*m_firstLeftOut, NCode::TooManyDiagnostics.As(errors > 0 ? VSeverity::Error : VSeverity::Warning),
-            OverLimit(what, m_limit, "", "--max-diagnostics")};
+                             " of them errors, the first here: there are more errors, warnings or notes than";
+    return {*m_firstLeftOut, NCode::TooManyDiagnostics.As(worst), OverLimit(what, m_limit, "", "--max-diagnostics")};
 }
 
 std::vector<VDiagnostic> VFindings::Sorted(NMemory::VDatabase const& database) const {

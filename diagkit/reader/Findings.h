@@ -13,13 +13,17 @@
 
 namespace NReader {
 
-/// Bytes of a message; nobody reads more.
+/// Bytes of a message; longer ones are of no use to readers.
 inline constexpr std::size_t kLongestMessage = 2000;
 
-/// The message, cut off where it is longer: it may quote a text of many megabytes.
+/// The message, truncated where it is longer: it may quote a text of many megabytes.
 std::string Clipped(std::string message);
 
-/// The diagnostics of one reading, while they are collected: so many errors and so many warnings as the limit says. The
+/// Whether a position comes first: by document, as they were read, and by line and column within each.
+bool IsBefore(NMemory::VPosition const& a, NMemory::VPosition const& b);
+
+/// The diagnostics of one reading, while they are collected: so many errors, warnings and notes as the limit
+/// says. The
 /// others are counted, so that nothing that is wrong with data takes more memory than that.
 class VFindings {
 public:
@@ -39,7 +43,7 @@ private:
         std::string message;
     };
 
-    using VCounts = std::array<std::uint64_t, 2>; // by severity
+    using VCounts = std::array<std::uint64_t, 3>; // by severity
 
     static std::size_t IndexOf(VSeverity severity) { return static_cast<std::size_t>(severity); }
     void Keep(VKept finding);

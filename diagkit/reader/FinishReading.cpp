@@ -8,6 +8,7 @@
 
 #include <diagkit/reader/Containment.h>
 #include <diagkit/reader/Cycles.h>
+#include <diagkit/reader/MissingDocuments.h>
 #include <diagkit/reader/Naming.h>
 #include <diagkit/reader/ReferenceKinds.h>
 #include <diagkit/reader/Utf8.h>
@@ -27,8 +28,10 @@ std::string Named(NODX201::VOdxLink const& link) {
     return text;
 }
 
-/// A reference by ID, which stands at `node`, has no target.
-void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference) {
+/// A reference by ID, which stands at `node`, has no target. Those into a missing document are counted, where somebody
+/// counts them.
+void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference,
+                      VMissingDocuments* missing) {
     auto const& link = dynamic_cast<NODX201::VOdxLink const&>(reference.GetLink());
     if (*link.GetIdRef() == L'\0') {
         return; // reported as an attribute that is missing
@@ -36,13 +39,16 @@ void ReportUnresolved(VReading& reading, NMemory::VMemNode const& node, NODX201:
     std::string const what = TagOf(reference) + " names " + Named(link);
     if (auto const leftOut = reading.idsLeftOut.find(ToUtf8(link.GetIdRef())); leftOut != reading.idsLeftOut.end()) {
         reading.findings.Add(node.GetPosition(), NCode::TargetLeftOut,
-                             what + ", a " + leftOut->second + ", for which the model has no place");
+                             what + ", a " + leftOut->second + ", which is not supported");
         return;
     }
     auto const* const others = reading.database->GetIdIndex().Find(link.GetIdRef());
+    if (others == nullptr && missing != nullptr && missing->Take(link, node.GetPosition())) {
+        return;
+    }
     if (others == nullptr) {
         reading.findings.Add(node.GetPosition(), NCode::UnresolvedReference,
-                             what + ", which no loaded element has; load the document that holds it too");
+                             what + ", which no loaded element has; load the document that contains it as well");
         return;
     }
     reading.findings.Add(node.GetPosition(), NCode::ReferenceKind,
@@ -55,7 +61,7 @@ std::string PlaceOf(VReading const& reading, NODX201::VReferencable const& eleme
     return reading.database->GetDocumentName(position) + ':' + std::to_string(position.line);
 }
 
-/// Several documents or layers bear the name in the DOCREF of a reference, and more than one has what it refers to.
+/// Several documents or layers have the name in the DOCREF of a reference, and more than one has a matching target.
 void ReportDoubt(VReading& reading, NMemory::VMemNode const& node, NODX201::VLink& reference,
                  NMemory::VDoubt const& doubt) {
     if (doubt.other == nullptr) {
@@ -70,7 +76,7 @@ void ReportDoubt(VReading& reading, NMemory::VMemNode const& node, NODX201::VLin
 
 using VReplaced = std::unordered_map<NODX201::VOdxElement*, NODX201::VOdxElement*>;
 
-/// Puts the elements that took the place of others into the list of all.
+/// Replaces elements in the list of all by those that took their place.
 void Replace(std::vector<NODX201::VOdxElement*>& elements, VReplaced const& replaced) {
     for (NODX201::VOdxElement*& element : elements) {
         if (auto const found = replaced.find(element); found != replaced.end()) {
@@ -79,7 +85,7 @@ void Replace(std::vector<NODX201::VOdxElement*>& elements, VReplaced const& repl
     }
 }
 
-void GiveParentRefsTheirKinds(VReading& reading) {
+void GiveParentRefsTheirKinds(VReading& reading, VMissingDocuments* missing) {
     VReplaced replaced;
     for (VPendingParentRef const& pending : reading.parentRefs) {
         auto& untyped = dynamic_cast<NMemory::VMemParentRef&>(pending.parentRef->ParentRef());
@@ -98,7 +104,7 @@ void GiveParentRefsTheirKinds(VReading& reading) {
                                  "PARENT-REF names the " + TagOf(untyped.GetDiagLayer()) + ' ' +
                                      Quoted(untyped.GetDiagLayer()) + ", from which nothing can be inherited");
         } else {
-            ReportUnresolved(reading, untyped, untyped);
+            ReportUnresolved(reading, untyped, untyped, missing);
         }
     }
     if (!replaced.empty()) {
@@ -106,17 +112,17 @@ void GiveParentRefsTheirKinds(VReading& reading) {
     }
 }
 
-void ReportReferences(VReading& reading) {
+void ReportReferences(VReading& reading, VMissingDocuments* missing) {
     for (VPendingLink const& pending : reading.links) {
         if (!pending.questions->resolves(*pending.link)) {
-            ReportUnresolved(reading, *pending.node, *pending.link);
+            ReportUnresolved(reading, *pending.node, *pending.link, missing);
         } else {
             ReportDoubt(reading, *pending.node, *pending.link, pending.questions->doubt(*pending.link));
         }
     }
 }
 
-/// References name documents by their short names.
+/// Repeated names are reported because references name documents by their short names.
 void ReportRepeatedDocuments(VReading& reading) {
     std::map<std::pair<NMemory::Tag, std::wstring_view>, NODX201::VReferencable*> firsts;
     auto const see = [&](auto& documents) {
@@ -182,9 +188,12 @@ void CheckParents(VReading& reading) {
 
 } // namespace
 
-void FinishReading(VReading& reading) {
-    GiveParentRefsTheirKinds(reading);
-    ReportReferences(reading);
+void FinishReading(VReading& reading, bool tellsEachReference) {
+    VMissingDocuments documents(*reading.database);
+    VMissingDocuments* const missing = tellsEachReference ? nullptr : &documents;
+    GiveParentRefsTheirKinds(reading, missing);
+    ReportReferences(reading, missing);
+    documents.Report(reading.findings);
     ReportRepeatedDocuments(reading);
     ReportRepeatedIds(reading);
     CheckParents(reading);

@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Reads as far as the tag of the root.
+/// Reads up to the tag of the root.
 class VRootName final : public IXmlHandler {
 public:
     explicit VRootName(VReadLimits const& limits) : m_parser(*this, limits, nullptr) {}
@@ -28,7 +28,7 @@ public:
             stream.read(bytes, sizeof bytes);
         } while (stream.gcount() > 0 && m_parser.Feed({bytes, static_cast<std::size_t>(stream.gcount())}, false));
         if (m_name.empty()) {
-            m_parser.Feed({}, true); // a short document is looked at only when it is whole
+            m_parser.Feed({}, true); // a short document is parsed only when it is complete
         }
         return m_name;
     }
@@ -57,7 +57,7 @@ std::string SuffixOf(fs::path const& path) {
     return suffix;
 }
 
-/// Of a document by what it holds; .odx for any.
+/// Of a document by its contents; .odx for any.
 bool IsDocumentSuffix(std::string const& suffix) {
     static constexpr std::string_view kSuffixes[] = {".odx",   ".odx-c",  ".odx-cs", ".odx-d", ".odx-e",
                                                      ".odx-f", ".odx-fd", ".odx-m",  ".odx-v"};
@@ -90,7 +90,7 @@ std::vector<std::string> FilesOf(std::string const& name) {
         }
     }
     if (error || files.empty()) {
-        return {name}; // whose reading says what is wrong
+        return {name}; // reading it reports what is wrong
     }
     std::sort(files.begin(), files.end());
     return files;

@@ -42,7 +42,7 @@ std::ifstream Opened(fs::path const& path) {
 
 namespace {
 
-/// Reads the first bytes of a file, fewer where it has fewer; what is wrong when they cannot be read.
+/// Reads the first bytes of a file, fewer where it is shorter; the failure when they cannot be read.
 std::optional<VFailure> ReadHead(fs::path const& path, std::string& head) {
     std::ifstream stream = Opened(path);
     char bytes[4] = {};
@@ -56,14 +56,14 @@ std::optional<VFailure> ReadHead(fs::path const& path, std::string& head) {
 
 bool IsLikeZip(std::string_view head) { return head == "PK\3\4" || head == "PK\5\6"; }
 
-/// Why there is nothing to read by that name, if so.
+/// Why there is no readable file of that name, if so.
 std::optional<VFailure> NoFile(fs::file_status const& status, std::error_code const& error) {
     if (!fs::exists(status)) {
         bool const isTold = error && error != std::errc::no_such_file_or_directory;
         return VFailure{&NCode::NoFile, isTold ? "cannot be read: " + error.message() : "no such file"};
     }
     if (fs::is_directory(status)) {
-        return VFailure{&NCode::NoFile, "the folder holds no ODX document or package"};
+        return VFailure{&NCode::NoFile, "the folder contains no ODX document or package"};
     }
     if (fs::is_fifo(status)) {
         return VFailure{&NCode::NoFile, "is a pipe, which cannot be read twice; save it to a file first"};
@@ -84,7 +84,7 @@ VInspection Inspect(std::string const& file, VReadLimits const& limits) {
     if (std::optional<VFailure> failure = ReadHead(path, head)) {
         return {false, 0, std::move(failure)};
     }
-    // Reading tells, not the size: files of the system say to be empty and are not.
+    // Only reading shows whether a file is empty: some system files report size 0 and have contents.
     if (IsPackageName(file) && head.empty()) {
         return {false, 0, VFailure{&NCode::Empty, "is empty"}};
     }
@@ -95,7 +95,7 @@ VInspection Inspect(std::string const& file, VReadLimits const& limits) {
     }
     bool const isPackage = IsLikeZip(head);
     if (!isPackage && IsPackageName(file)) {
-        return {false, size, VFailure{&NCode::NoPackage, "is no PDX package: the file is not a zip archive"}};
+        return {false, size, VFailure{&NCode::NoPackage, "is not a PDX package: the file is not a zip archive"}};
     }
     return {isPackage, size, {}};
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The tables of layers and what they hold.
+// The tables of layers and their contents.
 
 #include <diagkit/memory/Layers.h>
 #include <diagkit/reader/Facts.h>

@@ -5,13 +5,13 @@
 
 namespace NReader {
 
-/// What is asked of a reference by ID, for its class.
+/// The queries for a reference by ID, by its class.
 struct VLinkQuestions {
     bool (*resolves)(NODX201::VLink& link);
     NMemory::VDoubt (*doubt)(NODX201::VLink& link); ///< see `NMemory::FindDoubt`
 };
 
-/// The questions to links of one class.
+/// The queries for links of one class.
 template <class Link>
 inline constexpr VLinkQuestions kQuestionsTo{
     [](NODX201::VLink& link) { return static_cast<Link&>(link).ResolvesById(); },

@@ -32,7 +32,7 @@ std::pair<std::type_index const, VFindTarget> RowOf() {
     return {typeid(Link), &FindTarget<Link>};
 }
 
-/// A row for each class of reference that may be one by ID: asking every class in turn takes too long for the many
+/// A row for each class of reference that may be by ID: trying one class after the other takes too long for the many
 /// references of a database.
 std::unordered_map<std::type_index, VFindTarget> const& Rows() {
     static std::unordered_map<std::type_index, VFindTarget> const rows{

@@ -5,8 +5,8 @@
 
 namespace NReader {
 
-/// What a reference by ID names, of whatever class the reference is, also where it was cut because it closes a circle.
-/// Null where that is nothing, for a reference by short name, and for one of another model.
+/// The target of a reference by ID of any class, even if it was severed because it closes a cycle. Null where there is
+/// none, for a reference by short name, and for one of another model.
 NODX201::VOdxElement* TargetById(NODX201::VLink& reference);
 
 } // namespace NReader

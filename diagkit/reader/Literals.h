@@ -6,7 +6,7 @@
 
 #include <diagkit/tools/EnumMapper.h>
 
-/// The literals of an enumeration, which are those of the mapper, so that there is one list.
+/// The literals of an enumeration, taken from the mapper, so that there is one list.
 
 namespace NReader {
 
@@ -25,7 +25,7 @@ std::vector<wchar_t const*> AllLiterals(wchar_t const* (Owner::*textOf)(Enumerat
     }
 }
 
-/// The literals of the enumeration that `TextOf`, an operation of the mapper, tells the texts of; ended by null.
+/// The literals of the enumeration whose texts `TextOf`, an operation of the mapper, returns; terminated by null.
 template <auto TextOf>
 wchar_t const* const* LiteralsOf() {
     static std::vector<wchar_t const*> const literals = AllLiterals(TextOf);

@@ -18,7 +18,7 @@ bool IsNumber(std::string_view text) {
 }
 
 bool IsBlank(std::string_view text) {
-    // Between elements stand many blanks in a row.
+    // There are many blanks in a row between elements.
     constexpr std::string_view kEight = "        ";
     while (text.size() >= kEight.size() && std::memcmp(text.data(), kEight.data(), kEight.size()) == 0) {
         text.remove_prefix(kEight.size());
@@ -50,7 +50,8 @@ void VLoader::SetModelVersion(std::string_view version) {
         dot != std::string::npos ? m_modelVersion.substr(dot + 1, m_modelVersion.find('.', dot + 1) - dot - 1) : "";
     if (!IsNumber(major) || (dot != std::string::npos && !IsNumber(minor))) {
         Report(NCode::UnknownModelVersion,
-               "MODEL-VERSION is '" + m_modelVersion + "', which is no version; the document is read by its content");
+               "MODEL-VERSION is '" + m_modelVersion +
+                   "', which is not a version; the document is read according to its contents");
         return;
     }
     m_isVersion20 = major == "0" || major == "1" || (major == "2" && minor == "0");
@@ -66,14 +67,14 @@ NMemory::VReference VLoader::ReadIdReference(VAttributes const& attributes) {
         char const* const value = attributes.Find(kNames[index]);
         m_reference[index].clear();
         AppendFromUtf8(m_reference[index], value != nullptr ? value : "");
-        Trim(m_reference[index]); // as the IDs and short names that it names are
+        Trim(m_reference[index]); // like the IDs and short names of their targets
     }
     if (m_reference[0].empty()) {
         Report(NCode::MissingAttribute, Quoted(m_opening) + " has no ID-REF");
     }
     if (m_isVersion20 && !m_reference[2].empty() && !IsLiteral(LiteralsOf<&Mapper::GetDoctypeStr>(), m_reference[2])) {
         Report(NCode::UnknownLiteral.As(VSeverity::Warning),
-               "DOCTYPE of " + Quoted(m_opening) + " is '" + ToUtf8(m_reference[2]) + "', which is none of " +
+               "DOCTYPE of " + Quoted(m_opening) + " is '" + ToUtf8(m_reference[2]) + "', which is not one of " +
                    LiteralsText(LiteralsOf<&Mapper::GetDoctypeStr>()) + "; the target is looked for without it");
     }
     return NMemory::VReference::ById(m_reference[0].c_str(), m_reference[1].c_str(), m_reference[2].c_str(),
@@ -130,7 +131,7 @@ void VLoader::StartUnknown(std::string_view name, VAttributes const& attributes)
     bool const isCategory = m_frames.size() == 1; // ODX 2.0 has one more than the model knows
     if (m_isVersion20 && !isCategory) {
         Report(NCode::UnknownChild, Quoted(m_frames.back().name) + " holds no " + Quoted(name) +
-                                        " in ODX 2.0; it is left out with all inside");
+                                        " in ODX 2.0; it is ignored, with its children");
     }
 }
 
@@ -144,7 +145,7 @@ void VLoader::StartRoot(std::string_view name, VAttributes const& attributes) {
     if (version != nullptr) {
         SetModelVersion(version);
     } else {
-        Report(NCode::MissingModelVersion, "ODX has no MODEL-VERSION; the document is read by its content");
+        Report(NCode::MissingModelVersion, "ODX has no MODEL-VERSION; the document is read according to its contents");
     }
     m_frames.push_back({"ODX", this, &RootType(), m_rootPosition});
 }
@@ -222,7 +223,7 @@ void VLoader::Open(VAttributes const& attributes, VRow const& row, void* owner) 
     ReadAttributes(m_frames.back(), attributes);
 }
 
-/// What the xsi:type says; null, and reported, when the element has none such, and null where it is not looked at.
+/// The xsi:type; null, and reported, when the element has no such type, and null where it is not read.
 VKind const* VLoader::ReadKind(VElementType const& type, VAttributes const& attributes) {
     if (type.kinds.empty()) {
         return nullptr;
@@ -297,7 +298,7 @@ void VLoader::Text(std::string_view text) {
         m_parser->LimitText(m_text.size());
     } else if (!frame.hasStrayText && !IsBlank(text)) {
         frame.hasStrayText = true;
-        Report(NCode::StrayText, Quoted(frame.name) + " holds text, which is left out");
+        Report(NCode::StrayText, Quoted(frame.name) + " contains text, which is ignored");
     }
 }
 

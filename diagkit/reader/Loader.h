@@ -12,8 +12,8 @@
 
 namespace NReader {
 
-/// Turns the events of one document into elements, along the element tables. Nothing of the document is held but the
-/// elements that are open.
+/// Turns the events of one document into elements, along the element tables. Only the open elements of the document are
+/// kept in memory.
 class VLoader final : public IXmlHandler {
 public:
     VLoader(VDocumentReading& reading, std::uint32_t document) : m_reading(reading), m_document(document) {}
@@ -23,7 +23,7 @@ public:
     void Text(std::string_view text) override;
     void Instruction(std::string_view name, std::string_view content) override;
 
-    /// Whose events these are; asked for positions.
+    /// The parser that sends the events; it provides positions.
     void SetParser(VXmlParser& parser) { m_parser = &parser; }
 
     /// The document has been read to its end.
@@ -33,10 +33,10 @@ public:
 
     VDocumentReading& Reading() { return m_reading; }
     NMemory::VPosition Position() const;       ///< of the tag being read
-    NMemory::VPosition PositionAround() const; ///< of the element that it stands in
+    NMemory::VPosition PositionAround() const; ///< of the element around it
     void SetModelVersion(std::string_view version);
     void Report(VCode const& code, std::string message);
-    /// An ID reference or short-name reference as its attributes say, valid until the next call.
+    /// An ID reference or short-name reference given by its attributes, valid until the next call.
     NMemory::VReference ReadIdReference(VAttributes const& attributes);
     NMemory::VReference ReadShortNameReference(VAttributes const& attributes);
 
@@ -47,11 +47,11 @@ private:
         VElementType const* type;
         NMemory::VPosition position;
         std::uint64_t seen = 0;    // rows met, by index
-        std::uint64_t implied = 0; // wrappers that are not there, of which items are
+        std::uint64_t implied = 0; // wrappers that are absent although items of theirs are present
         std::uint64_t choices = 0; // alternatives taken, by choice number
         int lastRow = -1;
-        VKind const* kind = nullptr; // as the xsi:type says, where the type lists some
-        bool isInferred = false;     // its kind shows from its contents
+        VKind const* kind = nullptr; // given by xsi:type, where the type lists some
+        bool isInferred = false;     // its kind follows from its contents
         bool hasStrayText = false;   // reported already
     };
 
@@ -94,7 +94,7 @@ private:
     VXmlParser* m_parser = nullptr;
     std::uint32_t m_document;
     NMemory::VPosition m_rootPosition;
-    bool m_isVersion20 = false; // as far as the document says
+    bool m_isVersion20 = false; // if the document says so
     char const* m_opening = ""; // the element whose attributes are being read
     std::string m_modelVersion;
 
@@ -118,7 +118,7 @@ private:
 /// 'TEXT', as messages name an element.
 std::string Quoted(std::string_view text);
 
-/// The table of the root element, which holds the categories.
+/// The table of the root element, which contains the categories.
 VElementType const& RootType();
 
 /// The xsi:type that fits the contents of a recorded element that has none, or one that is unknown.

@@ -14,7 +14,7 @@ std::string Quoted(std::string_view text) {
     return quoted += '\'';
 }
 
-/// Reports a child that is one too many or stands behind one that it belongs before.
+/// Reports a child that is repeated or comes after one that it should precede.
 void VLoader::ReportRow(VFrame const& frame, VRow const& row, bool isRepeated, bool isSecondAlternative) {
     std::string const stands = Quoted(row.name) + " stands in " + Quoted(frame.name);
     if (isRepeated) {
@@ -32,7 +32,7 @@ void VLoader::ReportRow(VFrame const& frame, VRow const& row, bool isRepeated, b
     }
 }
 
-/// Holds the value just read, of an attribute of the element or of its text, against what it must be.
+/// Checks the value just read, of an attribute of the element or of its text, against its required form.
 void VLoader::CheckValue(VContent content, wchar_t const* const* literals, VFrame const& frame, char const* attribute) {
     bool const isValue = IsValue(content, m_value);
     if (isValue && (literals == nullptr || !m_isVersion20 || IsLiteral(literals, m_value))) {
@@ -44,7 +44,7 @@ void VLoader::CheckValue(VContent content, wchar_t const* const* literals, VFram
         m_reading.findings.Add(frame.position, NCode::NotAValue, is + ", which is no " + ValueText(content));
     } else {
         m_reading.findings.Add(frame.position, NCode::UnknownLiteral,
-                               is + ", which is none of " + LiteralsText(literals));
+                               is + ", which is not one of " + LiteralsText(literals));
     }
 }
 
@@ -55,8 +55,8 @@ void VLoader::CheckComplete(VFrame const& frame) {
         if (row.occurs != Required || ((frame.seen | frame.implied) & (std::uint64_t{1} << index)) != 0) {
             continue;
         }
-        // Later versions require other elements, and without xsi:type one may be of the general kind, which has little
-        // but names: these are what all have.
+        // Later versions require other elements, and without xsi:type an element may be of the general kind, which has
+        // little but names: these are common to all.
         if ((frame.isInferred || !m_isVersion20) && std::strcmp(row.name, "SHORT-NAME") != 0) {
             continue;
         }
@@ -72,7 +72,7 @@ void VLoader::CheckComplete(VFrame const& frame) {
     CheckKind(frame);
 }
 
-/// Holds what is inside against the xsi:type.
+/// Checks the contents against the xsi:type.
 void VLoader::CheckKind(VFrame const& frame) {
     if (frame.kind == nullptr || frame.isInferred || !m_isVersion20) {
         return;

@@ -3,12 +3,12 @@
 
 #include <utility>
 
-// Elements whose kind shows only from their contents: they are held until they end, and read then.
+// Elements whose kind follows only from their contents: they are recorded until they end, and read then.
 
 namespace NReader {
 namespace {
 
-/// As the parser hands them out: names and values in turn, null at the end.
+/// In the form in which the parser passes them: alternating names and values, null at the end.
 std::vector<char const*> Pointers(std::vector<std::string> const& attributes) {
     std::vector<char const*> pointers;
     pointers.reserve(attributes.size() + 1);
@@ -42,7 +42,7 @@ void VLoader::Record(VEvent event) {
     for (std::string const& text : event.attributes) {
         m_recordedSize += sizeof text + text.size();
     }
-    m_parser->LimitText(m_recordedSize); // they are held as a text is
+    m_parser->LimitText(m_recordedSize); // they are kept like a text
     m_recorded.push_back(std::move(event));
 }
 
@@ -70,7 +70,7 @@ void VLoader::Replay() {
 
     NMemory::VPosition const* const before = m_replayed;
     m_replayed = &first.position;
-    // Noted among its siblings already, when it was met.
+    // It is already noted among its siblings.
     Open(VAttributes(Pointers(first.attributes).data()), row, m_frames.back().object);
     m_frames.back().isInferred = true;
     for (std::size_t index = 1; index < events.size(); ++index) {

@@ -28,7 +28,7 @@ VReadResult Read(std::vector<std::string> const& files, VReadOptions const& opti
         result.diagnostics = reading.findings.Sorted(*reading.database);
         return result;
     }
-    FinishReading(reading);
+    FinishReading(reading, options.tellsEachReference);
     result.diagnostics = reading.findings.Sorted(*reading.database);
     result.documents = std::move(reading.documents);
     result.unknownElements = std::move(reading.unknownElements);
@@ -43,7 +43,7 @@ VReadResult ReadOdx(std::vector<std::string> const& files, VReadOptions const& o
     try {
         return Read(files, options);
     } catch (std::system_error const& error) {
-        // Where a mutex takes memory when it is locked first, it has another way to say that there is none.
+        // Where a mutex allocates memory when it is first locked, it reports a lack of memory in another way.
         if (error.code() == std::errc::not_enough_memory) {
             throw std::bad_alloc();
         }

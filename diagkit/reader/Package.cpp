@@ -15,8 +15,8 @@
 namespace NReader {
 namespace {
 
-/// Running out of memory says nothing about a package. libzip may take it for bad data; the system's number, which is
-/// cleared before every call, tells.
+/// Running out of memory is not a fault of the package. libzip may report it as bad data; the system's error number,
+/// which is cleared before every call, distinguishes the two.
 void RequireMemory(zip_error_t& error) {
     if (zip_error_code_zip(&error) == ZIP_ER_MEMORY || errno == ENOMEM) {
         throw std::bad_alloc();
@@ -25,7 +25,7 @@ void RequireMemory(zip_error_t& error) {
 
 std::string Text(zip_error_t& error) {
     RequireMemory(error);
-    // Most errors of Windows have no number of C's: libzip has then none, or one of its own, and no text.
+    // Most Windows errors have no errno value: libzip then has none, or one of its own, and no text.
     constexpr int kNumbersOfLibzip = 10000;
     int const number = zip_error_code_system(&error);
     if (zip_error_system_type(&error) == ZIP_ET_SYS && (number == 0 || number >= kNumbersOfLibzip)) {
@@ -36,7 +36,7 @@ std::string Text(zip_error_t& error) {
     return zip_error_strerror(&error);
 }
 
-/// Why an archive could not be opened, and whether it is the system's word.
+/// Why an archive could not be opened, and whether the reason comes from the system.
 std::pair<std::string, bool> Reason(int code) {
     zip_error_t error;
     zip_error_init_with_code(&error, code);
@@ -44,7 +44,7 @@ std::pair<std::string, bool> Reason(int code) {
     return {Text(error), zip_error_system_type(&error) == ZIP_ET_SYS};
 }
 
-/// libzip notices a wrong size of stored members only.
+/// libzip detects a wrong size only for stored members.
 std::string SizeFault(std::uint64_t unpacked, std::uint64_t said) {
     return "the member unpacks to " + std::to_string(unpacked) + " bytes, the package says " + std::to_string(said);
 }

@@ -9,7 +9,7 @@
 namespace NReader {
 namespace {
 
-/// What one try at a document came to.
+/// The outcome of one attempt to read a document.
 struct VTry {
     std::unique_ptr<VDocumentReading> reading{}; // null when it failed
     VFailure failure{};
@@ -20,7 +20,7 @@ std::string Hexadecimal(unsigned char byte) {
     return {'0', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
 }
 
-/// A document that declares a one-byte encoding: what its bytes look like.
+/// Reports findings about the bytes of a document that declares a one-byte encoding.
 void ReportOneByteEncoding(VXmlParser const& parser, std::uint32_t document, VFindings& findings) {
     std::string const& declared = parser.GetDeclaredEncoding();
     VXmlControl const control = parser.GetFirstControl();
@@ -96,7 +96,8 @@ std::unique_ptr<VDocumentReading> ReadDocument(NMemory::VDatabase& database, VRe
     }
     VFailure failure = first.failure;
     if (!first.failure.doubt.empty()) {
-        // The declaration may lie: try what real files turn out to be, best first. Windows-1252 takes any bytes.
+        // The declaration may be wrong: try the encodings found in real files, most likely first. Windows-1252 accepts
+        // any bytes.
         for (char const* const encoding : {"UTF-16", "UTF-8", "Windows-1252"}) {
             VTry next = tryDocument(encoding);
             if (next.reading != nullptr) {
@@ -104,7 +105,7 @@ std::unique_ptr<VDocumentReading> ReadDocument(NMemory::VDatabase& database, VRe
                                            first.failure.doubt + "; read as " + encoding);
                 return std::move(next.reading);
             }
-            if (next.failure.code != &NCode::NotXml) { // it is the encoding, and something else is wrong
+            if (next.failure.code != &NCode::NotXml) { // the encoding is right, and something else is wrong
                 failure = next.failure;
                 break;
             }

@@ -52,10 +52,10 @@ void VReadSession::Add(std::string const& name) {
     if (m_files.back().repeated.empty()) {
         m_files.back().failure = AddFile(name);
     }
-    m_files.back().number = m_reading.database->AddDocumentName(name); // what it says comes after its documents
+    m_files.back().number = m_reading.database->AddDocumentName(name); // its findings come after its documents
 }
 
-/// The name under which the call has named the same file before; "" for a new one, and for what is no plain file.
+/// The name under which the call has named the same file before; "" for a new one, and if it is not a regular file.
 std::string VReadSession::EarlierNameOf(std::string const& name) {
     std::error_code error;
     fs::path const place = fs::canonical(PathOf(name), error);
@@ -91,7 +91,7 @@ std::optional<VFailure> VReadSession::AddPackage(std::string const& name) {
                         OverLimit("the package has more members than", m_options.maxMembers, "", "--max-members")};
     }
     if (package.Documents().empty()) {
-        return VFailure{&NCode::NoPackage, "the package holds no ODX document (no member named .odx, .odx-d, ...)"};
+        return VFailure{&NCode::NoPackage, "the package contains no ODX document (no member named .odx, .odx-d, ...)"};
     }
     for (VPackage::VMember const& member : package.Documents()) {
         AddDocument(name + '!' + member.name, member.compressedSize, member);
@@ -115,8 +115,8 @@ std::size_t VReadSession::CountThreads() const {
     return std::clamp<std::size_t>(wanted, 1, std::max<std::size_t>(m_documents.size(), 1));
 }
 
-/// What a package that is too large leaves unread, and what is said of it, depends on the order of reading. So then all
-/// is read again, one after the other.
+/// The unread part of a package that is too large, and the findings about it, depend on the order of reading. In that
+/// case everything is read again, one document after the other.
 void VReadSession::ReadDocuments() {
     std::size_t const threads = CountThreads();
     ReadDocuments(threads);
@@ -143,7 +143,7 @@ void VReadSession::ReadDocuments(std::size_t threads) {
     std::vector<std::size_t> order(m_documents.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     if (threads > 1) {
-        // The largest first: what comes last should not take long.
+        // The largest first, so that the last ones are short.
         std::stable_sort(order.begin(), order.end(),
                          [this](std::size_t a, std::size_t b) { return m_documents[a].size > m_documents[b].size; });
     }
@@ -168,7 +168,7 @@ void VReadSession::ReadDocuments(std::size_t threads) {
             others.emplace_back(work, false);
         }
     } catch (std::exception const&) {
-        // Those that there are suffice.
+        // The existing threads are sufficient.
     }
     work(true);
     for (std::thread& other : others) {
@@ -180,11 +180,11 @@ void VReadSession::ReadDocuments(std::size_t threads) {
         }
     }
     if (threads > 1) {
-        VReadWorker(*this, true).Progress(0); // what the others read last
+        VReadWorker(*this, true).Progress(0); // what the other threads read last
     }
 }
 
-/// Takes in what came of the file's documents. Whether the file could be read.
+/// Adopts the results for the file's documents. Returns whether the file could be read.
 bool VReadSession::AdoptFile(std::size_t index) {
     VFile const& file = m_files[index];
     if (file.failure) {

@@ -19,15 +19,15 @@ namespace NReader {
 /// A file of the call, or of a folder that the call names.
 struct VFile {
     std::string name;
-    std::uint32_t number = 0;          // of the name, for what is said of the whole file
-    std::optional<VFailure> failure{}; // when there is nothing to read in it
+    std::uint32_t number = 0;          // of the name, for findings about the whole file
+    std::optional<VFailure> failure{}; // when nothing in it can be read
     std::string repeated{};            // an earlier name of the same file, which is not read twice
     bool isPackage = false;
     std::uint64_t unpacked = 0; // bytes of the members read so far
-    bool isTooLarge = false;    // all of them are more than a package may hold
+    bool isTooLarge = false;    // together they exceed the limit of a package
 };
 
-/// A document to read, and what came of it.
+/// A document to read, and the result.
 struct VDocument {
     std::size_t file;
     std::uint32_t number; // of its name
@@ -38,8 +38,8 @@ struct VDocument {
     std::exception_ptr thrown{};
 };
 
-/// Reads all files of a call: finds the documents in them, has them read by one thread or several, and adopts what came
-/// of each in the order of the files. Only the second step knows of threads.
+/// Reads all files of a call: finds the documents in them, has them read by one thread or several, and adopts the
+/// results in the order of the files. Only the second step uses threads.
 class VReadSession {
 public:
     VReadSession(VReading& reading, VReadOptions const& options) : m_reading(reading), m_options(options) {}
@@ -69,10 +69,10 @@ private:
     std::vector<VFile> m_files;
     std::map<std::filesystem::path, std::string> m_names; // of the files by their places
     std::vector<VDocument> m_documents;                   // in the order of the files
-    std::size_t m_adopted = 0;                            // how many of them AdoptFile is through with
+    std::size_t m_adopted = 0;                            // how many of them AdoptFile has finished
     std::uint64_t m_all = 0;
 
-    std::mutex m_mutex; // of the files and what is done, while documents are being read
+    std::mutex m_mutex; // for the files and the progress, while documents are being read
     std::uint64_t m_done = 0;
 };
 

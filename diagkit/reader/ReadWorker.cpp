@@ -11,7 +11,7 @@
 namespace NReader {
 namespace {
 
-/// How many bytes a member may unpack to, and what is wrong when there are more.
+/// How many bytes a member may unpack to, and the failure when there are more.
 struct VMemberLimit {
     std::uint64_t bytes;
     VFailure failure;
@@ -35,10 +35,10 @@ VMemberLimit LimitOf(VPackage::VMember const& member, VReadLimits const& limits)
 
 VFailure FailureOf(VPackage::VFault fault) {
     if (fault == VPackage::VFault::LeadsOut) {
-        return {&NCode::UnsafeName, "the member's name is no path inside the package, so the member is left out"};
+        return {&NCode::UnsafeName, "the member's name is not a path inside the package, so the member is ignored"};
     }
     return {&NCode::DuplicateMember,
-            "another member of this name follows in the package and counts; this one is left out"};
+            "a later member of the package has the same name and is used; this one is ignored"};
 }
 
 } // namespace
@@ -70,7 +70,7 @@ bool VReadWorker::TakeFile(VFile const& file, std::function<bool(std::string_vie
     std::uint64_t const limit = m_session.m_options.maxFileSize;
     std::ifstream stream = Opened(std::filesystem::u8path(file.name));
     std::vector<char> buffer(256 * 1024);
-    std::uint64_t total = 0; // a file that is no regular one, or that grows, tells no size
+    std::uint64_t total = 0; // unknown for a file that is not a regular one, or that grows
     while (stream) {
         stream.read(buffer.data(), static_cast<std::streamsize>(buffer.size()));
         auto const length = static_cast<std::size_t>(stream.gcount());
@@ -108,7 +108,7 @@ void VReadWorker::ReadMember(VDocument& document, VFile& file) {
 
     VMemberLimit const memberLimit = LimitOf(*document.member, options);
     std::uint64_t const limit = std::min(memberLimit.bytes, left);
-    std::uint64_t unpacked = 0; // in the last try
+    std::uint64_t unpacked = 0; // in the last attempt
     bool isTooLarge = false;
     auto const unpack = [&](auto const& take, VFailure& failure) {
         std::string reason;
@@ -144,7 +144,7 @@ void VReadWorker::ReadMember(VDocument& document, VFile& file) {
 
 VPackage* VReadWorker::Package(std::size_t file, std::string& error) {
     if (m_package == nullptr || m_packageFile != file) {
-        // Archives hold local times, and what the C library does with these is not everywhere meant for threads.
+        // Archives contain local times, and the functions of the C library for these are not thread-safe everywhere.
         std::lock_guard<std::mutex> const lock(m_session.m_mutex);
         m_package = std::make_unique<VPackage>();
         m_packageFile = file;

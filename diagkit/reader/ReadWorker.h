@@ -28,7 +28,7 @@ private:
     VReadSession& m_session;
     bool m_isCaller; // the thread that called ReadOdx
     std::size_t m_packageFile = 0;
-    std::unique_ptr<VPackage> m_package; // each thread has the file open for itself
+    std::unique_ptr<VPackage> m_package; // each thread opens the file itself
 };
 
 } // namespace NReader

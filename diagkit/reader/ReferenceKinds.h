@@ -7,7 +7,7 @@
 
 namespace NReader {
 
-/// What a reference by ID names by ODX's rules, such as "REQUEST" or "DOP", for messages.
+/// The kind of target that ODX requires for a reference by ID, such as "REQUEST" or "DOP", for messages.
 std::string KindWantedBy(NODX201::VLink& reference);
 
 } // namespace NReader

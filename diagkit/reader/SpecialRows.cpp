@@ -18,9 +18,9 @@ VOpened OpenParentRefsNotAllowed(VLoader& loader, void*, VRow const&, VAttribute
     return {};
 }
 
-/// FLASHDATA, whose kind is its xsi:type or shows from its contents.
+/// FLASHDATA, whose kind is its xsi:type or follows from its contents.
 VOpened OpenFlashdata(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
-    std::string const type = XsiTypeIn(attributes); // held against the kinds of the table when it is open
+    std::string const type = XsiTypeIn(attributes); // checked against the kinds of the table when it is open
     if (type != "INTERN-FLASHDATA" && type != "EXTERN-FLASHDATA") {
         ReportUnknownType(loader, type);
         return {nullptr, nullptr, true};
@@ -57,7 +57,7 @@ VElementType const& RootType() {
         F::Special("FLASH", Many, &OpenCategory<VMemFlash>),
         F::Special("MULTIPLE-ECU-JOB-SPEC", Many, &OpenCategory<VMemMultipleEcuJobSpec>),
         F::Special("VEHICLE-INFO-SPEC", Many, &OpenCategory<VMemVehicleInfoSpec>),
-        // A category of later versions, which holds what a COMPARAM-SPEC held before.
+        // A category of later versions, with the former contents of a COMPARAM-SPEC.
         F::Special("COMPARAM-SUBSET", Many, &OpenCategory<VMemComparamSpec>),
     };
     static VElementType const type = TableOf(facts);

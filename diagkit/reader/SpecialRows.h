@@ -8,8 +8,8 @@
 #include <diagkit/reader/Facts.h>
 #include <diagkit/reader/XsiType.h>
 
-/// What is read in a way of its own: elements whose class is their xsi:type, or shows from their contents, and what
-/// must not stand where it stands.
+/// Elements that are read by special functions: those whose class is their xsi:type, or follows from their contents,
+/// and those that are not allowed where they are.
 
 namespace NReader {
 
@@ -19,7 +19,7 @@ VOpened Opened(VLoader& loader, Made& made) {
     return {&made, &TypeOf(&made)};
 }
 
-/// DIAG-CODED-TYPE. Another one would take its place, under references that are noted already, so only the first
+/// DIAG-CODED-TYPE. A second one would replace the first, to which references are already noted, so only the first
 /// counts.
 template <class T>
 VOpened OpenCodedType(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
@@ -55,7 +55,7 @@ VOpened OpenParam(VLoader& loader, void* owner, VRow const&, VAttributes const& 
     return {nullptr, nullptr, true};
 }
 
-/// A reference by short name in a list that takes IDs only. The list is named after its items.
+/// A reference by short name in a list that accepts only IDs. The list is named after its items.
 VOpened OpenShortNameNotAllowed(VLoader& loader, void* owner, VRow const& row, VAttributes const& attributes);
 
 VOpened OpenParentRefsNotAllowed(VLoader& loader, void* owner, VRow const& row, VAttributes const& attributes);
@@ -106,7 +106,7 @@ inline NMemory::VMemNode& ReferenceIn(NMemory::VMemNotInheritedVariable& exclude
     return excluded.GetDiagVariableSnref();
 }
 
-// The exclusions are short-name references by ODX; an ID reference is kept too, as one that excludes nothing.
+// The exclusions are short-name references in ODX; an ID reference is kept too, as one that excludes nothing.
 template <class T, class Item, Item& (NMemory::IMemParentRef::*Add)(NMemory::VReference const&), bool IsByShortName>
 VOpened OpenExcluded(VLoader& loader, void* owner, VRow const&, VAttributes const& attributes) {
     NMemory::IMemParentRef& parentRef = VFactsOf<T>::Owner(owner);
@@ -117,7 +117,7 @@ VOpened OpenExcluded(VLoader& loader, void* owner, VRow const&, VAttributes cons
     return {&excluded, &LinkType()};
 }
 
-/// PARENT-REF: its kinds share their children.
+/// PARENT-REF: its kinds have the same children.
 template <class T>
 VElementType ParentRefTable() {
     using namespace NMemory;

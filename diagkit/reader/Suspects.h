@@ -13,10 +13,10 @@ class VSuspects {
 public:
     VSuspects(VReferencables const& suspects, VFollow follow); ///< in document order
 
-    /// What they are called, and what they refer to.
+    /// Their names, and the names they refer to.
     VDopMeanings::VNames RelevantNames() const;
 
-    /// Where to search in a class of layers, in document order: every cycle leads over what a short name means there.
+    /// Where to search in a class of layers, in document order: every cycle contains the target of a short name there.
     VReferencables RootsIn(VDopMeanings::VClass const& meaning) const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace NReader {
 
-/// What Windows says of the latest error of this thread; "" elsewhere, where errno tells all.
+/// The Windows message for the latest error of this thread; "" elsewhere, where errno is sufficient.
 std::string ReasonBeyondErrno();
 
 } // namespace NReader

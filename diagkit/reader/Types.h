@@ -4,7 +4,7 @@
 #include <diagkit/memory/Forward.h>
 #include <diagkit/memory/Link.h>
 
-/// The table of each element class, by class. The argument only chooses; it is never looked at.
+/// The table of each element class, by class. The argument only selects the overload; it is never used.
 
 namespace NReader {
 

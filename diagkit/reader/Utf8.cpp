@@ -44,7 +44,7 @@ void AppendWide(std::wstring& target, char32_t character) {
 
 bool IsSurrogate(char32_t value) { return value >= 0xD800 && value <= 0xDFFF; }
 
-/// One character of UTF-8 and how many bytes it takes; no character where the bytes are none.
+/// One character of UTF-8 and its number of bytes; no character where the bytes are not one.
 struct VDecoded {
     char32_t character;
     std::size_t length;

@@ -9,8 +9,8 @@ namespace NReader {
 /// Wide text as UTF-8; what is not a character (a lone surrogate, a value beyond Unicode) becomes U+FFFD.
 std::string ToUtf8(std::wstring_view text);
 
-/// UTF-8 as wide text: UTF-16 where wchar_t has 16 bits, one code point a character elsewhere. Bytes that are not UTF-8
-/// become U+FFFD each.
+/// UTF-8 as wide text: UTF-16 where wchar_t has 16 bits, elsewhere one code point per character. Each byte that is not
+/// UTF-8 becomes U+FFFD.
 std::wstring FromUtf8(std::string_view text);
 
 /// The same at the end of a text that is kept, for callers that convert piece by piece.

@@ -10,7 +10,7 @@ namespace NReader {
 
 void Trim(std::wstring& text); ///< blanks, tabs and line ends at both ends
 
-/// Whether a text is a value of its kind, as XML Schema writes them. An empty text is none of a number's kinds.
+/// Whether a text is a value of its kind, as XML Schema writes them. An empty text is never a number.
 bool IsValue(VContent content, std::wstring_view text);
 char const* ValueText(VContent content); ///< "unsigned integer", for messages
 
@@ -20,7 +20,7 @@ bool IsFalse(std::wstring_view text); ///< 0, or false in any case
 bool IsLiteral(wchar_t const* const* literals, std::wstring_view text);
 std::string LiteralsText(wchar_t const* const* literals); ///< "HEX, DEC, BIN, OCT"
 
-/// Appends text as XML writes it, with the characters escaped that are markup.
+/// Appends text in the form used in XML, with markup characters escaped.
 void AppendEscaped(std::string& target, std::string_view text);
 
 } // namespace NReader

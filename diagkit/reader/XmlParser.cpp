@@ -12,8 +12,8 @@
 
 namespace NReader {
 
-/// What the bytes of a document in a one-byte encoding look like: whether they are UTF-8, and where the first ones
-/// stand that tell.
+/// Watches the bytes of a document in a one-byte encoding: whether they are UTF-8, and where the first ones are that
+/// show it.
 class VByteWatch {
 public:
     void See(std::string_view bytes, std::string const& declaredEncoding) {
@@ -22,7 +22,7 @@ public:
         }
     }
 
-    /// Where the first character beyond ASCII stands, when all of them are UTF-8.
+    /// The position of the first character beyond ASCII, when all of them are UTF-8.
     VXmlPosition FirstOfUtf8() const { return m_isUtf8 && m_left == 0 ? m_first : VXmlPosition(); }
 
     /// The first byte that the declared encoding has no character for.
@@ -51,7 +51,7 @@ private:
     static bool IsLead(unsigned char byte) { return byte >= 0xC2 && byte <= 0xF4; }
 
     bool m_isUtf8 = true;
-    int m_left = 0; // bytes of the character that has begun
+    int m_left = 0; // missing bytes of the character that has begun
     VXmlPosition m_at{1, 1};
     VXmlPosition m_first;
     VXmlControl m_control;
@@ -61,19 +61,19 @@ struct VXmlParser::VState {
     XML_Parser parser = nullptr;
     bool isEncodingGiven = false;
     bool isBegun = false;
-    std::string head;                // the first bytes, until they tell how the document begins
-    char const* markedEncoding = ""; // what a byte order mark says
+    std::string head;                // the first bytes, until they show how the document begins
+    char const* markedEncoding = ""; // given by a byte order mark
     std::string declaredEncoding;
-    VByteWatch watch;     // of what a document in a one-byte encoding holds
-    VXmlPosition skipped; // lines, and columns of the last one, that were left out before the XML declaration
+    VByteWatch watch;     // for a document in a one-byte encoding
+    VXmlPosition skipped; // lines, and columns of the last one, that were skipped before the XML declaration
     IXmlHandler* handler = nullptr;
     VReadLimits limits;
     std::uint64_t depth = 0;
     std::uint64_t elements = 0;
-    std::uint64_t taken = 0; // bytes that expat has been given
+    std::uint64_t taken = 0; // bytes passed to expat
     VXmlPosition position;   // of what is being reported, once it has been asked for; line 0 before
     bool isRefused = false;
-    std::exception_ptr thrown; // expat is C: exceptions of the handler travel around it
+    std::exception_ptr thrown; // expat is C: exceptions of the handler are passed around it
     VFailure error;
 };
 
@@ -91,11 +91,11 @@ constexpr VMark kMarks[] = {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kDeclaration = "<?xml";
-constexpr std::size_t kLongestHead = 64 * 1024; // what goes on beyond it is the parser's to judge
+constexpr std::size_t kLongestHead = 64 * 1024; // the parser checks anything beyond it
 
 bool StartsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
 
-/// Where the first thing begins that is neither a blank nor a comment; the end when there is none.
+/// The position of the first thing that is neither a blank nor a comment; the end when there is none.
 std::size_t StartOfMarkup(std::string_view head) {
     std::size_t start = 0;
     while (true) {
@@ -116,15 +116,15 @@ bool IsDeclaration(std::string_view text) {
            kBlanks.find(text[kDeclaration.size()]) != std::string_view::npos;
 }
 
-/// Whether the bytes suffice to tell how a document begins: byte order mark, blanks and comments, XML declaration.
+/// Whether the bytes suffice to show how a document begins: byte order mark, blanks and comments, XML declaration.
 bool IsHeadComplete(std::string_view head) {
     std::string_view const markup = head.substr(StartOfMarkup(head));
     return markup.size() > kDeclaration.size() &&
            (!IsDeclaration(markup) || markup.find("?>") != std::string_view::npos);
 }
 
-/// The encoding in a text that begins with an XML declaration; "" where it says none. What is odd about it is the
-/// parser's to judge.
+/// The encoding in a text that begins with an XML declaration; "" where it gives none. Errors in it are left to the
+/// parser.
 std::string DeclaredEncoding(std::string_view text) {
     constexpr std::string_view kName = "encoding";
     std::string_view const declaration = text.substr(0, text.find("?>"));
@@ -144,7 +144,7 @@ std::string DeclaredEncodingOf(std::string_view head, bool isUtf16) {
     return IsDeclaration(text) ? DeclaredEncoding(text) : std::string();
 }
 
-/// How far a text reaches: the line ends in it, and the characters behind the last one.
+/// The extent of a text: the line ends in it, and the characters after the last one.
 VXmlPosition ExtentOf(std::string_view text) {
     VXmlPosition extent;
     for (std::size_t index = 0; index < text.size(); ++index) {
@@ -159,7 +159,7 @@ VXmlPosition ExtentOf(std::string_view text) {
     return extent;
 }
 
-/// What is wrong, with what helps where expat's own words do not.
+/// The error message, with a hint where expat's own text does not help.
 std::string MessageOf(XML_Error code, std::string const& declaredEncoding) {
     if (code == XML_ERROR_UNKNOWN_ENCODING) {
         return "the encoding '" + declaredEncoding.substr(0, 100) + "' is unknown; known are " + KnownEncodings();
@@ -281,8 +281,8 @@ bool VXmlParser::Feed(std::string_view bytes, bool isLast) {
     return Parse(Begin(head), isLast);
 }
 
-/// Decides on the encoding by a byte order mark, which counts more than what is declared, and leaves out blanks and
-/// comments before an XML declaration, which expat does not take.
+/// Decides on the encoding by a byte order mark, which has precedence over the declaration, and skips blanks and
+/// comments before an XML declaration, which expat does not accept.
 std::string_view VXmlParser::Begin(std::string_view head) {
     VState& state = *m_state;
     for (VMark const& mark : kMarks) {
@@ -306,7 +306,7 @@ std::string_view VXmlParser::Begin(std::string_view head) {
     return head;
 }
 
-/// Tells expat what it does not know: other names of encodings. One that the first bytes belie is left for it to
+/// Translates names of encodings that expat does not know. One that contradicts the first bytes is left for expat to
 /// refuse.
 void VXmlParser::ObeyDeclaration(std::string_view head) {
     bool const isUtf16 = head.substr(0, 2).find('\0') != std::string_view::npos;
@@ -316,7 +316,7 @@ void VXmlParser::ObeyDeclaration(std::string_view head) {
     }
 }
 
-/// Whether the document itself says that its bytes are characters.
+/// Whether the document itself declares a one-byte encoding.
 bool VXmlParser::IsInOneByteEncoding() const {
     std::string const& declared = m_state->declaredEncoding;
     bool const isDeclared = !declared.empty() && !m_state->isEncodingGiven && *m_state->markedEncoding == '\0';
@@ -330,7 +330,7 @@ bool VXmlParser::Parse(std::string_view bytes, bool isLast) {
         bool const isLastPiece = isLast && length == bytes.size();
         XML_Status const status =
             XML_Parse(parser, bytes.data(), static_cast<int>(length), isLastPiece ? XML_TRUE : XML_FALSE);
-        m_state->position = {}; // what is reported now is no event
+        m_state->position = {}; // findings reported now are not at an event
         if (m_state->thrown != nullptr) {
             std::rethrow_exception(m_state->thrown);
         }
@@ -397,8 +397,8 @@ bool VXmlParser::IsTagWithinLimit(std::uint64_t size) {
     return size <= limit;
 }
 
-/// What expat has taken and not reported yet belongs to one tag, or follows one: while it waits for the end of a tag it
-/// looks again only when what it holds has doubled.
+/// Bytes that expat has received and not reported yet belong to one tag, or follow one: while expat waits for the end
+/// of a tag it parses again only when the number of bytes has doubled.
 bool VXmlParser::AreLeftBytesWithinLimit() {
     XML_Index const reached = XML_GetCurrentByteIndex(m_state->parser);
     std::uint64_t const left = m_state->taken - static_cast<std::uint64_t>(std::max<XML_Index>(reached, 0));
@@ -414,7 +414,7 @@ void VXmlParser::LimitText(std::uint64_t size) {
 
 VFailure const& VXmlParser::GetError() const { return m_state->error; }
 
-/// The place in the document of one in what is behind the part left out at its start.
+/// The position in the document for one in the text after the part skipped at its start.
 VXmlPosition VXmlParser::Placed(VXmlPosition const& position) const {
     VXmlPosition const& skipped = m_state->skipped;
     return {position.line + skipped.line, position.line == 1 ? position.column + skipped.column : position.column};

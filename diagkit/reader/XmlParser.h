@@ -18,13 +18,13 @@ struct VXmlPosition {
     std::uint32_t column = 0;
 };
 
-/// A byte that is no character in the encoding that a document declares; line 0 where there is none.
+/// A byte that is not a character in the encoding that a document declares; line 0 where there is none.
 struct VXmlControl {
     VXmlPosition position{};
     unsigned char byte = 0;
 };
 
-/// What a parser reports; texts are UTF-8 and valid during the call.
+/// The events of a parser; texts are UTF-8 and valid during the call.
 class IXmlHandler {
 public:
     virtual void Start(std::string_view name, VAttributes const& attributes) = 0;
@@ -39,36 +39,36 @@ protected:
 
 /// Why a document cannot be read.
 struct VFailure {
-    VCode const* code = nullptr; ///< null when it is told elsewhere
+    VCode const* code = nullptr; ///< null when it is reported elsewhere
     std::string message{};
     VXmlPosition position{};
-    std::string doubt{}; ///< when another encoding may fit: what is wrong with the one that the document says
+    std::string doubt{}; ///< when another encoding may fit: what is wrong with the declared one
 };
 
-/// A streaming parser for one document: strict about well-formedness, without document type declarations (ODX has
-/// none, and entities are a way to attack), prefixes kept as part of names.
+/// A streaming parser for one document: strict about well-formedness, without document type declarations (ODX has none,
+/// and entities allow attacks), prefixes kept as part of names.
 class VXmlParser {
 public:
-    /// `encoding` overrides what the document says; null leaves it to the document.
+    /// `encoding` overrides the declaration of the document; null leaves the declaration in effect.
     VXmlParser(IXmlHandler& handler, VReadLimits const& limits, char const* encoding);
     ~VXmlParser();
     VXmlParser(VXmlParser const&) = delete;
     VXmlParser& operator=(VXmlParser const&) = delete;
 
-    /// What a byte order mark says, "UTF-8" or "UTF-16"; "" without one.
+    /// The encoding given by a byte order mark, "UTF-8" or "UTF-16"; "" without one.
     char const* GetMarkedEncoding() const;
-    /// The encoding that the XML declaration gives where a byte order mark says otherwise; "" elsewhere.
+    /// The encoding in the XML declaration where a byte order mark contradicts it; "" elsewhere.
     std::string GetContradictedEncoding() const;
 
-    /// Where the first character beyond ASCII stands in a document that declares a one-byte encoding and has nothing
-    /// but UTF-8 there, which hardly happens by accident; line 0 elsewhere. To be asked at the end.
+    /// The position of the first character beyond ASCII in a document that declares a one-byte encoding and contains
+    /// nothing but UTF-8 there, which is unlikely to be an accident; line 0 elsewhere. Call it at the end.
     VXmlPosition GetDoubtfulPosition() const;
-    /// The first byte that the one-byte encoding that a document declares has no character for: in the encodings of ISO
-    /// 8859 those from 0x80 to 0x9F, mostly a sign that the bytes are Windows-1252. To be asked at the end.
+    /// The first byte for which the declared one-byte encoding has no character: in the encodings of ISO 8859 those
+    /// from 0x80 to 0x9F, usually a sign that the bytes are Windows-1252. Call it at the end.
     VXmlControl GetFirstControl() const;
     std::string const& GetDeclaredEncoding() const;
 
-    /// Takes the next bytes; false when the document cannot be read, `GetError()` then says why.
+    /// Parses the next bytes; false when the document cannot be read, `GetError()` then says why.
     bool Feed(std::string_view bytes, bool isLast);
 
     VFailure const& GetError() const;
@@ -77,7 +77,7 @@ public:
     /// Ends parsing from within the handler with an error at the current position.
     void Refuse(VCode const& code, std::string message);
 
-    /// Refuses when a text that the handler keeps has grown beyond its limit.
+    /// Refuses when a text that the handler keeps exceeds its limit.
     void LimitText(std::uint64_t size);
 
 private:

@@ -48,7 +48,7 @@ void ReportUnknownType(VLoader& loader, std::string const& type) {
 
 void ReportShortNameNotAllowed(VLoader& loader, std::string const& what) {
     loader.Report(NCode::ShortNameNotAllowed,
-                  what + " takes references by ID only; the entry is left out, name the target by ID");
+                  what + " allows references by ID only; the entry is ignored; name the target by ID");
 }
 
 std::string InferType(std::string_view name, VAttributes const& attributes,
@@ -71,7 +71,7 @@ std::string InferType(std::string_view name, VAttributes const& attributes,
         char const* type;
     };
     bool const hasDop = has("DOP-REF") || has("DOP-SNREF");
-    // The first rule that fits decides.
+    // The first matching rule applies.
     VRule const rules[] = {
         {has("REQUEST-BYTE-POS"), "MATCHING-REQUEST-PARAM"},
         {has("TARGET"), "TABLE-ENTRY"},

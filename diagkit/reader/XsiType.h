@@ -5,7 +5,7 @@
 
 #include <diagkit/reader/ElementTable.h>
 
-/// What elements with an xsi:type are asked.
+/// Queries for elements with an xsi:type.
 
 namespace NReader {
 

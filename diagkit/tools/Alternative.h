@@ -7,8 +7,8 @@
 
 namespace NDIAGKIT {
 
-/// The alternative behind an interface when its type test says so and it is one; null otherwise. A test alone proves
-/// nothing: interfaces are open to classes that are no alternative.
+/// The alternative behind an interface when its type test says so and it is one; null otherwise. The test alone is not
+/// sufficient: classes that are not alternatives can implement an interface.
 template <class Alternative, class Interface>
 Alternative* As(bool isAlternative, Interface& choice) {
     return isAlternative ? dynamic_cast<Alternative*>(&choice) : nullptr;

@@ -12,7 +12,7 @@ using NODX201::VLink;
 using NODX201::VOdxElement;
 using VKind = VContained::VKind;
 
-// How references are followed, a function a kind of reference; each is called with links of that kind alone.
+// How references are followed: one function per kind of reference, called only with links of that kind.
 // clang-format off
 VOdxElement* FollowDop           (VLink& link, IDopFinder& dops) { return dops.Find(static_cast<NODX201::VDopBaseLink&>(link)); }
 VOdxElement* FollowEndDop        (VLink& link, IDopFinder&) { auto& self = static_cast<NODX201::VDynEndDopRef&>(link);       return self.HasDopBase()        ? &self.GetDopBase()        : nullptr; }
@@ -69,7 +69,7 @@ void VContainment::VisitPartsOf(VContained::VKind kind, NODX201::VOdxElement& el
     }
 }
 
-// What contains nothing.
+// Kinds that contain nothing.
 // clang-format off
 void VContainment::VisitCodedConst(NODX201::VCodedConst&) {}
 void VContainment::VisitDynamic(NODX201::VDynamic&) {}

@@ -4,22 +4,21 @@
 #include <diagkit/Export.h>
 #include <diagkit/model/Visitors.h>
 
-/// What contains what in messages and data dictionaries: one relation, which searches, walks and the finding of cycles
-/// go along.
+/// What contains what in messages and data dictionaries: one relation, used by searches, walks and cycle detection.
 
 namespace NDIAGKIT {
 
-/// Says what references to DOPs mean: those by short name mean something else in each layer.
+/// Resolves references to DOPs; the target of a reference by short name depends on the layer.
 class IDopFinder {
 public:
-    virtual NODX201::VDopBase* Find(NODX201::VDopBaseLink& link) = 0; ///< null when it means none
+    virtual NODX201::VDopBase* Find(NODX201::VDopBaseLink& link) = 0; ///< null when there is no target
 
 protected:
     IDopFinder() = default;
     ~IDopFinder() = default;
 };
 
-/// What the references mean in one layer.
+/// Resolves the references in one layer.
 class DIAGKIT_EXPORT VDopsOfLayer final : public IDopFinder {
 public:
     explicit VDopsOfLayer(NODX201::VDiagLayer& layer) : m_layer(layer) {} ///< the layer must outlive this object
@@ -30,14 +29,14 @@ private:
     NODX201::VDiagLayer& m_layer;
 };
 
-/// One thing that an element contains: it stands inside, or a reference leads to it.
+/// One thing that an element contains, directly or by a reference.
 class DIAGKIT_EXPORT VContained {
 public:
     /// What an element may contain.
     enum class VKind { Param, Dop, Table, TableRow };
 
-    /// A way in which something is contained. `follow` gives the target of a reference, or null; it is null itself for
-    /// what stands inside.
+    /// A way in which something is contained. `follow` gives the target of a reference, or null; `follow` itself is
+    /// null for a direct child.
     struct VWay {
         VKind kind;
         NODX201::VOdxElement* (*follow)(NODX201::VLink& reference, IDopFinder& dops);
@@ -45,14 +44,14 @@ public:
     };
 
     explicit VContained(NODX201::VParam& param); ///< of a message
-    /// In a way that outlives this; in a MUX, by one of its cases.
+    /// The way must outlive this object. In a MUX: contained by one of its cases.
     VContained(VWay const& way, NODX201::VOdxElement& elementOrReference, NODX201::VOdxElement* muxCase = nullptr)
         : m_way(&way), m_what(&elementOrReference), m_case(muxCase) {}
 
     VKind GetKind() const { return m_way->kind; }
     bool IsReference() const { return m_way->follow != nullptr; }
     bool MayBeByShortName() const { return m_way->mayBeByShortName; } ///< a reference of a kind that has both forms
-    NODX201::VLink* GetReference() const;                             ///< null where it stands inside
+    NODX201::VLink* GetReference() const;                             ///< null for a direct child
     NODX201::VOdxElement* GetCase() const { return m_case; } ///< the CASE or DEFAULT-CASE of a MUX, otherwise null
     NODX201::VOdxElement* Target(IDopFinder& dops) const;    ///< null for a reference that does not resolve
 
@@ -62,7 +61,7 @@ private:
     NODX201::VOdxElement* m_case = nullptr;
 };
 
-/// Tells what an element contains, one step deep and in document order; nothing is resolved for it.
+/// Lists what an element contains, one level deep and in document order, without resolving references.
 ///
 ///     VALUE           the DOP that it refers to
 ///     TABLE-STRUCT    the TABLE-KEY that it refers to
@@ -75,8 +74,8 @@ private:
 ///     TABLE           its rows
 ///     TABLE-ROW       its STRUCTURE
 ///
-/// Other parameters and DOPs contain nothing. Derive from it and override `Take`; a Visit operation that is overridden
-/// says something else about its kind.
+/// Other parameters and DOPs contain nothing. Derive from it and override `Take`; overriding a Visit operation changes
+/// what is listed for its kind.
 class DIAGKIT_EXPORT VContainment : public NODX201::VParamVisitor, public NODX201::VDopBaseVisitor {
 public:
     ~VContainment() override;
@@ -115,7 +114,7 @@ protected:
     /// Called for each part, in the order of the document.
     virtual void Take(VContained const& part) = 0;
 
-    void TakeField(NODX201::VField& field); ///< what it repeats, alone
+    void TakeField(NODX201::VField& field); ///< only what it repeats
 
 private:
     void TakeParams(NODX201::VBasicStructure& structure);

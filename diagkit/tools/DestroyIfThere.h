@@ -3,9 +3,9 @@
 
 namespace NDIAGKIT {
 
-/// Destroys what an address leads to, and does nothing for a null one, also where it is that of `this` or of a
-/// reference. Compilers take those for not null and would leave out the question; about an address that is read from a
-/// volatile variable they know nothing.
+/// Destroys the object at an address; does nothing for a null address, also where it is that of `this` or of a
+/// reference. Compilers assume that those are not null and would remove the check; they assume nothing about an address
+/// that is read from a volatile variable.
 template <class Object>
 void DestroyIfThere(Object* object) {
     Object* const volatile address = object;

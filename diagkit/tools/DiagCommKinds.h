@@ -3,7 +3,7 @@
 
 #include <diagkit/model/DiagComms.h>
 
-/// What a DIAG-COMM is, by its ODX tag: a service, or else a single-ECU job.
+/// The kind of a DIAG-COMM by its ODX tag: a service, otherwise a single-ECU job.
 
 namespace NDIAGKIT {
 
@@ -12,7 +12,7 @@ inline NODX201::VDiagService* ServiceOf(NODX201::VDiagComm& diagComm) {
     return isService ? dynamic_cast<NODX201::VDiagService*>(&diagComm) : nullptr;
 }
 
-/// Every DIAG-COMM that is no service is taken for a single-ECU job; null when it is none.
+/// Every DIAG-COMM that is not a service is treated as a single-ECU job; null when it is not one.
 inline NODX201::VSingleEcuJob* JobOf(NODX201::VDiagComm& diagComm) {
     bool const isService = diagComm.GetOdxTag() == NODX201::VOdxTagEnum::DiagService;
     return isService ? nullptr : dynamic_cast<NODX201::VSingleEcuJob*>(&diagComm);

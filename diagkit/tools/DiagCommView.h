@@ -12,7 +12,7 @@ namespace NDIAGKIT {
 
 struct VInheritedDiagComms;
 
-/// What `VDiagCommView` holds and where it asserts; see `VInheritedView`.
+/// The element type of `VDiagCommView` and the places of its assertions; see `VInheritedView`.
 struct VDiagCommViewTraits : VNamedElements<NODX201::VDiagComm> {
     using Inherited = VInheritedDiagComms;
     static constexpr wchar_t const* kSource = L"DiagCommView";
@@ -26,9 +26,9 @@ DIAGKIT_TEMPLATE_DECLARATION(VListView<VDiagCommViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VDiagCommViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VInheritedView<VDiagCommViewTraits>);
 
-/// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then what its
-/// parents offer and neither the NOT-INHERITED-DIAG-COMMS of their PARENT-REF exclude nor an entry of the same short
-/// name hides.
+/// The DIAG-COMMs (services and single-ECU jobs) visible in one layer: its own, in document order, then those of its
+/// parents, except those excluded by a PARENT-REF in its NOT-INHERITED-DIAG-COMMS, and those hidden by an entry of the
+/// same short name.
 ///
 /// Parents are merged in passes over the PARENT-REFs, each in document order:
 ///
@@ -39,18 +39,18 @@ DIAGKIT_TEMPLATE_DECLARATION(VInheritedView<VDiagCommViewTraits>);
 ///     BASE-VARIANT        PROTOCOL and FUNCTIONAL-GROUP     ECU-SHARED-DATA
 ///     ECU-VARIANT         BASE-VARIANT                      ECU-SHARED-DATA
 ///
-/// A parent brings its own full view, so an exclusion also reaches what the parent itself inherited. An ECU-SHARED-DATA
-/// ranks below every other parent, wherever its reference stands. References without a target are skipped.
+/// A parent contributes its full view, so an exclusion also applies to what the parent itself inherited. An
+/// ECU-SHARED-DATA ranks below every other parent, wherever its reference is. References without a target are skipped.
 ///
-/// The view holds pointers; the model owns the elements and must outlive the view. Each construction reads the model
-/// afresh, each parent once, whichever ways lead to it. Time is linear in the entries of the views that are merged.
+/// The view contains pointers; the model owns the elements and must outlive the view. Each construction reads the model
+/// again, each parent once, however many ways lead to it. Time is linear in the entries of the views that are merged.
 class DIAGKIT_EXPORT VDiagCommView : public VInheritedView<VDiagCommViewTraits> {
 public:
     using VInheritedView::VInheritedView; ///< of an ECU-SHARED-DATA, PROTOCOL, FUNCTIONAL-GROUP, BASE-VARIANT,
                                           ///< ECU-VARIANT
 
 private:
-    VStringContainer m_notInherited; // never filled: the merge keeps the exclusions of the reference it is at by itself
+    VStringContainer m_notInherited; // never filled: the merge itself keeps the exclusions of the current reference
 };
 
 } // namespace NDIAGKIT

@@ -19,13 +19,14 @@ namespace NDIAGKIT {
 ///   without children have no Descend. A Visit that is overridden without calling the base skips the element.
 /// - `Descend<Kind>(x)` visits the children, in the order in which its body lists them.
 /// - The hooks, `PreProcess<Kind>`, `PostProcess<Kind>` and `DefaultVisit`, are empty. ROLE texts get no
-///   `DefaultVisit`, because a text is no element; the hooks receive a copy of it, whose changes go nowhere.
+///   `DefaultVisit`, because a text is not an element; the hooks receive a copy of it, and changes to the copy are
+///   lost.
 ///
 /// References to DOPs, structures, tables and rows, units, companies and team members are followed into their targets,
-/// every time they are met: an element is visited once for each path to it. References to DOPs resolve against the
-/// layer given to the constructor, whoever owns the reference; unresolved ones and absent children are skipped. There
-/// is no guard: a table whose row leads back to it recurses without end. `VGuardedDiagLayerTraverser` has one, for
-/// dictionaries too.
+/// every time they occur: an element is visited once for each path to it. References to DOPs resolve against the layer
+/// given to the constructor, whatever element contains the reference; unresolved ones and absent children are skipped.
+/// There is no protection against cycles: a table whose row leads back to it causes endless recursion.
+/// `VGuardedDiagLayerTraverser` has such protection, for dictionaries too.
 ///
 /// The walk reads the model and allocates nothing but the copies of texts. A traverser may be run several times.
 class DIAGKIT_EXPORT VDiagDataDictionarySpecTraverser : public NODX201::VParamVisitor, public NODX201::VDopBaseVisitor {
@@ -307,7 +308,7 @@ protected:
 
 private:
     // clang-format off
-    /// The casts behind type tests; to search each time would cost as much as half a visit.
+    /// The casts behind type tests; a search each time would cost as much as half a visit.
     std::tuple<
         NPavonaUtil::VCheckedCast<NODX201::VAllValue,             NODX201::IAllValueDtcValuesChoice>,
         NPavonaUtil::VCheckedCast<NODX201::VBasicStructureLink,   NODX201::IBasicStructureEnvDataDescChoice>,

@@ -20,8 +20,8 @@ using Traverser = VDiagLayerTraverser;
 
 namespace {
 
-/// The current DIAG-COMM for as long as it is being visited, none afterwards. By an exception too: the element may be
-/// gone before the next walk.
+/// Sets the current DIAG-COMM while it is being visited and clears it afterwards, also after an exception: the element
+/// may be destroyed before the next walk.
 class VCurrentDiagComm {
 public:
     VCurrentDiagComm(NODX201::VDiagComm*& current, NODX201::VDiagComm& diagComm) : m_current(current) {

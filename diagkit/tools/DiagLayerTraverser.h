@@ -13,17 +13,17 @@ namespace NDIAGKIT {
 /// PostProcess are those of `VDiagDataDictionarySpecTraverser`, which also walks the layer's dictionary, parameters,
 /// SDGs and administrative data.
 ///
-/// Followed, every time they are met: references to DIAG-COMMs (from DIAG-COMMS, related DIAG-COMMs, access levels,
-/// comm relations, dynamic definitions, matching parameters), requests and responses, functional classes, DOPs, tables.
-/// Not followed: PARENT-REFs (the walk is over the layer's own contents) and DIAG-VARIABLE-REFs. Every reference
-/// resolves in the constructor's layer, also one that stands in another.
+/// Followed every time they occur: references to DIAG-COMMs (from DIAG-COMMS, related DIAG-COMMs, access levels, comm
+/// relations, dynamic definitions, matching parameters), requests and responses, functional classes, DOPs, tables. Not
+/// followed: PARENT-REFs (the walk covers the layer's own contents) and DIAG-VARIABLE-REFs. Every reference resolves in
+/// the constructor's layer, including those in other layers.
 ///
 /// While a DIAG-COMM is being visited it is the current one, in whose context an ENV-DATA-DESC reads its PARAM-SNREF.
-/// Leaving a DIAG-COMM, be it by an exception, sets the current one to null; it is not restored, so after a nested
+/// Leaving a DIAG-COMM, even by an exception, sets the current one to null; it is not restored, so after a nested
 /// DIAG-COMM there is none for the rest of the outer one.
 ///
-/// There is no guard: related DIAG-COMMs that name each other recurse without end. `VGuardedDiagLayerTraverser` is the
-/// same walk with one.
+/// There is no protection against cycles: related DIAG-COMMs that refer to each other cause endless recursion.
+/// `VGuardedDiagLayerTraverser` is the same walk with protection.
 class DIAGKIT_EXPORT VDiagLayerTraverser : public NODX201::VDiagLayerVisitor,
                                            public NODX201::VDiagCommVisitor,
                                            public VDiagDataDictionarySpecTraverser {

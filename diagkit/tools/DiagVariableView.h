@@ -12,7 +12,7 @@ namespace NDIAGKIT {
 
 struct VInheritedDiagVariables;
 
-/// What `DiagVariableView` holds and where it asserts; see `VInheritedView`.
+/// The element type of `DiagVariableView` and the places of its assertions; see `VInheritedView`.
 struct VDiagVariableViewTraits : VNamedElements<NODX201::VDiagVariable> {
     using Inherited = VInheritedDiagVariables;
     static constexpr wchar_t const* kSource = L"DiagVariableView";

@@ -47,7 +47,8 @@ void VDopView::Inherit(VLayerOfKind const& layer) {
     for (NODX201::VDopBase* const dop : dops) {
         names.emplace_back(dop->GetShortName(), names.size());
     }
-    // In the order of the map each finds its place at once. Of names that the map takes for one the first goes first.
+    // Sorted as in the map, so that each insertion is at the end. Of names that the map treats as equal, the first one
+    // is inserted.
     NPavonaUtil::VUtf16Less const isLess;
     std::sort(names.begin(), names.end(), [isLess](auto const& a, auto const& b) {
         return isLess(a.first, b.first) || (!isLess(b.first, a.first) && a.second < b.second);

@@ -18,8 +18,8 @@ DIAGKIT_TEMPLATE_DECLARATION(
     VMapExternalIterator<std::map<std::wstring, NODX201::VDopBase*, NPavonaUtil::VUtf16Less>::iterator,
                          NODX201::VDopBase&>);
 
-/// The DOPs visible in one layer, keyed by short name: its own, then what its parents offer. A short name
-/// is there once: the one inserted first wins, and the passes insert in the order of priority.
+/// The DOPs visible in one layer, keyed by short name: its own, then those of its parents. Each short name occurs once:
+/// the first one inserted wins, and the passes insert in the order of priority.
 ///
 ///     layer               pass 1                            pass 2
 ///     ECU-SHARED-DATA     -                                 -
@@ -28,10 +28,10 @@ DIAGKIT_TEMPLATE_DECLARATION(
 ///     BASE-VARIANT        PROTOCOL and FUNCTIONAL-GROUP     ECU-SHARED-DATA
 ///     ECU-VARIANT         BASE-VARIANT                      ECU-SHARED-DATA
 ///
-/// A DOP is whatever the dictionary's DOP collection holds: all kinds but ENV-DATA. No NOT-INHERITED list applies.
+/// The DOPs are the entries of the dictionary's DOP collection: all kinds but ENV-DATA. No NOT-INHERITED list applies.
 ///
-/// Unlike the other views this one is a map: iteration runs in the order of the short names, compared by code units
-/// of UTF-16 on every platform. It holds pointers; the model owns the DOPs and must outlive the view. Finding by name
+/// Unlike the other views this one is a map: iteration is in the order of the short names, compared by code units of
+/// UTF-16 on every platform. It contains pointers; the model owns the DOPs and must outlive the view. Finding by name
 /// is logarithmic, by object linear.
 class DIAGKIT_EXPORT VDopView {
 public:
@@ -68,15 +68,15 @@ public:
 
     void Append(NODX201::VDopBase& dop); ///< under its short name; no effect when that is taken
 
-    /// Takes the entry of this object out of the view; the DOP lives on. Asserts when the view does not hold it, and
-    /// changes nothing then.
+    /// Removes the entry of this object from the view; the DOP is not destroyed. Asserts, and changes nothing, when the
+    /// view does not contain it.
     void Remove(NODX201::VDopBase& dop);
 
-    /// Takes the entry out of the view and DESTROYS the DOP itself; use `Remove(dop)` to keep it. Asserts at `End()`,
-    /// and changes nothing then.
+    /// Removes the entry from the view and DESTROYS the DOP itself; use `Remove(dop)` to keep it. Asserts, and changes
+    /// nothing, at `End()`.
     void Remove(Iterator iter);
 
-    /// Whether both views hold the same objects under the same names.
+    /// Whether both views contain the same objects under the same names.
     bool operator==(VDopView const& other) const;
     bool operator!=(VDopView const& other) const;
 

@@ -9,23 +9,23 @@
 
 namespace NDIAGKIT {
 
-/// A two-way table between the literals of one ODX enumeration and its values. All members are open, as in a record.
+/// A two-way table between the literals of one ODX enumeration and its values. All members are public, as in a record.
 ///
-/// Lookups never fail: a literal that the table does not hold gives the default, which is the value of the first pair
-/// ever added; a value that it does not hold gives "?". Literals compare exactly.
+/// Lookups never fail: a literal that is not in the table gives the default, which is the value of the first pair ever
+/// added; a value that is not in the table gives "?". Literals compare exactly.
 template <class T>
 class EnumMapImpl {
 public:
-    explicit EnumMapImpl(wchar_t const* name); ///< empty; the name, copied, is for its users; null is none
+    explicit EnumMapImpl(wchar_t const* name); ///< empty; the name is copied and kept for users; null means no name
 
-    /// Adds a pair; a literal that is there already keeps its value. Texts are copied. Null is no
-    /// literal: nothing is added.
+    /// Adds a pair; a literal that is there already keeps its value. Texts are copied. Null is not a literal: nothing
+    /// is added.
     void Add(wchar_t const* literal, T value);
 
     T Get(wchar_t const* literal) const; ///< the default when unknown, and for null
 
-    /// The first literal, in the order of code units of UTF-16, that has the value; it stays valid as long as the
-    /// table.
+    /// The first literal, in the order of code units of UTF-16, that has the value; it stays valid as long as the table
+    /// exists.
     wchar_t const* GetStr(T value) const;
 
     std::map<std::wstring, T, NPavonaUtil::VUtf16Less> m_map; ///< values by literal

@@ -20,10 +20,11 @@ namespace NDIAGKIT {
 #define ODX_ENUMERATION(name, place, ...) DIAGKIT_TEMPLATE_DECLARATION(EnumMapImpl<NODX201::place>);
 #include <diagkit/model/facts/Enumerations.def>
 
-/// The tables of the 23 ODX enumerations, and a pair of look-ups for each: `GetX` from a literal to its value,
-/// `GetXStr` back. An unknown literal gives value 0, an unknown value the text "?"; matching is exact.
+/// The tables of the 23 ODX enumerations, and two operations for each: `GetX` converts a literal to its value,
+/// `GetXStr` a value to its literal. An unknown literal gives value 0, an unknown value the text "?"; matching is
+/// exact.
 ///
-/// After construction everything only reads and may be used from any thread.
+/// All operations only read, except construction, and may be called from any thread.
 class DIAGKIT_EXPORT VEnumTables {
 public:
     VEnumTables(VEnumTables const& other);
@@ -89,10 +90,10 @@ private:
 #include <diagkit/model/facts/Enumerations.def>
 };
 
-/// The tables, one object a process, made at the first call of `Instance()`; that first call must not race.
+/// The tables, one object per process, created by the first call of `Instance()`; that first call must not race.
 class DIAGKIT_EXPORT VEnumMapper : public VEnumTables {
 public:
-    static VEnumMapper& Instance(); ///< the one of the process
+    static VEnumMapper& Instance(); ///< the object of the process
     ~VEnumMapper() override;
     VEnumMapper(VEnumMapper const& other);
     VEnumMapper& operator=(VEnumMapper const& other);
@@ -101,10 +102,10 @@ private:
     VEnumMapper();
 };
 
-/// The same tables under another name; both mappers answer alike.
+/// The same tables under another name; both mappers give the same results.
 class DIAGKIT_EXPORT VEnumStringMapper : public VEnumTables {
 public:
-    static VEnumStringMapper& Instance(); ///< the one of the process
+    static VEnumStringMapper& Instance(); ///< the object of the process
     ~VEnumStringMapper() override;
     VEnumStringMapper(VEnumStringMapper const& other);
     VEnumStringMapper& operator=(VEnumStringMapper const& other);

@@ -11,7 +11,7 @@ namespace NDIAGKIT {
 
 struct VLayerOfKind;
 
-/// What `GlobalNegResponseView` holds and where it asserts; see `VListView`.
+/// The element type of `GlobalNegResponseView` and the places of its assertions; see `VListView`.
 struct VGlobalNegResponseViewTraits : VNamedElements<NODX201::VGlobalNegResponse> {
     static constexpr wchar_t const* kSource = L"GlobalNegResponseView";
     static constexpr int kRemoveElementLine = 338;
@@ -24,7 +24,7 @@ DIAGKIT_TEMPLATE_DECLARATION(
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VGlobalNegResponseViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VGlobalNegResponseViewTraits>);
 
-/// The GLOBAL-NEG-RESPONSEs visible in one layer: its own, picked out of its responses by ODX tag, then those that it
+/// The GLOBAL-NEG-RESPONSEs visible in one layer: its own, selected from its responses by ODX tag, then those that it
 /// inherits, minus those whose short name is already in the view. The passes are those of `VDiagCommView`; no
 /// NOT-INHERITED list applies.
 ///

@@ -7,8 +7,8 @@
 
 namespace NDIAGKIT {
 
-/// An element that is being walked. Steps stand on the stack of the walk itself, so that an exception unwinds them too;
-/// those whose elements fall into one bucket hang together, the innermost first.
+/// An element that is being walked. Steps are on the call stack of the walk itself, so that an exception unwinds them
+/// too; those whose elements fall into one bucket are linked, the innermost first.
 struct VGuardedDiagLayerTraverser::VStep {
     VStep(VGuardedDiagLayerTraverser& traverser, NODX201::VOdxElement const& element)
         : m_traverser(traverser), m_element(element), m_bucket(traverser.BucketOf(element)), m_outer(m_bucket) {

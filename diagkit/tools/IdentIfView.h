@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-/// What `IdentIfView` holds and where it asserts; see `VListView`.
+/// The element type of `IdentIfView` and the places of its assertions; see `VListView`.
 struct DIAGKIT_EXPORT VIdentIfViewTraits {
     using Element = NODX201::IIdentIf;
     static constexpr wchar_t const* kSource = L"IdentIfView";

@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-/// What `InParamIfView` holds and where it asserts; see `VListView`.
+/// The element type of `InParamIfView` and the places of its assertions; see `VListView`.
 struct DIAGKIT_EXPORT VInParamIfViewTraits {
     using Element = NODX201::IInParamIf;
     static constexpr wchar_t const* kSource = L"InParamIfView";
@@ -24,9 +24,9 @@ DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::IInParamIf*>::
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VInParamIfViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VInParamIfViewTraits>);
 
-/// The parameters that an IN-PARAM-IF-SNREF may name in one DIAG-COMM, in the order in which they were met: the
-/// INPUT-PARAMs of a job, or the VALUE parameters of a service's RESPONSES, positive ones first. (The request's
-/// parameters are offered by `VOutParamIfView`; that is how it is meant.)
+/// The parameters that an IN-PARAM-IF-SNREF may refer to in one DIAG-COMM, in the order in which they were found: the
+/// INPUT-PARAMs of a job, or the VALUE parameters of a service's RESPONSES, positive ones first. (This is intentional;
+/// `VOutParamIfView` offers the request's parameters.)
 ///
 /// A parameter object that two responses share is in the view twice. Container operations as in `VListView`.
 class DIAGKIT_EXPORT VInParamIfView : public VNamedListView<VInParamIfViewTraits> {

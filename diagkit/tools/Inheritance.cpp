@@ -173,7 +173,7 @@ NODX201::VParentRefCollection* WalkedParentRefs(VLayerOfKind const& layer, VInhe
     return hasPasses ? ParentRefsOf(layer, row.asksForParentRefs) : nullptr;
 }
 
-/// Calls `see` with each PARENT-REF, the kinds of parent that the pass takes from, and the pass.
+/// Calls `see` with each PARENT-REF, the kinds of parent from which the pass takes elements, and the pass.
 template <class See>
 void WalkPasses(NODX201::VParentRefCollection* parentRefs, VInheritancePasses const& passes, See const& see) {
     int pass = 0;
@@ -240,7 +240,7 @@ std::vector<VLayerOfKind> LayersAbove(VLayerOfKind const& layer) {
 
 namespace {
 
-// What a layer has of its own, by kind of element.
+// A layer's own elements, by kind of element.
 
 void AddOwn(std::vector<NODX201::VDiagComm*>& own, VLayerOfKind const& layer) {
     if (!layer.layer->HasDiagCommProxyCollection()) {
@@ -322,7 +322,7 @@ void AddOwn(std::vector<NODX201::VDopBase*>& own, VLayerOfKind const& layer) {
 
 namespace {
 
-/// What a merge notes when nobody asks: nothing.
+/// Notes of a merge that is not recorded: does nothing.
 struct VNoNotes {
     using VOfParents = VNoNotes;
     static constexpr bool kAreTaken = false;
@@ -334,7 +334,7 @@ struct VNoNotes {
     static void Add(NODX201::VOdxElement&, std::uint32_t, bool, std::uint32_t) {}
 };
 
-/// What is noted of the parents of a layer whose merge is: on which ways their entries came.
+/// Notes for the parents of a layer whose merge is recorded: the ways on which their entries came.
 struct VWayNotes : VNoNotes {
     using VOfParents = VWayNotes;
     static constexpr bool kHaveWays = true;
@@ -412,7 +412,7 @@ public:
         }
     }
 
-    /// In force until the next call.
+    /// Applies until the next call.
     void SetNotInheritedList(NODX201::VParentRef& parentRef) {
         ++m_level.reference;
         m_notes.StartExclusions();
@@ -433,7 +433,7 @@ public:
     void Inherit(VParent const& parent, VList const& offered) {
         VLongerWays ways(m_inheritance.m_ways, parent);
         auto const [seen, isFirst] = m_excluded.try_emplace(&offered);
-        // Named once more, a parent can only bring what was excluded before.
+        // A parent that is referenced again can only contribute what was excluded before.
         VList const again = std::move(seen->second);
         seen->second = {};
         VList const& candidates = isFirst ? offered : again;
@@ -461,13 +461,13 @@ public:
     }
 
 private:
-    /// The ways that begin with a PARENT-REF, by what they go on with.
+    /// The ways that begin with a PARENT-REF, by the rest of the way.
     class VLongerWays {
     public:
         VLongerWays(std::vector<VWayStep>& ways, VParent const& parent) : m_ways(ways), m_parent(parent) {}
 
         std::uint32_t Longer(std::uint32_t next) {
-            if (m_longer == 0 || next != m_next) { // neighbours mostly came on the same way
+            if (m_longer == 0 || next != m_next) { // adjacent elements mostly came on the same way
                 m_next = next;
                 m_longer = NumberOf(next);
             }
@@ -570,7 +570,7 @@ typename VInheritance<Kind>::VElements VInheritance<Kind>::OwnOf(VLayerOfKind la
     return own;
 }
 
-/// What a layer has of its own, as far as it counts.
+/// A layer's own elements, as far as they count.
 template <class Kind>
 typename VInheritance<Kind>::VElements VInheritance<Kind>::LookedAtOf(VLayerOfKind layer) const {
     VElements own = OwnOf(layer);
@@ -610,7 +610,8 @@ typename VInheritance<Kind>::VList VInheritance<Kind>::Make(VLayerOfKind layer, 
     merge.TakeOwn();
     WalkPasses(parentRefs, Kind::kRow.PassesOf(layer.kind),
                [&](NODX201::VParentRef& parentRef, VLayerKinds kinds, int pass) {
-                   // The exclusions first, whatever the reference leads to: none is in force for the next one.
+                   // Set the exclusions first, even if the reference has no target: those of the previous reference
+                   // must not apply.
                    if (Kind::kRow.appliesExclusions) {
                        merge.SetNotInheritedList(parentRef);
                    }

@@ -13,7 +13,7 @@
 
 namespace NDIAGKIT {
 
-/// Goes the ways up from a layer, and judges each own element of a name that it meets.
+/// Follows the ways up from a layer, and judges each own element of a name that it finds.
 template <class Kind>
 class VInheritanceNotes<Kind>::VWayFinder {
 public:
@@ -35,7 +35,7 @@ public:
 
 private:
     static constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
-    static constexpr std::size_t kStepsOfWay = 100; // what all ways may have on average
+    static constexpr std::size_t kStepsOfWay = 100; // limit for the average of all ways
 
     struct VLayer {
         VLayerOfKind layer;
@@ -124,7 +124,7 @@ private:
         return true;
     }
 
-    /// Follows an own element of the last layer of the way down to the first.
+    /// Follows an own element from the last layer of the way down to the first.
     VWay Judge(VLayer const& owner, VWayGraph::VWayEdges const& edges, VCandidate const& own) {
         VWay way{own.element, PathOf(edges), VFate::Visible, nullptr, nullptr, nullptr};
         if (own.hiddenBy != nullptr) {
@@ -137,7 +137,7 @@ private:
                 return Stopped(std::move(way), VFate::NoPass, heir.layer, nullptr, parent.parentRef);
             }
             VCandidate const* const offer = OfferedTo(heir, parent, *own.element);
-            if (offer == nullptr) { // the parent is named again, and has brought it before
+            if (offer == nullptr) { // the parent is referenced again, and has contributed the element before
                 return Stopped(std::move(way), VFate::Hidden, heir.layer, own.element, nullptr);
             }
             if (offer->hiddenBy != nullptr) {
@@ -192,7 +192,7 @@ private:
     std::wstring_view const m_shortName;
     std::size_t const m_mostWays;
     std::size_t const m_mostSteps;
-    std::vector<VLayer> m_layers; // that asked about first
+    std::vector<VLayer> m_layers; // the layer asked about first
     std::unordered_map<NODX201::VDiagLayer const*, std::size_t> m_numbers;
     std::size_t m_steps = 0;
     VWays m_found;
@@ -224,7 +224,7 @@ typename VInheritanceNotes<Kind>::VLayerNotes const& VInheritanceNotes<Kind>::No
     if (auto const known = m_notes.find(layer.layer); known != m_notes.end()) {
         return known->second;
     }
-    VLayerNotes notes; // known only when they are whole
+    VLayerNotes notes; // set when they are complete
     notes.candidates = m_inheritance.CandidatesOf(layer);
     for (VCandidate const& candidate : notes.candidates) {
         notes.byName[candidate.element->GetShortName()].push_back(&candidate);

@@ -7,12 +7,12 @@
 #include <diagkit/tools/ListView.h>
 #include <diagkit/util/Assertion.h>
 
-/// What the views of what layers inherit share, and their builders.
+/// The common base of the views of inherited elements, and that of their builders.
 
 namespace NDIAGKIT {
 
-/// A list view of what is visible of one kind in a layer; see `VInheritance`. Beside what `VListView` asks of it,
-/// `Traits` names the row of the table: `using Inherited = VInheritedDiagComms`.
+/// A list view of the elements of one kind that are visible in a layer; see `VInheritance`. In addition to what
+/// `VListView` requires, `Traits` names the row of the table: `using Inherited = VInheritedDiagComms`.
 template <class Traits>
 class VInheritedView : public VNamedListView<Traits> {
 public:
@@ -32,8 +32,8 @@ struct VBuilderSite {
 
 /// Builds a view of a layer whose kind the caller does not know.
 ///
-/// The builder remembers the view it made last and destroys it at the next Create, not when it is destroyed itself.
-/// So either keep one builder a view and release the view with its Destroy, or let the builder release it by creating
+/// The builder remembers the view it made last and destroys it at the next Create, not when it is destroyed itself. So
+/// either keep one builder per view and release the view with its Destroy, or let the builder release it by creating
 /// the next; never both: after Destroy the builder must not create again. A copy of a builder remembers the same view.
 template <class View>
 class VInheritedViewBuilder : public NODX201::VDiagLayerVisitor {
@@ -51,12 +51,12 @@ public:
 
 protected:
     /// The layer's view. Null only when its `Accept` calls back nothing and the builder has no view from before; that
-    /// is logged and, unless the listener has this builder make a view, asserted.
+    /// is logged and, unless the listener creates a view with this builder, asserted.
     View* Create(NODX201::VDiagLayer& layer, VBuilderSite const& site);
 
     View* CreateSilently(NODX201::VDiagLayer& layer); ///< neither logs nor asserts
 
-    /// Destroys a view that a builder made; nothing happens for a reference behind which there is none (null).
+    /// Destroys a view that a builder made; no effect for a reference to null.
     void Destroy(View& view);
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The inherited views and their builders, a row a view, so that the bodies stay out of the public headers.
+// The inherited views and their builders, one row per view, so that the bodies stay out of the public headers.
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/DiagVariables.h>

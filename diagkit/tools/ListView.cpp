@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The instantiations of the list views but those of `InheritedViews.cpp`, a block a view, so that the bodies stay out
-// of the public headers.
+// The instantiations of the list views except those of `InheritedViews.cpp`, one block per view, so that the bodies
+// stay out of the public headers.
 
 #include <diagkit/model/DiagComms.h>
 #include <diagkit/model/Flash.h>

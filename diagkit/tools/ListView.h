@@ -15,15 +15,15 @@ struct VNamedElements {
     static wchar_t const* ShortNameOf(Element& element) { return element.GetShortName(); }
 };
 
-/// What all list-based views share: an ordered list of pointers to elements of the model. The model owns the elements
-/// and must outlive the view.
+/// Base of all list views: an ordered list of pointers to elements of the model. The model owns the elements and must
+/// outlive the view.
 ///
-/// `Traits` says what the view holds and where it asserts:
+/// `Traits` gives the element type of the view and the places of its assertions:
 ///
 ///     struct VDiagCommViewTraits {
 ///         using Element = NODX201::VDiagComm;
 ///         static constexpr wchar_t const* kSource = L"DiagCommView"; // source named by the view's assertions
-///         static constexpr int kRemoveElementLine = 348;             // Remove(element) that is not held
+///         static constexpr int kRemoveElementLine = 348;             // Remove(element) that is not in the view
 ///         static constexpr int kRemovePositionLine = 356;            // Remove(End())
 ///         static constexpr int kRemoveStepLine = 433;                // _Remove(end)
 ///         static wchar_t const* ShortNameOf(Element& element);       // null: no name can find this entry
@@ -61,15 +61,15 @@ public:
 
     void Append(Element& element); ///< at the end, without looking for duplicates
 
-    /// Takes the object out of the view and lets it live on; of several entries of one object the first goes. Asserts
-    /// when there is none, and changes nothing then.
+    /// Removes the object from the view without destroying it; of several entries of one object, the first. Asserts,
+    /// and changes nothing, when there is none.
     void Remove(Element& element);
 
-    /// Takes the entry out of the view and DESTROYS the element itself, model and all; use `Remove(element)` to keep
-    /// it. Asserts at `End()`, and changes nothing then.
+    /// Removes the entry from the view and DESTROYS the element itself, in the model too; use `Remove(element)` to keep
+    /// it. Asserts, and changes nothing, at `End()`.
     void Remove(Iterator iter);
 
-    /// Whether both views hold the same objects in the same order.
+    /// Whether both views contain the same objects in the same order.
     bool operator==(VListView const& other) const;
     bool operator!=(VListView const& other) const;
 

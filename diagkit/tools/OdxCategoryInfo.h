@@ -12,7 +12,7 @@ namespace NDIAGKIT {
 class DIAGKIT_EXPORT VOdxCategoryInfo {
 public:
     VOdxCategoryInfo();
-    VOdxCategoryInfo(VOdxCategoryInfo const& other); ///< copies what the other's getters answer
+    VOdxCategoryInfo(VOdxCategoryInfo const& other); ///< copies what the other's getters return
     virtual ~VOdxCategoryInfo();
     VOdxCategoryInfo& operator=(VOdxCategoryInfo const&) = delete;
 

@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-/// What `VOdxCategoryInfoCollection` holds and where it asserts; see `VListView`.
+/// The element type of `VOdxCategoryInfoCollection` and the places of its assertions; see `VListView`.
 struct DIAGKIT_EXPORT VOdxCategoryInfoCollectionTraits {
     using Element = VOdxCategoryInfo;
     static constexpr wchar_t const* kSource = L"OdxCategoryInfoCollection";

@@ -8,9 +8,9 @@ namespace NDIAGKIT {
 
 /// Builds the input-parameter view of a DIAG-COMM whose kind the caller does not know.
 ///
-/// The class is abstract: it leaves the layer visitor's operations to a derived class, which need do nothing in them,
-/// because a parameter view is built without looking at a layer. Ownership is as with `VOpBuildDiagCommView`: the
-/// builder destroys its latest view at its next Create only, the caller releases the last one.
+/// The class is abstract: a derived class implements the layer visitor's operations, which may be empty because a
+/// parameter view is built without looking at a layer. Ownership is as with `VOpBuildDiagCommView`: the builder
+/// destroys its latest view only at its next Create; the caller releases the last one.
 class DIAGKIT_EXPORT VOpBuildInParamIfView : public NODX201::VDiagLayerVisitor {
 public:
     VOpBuildInParamIfView();

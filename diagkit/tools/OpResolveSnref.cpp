@@ -21,7 +21,7 @@
 namespace NDIAGKIT {
 namespace {
 
-/// The element of that name in a view that is discarded afterwards; null when it holds none, or when there is no view.
+/// The element of that name in a temporary view; null when the view has none, or when there is no view.
 template <class View>
 typename View::Element* FindIn(std::unique_ptr<View> view, wchar_t const* shortName) {
     if (view == nullptr) {

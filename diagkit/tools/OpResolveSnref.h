@@ -10,12 +10,12 @@
 namespace NDIAGKIT {
 
 /// Resolves short names against what is visible in a context once inheritance has been applied: it builds the matching
-/// view, looks the name up, exactly, and discards the view. Results belong to the model; null when nothing of that name
-/// is visible, and for a name that is null. Where several visible elements bear the name, the first in view order wins.
+/// view, looks for exactly the name, and discards the view. Results belong to the model; null when nothing of that name
+/// is visible, and for a name that is null. Where several visible elements have the name, the first in view order wins.
 ///
-/// Only DOP views are kept, one a layer, as long as the resolver lives. What a layer's DOPs are is settled when the
-/// first is asked for: one that it or a parent gets later is not found, and one that goes later must not be asked for.
-/// Who edits the model starts a new resolver. Not thread-safe.
+/// Only DOP views are kept, one per layer, for the lifetime of the resolver. The DOPs of a layer are determined when
+/// the first one is requested: a DOP that is added later to the layer or a parent is not found, and one that is
+/// destroyed later must not be requested. After changing the model, create a new resolver. Not thread-safe.
 class DIAGKIT_EXPORT VOpResolveSnref : public NODX201::VAbstractSnrefResolver {
 public:
     VOpResolveSnref();
@@ -24,7 +24,7 @@ public:
     VOpResolveSnref& operator=(VOpResolveSnref const&) = delete;
 
     NODX201::VDopBase* ResolveDopBaseSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
-    /// Null as well for a DOP of another kind. Asks `ResolveDopBaseSnref`, overrides of it included.
+    /// Also null for a DOP of another kind. Calls `ResolveDopBaseSnref`, including overrides.
     NODX201::VDataObjectProp* ResolveDataObjectPropSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
     NODX201::VDiagComm* ResolveDiagCommSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;
     NODX201::VDiagVariable* ResolveDiagVariableSnref(wchar_t const* shortName, NODX201::VDiagLayer& layer) override;

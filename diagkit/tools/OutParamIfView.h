@@ -11,7 +11,7 @@
 
 namespace NDIAGKIT {
 
-/// What `OutParamIfView` holds and where it asserts; see `VListView`.
+/// The element type of `OutParamIfView` and the places of its assertions; see `VListView`.
 struct DIAGKIT_EXPORT VOutParamIfViewTraits {
     using Element = NODX201::IOutParamIf;
     static constexpr wchar_t const* kSource = L"OutParamIfView";
@@ -24,10 +24,10 @@ struct DIAGKIT_EXPORT VOutParamIfViewTraits {
 DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::list<NODX201::IOutParamIf*>::iterator, NODX201::IOutParamIf&>);
 DIAGKIT_TEMPLATE_DECLARATION(VListView<VOutParamIfViewTraits>);
 
-/// The parameters that an OUT-PARAM-IF-SNREF may name in one DIAG-COMM, and a search below them.
+/// The parameters that an OUT-PARAM-IF-SNREF may refer to in one DIAG-COMM, and a search below them.
 ///
 /// For a job these are its OUTPUT-PARAMs. For a service they are the VALUE parameters of its request and responses, as
-/// the search range says, in the order request, positive responses, negative responses:
+/// selected by the search range, in the order request, positive responses, negative responses:
 ///
 ///     range   request   positive   negative responses
 ///     0       -         yes        yes
@@ -39,12 +39,12 @@ DIAGKIT_TEMPLATE_DECLARATION(VListView<VOutParamIfViewTraits>);
 ///
 /// No other value selects a parameter. Container operations as in `VListView`.
 ///
-/// The search looks at the entries first and then, depth first in document order, below every parameter of the
-/// selected request and responses: through the DOPs of VALUE parameters, structures, fields, multiplexers,
-/// environment data and the tables of TABLE-STRUCT parameters. DOP references resolve in the layer given. Only VALUE
-/// parameters match, by exact short name. A match below is appended to the view, so the view GROWS by a search that
-/// finds something new, and finds it among its entries the next time. It ends on every database, whatever contains
-/// itself there and however deep.
+/// The search looks at the entries first and then, depth first in document order, below every parameter of the selected
+/// request and responses: through the DOPs of VALUE parameters, structures, fields, multiplexers, environment data and
+/// the tables of TABLE-STRUCT parameters. DOP references resolve in the layer given. Only VALUE parameters match, by
+/// exact short name. A match below the entries is appended to the view: the view GROWS when a search finds something
+/// new, and the next search finds it among the entries. The search terminates on every database, however deep it nests
+/// and even if something contains itself.
 class DIAGKIT_EXPORT VOutParamIfView : public VListView<VOutParamIfViewTraits> {
 public:
     VOutParamIfView(NODX201::VDiagService& service, NODX201::VSearchRange range);
@@ -60,7 +60,7 @@ public:
                                     NODX201::VDiagLayer& layer); ///< null when nothing matches
 
     using VListView<VOutParamIfViewTraits>::Remove;
-    void Remove(Iterator iter); ///< as in `VListView`; the search does not look below a destroyed parameter any more
+    void Remove(Iterator iter); ///< as in `VListView`; the search no longer looks below a destroyed parameter
 
     class VParamRecursivSearchVisitor;
 

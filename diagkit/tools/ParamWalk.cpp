@@ -93,7 +93,7 @@ void VParamWalk::VisitTableStruct(NODX201::VTableStruct& param) {
 void VParamWalk::VisitTableKey(NODX201::VTableKey&) {}
 void VParamWalk::VisitTableEntry(NODX201::VTableEntry&) {}
 
-/// Whether what contains something is entered for the first time; the walk is inside of it then.
+/// Enters a container when this is the first time; returns whether it did.
 bool VParamWalk::EnterOnce(NODX201::VOdxElement& container) {
     if (!m_entered.Insert(&container)) {
         return false;
@@ -103,7 +103,7 @@ bool VParamWalk::EnterOnce(NODX201::VOdxElement& container) {
     return true;
 }
 
-/// Enters a structure, whose parameters are walked where they stand.
+/// Enters a structure, whose parameters are walked in place.
 void VParamWalk::EnterStructure(NODX201::VBasicStructure& structure) {
     if (EnterOnce(structure)) {
         NODX201::VParamCollection& params = structure.ParamCollection();
@@ -112,7 +112,7 @@ void VParamWalk::EnterStructure(NODX201::VBasicStructure& structure) {
     }
 }
 
-/// Enters what contains other things, and lets `visit` tell them.
+/// Enters a container and has `visit` list its contents.
 template <class Container, class Visit>
 void VParamWalk::EnterParts(Container& container, Visit visit) {
     if (EnterOnce(container)) {

@@ -11,24 +11,24 @@
 namespace NDIAGKIT {
 
 /// Walks parameters and all that they contain, depth first in document order: through the DOPs of VALUE parameters,
-/// structures, fields, multiplexers, environment data, and the tables that TABLE-STRUCT parameters name. TABLE-KEYs and
-/// TABLE-ENTRYs that stand in a message lead nowhere by themselves.
+/// structures, fields, multiplexers, environment data, and the tables that TABLE-STRUCT parameters refer to. TABLE-KEYs
+/// and TABLE-ENTRYs in a message are not followed by themselves.
 ///
-/// It ends on every database and takes no more of the machine's stack on a deep one: whatever contains something is
-/// entered once, which changes nothing about what is met first. Derive from it and override `VisitValue`.
+/// It terminates on every database, and its use of the call stack does not grow with the depth of the data. Every
+/// container is entered only once, which does not change what is found first. Derive from it and override `VisitValue`.
 class DIAGKIT_EXPORT VParamWalk : public VContainment {
 public:
     ~VParamWalk() override;
 
-    /// Walks on below one more parameter; true when it has been ended. What was entered by the walk before is
-    /// not entered again.
+    /// Continues below one more parameter; true when the walk has been ended. What was entered before is not entered
+    /// again.
     bool Walk(NODX201::VParam& root);
 
-    /// The same below a DOP to which no parameter leads.
+    /// The same below a DOP that is not reached from a parameter.
     bool WalkIn(NODX201::VDopBase& root);
 
-    /// What leads from the root to the parameter that has been met last, both included: parameters, DOPs, the cases of
-    /// a MUX, TABLEs and TABLE-ROWs. To be asked in `VisitValue`, or when the walk has been ended there.
+    /// The way from the root to the parameter found last, both included: parameters, DOPs, the cases of a MUX, TABLEs
+    /// and TABLE-ROWs. Call it in `VisitValue`, or after the walk has been ended there.
     std::vector<NODX201::VOdxElement*> Path() const;
 
 protected:
@@ -38,11 +38,11 @@ protected:
     void VisitValue(NODX201::VValue& param) override = 0;
     void WalkBelow(NODX201::VValue& param); ///< goes on with what the parameter contains
     void End() { m_isEnded = true; }        ///< the walk is over
-    /// Called with everything that contains something and is entered: DOPs, TABLEs and TABLE-ROWs. Does nothing here.
+    /// Called with every container that is entered: DOPs, TABLEs and TABLE-ROWs. Does nothing here.
     virtual void Enter(NODX201::VOdxElement& container);
 
 private:
-    /// What the walk is inside of: first its parts that are pending are walked, then its parameters.
+    /// A container that has been entered: its pending parts are walked first, then its parameters.
     struct VInside {
         NODX201::VOdxElement* container;
         NODX201::VOdxElement* leader; ///< the parameter, or the case of a MUX, that led here; null where none did
@@ -75,7 +75,7 @@ private:
 
     IDopFinder& m_dops;
     std::vector<VInside> m_inside;            ///< the innermost last
-    std::vector<VContained> m_parts;          ///< that are pending, the next one last
+    std::vector<VContained> m_parts;          ///< pending, the next one last
     NODX201::VOdxElement* m_leader = nullptr; ///< the parameter or case that the walk is at; null where it is at none
     VPointerSet m_entered;
     bool m_isEnded = false;

@@ -26,7 +26,7 @@ public:
     }
 
 private:
-    /// The slot that holds the address, or the empty one that it may take.
+    /// The slot with the address, or the empty one where it belongs.
     void const*& SlotOf(void const* address) {
         constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15; // addresses differ in their middle bits
         std::size_t const mask = m_slots.size() - 1;
@@ -48,7 +48,7 @@ private:
         }
     }
 
-    std::vector<void const*> m_slots; // as many as a power of two
+    std::vector<void const*> m_slots; // their number is a power of two
     std::size_t m_count = 0;
 };
 

@@ -11,7 +11,7 @@
 
 namespace NDIAGKIT {
 
-/// What `ProtocolView` holds and where it asserts; see `VListView`.
+/// The element type of `ProtocolView` and the places of its assertions; see `VListView`.
 struct DIAGKIT_EXPORT VProtocolViewTraits {
     using Element = NODX201::VProtocol;
     static constexpr wchar_t const* kSource = L"ProtocolView";
@@ -26,7 +26,7 @@ DIAGKIT_TEMPLATE_DECLARATION(VListView<VProtocolViewTraits>);
 DIAGKIT_TEMPLATE_DECLARATION(VNamedListView<VProtocolViewTraits>);
 
 /// PROTOCOL layers: those of one container, in document order; or those of a BASE-VARIANT's PARENT-REFs, in their
-/// order, where a FUNCTIONAL-GROUP stands for its own PROTOCOLs.
+/// order, where a FUNCTIONAL-GROUP is replaced by its own PROTOCOLs.
 ///
 /// There is no test for duplicates: a PROTOCOL is in the view once for each reference. A PROTOCOL's own parents are not
 /// followed and no NOT-INHERITED list applies. Otherwise as `VDiagCommView`.

@@ -69,8 +69,8 @@ void AddOutParams(VByName<NODX201::IOutParamIf>& elements, NODX201::VDiagService
     ForEachSelectedParam(service, range, take);
 }
 
-/// Stands where a search range does: a multiple-ECU job may also be asked about as a DIAG-COMM, which it is none of the
-/// kinds of, at one address.
+/// Used in place of a search range: the same multiple-ECU job, at the same address, may also be asked about as a
+/// DIAG-COMM, which is neither a service nor a single-ECU job.
 constexpr int kOfMultipleEcuJob = -1;
 
 } // namespace
@@ -105,7 +105,7 @@ Element* VRememberingResolver::Find(VMeaning<Element>& meaning, VContext const& 
     }
     if (!meaning.isFilled) {
         VMeaning<Element> filled{context, true};
-        fill(filled.elements); // which may ask for other names, of this kind too
+        fill(filled.elements); // may ask for other names, also of this kind
         meaning = std::move(filled);
     }
     auto const found = meaning.elements.find(shortName);

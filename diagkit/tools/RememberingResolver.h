@@ -10,18 +10,18 @@
 
 namespace NDIAGKIT {
 
-/// A resolver that gives the same answers as its base, and remembers what is visible where it is asked more than once
-/// in a row: a walk over a layer, which asks for one name after another there, looks each of them up in no time. Of
-/// each kind of short name one context is remembered, so it takes no more memory than one view of each kind; DOP views
-/// are kept as the base keeps them.
+/// A resolver that gives the same results as its base, and caches what is visible in a context where it is asked more
+/// than once in a row: a walk over a layer, which resolves one name after another there, finds each of them quickly.
+/// For each kind of short name one context is cached, so it uses no more memory than one view of each kind; DOP views
+/// are kept as in the base.
 ///
-/// It forgets when the model changes, as far as it is told of that. Not thread-safe.
+/// The cache is cleared when the generation changes. Not thread-safe.
 class DIAGKIT_EXPORT VRememberingResolver : public VOpResolveSnref {
 public:
-    /// Tells the state of the model by a number that is another one after every change.
+    /// Returns a number for the state of the model that differs after every change.
     using VGeneration = std::function<std::uint64_t()>;
 
-    /// For a model that does not change as long as this object is asked, or that tells when it does.
+    /// Without a generation the model must not change while this object is used.
     explicit VRememberingResolver(VGeneration generation = {});
     ~VRememberingResolver() override;
 
@@ -42,15 +42,16 @@ private:
     /// Where a short name is looked up.
     struct VContext {
         void const* place = nullptr;
-        NODX201::VDiagLayer const* layer = nullptr; ///< where that matters besides
-        int range = 0;                              ///< likewise
+        NODX201::VDiagLayer const* layer = nullptr; ///< the layer, where it matters
+        int range = 0;                              ///< the search range, where it matters
 
         bool operator==(VContext const& other) const {
             return place == other.place && layer == other.layer && range == other.range;
         }
     };
 
-    /// What the short names of one kind mean in the context that was asked about last. They view the elements' texts.
+    /// The elements by short name of one kind in the context that was asked about last. The keys view the elements'
+    /// texts.
     template <class Element>
     struct VMeaning {
         VContext context{};
@@ -58,7 +59,7 @@ private:
         std::unordered_map<std::wstring_view, Element*> elements{};
     };
 
-    /// `resolve` answers the first question in a context, `fill` takes in all that later ones may be about.
+    /// `resolve` answers the first request in a context, `fill` collects everything that later ones may need.
     template <class Element, class Resolve, class Fill>
     Element* Find(VMeaning<Element>& meaning, VContext const& context, wchar_t const* shortName, Resolve resolve,
                   Fill fill);

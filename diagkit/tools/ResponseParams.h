@@ -9,7 +9,7 @@
 namespace NDIAGKIT {
 
 /// Calls `take` with every parameter of the service's positive responses, response by response in the order of the
-/// links, of which those that lead nowhere are left out.
+/// links. Links without a target are skipped.
 template <class Take>
 void ForEachPosResponseParam(NODX201::VDiagService& service, Take& take) {
     if (!service.HasPosResponseLinkCollection()) {
@@ -49,26 +49,26 @@ void ForEachRequestParam(NODX201::VDiagService& service, Take& take) {
     }
 }
 
-/// Whether a search range takes the request. The uneven combinations of sources are meant, the empty one and that of
-/// any other value included (EverySearchRangeSelectsItsSources).
+/// Whether a search range includes the request. The irregular combinations of sources are intentional, including the
+/// empty one and that of any other value (EverySearchRangeSelectsItsSources).
 inline bool TakesRequest(NODX201::VSearchRange range) {
     int const value = static_cast<int>(range);
     return value == 1 || value == 3 || value == 5;
 }
 
-/// Whether a search range takes the positive responses.
+/// Whether a search range includes the positive responses.
 inline bool TakesPosResponses(NODX201::VSearchRange range) {
     int const value = static_cast<int>(range);
     return value == 0 || value == 4 || value == 5;
 }
 
-/// Whether a search range takes the negative responses.
+/// Whether a search range includes the negative responses.
 inline bool TakesNegResponses(NODX201::VSearchRange range) {
     int const value = static_cast<int>(range);
     return value == 0 || value == 1 || value == 5;
 }
 
-/// The parameters of all the sources that the range takes: request, positive responses, negative responses.
+/// The parameters of all sources in the range: request, positive responses, negative responses.
 template <class Take>
 void ForEachSelectedParam(NODX201::VDiagService& service, NODX201::VSearchRange range, Take& take) {
     if (TakesRequest(range)) {

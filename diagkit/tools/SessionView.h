@@ -10,7 +10,7 @@
 
 namespace NDIAGKIT {
 
-/// What `SessionView` holds and where it asserts; see `VListView`.
+/// The element type of `SessionView` and the places of its assertions; see `VListView`.
 struct DIAGKIT_EXPORT VSessionViewTraits {
     using Element = NODX201::VSession;
     static constexpr wchar_t const* kSource = L"SessionView";

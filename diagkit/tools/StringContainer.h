@@ -12,10 +12,10 @@ namespace NDIAGKIT {
 
 DIAGKIT_TEMPLATE_DECLARATION(VExternalIterator<std::set<std::wstring*>::const_iterator, std::wstring const&>);
 
-/// A bag of texts that can cross the library's boundary: the container owns a copy of every text it is given.
+/// A multiset of texts that can cross the library's boundary: the container owns a copy of every text added.
 ///
-/// The order of iteration is that of the copies' addresses and therefore unspecified. One text may be held several
-/// times. Not thread-safe.
+/// The order of iteration is that of the copies' addresses and therefore unspecified. A text may occur several times.
+/// Not thread-safe.
 class DIAGKIT_EXPORT VStringContainer {
 public:
     using Set = std::set<std::wstring*>;
@@ -26,9 +26,9 @@ public:
     VStringContainer();
     virtual ~VStringContainer();
 
-    /// Deletes this object, for clients that must free it on the library's side. Nothing happens for a null one; a call
-    /// that may meet null names the class, `container->VStringContainer::Destroy()`, because finding the operation of
-    /// the object's own class takes an object.
+    /// Deletes this object, for clients that must free it on the library's side. No effect for null; a call where the
+    /// pointer may be null must name the class, `container->VStringContainer::Destroy()`, because a virtual call needs
+    /// an object.
     virtual void Destroy();
 
     VStringContainer(VStringContainer const&) = delete;
@@ -41,7 +41,7 @@ public:
     const_iterator begin() const { return Begin(); }
     const_iterator end() const { return End(); }
 
-    void AddCopy(wchar_t const* text); ///< null is no text: nothing is added
+    void AddCopy(wchar_t const* text); ///< null is not a text: nothing is added
 
     /// The first entry, in the order of iteration, that is exactly this text; `End()` when there is none, and for
     /// null.
@@ -53,7 +53,7 @@ public:
     void Remove(Iterator iter);
     void Clear(); ///< removes all entries
 
-    /// Whether both hold the very same copies: two containers that were filled separately differ, even with the same
+    /// Whether both contain the same copies: two containers that were filled separately differ, even with the same
     /// texts; empty ones are equal.
     bool operator==(VStringContainer const& other) const;
     bool operator!=(VStringContainer const& other) const;

@@ -9,7 +9,7 @@
 
 namespace NDIAGKIT {
 
-/// Tells the listener, if there is one, that no view was made.
+/// Reports to the listener, if there is one, that no view was made.
 inline void LogNoView(VBuilderSite const& site) {
     NLogging::VSharedLogger const& logger = *NLogging::VSharedLogger::Instance();
     if (NLogging::ILogListener* const listener = logger.GetLogger(); listener != nullptr && logger.IsEnabled()) {
@@ -39,7 +39,7 @@ View* CreateView(View*& view, VBuilderSite const& site, Make make) {
     if (view == nullptr) {
         LogNoView(site);
     }
-    if (view == nullptr) { // still: a listener may let this builder make one
+    if (view == nullptr) { // still null: a listener may have let this builder make one
         NPavonaUtil::ReportAssertion(site.assertion);
     }
     return view;

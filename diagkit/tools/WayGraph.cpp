@@ -6,7 +6,7 @@
 namespace NDIAGKIT {
 namespace {
 
-// A search among places in circles may meet more dead ends than anybody waits for.
+// A search among places in cycles may reach too many dead ends to finish in reasonable time.
 constexpr std::size_t kMostLooks = 10'000'000;
 
 std::uint64_t Sum(std::uint64_t left, std::uint64_t right) {
@@ -93,7 +93,7 @@ std::optional<std::uint64_t> VWayGraph::Count(std::size_t start) const {
     return counts[start];
 }
 
-/// A walk that never comes to a place twice, and where there are circles takes no step into a dead end.
+/// A walk that never enters a place twice and, where there are cycles, takes no step into a dead end.
 class VWayGraph::VWalk {
 public:
     VWalk(VWayGraph const& graph, bool hasCircles, VSee const& see)
@@ -142,7 +142,7 @@ private:
     }
 
     /// Whether a state leads to a goal by places that are not on the way. Places that exclude each other further on are
-    /// not seen, so a dead end is possible still.
+    /// not recognised, so a dead end is still possible.
     bool LeadsOn(std::size_t state) {
         ++m_meeting;
         m_found.clear();

@@ -12,8 +12,8 @@
 
 namespace NDIAGKIT {
 
-/// Ways from one place to goals, counted without being gone, and gone one after the other. No way comes to a place
-/// twice. A place may be entered in several states; states are numbered, those of one place consecutively.
+/// Ways from one place to goals: counts them without following each, or follows one after the other. No way enters a
+/// place twice. A place may be entered in several states; states are numbered, those of one place consecutively.
 class VWayGraph {
 public:
     struct VEdge {
@@ -25,7 +25,7 @@ public:
     /// Called with each state that has goals and the way to it; false ends the walk.
     using VSee = std::function<bool(std::size_t state, VWayEdges const& way)>;
 
-    /// Counts go no higher. Every reader of JSON keeps this number as it is.
+    /// Upper limit of counts. Every JSON parser represents this number exactly.
     static constexpr std::uint64_t kMostCounted = (std::uint64_t{1} << 53U) - 1;
 
     explicit VWayGraph(std::size_t places, std::size_t statesOfPlace = 1)
@@ -34,15 +34,16 @@ public:
     void Add(std::size_t from, VEdge const& edge) { m_edges[from].push_back(edge); }
     void SetGoals(std::size_t state, std::size_t count) { m_goals[state] = count; }
 
-    /// Forgets what leads to no goal, to the place that it comes from, or back to where the ways start. To be called
-    /// before the others, once.
+    /// Removes what leads to no goal, to the place that it comes from, or back to where the ways start. Call it once,
+    /// before the others.
     void Prune(std::size_t start);
 
-    /// How many ways there are, one for each goal; none where places are in a circle, for then only going tells.
+    /// How many ways there are, one for each goal; none where places form a cycle, because only following the ways
+    /// could count them.
     std::optional<std::uint64_t> Count(std::size_t start) const;
 
-    /// Goes all ways, depth first, each state's goals before its edges, as these were added. False when `see` ended it,
-    /// or when a search among places in circles took too long.
+    /// Follows all ways, depth first, each state's goals before its edges, in the order in which these were added.
+    /// False when `see` ended it, or when a search among places in cycles took too long.
     bool Walk(std::size_t start, VSee const& see) const;
 
 private:

@@ -9,27 +9,28 @@
 
 namespace NPavonaUtil {
 
-/// A failed assertion. The texts live for the process.
+/// A failed assertion. The texts are valid for the lifetime of the process.
 struct VAssertion {
     wchar_t const* expression; ///< the text of the condition
     wchar_t const* source;     ///< base name of the source, without suffix
     int line;                  ///< in the source
 };
 
-/// What is called when an assertion fails, in the thread that failed.
+/// Called when an assertion fails, in the thread that failed.
 using VAssertionHandler = void (*)(VAssertion const& assertion);
 
-/// Installs a handler and returns the one before; null installs the first one again. Not locked: install it before
-/// the library is used from several threads. A handler may throw; the function that asserted has changed nothing yet.
+/// Installs a handler and returns the previous one; null installs the initial one again. Not thread-safe: install it
+/// before the library is used from several threads. A handler may throw; the function that asserted has changed nothing
+/// yet.
 DIAGKIT_EXPORT VAssertionHandler SetAssertionHandler(VAssertionHandler handler);
 
 /// Reports a failed assertion to the handler.
 DIAGKIT_EXPORT void ReportAssertion(VAssertion const& assertion);
 
-/// Installs a handler for a scope, for tests and hosts that want another answer for a while.
+/// Installs a handler for a scope, for tests and for hosts that temporarily need another one.
 class VScopedAssertionHandler {
 public:
-    /// Installs the handler; the destructor installs the one before again.
+    /// Installs the handler; the destructor restores the previous one.
     explicit VScopedAssertionHandler(VAssertionHandler handler) : m_before(SetAssertionHandler(handler)) {}
     ~VScopedAssertionHandler() { SetAssertionHandler(m_before); }
     VScopedAssertionHandler(VScopedAssertionHandler const&) = delete;

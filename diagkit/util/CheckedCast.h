@@ -6,27 +6,27 @@
 
 namespace NPavonaUtil {
 
-/// A checked downcast from an interface to a class that implements it, for who casts often: it remembers the last
-/// class for which the cast succeeded, and finds objects of that class again without searching its bases. The answer
-/// is always that of `dynamic_cast`.
+/// A checked downcast from an interface to a class that implements it, for code that casts often: it remembers the last
+/// class for which the cast succeeded, and casts objects of that class again without searching its bases. The result is
+/// always that of `dynamic_cast`.
 ///
-/// What is remembered is the dynamic type and where in the whole object the interface lies, because a class may
-/// implement an interface in several of its bases. Casts are remembered only where `To` itself implements `From`;
-/// whatever else `dynamic_cast` finds (a `To` beside the interface), and what it does not find (another class, a
-/// private base, two of them), is searched each time.
+/// It remembers the dynamic type and where the interface is in the whole object, because a class may implement an
+/// interface in several of its bases. Only casts where `To` itself implements `From` are remembered. All other casts
+/// are searched each time: those where another base implements the interface, and those that fail (another class, a
+/// private base, an ambiguous base).
 ///
-/// Keep one only as long as the classes it meets stay loaded: in a function, or in what walks one model. Not
-/// thread-safe.
+/// Keep one only as long as the classes it meets remain loaded: in a function, or in an object that walks one model.
+/// Not thread-safe.
 template <class To, class From>
 class VCheckedCast {
 public:
-    /// Null when the object is no `To`.
+    /// Null when the object is not a `To`.
     To* operator()(From& x) {
         To* const again = Again(x);
         return again != nullptr ? again : Search(x);
     }
 
-    /// The object when it is of the class that is remembered; null otherwise, which does not say that it is no `To`.
+    /// The object when its class is the remembered one; null otherwise, which does not mean that it is not a `To`.
     To* Again(From& x) const {
         bool const isSame = &typeid(x) == m_type && OffsetOf(x) == m_offset;
         return isSame ? static_cast<To*>(&x) : nullptr;

@@ -76,7 +76,7 @@ std::uint32_t MultiByteToWide(std::uint32_t codePage, char const* pString, std::
                               std::uint32_t capacity) {
     if (pString == nullptr) {
         ReportAssertion(kNoString);
-        length = 0; // which does not convert
+        length = 0; // an empty text is not converted
     }
     *result = gpBuffers->WideBuffer(capacity);
     if (*result == nullptr) {

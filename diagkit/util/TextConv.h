@@ -4,19 +4,19 @@
 #include <cstdint>
 #include <cstdlib>
 
-/// Narrow text of a code page into wide text. Nothing is allocated for one call: the result lies in buffers that all
-/// calls of the process share, so it is valid until the next conversion. Not for two threads at once.
+/// Conversion of narrow text in a code page to wide text. No call allocates memory of its own: the result is in buffers
+/// that all calls of the process share, so it is valid until the next conversion. Not thread-safe.
 
 namespace NPavonaUtil {
 
-/// A pair of buffers that grow on demand and never shrink. A pointer that it returned is valid until the buffer of that
-/// kind has to grow.
+/// A pair of buffers that grow on demand and never shrink. A pointer that it returned is valid until that buffer has to
+/// grow.
 class IBuffers {
 public:
-    /// The narrow buffer, with room for at least so many bytes. Null when there is no memory; the buffer is then as it
-    /// was before.
+    /// The narrow buffer, with room for at least `size` bytes. Null when memory is exhausted; the buffer is then
+    /// unchanged.
     virtual char* CharBuffer(std::uint32_t size) = 0;
-    /// The same for so many wide characters.
+    /// The same for `size` wide characters.
     virtual wchar_t* WideBuffer(std::uint32_t size) = 0;
     virtual ~IBuffers() = default;
 };
@@ -25,10 +25,10 @@ namespace NBuffers {
 
 using VReallocate = void* (*)(void* memory, std::size_t bytes);
 
-/// Buffers on the C heap. A buffer grows to twice its size, or to what is asked for when that is more.
+/// Buffers on the C heap. A buffer grows to twice its size, or to the requested size when that is larger.
 class VCommonBuffers final : public IBuffers {
 public:
-    /// Null stands for `std::realloc`, whose address is no constant on every platform.
+    /// Null selects `std::realloc`, whose address is not a constant on every platform.
     constexpr explicit VCommonBuffers(VReallocate reallocate = nullptr) : m_reallocate(reallocate) {}
     ~VCommonBuffers() override;
     VCommonBuffers(VCommonBuffers const&) = delete;
@@ -62,10 +62,10 @@ constexpr std::uint32_t kConversionFailed = 0x2000000A;
 /// How the latest conversion ended: one of the three values above.
 std::uint32_t LastConversionError();
 
-/// Converts `length` bytes, into at most `capacity` wide characters; a terminator is converted when the length counts
-/// it, and not added. Returns how many characters were written and their place; 0 and null when the conversion failed:
-/// an empty input, a capacity that does not suffice, a code page that the platform does not know. Code page 1252 is
-/// known everywhere.
+/// Converts `length` bytes into at most `capacity` wide characters; a terminator is converted when the length includes
+/// it, and is not added. Returns the number of characters written and their place; 0 and null when the conversion
+/// failed: an empty input, an insufficient capacity, a code page unknown to the platform. Code page 1252 is known
+/// everywhere.
 std::uint32_t MultiByteToWide(std::uint32_t codePage, char const* pString, std::uint32_t length, wchar_t** result,
                               std::uint32_t capacity);
 

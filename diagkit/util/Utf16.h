@@ -5,9 +5,9 @@
 #include <cstring>
 #include <string_view>
 
-/// Wide texts as they are in UTF-16. Where `wchar_t` has 16 bits a text is in UTF-16; elsewhere one `wchar_t` may stand
-/// for two code units, and order and lengths would differ between platforms. Surrogates that stand alone, and numbers
-/// that are no characters, count as one unit of their value.
+/// Wide texts as UTF-16. Where `wchar_t` has 16 bits a text is in UTF-16; elsewhere one `wchar_t` may represent two
+/// code units, and order and lengths would differ between platforms. Unpaired surrogates, and values that are not
+/// characters, count as one unit of their value.
 
 namespace NPavonaUtil {
 
@@ -39,7 +39,7 @@ constexpr Character SecondUtf16Unit(Character character) {
 template <class Character>
 class VUtf16Units {
 public:
-    explicit VUtf16Units(std::basic_string_view<Character> text) : m_rest(text) {} ///< has to outlive this
+    explicit VUtf16Units(std::basic_string_view<Character> text) : m_rest(text) {} ///< has to outlive this object
 
     bool IsAtEnd() const { return m_rest.empty(); }
     /// REQUIRES: not at the end.
@@ -58,7 +58,7 @@ private:
     bool m_isSecond = false;
 };
 
-/// Moves a place on, `Step` characters at a time, as long as two texts are equal from there.
+/// Advances a position, `Step` characters at a time, as long as two texts are equal from there.
 template <std::size_t Step, class Character>
 void SkipEqual(std::basic_string_view<Character> left, std::basic_string_view<Character> right, std::size_t& at) {
     std::size_t const size = left.size() < right.size() ? left.size() : right.size();
@@ -80,11 +80,11 @@ bool AreUnitsLess(VUtf16Units<Character> left, VUtf16Units<Character> right) {
     return left.IsAtEnd() && !right.IsAtEnd();
 }
 
-/// Whether a text comes before another one, compared by code units of UTF-16. What lies above U+FFFF comes before
-/// U+E000 thus.
+/// Whether a text comes before another one, compared by UTF-16 code units. Characters above U+FFFF therefore come
+/// before U+E000.
 template <class Character>
 bool IsLessInUtf16(std::basic_string_view<Character> left, std::basic_string_view<Character> right) {
-    std::size_t at = 0; // where they differ; maps of names with long common starts wait for this
+    std::size_t at = 0; // where they differ; speed matters for maps of names with long common prefixes
     SkipEqual<16>(left, right, at);
     SkipEqual<4>(left, right, at);
     SkipEqual<1>(left, right, at);

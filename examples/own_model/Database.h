@@ -7,7 +7,7 @@
 
 #include "Layers.h"
 
-/// Root, containers, and the database that owns it all.
+/// Root, containers, and the database that owns everything.
 
 namespace NOwnModel {
 
@@ -64,8 +64,8 @@ private:
     VInstructions m_instructions;
 };
 
-/// Everything, from the rows to the elements over them. The toolkit's own resolver answers short names: it is made
-/// over the model, and the model asks it.
+/// The complete model, from the rows to the elements over them. The toolkit's own resolver resolves short names: it is
+/// made over the model, and the model calls it.
 class VDatabase {
 public:
     explicit VDatabase(std::wistream& table) : m_rows(ReadTable(table)) {

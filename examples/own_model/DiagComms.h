@@ -57,7 +57,7 @@ public:
 using VAudienceRow = VElement<NODX201::VAudience>;
 using VProgram = VElement<NODX201::VProgCode>;
 
-/// What services and jobs share.
+/// Base of services and jobs.
 template <class Contract>
 class VDiagCommOf : public VIdentified<Contract> {
 public:

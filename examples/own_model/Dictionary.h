@@ -44,7 +44,7 @@ private:
     VOwning<NODX201::VDopBaseCollection> m_dops;
 };
 
-/// DOP-REF and DOP-SNREF. What a short name means is the toolkit's affair: the model asks its resolver.
+/// DOP-REF and DOP-SNREF. Short names are resolved by the toolkit: the model calls its resolver.
 class VDopLink : public VLinkTo<NODX201::VDopBaseLink, NODX201::VDopBase> {
 public:
     using VLinkTo::VLinkTo;

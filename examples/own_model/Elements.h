@@ -12,19 +12,19 @@
 
 #include "Table.h"
 
-/// What the elements of the example have in common: where they stand, what they own, how they find others.
+/// Common to the elements of the example: their owner, what they own, how they find others.
 
 namespace NOwnModel {
 
 using Tag = NODX201::VOdxTagEnum;
 
-/// What links search: the elements by ID, and what short names mean.
+/// The data that links search: the elements by ID, and the targets of short names.
 struct VIndex {
     std::map<std::wstring, NODX201::VReferencable*> elements;
     std::unique_ptr<NODX201::VAbstractSnrefResolver> resolver;
 };
 
-/// Where an element comes from: its row, what it stands in, the database it is part of.
+/// The origin of an element: its row, its owner, its database.
 struct VOrigin {
     VRow const& row;
     NODX201::VOdxObject* owner;
@@ -145,7 +145,7 @@ protected:
         return target != nullptr;
     }
 
-    /// A hit of another class is none.
+    /// An element of another class is not a target.
     bool FindById() const {
         auto const found = this->Index().elements.find(this->Row().idRef);
         return Remember(found != this->Index().elements.end() ? dynamic_cast<Target*>(found->second) : nullptr);

@@ -73,7 +73,7 @@ public:
     wchar_t const* GetBaseMember() const override { return Row().text.c_str(); }
 };
 
-/// What the five kinds share.
+/// Base of the five kinds.
 template <class Contract>
 class VLayer : public VIdentified<Contract> {
 public:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// A model of one's own, held against the promises of the contract and the reference database:
+// Checks an own model against the promises of the contract and the reference database:
 //
 //     own_model TABLE
 

@@ -7,7 +7,7 @@
 
 #include <diagkit/model/OdxTag.h>
 
-/// The storage of the example: a text with an element a line, indented by what it stands in.
+/// The storage of the example: a text with one element per line, indented by nesting.
 ///
 ///     ?Conformance reference
 ///     DIAG-LAYER-CONTAINER name=Doors id=C
@@ -16,7 +16,7 @@
 
 namespace NOwnModel {
 
-/// One line. What it does not say is "".
+/// One line. Values that are absent are "".
 struct VRow {
     NODX201::VOdxTagEnum tag = NODX201::VOdxTagEnum::None; ///< none for a processing instruction
     std::wstring name;                                     ///< SHORT-NAME; name of a processing instruction
@@ -25,10 +25,10 @@ struct VRow {
     std::wstring idRef;                                    ///< @ID-REF
     std::wstring snref;                                    ///< @SHORT-NAME of a reference
     std::wstring text;                                     ///< LONG-NAME; content of a processing instruction
-    std::deque<VRow> rows; ///< what stands in it, in order; a deque, so that no row ever moves
+    std::deque<VRow> rows; ///< its children, in order; a deque, so that no row ever moves
 };
 
-/// A row that holds those of the text. Throws std::runtime_error at a line that it does not understand.
+/// A row that contains those of the text. Throws std::runtime_error at a line that it does not understand.
 VRow ReadTable(std::wistream& in);
 
 } // namespace NOwnModel

@@ -9,7 +9,7 @@ import sys
 
 
 def holds(expected, answer):
-    """Whether an answer has what is expected; members of objects that are not expected do not matter."""
+    """Whether an answer has everything expected; additional members of objects do not matter."""
     if isinstance(expected, dict):
         return isinstance(answer, dict) and all(
             name in answer and holds(value, answer[name]) for name, value in expected.items())

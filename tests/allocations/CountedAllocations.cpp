@@ -59,7 +59,7 @@ VFailingAllocations::~VFailingAllocations() { s_left = kNever; }
 
 void* operator new(std::size_t size) { return NTest::Allocate(size); }
 void* operator new[](std::size_t size) { return NTest::Allocate(size); }
-// The standard's own calls the operator above; a sanitizer's does not, and the block would be released by ours.
+// The standard one calls the operator above; a sanitizer's does not, and ours would release the block.
 void* operator new(std::size_t size, std::nothrow_t const&) noexcept { return NTest::AllocateOrNull(size); }
 void* operator new[](std::size_t size, std::nothrow_t const&) noexcept { return NTest::AllocateOrNull(size); }
 void operator delete(void* block) noexcept { NTest::Release(block); }

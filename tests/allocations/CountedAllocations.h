@@ -3,18 +3,18 @@
 
 #include <cstddef>
 
-/// Counts what goes through `operator new` of the whole program, the toolkit's library included. Linking
-/// CountedAllocations.cpp replaces it.
+/// Counts calls of `operator new` of the whole program, including the toolkit's library. Linking CountedAllocations.cpp
+/// replaces it.
 
 namespace NTest {
 
-/// Blocks asked for since the program started.
+/// The number of blocks allocated since the program started.
 std::size_t AllocationCount();
 
-/// Blocks that are not released yet.
+/// The number of blocks that are not released yet.
 std::size_t LiveBlocks();
 
-/// As long as it lives, the allocation after so many others fails, and all that follow.
+/// While it exists, the allocation after the given number of others fails, and all that follow.
 class VFailingAllocations {
 public:
     explicit VFailingAllocations(std::size_t after);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What building, walking and releasing views allocates, block by block.
+// The allocations of building, walking and releasing views, block by block.
 
 #include <new>
 #include <string>
@@ -21,7 +21,7 @@ namespace {
 using NDIAGKIT::VDiagCommView;
 using NDIAGKIT::VOpBuildDiagCommView;
 
-/// Blocks that `action` asks for.
+/// The number of blocks that `action` allocates.
 template <class Action>
 std::size_t AllocationsOf(Action action) {
     std::size_t const before = AllocationCount();
@@ -31,7 +31,8 @@ std::size_t AllocationsOf(Action action) {
 
 class DiagCommViewAllocationsTest : public testing::Test {
 protected:
-    /// ECU-VARIANT < BASE-VARIANT < FUNCTIONAL-GROUP and PROTOCOL < ECU-SHARED-DATA, with so many own services each.
+    /// ECU-VARIANT < BASE-VARIANT < FUNCTIONAL-GROUP and PROTOCOL < ECU-SHARED-DATA, with the given number of own
+    /// services each.
     void MakeStack(std::size_t services) {
         AddServices(m_shared, L"Shared_", services);
         AddServices(m_protocol, L"Protocol_", services);
@@ -43,7 +44,7 @@ protected:
         m_base.AddParentRef(m_group);
         m_base.AddParentRef(m_protocol);
         m_ecu.AddParentRef(m_base);
-        VDiagCommView const resolved(m_ecu); // what links remember from now on is not the view's
+        VDiagCommView const resolved(m_ecu); // what links remember afterwards does not belong to the view
     }
 
     template <class Layer>
@@ -65,7 +66,8 @@ protected:
 TEST_F(DiagCommViewAllocationsTest, AnEntryTakesAListNodeAndANameNodeAndNothingElse) {
     constexpr std::size_t kServices = 1000;
     MakeStack(kServices);
-    // What the layers show, every view counted as often as the passes build it: the PROTOCOL's and its parent's twice.
+    // The entries of the layers' views, every view counted as often as the passes build it: the PROTOCOL's and its
+    // parent's twice.
     constexpr std::size_t kEntries = (5 + 4 + 3 + 2 + 2 + 1 + 1) * kServices;
     constexpr std::size_t kGrowth = 7 * 20; // bucket arrays of each view's set
     std::size_t const allocations = AllocationsOf([&] { VDiagCommView const view(m_ecu); });
@@ -160,7 +162,7 @@ TEST_F(DiagCommViewAllocationsTest, AFinishedViewHoldsItsListNodesAndTheLastExcl
     EXPECT_EQ(LiveBlocks() - before, view.Count()) << "the names live for the construction alone";
 }
 
-// Who destroys which view. A view takes one block for itself and one for each entry.
+// Which object destroys which view. A view uses one block for itself and one for each entry.
 
 class BuilderLifetimeTest : public DiagCommViewAllocationsTest {
 protected:
@@ -215,7 +217,7 @@ TEST_F(BuilderLifetimeTest, VisitOperationsDestroyNothing) {
     VOpBuildDiagCommView builder;
     VOpBuildDiagCommView earlier;
     builder.VisitEcuSharedData(m_shared);
-    earlier = builder; // keeps hold of the view that the second Visit forgets
+    earlier = builder; // keeps the view that the second Visit forgets
     builder.VisitProtocol(m_protocol);
     EXPECT_EQ(LiveNow(), kSharedView + kProtocolView);
     delete builder.CreateDiagCommView(m_shared);
@@ -241,7 +243,7 @@ TEST_F(BuilderLifetimeTest, CreateDestroysTheRememberedViewBeforeItDispatches) {
     delete view;
 }
 
-// Allocation failure passes through as the standard exception, wherever it strikes, and nothing is lost.
+// Allocation failure is passed on as the standard exception, at any point, and nothing is lost.
 
 TEST_F(DiagCommViewAllocationsTest, AFailedAllocationPropagatesAndLeaksNothing) {
     MakeStack(3);

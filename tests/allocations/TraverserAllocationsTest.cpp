@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What walks allocate: the copies of texts that their hooks receive, and nothing else.
+// The allocations of walks: the copies of texts that their hooks receive, and nothing else.
 
 #include <string>
 
@@ -30,7 +30,7 @@ protected:
     void PreProcessAutMethod(std::wstring&) override { ++m_texts; }
 };
 
-/// Something of everything that walks meet: references, choices, collections, a cycle where the walk is guarded.
+/// Some of everything that walks visit: references, choices, collections, a cycle where the walk is guarded.
 class TraverserAllocationsTest : public testing::Test {
 protected:
     TraverserAllocationsTest() {
@@ -54,7 +54,7 @@ protected:
         m_layer.AddDiagVariable(L"Variable").AddCommRelation().SetDiagCommLink(m_service);
     }
 
-    /// Texts too long to be kept inside a string object, so that each copy takes a block.
+    /// Texts too long to be stored inside a string object, so that each copy uses a block.
     void AddTexts() {
         std::wstring const text(100, L'x');
         NMemory::VMemCompanyData& company = m_layer.AddCompanyData(L"Company");
@@ -63,7 +63,7 @@ protected:
         m_layer.AddAutMethod(text.c_str());
     }
 
-    /// Blocks that a walk asks for, after one that let the links find their targets.
+    /// The number of blocks that a walk allocates, after one that let the links find their targets.
     template <class Traverser>
     std::size_t AllocationsOfAWalk() {
         Traverser(m_layer).TraverseDiagLayer();

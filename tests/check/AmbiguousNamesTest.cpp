@@ -13,8 +13,8 @@ std::string ServiceX(std::string const& id) { return DiagComms(X("DIAG-SERVICE",
 
 class VAmbiguousNamesTest : public VCheckTest {
 protected:
-    /// Two BASE-VARIANTs with these contents, at the lines 2 to 5, and an ECU-VARIANT of both, whose references stand
-    /// at the lines 8 and 9.
+    /// Two BASE-VARIANTs with these contents, at the lines 2 to 5, and an ECU-VARIANT of both, whose references are at
+    /// the lines 8 and 9.
     void CheckParents(std::string const& first, std::string const& second, std::string const& own = "",
                       std::string const& excluded = "") {
         Check(LayerXml("BASE-VARIANT", "A", first) + LayerXml("BASE-VARIANT", "B", second) +

@@ -10,8 +10,8 @@
 #include "reader/LayerXml.h"
 #include "reader/ReaderTest.h"
 
-/// What the tests of the findings share. The documents leave out parts that version 2.0 requires and are of a later
-/// one, so that only the finding that a test is about is reported.
+/// Common to the tests of the findings. The documents are of a later version and leave out parts that version 2.0
+/// requires, so that only the finding under test is reported.
 
 namespace NTest {
 

@@ -53,7 +53,7 @@ TEST_F(VCycleFindingsTest, RelatedDiagComms) {
     Check(LayerXml("BASE-VARIANT", "L", DiagComms(Service("A", Related("B")) + Service("B", Related("A")))));
     EXPECT_EQ(Finding(),
               "5:1 warning related-diag-comm-cycle: DIAG-SERVICE 'A' is related to itself by this reference; "
-              "walks that follow references do not end there: DIAG-SERVICE 'A', DIAG-SERVICE 'B'");
+              "programs that follow references may not terminate: DIAG-SERVICE 'A', DIAG-SERVICE 'B'");
 }
 
 TEST_F(VCycleFindingsTest, DiagCommRelatedToItself) {
@@ -75,7 +75,7 @@ TEST_F(VCycleFindingsTest, TableKeyOfTheTableThatLeadsHere) {
                                 Table("S"))));
     EXPECT_EQ(Finding(),
               "5:1 warning table-row-cycle: STRUCTURE 'S' contains itself through a table by this reference; "
-              "walks that follow references do not end there: STRUCTURE 'S', TABLE 'T', TABLE-ROW 'R'");
+              "programs that follow references may not terminate: STRUCTURE 'S', TABLE 'T', TABLE-ROW 'R'");
 }
 
 TEST_F(VCycleFindingsTest, TableKeyOfTheRowThatLeadsHere) {
@@ -102,15 +102,15 @@ TEST_F(VCycleFindingsTest, TableOfStructuresWithoutTablesIsNone) {
 }
 
 TEST_F(VCycleFindingsTest, TableThatAShortNameClosesInOneLayerOnly) {
-    // The row's structure holds "X", which is a plain DOP in the first variant and leads to the table in the second.
+    // The row's structure contains "X", which is a plain DOP in the first variant and leads to the table in the second.
     std::string const shared = InDictionary(Structure("S", Value("P", "\n<DOP-SNREF SHORT-NAME=\"X\"/>")) + Table("S"));
     std::string const parents = ParentRefs({{"BASE-VARIANT", "B"}});
     Check(LayerXml("BASE-VARIANT", "B", shared) + LayerXml("ECU-VARIANT", "V1", InDictionary(Dops("X")) + parents) +
           LayerXml("ECU-VARIANT", "V2", InDictionary(Structure("X", TableKey("<TABLE-REF ID-REF=\"T\"/>"))) + parents));
     EXPECT_EQ(Diagnostics(), "test.odx:4:1 warning short-name-not-everywhere\ntest.odx:4:1 warning table-row-cycle");
     EXPECT_EQ(Message(1),
-              "STRUCTURE 'X' contains itself through a table by this reference in the layer 'V2'; walks that "
-              "follow references do not end there: STRUCTURE 'X', TABLE 'T', TABLE-ROW 'R', STRUCTURE 'S'");
+              "STRUCTURE 'X' contains itself through a table by this reference in the layer 'V2'; programs that "
+              "follow references may not terminate: STRUCTURE 'X', TABLE 'T', TABLE-ROW 'R', STRUCTURE 'S'");
     std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(Database());
     ASSERT_EQ(cycles.size(), 1U);
     EXPECT_EQ(cycles[0].kind, NCheck::VCycleKind::TableRows);
@@ -158,13 +158,13 @@ TEST_F(VFindCyclesTest, ContainmentByShortNameIsGivenOnceForTheLayersWithIt) {
     m_container.AddEcuVariant(L"V1").AddParentRef(base);
     auto& other = m_container.AddEcuVariant(L"V2");
     other.AddParentRef(base);
-    other.MakeDiagDataDictionarySpec().AddStructure(L"S"); // what the name means there
+    other.MakeDiagDataDictionarySpec().AddStructure(L"S"); // the target of the name there
     std::vector<NCheck::VCycle> const cycles = NCheck::FindCycles(m_database);
     ASSERT_EQ(cycles.size(), 1U);
     EXPECT_EQ(Names(cycles[0]), L"S in B V1");
 }
 
-/// Whether a walk from a structure that leaves out these references comes back to where it is.
+/// Whether a walk from a structure that leaves out these references returns to an element it is inside.
 bool ComesBack(NODX201::VStructure& structure, NODX201::VDiagLayer& layer,
                std::set<NODX201::VLink const*> const& leftOut, std::set<NODX201::VDopBase const*>& above) {
     if (!above.insert(&structure).second) {

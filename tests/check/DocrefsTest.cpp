@@ -6,7 +6,7 @@ namespace {
 
 class VDocrefsTest : public VCheckTest {
 protected:
-    /// A layer "V" of the container "C" that refers to the REQUEST "RQ" of the layer "L" beside it.
+    /// A layer "V" of the container "C" that refers to the REQUEST "RQ" of the layer "L" in the same container.
     void CheckReference(std::string const& attributes) {
         Check(
             LayerXml("BASE-VARIANT", "L", Request("RQ", "")) +

@@ -14,7 +14,7 @@ namespace {
 /// An entry of docs/diagnostics.md.
 struct VEntry {
     std::string severity;
-    bool hasMend = false;
+    bool hasFix = false;
     std::string place; ///< what the example stands in; "" for a call of the program
     std::string example;
 };
@@ -38,15 +38,16 @@ std::map<std::string, VEntry> ReadEntries() {
         } else if (entry != nullptr && StartsWith(line, "**")) {
             entry->severity = StartsWith(line, "**Error.**")     ? "error"
                               : StartsWith(line, "**Warning.**") ? "warning"
+                              : StartsWith(line, "**Note.**")    ? "note"
                                                                  : "";
-        } else if (entry != nullptr && StartsWith(line, "Mend: ")) {
-            entry->hasMend = true;
+        } else if (entry != nullptr && StartsWith(line, "Fix: ")) {
+            entry->hasFix = true;
         }
     }
     return entries;
 }
 
-/// What the example stands in, by the word that the documentation has for it.
+/// The element around the example, by the word for it in the documentation.
 std::string Wrapped(VEntry const& entry) {
     static std::map<std::string, std::string (*)(std::string_view, std::string_view)> const wrappers{
         {"DIAG-LAYER-CONTAINER",
@@ -67,7 +68,7 @@ std::string BaseVariantIn(std::string const& container) {
 
 class VDocumentationTest : public VCheckTest {
 protected:
-    /// The codes of what is found, with their severities.
+    /// The codes of the findings, with their severities.
     std::set<std::string> Found() const {
         std::set<std::string> found;
         for (NReader::VDiagnostic const& diagnostic : m_result.diagnostics) {
@@ -76,7 +77,7 @@ protected:
         return found;
     }
 
-    /// Makes what a document alone cannot show; false for a code that a document can.
+    /// Makes a case that a document alone cannot show; false for a code that a document can show.
     bool ReadSpecial(std::string const& code) {
         std::string const good = Layer("");
         if (code == "empty") {
@@ -127,14 +128,14 @@ protected:
     }
 };
 
-TEST_F(VDocumentationTest, EveryCodeHasAnEntryWithItsSeverityAndMend) {
+TEST_F(VDocumentationTest, EveryCodeHasAnEntryWithItsSeverityAndFix) {
     std::map<std::string, VEntry> const entries = ReadEntries();
     EXPECT_EQ(entries.size(), NCheck::Codes().size());
     for (NCheck::VCode const& code : NCheck::Codes()) {
         auto const entry = entries.find(code.code);
         ASSERT_NE(entry, entries.end()) << code.code;
         EXPECT_EQ(entry->second.severity, SeverityText(code.severity)) << code.code;
-        EXPECT_TRUE(entry->second.hasMend) << code.code;
+        EXPECT_TRUE(entry->second.hasFix) << code.code;
         EXPECT_NE(entry->second.example, "") << code.code;
     }
 }
@@ -149,7 +150,7 @@ TEST_F(VDocumentationTest, EveryExampleGivesItsCodeAndNoOther) {
         }
         std::set<std::string> found = Found();
         if (code == "contradicting-type") {
-            found.erase("missing-child error"); // what the type that is written has, and what the example leaves out
+            found.erase("missing-child error"); // required by the type that is written, and left out of the example
         }
         EXPECT_EQ(found, std::set<std::string>{code + ' ' + entry.severity}) << Diagnostics();
     }

@@ -27,7 +27,7 @@ TEST_F(VLayerReferencesTest, SameParentTwice) {
 }
 
 TEST_F(VLayerReferencesTest, SameParentTwiceBringsWhatOneOfThemExcludes) {
-    // What the message says is what the view does.
+    // The message describes what the view does.
     Check(LayerXml("BASE-VARIANT", "B", DiagComms(Service("S"))) +
           LayerXml("ECU-VARIANT", "V", ParentRefs({{"BASE-VARIANT", "B", Excluded("S")}, {"BASE-VARIANT", "B"}})) +
           LayerXml("ECU-VARIANT", "W", ParentRefs({{"BASE-VARIANT", "B", Excluded("S")}})));
@@ -63,15 +63,16 @@ TEST_F(VLayerReferencesTest, ImportAndParentAreNotTheSameTwice) {
 TEST_F(VLayerReferencesTest, LayerThatImportsItself) {
     Check(LayerXml("BASE-VARIANT", "B", ImportRefs({"B"})));
     EXPECT_EQ(Finding(), "4:1 warning import-cycle: BASE-VARIANT 'B' imports itself by this reference; programs that "
-                         "follow imports do not end there");
+                         "follow imports may not terminate");
 }
 
 TEST_F(VLayerReferencesTest, ImportsInARing) {
     Check(LayerXml("ECU-SHARED-DATA", "E", ImportRefs({"F"})) + LayerXml("ECU-SHARED-DATA", "F", ImportRefs({"G"})) +
           LayerXml("ECU-SHARED-DATA", "G", ImportRefs({"E"})));
-    EXPECT_EQ(Finding(), "10:1 warning import-cycle: ECU-SHARED-DATA 'E' imports itself by this reference, in the ring "
-                         "of ECU-SHARED-DATA 'E', ECU-SHARED-DATA 'F', ECU-SHARED-DATA 'G'; programs that follow "
-                         "imports do not end there");
+    EXPECT_EQ(Finding(),
+              "10:1 warning import-cycle: ECU-SHARED-DATA 'E' imports itself by this reference, in the cycle "
+              "of ECU-SHARED-DATA 'E', ECU-SHARED-DATA 'F', ECU-SHARED-DATA 'G'; programs that follow "
+              "imports may not terminate");
 }
 
 TEST_F(VLayerReferencesTest, ImportsThatMeetAreNoRing) {

@@ -51,7 +51,7 @@ TEST_F(VOrderTest, TheSameOnEveryRun) {
         return text;
     };
     std::string const first = run();
-    NReader::VReadResult const kept = std::move(m_result); // so that the next one lies elsewhere in memory
+    NReader::VReadResult const kept = std::move(m_result); // so that the next one is elsewhere in memory
     EXPECT_EQ(run(), first);
 }
 
@@ -69,7 +69,7 @@ TEST_F(VOrderTest, FindingsBeyondTheLimitAreCounted) {
     std::string const variant = "<ECU-VARIANT ID=\"1\"><SHORT-NAME>a-1</SHORT-NAME></ECU-VARIANT>\n";
     m_options.maxDiagnostics = 2;
     Check("<ECU-VARIANTS>\n" + Repeated(variant, 4) + "</ECU-VARIANTS>");
-    // Of reading there are three errors; of the names as many, and four warnings.
+    // Reading gives three errors; the names give as many, and four warnings.
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning short-name-characters\ntest.odx:4:1 error duplicate-id\n"
                              "test.odx:4:1 warning short-name-characters\ntest.odx:4:1 error duplicate-short-name\n"
                              "test.odx:5:1 error duplicate-id\ntest.odx:5:1 error duplicate-short-name\n"
@@ -77,7 +77,7 @@ TEST_F(VOrderTest, FindingsBeyondTheLimitAreCounted) {
 }
 
 TEST_F(VOrderTest, FindingsBeyondTheLimitAreTheLastOnesOfTheDocument) {
-    // Many lists, so that whatever walks over them by address comes by in another order.
+    // Many lists, so that anything that walks over them by address uses another order.
     constexpr int kLists = 200;
     std::string services;
     for (int index = 0; index < kLists; ++index) {

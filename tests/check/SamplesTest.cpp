@@ -27,6 +27,15 @@ TEST_F(VCheckSamplesTest, SomersaultHasNoErrors) {
     std::string const findings = FindingsOf(std::string(DIAGKIT_SHARED_SAMPLES) + "/somersault.pdx");
     EXPECT_EQ(findings.find(": error: "), std::string::npos) << findings;
 }
+
+TEST_F(VCheckSamplesTest, ThreeConversionsOfFlxc1000AreBetweenTypesThatDoNotFit) {
+    std::string const findings = FindingsOf(std::string(DIAGKIT_SHARED_SAMPLES) + "/FLXC1000.pdx");
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = findings.find("[conversion-types]", at)) != std::string::npos; ++at) {
+        ++count;
+    }
+    EXPECT_EQ(count, 3U) << findings;
+}
 #endif
 
 } // namespace

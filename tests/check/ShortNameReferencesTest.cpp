@@ -20,7 +20,7 @@ protected:
               LayerXml("ECU-VARIANT", "V2", second + parents));
     }
 
-    /// A layer with this content besides a service "S" with the output parameter "P".
+    /// A layer with this content in addition to a service "S" with the output parameter "P".
     void CheckLayer(std::string const& content) {
         Check(LayerXml("ECU-VARIANT", "V",
                        InDictionary(Dops("D")) + WithRequest(Value("P", "<DOP-SNREF SHORT-NAME=\"D\"/>")) + content));
@@ -64,6 +64,30 @@ TEST_F(VShortNameReferencesTest, OfADopAreTriedWhereItIsVisible) {
     EXPECT_EQ(Finding(),
               "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
               "in the layer 'B'; it is in the other layers that see the reference");
+}
+
+/// An ECU-SHARED-DATA "L" from which no layer inherits, with a STRUCTURE "T".
+std::string Library() {
+    return LayerXml("ECU-SHARED-DATA", "L", InDictionary(Structure("T", Value("P", DopSnref("X")))));
+}
+
+TEST_F(VShortNameReferencesTest, OfADopAreTriedWhereReferencesByIdLeadToIt) {
+    Check(Library() +
+          LayerXml("BASE-VARIANT", "B", InDictionary(Dops("X")) + WithRequest(Value("Q", "<DOP-REF ID-REF=\"T\"/>"))) +
+          LayerXml("ECU-VARIANT", "V", DiagComms(Service("R", "<REQUEST-REF ID-REF=\"RQ\"/>"))));
+    EXPECT_EQ(Finding(),
+              "4:1 warning short-name-not-everywhere: DOP-SNREF names 'X', but no DOP of that name is visible "
+              "in the layers 'L', 'V'; it is in the other layers that see the reference");
+}
+
+TEST_F(VShortNameReferencesTest, OfADopToWhichMuchLeadsAreToldOnce) {
+    std::string const both = Value("Q", "<DOP-REF ID-REF=\"T\"/>") + Value("R", "<DOP-REF ID-REF=\"U\"/>");
+    std::string const dictionary = InDictionary(
+        "<STRUCTURES>" + Xml("STRUCTURE", "U", "<PARAMS>" + Value("S", "<DOP-REF ID-REF=\"T\"/>") + "</PARAMS>") +
+        "</STRUCTURES>");
+    Check(Library() + LayerXml("BASE-VARIANT", "B", dictionary + WithRequest(both)));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: DOP-SNREF names 'X', but no DOP of that name is visible in "
+                         "the layers 'L', 'B'");
 }
 
 TEST_F(VShortNameReferencesTest, OfAVariableAreTriedWhereItIsVisible) {
@@ -400,6 +424,18 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsThatDifferentServicesLeadTo) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
+TEST_F(VShortNameReferencesTest, OfEnvDataDescsOfALibraryToAParameterOfTheServicesThatLeadThere) {
+    auto const layers = [](std::string const& param) {
+        return LayerXml("ECU-SHARED-DATA", "L", InDictionary(EnvDataDesc(param))) +
+               LayerXml("BASE-VARIANT", "B", Leading({"E"}));
+    };
+    Check(layers("P1"));
+    EXPECT_EQ(Diagnostics(), "");
+    Check(layers("P2"));
+    EXPECT_EQ(Finding(), "4:1 error unresolved-short-name: PARAM-SNREF names 'P2', but no DIAG-SERVICE that leads to "
+                         "it has an output parameter of that name in the layer 'B'");
+}
+
 TEST_F(VShortNameReferencesTest, OfEnvDataDescsInsideATableThatLeadsBackToItself) {
     std::string const table = "<TABLES>" +
                               Xml("TABLE", "TB", Xml("TABLE-ROW", "R", "<KEY>1</KEY>\n<STRUCTURE-REF ID-REF=\"T\"/>")) +
@@ -430,7 +466,7 @@ TEST_F(VShortNameReferencesTest, OfEnvDataDescsToWhichNothingLeadsAreLeftAlone) 
     EXPECT_EQ(Diagnostics(), "");
 }
 
-/// A MULTIPLE-ECU-JOB-SPEC whose job runs in this layer and gives a structure with a parameter of this DOP.
+/// A MULTIPLE-ECU-JOB-SPEC whose job runs in this layer and returns a structure with a parameter of this DOP.
 std::string JobSpec(std::string const& dop, std::string const& layer, std::string const& param = "Out") {
     std::string const job =
         Xml("MULTIPLE-ECU-JOB", "MJ",

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Tests of `diagkit check` in a CI job: what counts, what was there before, and answers that are whole.
+"""Tests of `diagkit check` in a CI job: what counts, what was there before, and complete answers.
 
     check_tests.py PROGRAM...
 """
@@ -16,7 +16,7 @@ FILES = ["faulty.odx-d", "warned.odx-d"]
 
 
 def findings(*arguments):
-    """Status, and the codes of what is found in the files."""
+    """Status, and the codes of the findings in the files."""
     done = run("check", *FILES, "--json", *arguments)
     return done.returncode, [finding["code"] for finding in json.loads(done.stdout)["diagnostics"]]
 
@@ -95,7 +95,7 @@ class Baselines(unittest.TestCase):
         for content in ("", "{", "[]", "{}", "7", '{"diagnostics": 3}', '{"diagnostics": {}}', '{"diagnostics": null}', '{"runs": []}', '{"diagnostics": [{}]}'):
             done = run("check", *FILES, "--baseline", self.write("none", content))
             self.assertEqual((done.returncode, done.stdout), (3, ""), content)
-            self.assertRegex(done.stderr, r"\Adiagkit: '.*none' is no baseline: .*\n\Z")
+            self.assertRegex(done.stderr, r"\Adiagkit: '.*none' is not a baseline: .*\n\Z")
         for path in (self.folder / "absent", self.folder):
             done = run("check", *FILES, "--baseline", str(path))
             self.assertEqual((done.returncode, done.stdout), (3, ""))

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""See that two builds of diagkit, of different platforms, give the same answers, byte for byte.
+"""Check that two builds of diagkit, for different platforms, give the same output, byte for byte.
 
     compare_programs.py REFERENCE -- PROGRAM...
 
-Both are asked about the sample, the databases of the other tests and, where they are present, those that lie beside the
-project: each command about all of a database, then those that take a layer about every layer; about the sample also
-what takes something else.
+Both are called for the sample, the databases of the other tests and, where they are present, those next to the project:
+each command for all of a database, then those that take a layer for every layer; for the sample also the commands that
+take something else.
 """
 
 import concurrent.futures
@@ -71,7 +71,7 @@ def answer(program, call):
 
 
 def second_chance(program, call, expected, actual):
-    """Once in thousands of calls Wine fails itself, at the start or at the end of the program."""
+    """Once in thousands of calls Wine itself fails, at the start or at the end of the program."""
     return actual if actual == expected else answer(program, call)
 
 
@@ -85,7 +85,7 @@ def calls_about(files, reference):
 
 
 def calls_about_sample(reference):
-    """Beside the above: FLASHs, containers, names, the parameters of every service and job, and what takes no file."""
+    """In addition: FLASHs, containers, names, the parameters of every service and job, and commands without files."""
     view = json.loads(answer(reference, ["view", "diag-comms", "--json", SAMPLE, "--layer", "FrontWiper"])[1])
     names = [entry["short_name"] for entry in view["entries"]]
     params = [["view", kind, "--layer", "FrontWiper", "--diag-comm", name]

@@ -19,7 +19,7 @@ from program import DATA, SAMPLE, main, run
 
 class Traversing(unittest.TestCase):
     def calls_of(self, *arguments):
-        """The hook calls of a walk, each held against those around it."""
+        """The hook calls of a walk, each checked against those around it."""
         done = run("traverse", "--json", *arguments)
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         calls = [json.loads(line) for line in done.stdout.splitlines()]
@@ -67,7 +67,7 @@ class Traversing(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             path = self.write_related(folder, [range(count)] * count)
             calls = self.calls_of("--quiet", path, "--layer", "P")
-        # Ways of so many steps without a repetition; at the end of each, as many references lead back into it.
+        # Ways of n steps without a repetition; at the end of each, as many references lead back into it.
         ways = {steps: math.perm(count, steps) for steps in range(1, count + 1)}
         events = collections.Counter(call["event"] for call in calls)
         self.assertEqual(events["pre"], 1 + sum(ways.values()))
@@ -78,7 +78,7 @@ class Traversing(unittest.TestCase):
             path = self.write_related(folder, [range(12)] * 12)
             done = run("traverse", "--json", "--quiet", path, "--layer", "P", "--max-visits", "1000")
         self.assertEqual(done.returncode, 3)
-        self.assertIn("ends after 1000 visits", done.stderr)
+        self.assertIn("stopped after 1000 visits", done.stderr)
         self.assertEqual(done.stdout.count('"event":"pre"'), 1000)
 
     def test_lines_stay_short_however_deep_their_elements_are(self):
@@ -86,7 +86,7 @@ class Traversing(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             path = self.write_related(folder, [[number + 1] for number in range(count - 1)] + [[]])
             lines = run("traverse", "--quiet", path, "--layer", "P").stdout.splitlines()
-        # The layer, the first service at depth 1, the one that it names at depth 2, and so on.
+        # The layer, the first service at depth 1, the one that it refers to at depth 2, and so on.
         self.assertEqual(lines[1:3], ["  DIAG-SERVICE S0", "    DIAG-SERVICE S1"])
         self.assertEqual(lines[100], 200 * " " + "DIAG-SERVICE S99")
         self.assertEqual(lines[101], 200 * " " + "[101] DIAG-SERVICE S100")
@@ -98,14 +98,14 @@ class Traversing(unittest.TestCase):
             path = self.write_related(folder, [[1]] + [[(number + 1) % count] for number in range(1, count)])
             done = run("traverse", "--json", "--quiet", path, "--layer", "P", "--max-visits", "20000")
         self.assertEqual(done.returncode, 3)
-        self.assertIn("ends after 20000 visits", done.stderr)
+        self.assertIn("stopped after 20000 visits", done.stderr)
         depths = [json.loads(line)["depth"] for line in done.stdout.splitlines()]
         self.assertEqual(max(depths), 1999)
 
 
 class DeepNesting(unittest.TestCase):
     def ask(self, depth):
-        """Looks for a parameter behind so many structures, each inside the one before."""
+        """Looks for a parameter below n structures, each inside the previous one."""
         structures = "".join(
             f'<STRUCTURE ID="S{number}"><SHORT-NAME>S{number}</SHORT-NAME><PARAMS><PARAM xsi:type="VALUE">'
             f'<SHORT-NAME>P{number}</SHORT-NAME><DOP-REF ID-REF="S{number + 1}"/></PARAM></PARAMS></STRUCTURE>'

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Random small databases, changed at random: `diff` answers what a plain comparison of what each layer sees answers.
+"""Random small databases, changed at random: `diff` gives the result of a plain comparison of each layer's view.
 
     diff_random_tests.py PROGRAM...
 
-The comparison here knows nothing of the program: it makes every view by walking to the parents, unfolds every entry as
-a tree, and compares trees.
+The comparison here is independent of the program: it makes every view by walking to the parents, expands every entry
+to a tree, and compares trees.
 """
 
 import copy
@@ -172,7 +172,7 @@ class Maker:
 
 
 def in_order(layers):
-    """As they stand in a document; names are unique, so that each layer is one."""
+    """In document order; names are unique, so that each layer is distinct."""
     seen, unique = set(), []
     for layer in layers:
         if layer["name"] not in seen:
@@ -220,7 +220,7 @@ def xml_of_dop(dop, ids):
 
 
 def xml_of_layer(layer, prefix):
-    # A reference by ID names a DOP of the own layer, so it is looked for there alone.
+    # A reference by ID refers to a DOP of the own layer, so it is looked for only there.
     ids = f"{prefix}.{layer['name']}."
     comms = requests = responses = ""
     for number, comm in enumerate(layer["diag-comms"]):
@@ -319,7 +319,7 @@ class Database:
             firsts.setdefault((entry["name"], entry["protocol"]), (owner, entry))
         return list(firsts.values())
 
-    # Trees: a part is (name or None, tree), a text, or None for what leads nowhere.
+    # Trees: a part is (name or None, tree), a text, or None for a reference without a target.
 
     def tree(self, entry, owner, seen_from):
         tag = entry["tag"]
@@ -344,7 +344,7 @@ class Database:
         before = None
         for param in entry.get("params", ()):
             content = self.param(param, owner, seen_from)
-            if before is not None:  # no PARAM has a BYTE-POSITION, so each stands where the one before ends
+            if before is not None:  # no PARAM has a BYTE-POSITION, so each starts where the previous one ends
                 content["@AFTER"] = before
             before = param["name"]
             parts[f"PARAM[{param['name']}]"] = (param["name"], ("PARAM", content))
@@ -400,7 +400,7 @@ def differences(old, new, path):
 
 
 def told(part):
-    """A part that came or went; a reference that leads nowhere has the name that it gives, or is just there."""
+    """An added or removed part; a reference without a target is shown by the name in it, or without one."""
     text = text_of(part)
     return (text[1:] or "DOP") if text.startswith("?") else text
 

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""A database that others wrote against a copy with edits: each is told once, with the layers that see it.
+"""A database of other authors compared with an edited copy: each edit is reported once, with the layers that see it.
 
     diff_shared_tests.py FOLDER PROGRAM...
 
-FOLDER holds somersault.pdx; it is no part of the project.
+FOLDER contains somersault.pdx; it is not part of the project.
 """
 
 import pathlib
@@ -64,7 +64,7 @@ class Somersault(unittest.TestCase):
                 data = source.read(member)
                 if member == DOCUMENT:
                     text = data.decode("utf-8")
-                    # No trouble codes are in it, so both sides get one.
+                    # It has no trouble codes, so one is added on both sides.
                     start = text.index("<DIAG-DATA-DICTIONARY-SPEC>", text.index("<BASE-VARIANT "))
                     text = replaced(text, "<DIAG-DATA-DICTIONARY-SPEC>", "<DIAG-DATA-DICTIONARY-SPEC>" + DTC_DOP,
                                     text[start - 40:start])

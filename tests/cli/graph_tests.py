@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Pictures of inheritance that Graphviz lays out, and what is said when it cannot.
+"""Pictures of inheritance drawn by Graphviz, and the messages when it fails.
 
     graph_tests.py PROGRAM...
 
-Graphviz is what a folder of PATH has under the name `dot`, so most tests bring a program of that name themselves.
+Graphviz is the program `dot` in a folder of PATH, so most tests provide a program of that name themselves.
 """
 
 import os
@@ -19,9 +19,9 @@ import xml.etree.ElementTree
 from program import DATA, IS_POSIX, SAMPLE, is_for_windows, main, run
 
 SVG = "{http://www.w3.org/2000/svg}"
-MISSING = ("diagkit: an SVG takes the program 'dot' of Graphviz, which no folder of PATH has; install it, or use --format "
+MISSING = ("diagkit: SVG output requires the program 'dot' of Graphviz, which is not in PATH; install it, or use --format "
            "dot or --format mermaid\n")
-LONGEST = 60  # seconds; who waits for the other waits for ever
+LONGEST = 60  # seconds; a deadlock would last for ever
 
 
 def document(layers):
@@ -137,8 +137,8 @@ class ProgramsCalledDot(Pictures):
     def test_one_that_fails_leaves_nothing_on_standard_output(self):
         done = self.graph("import sys; print('half'); sys.stderr.write('no \\x1b[31mfonts\\nmore\\n'); sys.exit(1)")
         self.assertEqual((done.returncode, done.stdout), (3, ""))
-        self.assertEqual(done.stderr, "diagkit: the program 'dot' of Graphviz failed: no \uFFFD[31mfonts; --format dot gives "
-                                      "what it was to lay out\n")
+        self.assertEqual(done.stderr, "diagkit: the program 'dot' of Graphviz failed: no \uFFFD[31mfonts; --format dot prints "
+                                      "its input\n")
 
     def test_one_that_a_signal_ends_has_failed(self):
         done = self.graph("import os; os.kill(os.getpid(), 9)")

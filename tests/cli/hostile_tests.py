@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Input made to fill a machine: diagkit ends in time, within little memory, with one diagnostic that names the limit.
+"""Input made to exhaust a machine: diagkit ends in time, with little memory and one diagnostic that names the limit.
 
     hostile_tests.py PROGRAM...
 
-With DIAGKIT_SANITIZED in the environment memory is not measured: sanitizers take some of their own.
+With DIAGKIT_SANITIZED in the environment memory is not measured: sanitizers use additional memory.
 """
 
 import io
@@ -22,12 +22,12 @@ from program import IS_POSIX, PROGRAM, main
 
 IS_MEASURED = IS_POSIX and "DIAGKIT_SANITIZED" not in os.environ
 MEBIBYTE = 1 << 20
-LONGEST = 60  # seconds; what is not limited takes many times that
+LONGEST = 60  # seconds; without the limits it takes many times that
 GOOD = b'<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME></DIAG-LAYER-CONTAINER></ODX>'
 HEAD, TAIL = GOOD[:-len("</DIAG-LAYER-CONTAINER></ODX>")], GOOD[-len("</DIAG-LAYER-CONTAINER></ODX>"):]
 
 
-# Runs calls, one a line, in a process that stays small: what a process has taken counts for those that it starts.
+# Runs calls, one per line, in a process that stays small: the memory of a process counts for those that it starts.
 RUNNER = """
 import json, os, subprocess, sys, tempfile, time
 for line in sys.stdin:
@@ -47,8 +47,8 @@ for line in sys.stdin:
 
 
 class Call:
-    """What `diagkit info`, or another question, with these options came to: its status, diagnostics, and the most
-    memory that it had."""
+    """The result of `diagkit info`, or of another command, with these options: its status, diagnostics and peak
+    memory."""
 
     runner = None
 
@@ -85,7 +85,7 @@ class Hostile(unittest.TestCase):
         return path
 
     def pack(self, **pieces):
-        """A package with a member of each name; one is the same piece so many times over."""
+        """A package with a member of each name; each consists of the same piece, repeated."""
         path = self.folder / "attack.pdx"
         with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as package:
             for name, (head, piece, times, tail) in pieces.items():
@@ -97,7 +97,7 @@ class Hostile(unittest.TestCase):
         return path
 
     def expect(self, call, status, diagnostics, memory=48 * MEBIBYTE):
-        """Holds a call against the ends of its diagnostics, and what it may take beyond the least."""
+        """Checks a call against the ends of its diagnostics, and its memory beyond the minimum against the limit."""
         self.assertEqual(call.status, status, call.lines)
         self.assertEqual(len(call.lines), len(diagnostics), call.lines)
         for line, diagnostic in zip(call.lines, diagnostics):
@@ -220,8 +220,8 @@ class Hostile(unittest.TestCase):
         call = Call(path, "--max-diagnostics", "1000")
         self.assertEqual((call.status, len(call.lines)), (0, 1001), call.lines[-1])
         self.assertTrue(call.lines[-1].endswith(
-            ": warning: left out are 1999000 diagnostics, 0 of them errors, the first here: there are more errors or "
-            "more warnings than 1000; --max-diagnostics allows more [too-many-diagnostics]"), call.lines[-1])
+            ": warning: left out are 1999000 diagnostics, 0 of them errors, the first here: there are more errors, "
+            "warnings or notes than 1000; --max-diagnostics allows more [too-many-diagnostics]"), call.lines[-1])
         self.assertLess(call.seconds, LONGEST)
         if IS_MEASURED:
             self.assertLess(call.memory - self.least, 48 * MEBIBYTE)
@@ -229,7 +229,7 @@ class Hostile(unittest.TestCase):
     def test_a_file_that_is_too_large_is_not_begun(self):
         path = self.folder / "a.odx"
         with path.open("wb") as stream:
-            stream.truncate(5 << 30)  # nothing but a size
+            stream.truncate(5 << 30)  # only a size, no data
         self.expect(Call(path), 3, ["a.odx: error: the file is larger than 4294967296 bytes; --max-file-size allows "
                                     "more [too-large]"])
 
@@ -242,7 +242,7 @@ class Hostile(unittest.TestCase):
     # Entities
 
     def explain(self, layers):
-        """Asks for Read in V0, of BASE-VARIANTs whose parents these are, which no pass takes; Top alone has it."""
+        """Explains Read in V0, of BASE-VARIANTs with these parents, which no pass takes; only Top has it."""
         def layer(name, parents):
             refs = "".join(f'<PARENT-REF ID-REF="{parent}" xsi:type="BASE-VARIANT-REF"/>' for parent in parents)
             comms = '<DIAG-SERVICE ID="Read"><SHORT-NAME>Read</SHORT-NAME></DIAG-SERVICE>' if name == "Top" else ""
@@ -284,7 +284,7 @@ class Hostile(unittest.TestCase):
 
     @unittest.skipUnless(IS_POSIX, "needs pipes that have names")
     def test_files_that_entities_name_are_not_opened(self):
-        os.mkfifo(self.folder / "secret")  # who opens it waits for ever
+        os.mkfifo(self.folder / "secret")  # opening it would block for ever
         for kind in (b'ENTITY e SYSTEM "secret"', b'ENTITY % e SYSTEM "secret"> %e; <!ENTITY f "f"'):
             path = self.write("a.odx", b"<!DOCTYPE ODX [<!", kind, b">]><ODX>&e;</ODX>")
             self.expect(Call(path), 3, [": error: a document type declaration is not ODX; remove it [document-type]"])

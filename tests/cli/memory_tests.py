@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Memory that runs out, wherever it does: diagkit ends with status 3 and says so, whatever it was about to answer.
+"""Memory runs out at any point: diagkit ends with status 3 and a message, whatever the call.
 
     memory_tests.py PROGRAM...
 
-Every command runs in every format under limits that fall from what it needs to what it takes to start a program.
+Every command runs in every format under limits that decrease from what it needs to the minimum for starting a program.
 """
 
 import os
@@ -15,13 +15,13 @@ import unittest
 from program import IS_POSIX, SAMPLE, is_for_windows, main, run
 
 KIBIBYTE = 1024
-MOST = 64 << 20  # more than any of these calls takes
+MOST = 64 << 20  # more than any of these calls needs
 STEPS = 8
 MESSAGE = "diagkit: out of memory\n"
 
 
 def run_within(limit, *arguments):
-    """The call with no more than so many bytes of addresses."""
+    """The call with the given limit of address space in bytes."""
     import resource
 
     def set_limits():
@@ -32,7 +32,7 @@ def run_within(limit, *arguments):
 
 
 def least_limit(suffices, low, high):
-    """The least limit that suffices, nearly; `high` does, `low` need not."""
+    """Approximately the lowest sufficient limit; `high` is sufficient, `low` need not be."""
     while high - low > 64 * KIBIBYTE:
         middle = (low + high) // 2
         if suffices(middle):
@@ -71,11 +71,11 @@ class MemoryThatRunsOut(unittest.TestCase):
             "faults": document("<a/>\n" * 4000, "2.0.1"),
         }.items():
             (cls.folder / f"{name}.odx-d").write_text(text, encoding="utf-8")
-        # Below it the system cannot even load the program and its libraries.
+        # Below it the system cannot load the program and its libraries.
         cls.floor = least_limit(lambda limit: run_within(limit, "--version").returncode in (0, 3), 0, MOST)
 
     def see(self, *arguments, steps=STEPS, window=MOST):
-        """Holds what the call comes to with up to `window` bytes less than it needs against its full answer."""
+        """Compares the result of the call, with up to `window` bytes less than it needs, with its full output."""
         def is_like_full(limit):
             done = run_within(limit, *arguments)
             return (done.returncode, done.stdout, done.stderr) == (full.returncode, full.stdout, full.stderr)

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Tests of diagkit that need more than a call and its answer: help, long lists, full disks, folders, terminals.
+"""Tests of diagkit that need more than a call and its output: help, long lists, full disks, folders, terminals.
 
     process_tests.py PROGRAM...
 """
@@ -37,6 +37,17 @@ class HelpAndVersion(unittest.TestCase):
             self.assertEqual((done.returncode, done.stderr), (0, ""))
             for option in ("--json", "--strict", "--quiet", "--help", "--version"):
                 self.assertIn(option, done.stdout)
+
+    def test_help_is_at_most_80_columns_wide(self):
+        commands = re.findall(r"(?m)^  ([a-z]+)  ", run("--help").stdout)
+        self.assertGreaterEqual(len(commands), 12)
+        for call in ([], *([command] for command in commands)):
+            for line in run(*call, "--help").stdout.splitlines():
+                self.assertLessEqual(len(line), 80, line)
+
+    def test_help_names_what_is_required(self):
+        self.assertIn("\nUsage: diagkit traverse FILE... --layer L [OPTIONS]\n", run("traverse", "--help").stdout)
+        self.assertIn("\nUsage: diagkit enums [TABLE] [LITERAL] [OPTIONS]\n", run("enums", "--help").stdout)
 
     def test_help_is_a_word_as_well(self):
         self.assertEqual(run("help").stdout, run("--help").stdout)
@@ -79,9 +90,9 @@ class HelpAndVersion(unittest.TestCase):
             ("text-size", "SIZE", "256M"),
         )
         for command in ("info", "layers", "view", "resolve", "traverse", "oem", "check", "diff"):
-            text = run(command, "--help").stdout
+            text = " ".join(run(command, "--help").stdout.split())
             for name, kind, default in limits:
-                self.assertRegex(text, rf"(?m)^  --max-{name} {kind}(={default}| \[{default}\]) ")
+                self.assertRegex(text, rf"--max-{name} {kind} [^(]*\(default: {default}\)")
         self.assertNotIn("--max-file-size", run("enums", "--help").stdout)
 
     def test_counts_are_whole_numbers_without_a_sign(self):
@@ -223,7 +234,7 @@ class Writing(unittest.TestCase):
     )
 
     def answering_calls(self):
-        """The calls with an answer, and those as JSON; --quiet, which must not silence what is wrong with writing."""
+        """The calls with output, and those as JSON; with --quiet, which must not silence errors of writing."""
         for call in self.CALLS:
             if call[-1].startswith("--"):
                 yield call
@@ -264,7 +275,7 @@ class Writing(unittest.TestCase):
             call = ("traverse", "--json", "gates.odx-d", "--layer", "Door")
             done = run(*call, stdout=inner, restore_signals=keeps_signal)
             os.close(inner)
-            if keeps_signal and not is_for_windows():  # as of every program in a pipeline; Windows has no signal
+            if keeps_signal and not is_for_windows():  # as for every program in a pipeline; Windows has no signal
                 self.assertEqual((done.returncode, done.stderr), (-signal.SIGPIPE, ""))
             else:  # also where the signal is ignored, as the interpreter of these tests does
                 self.assertEqual(done.returncode, 3)
@@ -285,7 +296,7 @@ class Writing(unittest.TestCase):
 
 
 class Steering(unittest.TestCase):
-    """Characters that steer a terminal or turn the direction of text."""
+    """Characters that control a terminal or change the direction of text."""
 
     TURNING = "\u061c\u200e\u200f\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069"
     CONTROLS = "\x1b\x7f\x80\x85\x9b\x9f"
@@ -293,7 +304,7 @@ class Steering(unittest.TestCase):
     ALL = CONTROLS + SEPARATORS + TURNING
 
     def ask_for(self, name):
-        """The raw name of an answer that nothing of the name is there, and the whole answer."""
+        """The raw name in a message that nothing of the name is there, and the whole message."""
         done = run("resolve", "dop", name, "signals.odx-d", "--layer", "LampLeft", "--json", "--quiet")
         self.assertEqual(done.returncode, 1)
         return re.search(r'"name": "(.*)"', done.stdout)[1], json.loads(done.stdout)
@@ -343,7 +354,7 @@ class Steering(unittest.TestCase):
     def test_json_replaces_bytes_that_are_not_utf8(self):
         if is_for_windows():
             self.skipTest("arguments are UTF-16")
-        # Lone and missing continuations, too long spellings, surrogates, values beyond Unicode.
+        # Lone and missing continuations, overlong forms, surrogates, values beyond Unicode.
         pieces = (b"\x80", b"\xbf\xbf", b"\xc3", b"\xe2\x82", b"\xe2\x28\xa1", b"\xf0\x9f\x98", b"\xf0\x28\x8c\xbc",
                   b"\xc0\xaf", b"\xc1\xbf", b"\xe0\x9f\x80", b"\xf0\x8f\xbf\xbf", b"\xed\xa0\x80", b"\xf4\x90\x80\x80",
                   b"\xf5\x80", b"\xff")
@@ -379,15 +390,15 @@ class OemOfEach(unittest.TestCase):
     def test_what_strict_does_not_pass_is_said_of_the_file(self):
         done = run("oem", "--each", "--strict", "doors.odx-d", "gates.odx-d")
         self.assertEqual(done.returncode, 3)
-        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not pass$")
+        self.assertRegex(done.stderr, r"(?m)^diagkit: doors\.odx-d: \d+ errors?, which --strict does not allow$")
         self.assertNotIn("diagkit: gates.odx-d", done.stderr)
         alone = run("oem", "--strict", "doors.odx-d")
-        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not pass$")
+        self.assertRegex(alone.stderr, r"(?m)^diagkit: \d+ errors?, which --strict does not allow$")
 
     def test_a_folder_without_odx_is_named(self):
         with tempfile.TemporaryDirectory() as folder:
             (pathlib.Path(folder) / "notes.txt").write_text("no ODX", encoding="utf-8")
-            reason = "the folder holds no ODX document or package"
+            reason = "the folder contains no ODX document or package"
             done = run("oem", "--each", folder, "--json", "--quiet")
             self.assertEqual((done.returncode, json.loads(done.stdout)), (3, {"file": folder, "error": reason}))
             beside = run("oem", "--each", folder, "gates.odx-d")
@@ -440,7 +451,7 @@ class Folders(unittest.TestCase):
     def test_a_folder_without_odx_cannot_be_read(self):
         with tempfile.TemporaryDirectory() as folder:
             done = run("layers", folder)
-        reason = "error: the folder holds no ODX document or package [no-file]"
+        reason = "error: the folder contains no ODX document or package [no-file]"
         self.assertEqual((done.returncode, done.stdout, done.stderr), (3, "", f"{folder}: {reason}\n"))
 
 
@@ -471,7 +482,7 @@ class Terminals(unittest.TestCase):
             self.skipTest("Wine draws a console on the terminal itself")
 
     def run_on_terminal(self, *arguments, **environment):
-        """What a call writes when both its output streams are one terminal."""
+        """The output of a call whose output streams are both the same terminal."""
         import pty
 
         outer, inner = pty.openpty()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""What the tests of the program share: the program that their command line names, its calls, the databases."""
+"""Common to the tests of the program: the program given on their command line, its calls, the databases."""
 
 import os
 import pathlib
@@ -10,7 +10,7 @@ import unittest
 DATA = pathlib.Path(__file__).resolve().parent / "data"
 SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "samples" / "WiperDatabase.pdx"
 IS_POSIX = os.name == "posix"
-PROGRAM = []  # the words that call it; `main` fills them in
+PROGRAM = []  # the words of its call, set by `main`
 
 
 def is_for_windows():
@@ -18,7 +18,7 @@ def is_for_windows():
 
 
 def run(*arguments, **options):
-    """The call with all that it wrote, as text."""
+    """The call with all its output, as text."""
     options.setdefault("stdout", subprocess.PIPE)
     return subprocess.run(
         [*PROGRAM, *map(str, arguments)],

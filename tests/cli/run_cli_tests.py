@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Runs one case: a call of diagkit and the answer that it must give.
+"""Runs one case: a call of diagkit and its expected output.
 
     run_cli_tests.py [--any-line-ends] CASE PROGRAM...
 
@@ -12,7 +12,7 @@ A case is a text file:
     --- stdout
     (what standard output must be, byte for byte)
     --- stderr
-    (the same for standard error; or, after "--- stderr matches", one regular expression a line)
+    (the same for standard error; or, after "--- stderr matches", one regular expression per line)
 
 The call runs in the folder data/. A section that is missing says that the stream must stay empty. With --any-line-ends
 the program may end its lines as the platform does.
@@ -29,7 +29,7 @@ DATA = pathlib.Path(__file__).resolve().parent / "data"
 
 
 class Case:
-    """What a case file says."""
+    """The contents of a case file."""
 
     def __init__(self, path):
         self.arguments = None

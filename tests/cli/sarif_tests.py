@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""What `diagkit check --format sarif` writes, held against what SARIF 2.1.0 requires of a log.
+"""The output of `diagkit check --format sarif`, checked against the requirements of SARIF 2.1.0 for a log.
 
     sarif_tests.py PROGRAM...
 """
@@ -15,7 +15,7 @@ import zipfile
 from program import DATA, is_for_windows, main, run
 
 LEVELS = {"none", "note", "warning", "error"}
-# RFC 3986: what may stand in a URI reference without a colon in its first segment.
+# RFC 3986: the characters of a URI reference without a colon in its first segment.
 URI = re.compile(r"(?:file:///?)?(?:[A-Za-z0-9._~!$&'()*+,;=@/-]|%[0-9A-F]{2})+")
 
 
@@ -91,6 +91,10 @@ class Structure(unittest.TestCase):
                 ("unresolved-short-name", "error", "faulty.odx-d", {"startLine": 15, "startColumn": 17}),
             ],
         )
+
+    def test_a_note(self):
+        results = self.see_log(log_of("notes.odx-d", status=0))
+        self.assertEqual([(result["ruleId"], result["level"]) for result in results], [("overlapping-params", "note")])
 
     def test_nothing_found_is_an_empty_list(self):
         self.assertEqual(self.see_log(log_of("comparams.odx-c", "protocols.odx-d", "gates.odx-d", status=0)), [])

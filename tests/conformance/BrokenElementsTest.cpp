@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Every promise about elements, broken on purpose: the check of that name tells, and no other.
+// Every promise about elements, broken on purpose: only the check of that name reports it.
 
 #include <stdexcept>
 
@@ -111,7 +111,7 @@ TEST_F(VBrokenElements, TextIsNeverNull) {
     EXPECT_EQ(Found(), "text-is-never-null");
 }
 
-/// Hands out texts in one place that all its elements share, as who converts on the fly might.
+/// Returns texts in one buffer that all its elements share, as a model that converts on the fly might.
 struct VSharedText : VService {
     using VService::VService;
     wchar_t const* GetId() const override {

@@ -14,7 +14,7 @@
 
 namespace NTest {
 
-/// The model of examples/own_model with one ECU-SHARED-DATA, to which a test adds what breaks a promise.
+/// The model of examples/own_model with one ECU-SHARED-DATA, to which a test adds something that breaks a promise.
 class VBrokenModel : public testing::Test {
 protected:
     VBrokenModel() : m_text(L"DIAG-LAYER-CONTAINER name=C id=C\n  ECU-SHARED-DATA name=L id=L\n"), m_database(m_text) {}
@@ -42,7 +42,7 @@ protected:
 
     std::vector<NConformance::VViolation> Check() { return NConformance::CheckModel({m_database.GetOdx()}); }
 
-    /// The names of the checks that find something, each once, in the order of the violations.
+    /// The names of the checks that report something, each once, in the order of the violations.
     std::string Found() { return Found(m_database.GetOdx()); }
     static std::string Found(NODX201::VOdx& odx) {
         std::string names;

@@ -9,10 +9,10 @@
 
 namespace NTest {
 
-/// All that the reader made of some files, with the documents that the contract does not reach from the root.
+/// All results of reading some files, with the documents that the contract does not reach from the root.
 NConformance::VModel ModelOf(NReader::VReadResult const& read);
 
-/// One violation a line.
+/// One violation per line.
 std::string Lines(std::vector<NConformance::VViolation> const& violations);
 std::string Lines(std::vector<std::wstring> const& lines);
 

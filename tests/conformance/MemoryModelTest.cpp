@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Our own model keeps the promises, whatever it holds.
+// The memory model keeps the promises, whatever its contents.
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What the reference database finds: models that keep all promises, and hold something else.
+// Violations found with the reference database: by models that keep all promises, but have other contents.
 
 #include <fstream>
 #include <sstream>

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Hold the guide against what it is about: every call it shows and its answer, every piece of C++ and of ODX and the
-example or sample that it is taken from, every link; and that it leaves out no command, view or public operation.
+"""Check the guide: every call it shows and its output, every piece of C++ and of ODX against the example or sample
+from which it is taken, every link; and that it leaves out no command, view or public operation.
 
     check_guide.py FOLDER [--emulator EMULATOR] FOLDER_OF_PROGRAMS...
 """
@@ -19,7 +19,7 @@ sys.path.insert(0, str(ROOT / "tests" / "install"))
 from project import empty, expect, run  # noqa: E402
 
 GUIDE = ROOT / "docs" / "guide"
-# Which are built and run, or checked, elsewhere.
+# They are built and run, or checked, elsewhere.
 SOURCES = {
     "cpp": ["examples/*.cpp", "examples/own_model/*.h", "examples/own_model/*.cpp"],
     "text": ["examples/own_model/*.table"],

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The reference is not made of headers that leave something undescribed.
+"""The reference is not made from headers with missing descriptions.
 
     check_reference_test.py DOXYGEN DOXYFILE FOLDER
 """
@@ -35,7 +35,7 @@ DESCRIBED = "virtual void Open() = 0; ///< wide"
 
 
 def make(header):
-    # Doxygen is asked about a header that is not in the tree; paths that are absolute stay as they are.
+    # Doxygen is called for a header that is not in the tree; absolute paths stay as they are.
     folder = pathlib.Path(sys.argv[3]).resolve()
     folder.mkdir(parents=True, exist_ok=True)
     path = folder / "Door.h"

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""What the pages of the guide show, and whether it is so."""
+"""The contents of the pages of the guide, and their checks."""
 
 import difflib
 import re
@@ -41,7 +41,7 @@ def pieces(lines):
 
 
 def position(run, lines, start, form=list):
-    """Where the run stands in the lines, from `start` on, both in a form; -1 when it does not."""
+    """The position of the run in the lines, from `start` on, both in a form; -1 when it is not there."""
     for number in range(start, len(lines) - len(run) + 1):
         if form(lines[number:number + len(run)]) == form(run):
             return number
@@ -53,7 +53,7 @@ def unindented(lines):
 
 
 def is_shown(shown, actual):
-    """Whether an answer is what is shown, where each `...` stands for at least one line."""
+    """Whether the output is what is shown, where each `...` stands for at least one line."""
     runs = pieces(shown)
     if len(runs) == 1:
         return shown == actual
@@ -73,7 +73,7 @@ def difference(shown, actual):
 
 
 def is_extract(block, sources):
-    """Whether the pieces of a block stand in one of the sources, in their order, however far they are indented."""
+    """Whether the pieces of a block are in one of the sources, in their order, with any indentation."""
     runs = pieces(block.splitlines())
 
     def stands_in(source):

@@ -17,7 +17,7 @@ TEST(DetectionFaultsTest, AnswerAndReportOfTheSample) {
     NODX201::VOdx& odx = sample.database.GetOdx();
     NDIAGKIT::VOemChecker checker;
     NDIAGKIT::VManufacturer const before = checker.GetManufacturer(odx);
-    checker.Report(odx); // what the process keeps for text conversion is there from now on
+    checker.Report(odx); // the process's buffers for text conversion exist from now on
     EXPECT_GT(FailEverywhere([&] { checker.GetManufacturer(odx); }), 10u);
     EXPECT_GT(FailEverywhere([&] { checker.Report(odx); }), 50u);
     EXPECT_EQ(checker.GetManufacturer(odx), before);

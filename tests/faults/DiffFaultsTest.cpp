@@ -15,7 +15,7 @@
 namespace NTest {
 namespace {
 
-/// A base with a service over a DOP, and a variant with a DOP of its own.
+/// A base with a service over a DOP, and a variant with its own DOP.
 struct VSmall {
     VSmall(wchar_t const* service, wchar_t const* bits) {
         auto& container = database.AddDiagLayerContainer(L"C");
@@ -39,7 +39,7 @@ TEST(DiffFaultsTest, DatabasesAreComparedOrNot) {
     VSmall old(L"Old", L"8");
     VSmall now(L"New", L"16");
     VSmall same(L"Old", L"8");
-    ASSERT_FALSE(NQuery::DiffDatabases(old.database, now.database).IsEqual()); // and makes what stays
+    ASSERT_FALSE(NQuery::DiffDatabases(old.database, now.database).IsEqual()); // and makes what is kept
     EXPECT_GT(FailEverywhere([&] { NQuery::DiffDatabases(old.database, now.database); }), 100U);
     EXPECT_GT(FailEverywhere([&] { NQuery::DiffDatabases(old.database, same.database); }), 50U);
     EXPECT_TRUE(NQuery::DiffDatabases(old.database, same.database).IsEqual());

@@ -10,8 +10,8 @@
 namespace NTest {
 
 /// Runs `action` with its first allocation failing, then its second, and so on until it succeeds: each time it must
-/// throw std::bad_alloc and leave as many blocks as there were. `reset` drops what may be remembered from a run before.
-/// Gives the number of allocations of the run that succeeds.
+/// throw std::bad_alloc and leave as many blocks as there were. `reset` clears what may be remembered from an earlier
+/// run. Returns the number of allocations of the run that succeeds.
 template <class Reset, class Action>
 std::size_t FailEverywhere(Reset reset, Action action) {
     for (std::size_t after = 0;; ++after) {
@@ -36,7 +36,7 @@ std::size_t FailEverywhere(Reset reset, Action action) {
     }
 }
 
-/// The same for an action of which nothing is remembered.
+/// The same for an action that remembers nothing.
 template <class Action>
 std::size_t FailEverywhere(Action action) {
     return FailEverywhere([] {}, action);

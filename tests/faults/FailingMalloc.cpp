@@ -4,8 +4,8 @@
 #include <cerrno>
 #include <limits>
 
-// The allocator of the C library, and the functions that are called in its place. On Windows the linker puts them there
-// (--wrap) and says what the library's own are called; elsewhere those keep these names for programs that replace them.
+// The allocator of the C library, and the functions that replace it. On Windows the linker replaces it (--wrap) and
+// gives the library's own functions other names; elsewhere those keep these names for programs that replace them.
 #ifdef _WIN32
 #define LIBRARY_OWN(name) __real_##name
 #define IN_PLACE_OF(name) __wrap_##name
@@ -25,7 +25,7 @@ namespace {
 
 constexpr std::size_t kNever = std::numeric_limits<std::size_t>::max();
 
-// Not of each thread its own: MinGW would take the memory for that from malloc.
+// Not thread-local: MinGW would allocate the memory for that with malloc.
 std::size_t s_left = kNever; // allocations that still succeed
 bool s_hasFailed = false;
 

@@ -3,12 +3,12 @@
 
 #include <cstddef>
 
-/// Lets the malloc of the whole program fail, the C libraries included. Linking FailingMalloc.cpp replaces it. For one
-/// thread: no other may allocate in the meantime.
+/// Makes the malloc of the whole program fail, including the C libraries. Linking FailingMalloc.cpp replaces it. For
+/// one thread: no other may allocate in the meantime.
 
 namespace NTest {
 
-/// As long as it lives, the allocation after so many others fails, and only that one.
+/// While it exists, the allocation after the given number of others fails, and only that one.
 class VFailingMalloc {
 public:
     explicit VFailingMalloc(std::size_t after);
@@ -16,7 +16,7 @@ public:
     VFailingMalloc(VFailingMalloc const&) = delete;
     VFailingMalloc& operator=(VFailingMalloc const&) = delete;
 
-    bool HasFailed() const; ///< whether there were so many
+    bool HasFailed() const; ///< whether there were that many
 };
 
 } // namespace NTest

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Drawing the sample while memory runs out at every point.
+// Writing the graph of the sample while memory runs out at every point.
 
 #include <gtest/gtest.h>
 

@@ -21,7 +21,7 @@ NReader::VReadOptions OneThread() {
 }
 
 TEST(LoadFaultsTest, TheSampleForTheFirstTime) {
-    // What the process makes once and keeps may be made in any of the runs, so blocks are not counted here.
+    // Objects that the process makes once and keeps may be made in any of the runs, so blocks are not counted here.
     std::size_t failures = 0;
     for (bool isDone = false; !isDone; ++failures) {
         try {

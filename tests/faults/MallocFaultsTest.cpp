@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Loading the sample while a single allocation fails, those of the XML and the zip library included: it is never taken
-// for bad data, and no part of the data is missing.
+// Loading the sample while a single allocation fails, including those of the XML and the zip library: it is never
+// reported as bad data, and no part of the data is missing.
 
 #include <new>
 #include <string>
@@ -14,7 +14,7 @@
 namespace NTest {
 namespace {
 
-/// What a result tells, one thing a line.
+/// The contents of a result, one item per line.
 std::string Told(NReader::VReadResult const& result) {
     std::string told = std::to_string(result.elements.size()) + " elements\n";
     for (NReader::VDiagnostic const& diagnostic : result.diagnostics) {
@@ -30,8 +30,8 @@ NReader::VReadResult Load(std::string const& file) {
     return NReader::ReadOdx({file}, options);
 }
 
-/// Loads the file with each allocation failing in turn. Gives how many of them were told to the caller; what can do
-/// without the block goes on, and then nothing is missing.
+/// Loads the file with each allocation failing in turn. Returns how many failures reached the caller; code that does
+/// not need the block continues, and then nothing is missing.
 std::size_t LoadWithEachFailing(std::string const& file) {
     std::string const expected = Told(Load(file));
     std::size_t thrown = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Building a database by hand while memory runs out at every point: what was there before stays as it was.
+// Building a database by hand while memory runs out at every point: the existing contents do not change.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ TEST(ModelFaultsTest, AnElementIsAddedWholeOrNotAtAll) {
     base.AddParentRef(protocol);
     std::wstring expected = L"Read@Protocol";
     for (std::size_t round = 0; round < 40; ++round) {
-        // Long enough that no buffer inside strings holds it, and new each time, so that pool and index grow.
+        // Too long for the buffer inside strings, and different each time, so that pool and index grow.
         std::wstring const name = L"AServiceOfALongName_" + std::to_wstring(round);
         std::size_t const services = database.Count(Tag::DiagService);
         for (std::size_t after = 0;; ++after) {
@@ -74,7 +74,7 @@ TEST(ModelFaultsTest, ALinkNamesWhatItNamedBeforeWhenItCannotBeGivenAnotherRefer
     ASSERT_TRUE(link.HasRequest());
     bool isDone = false;
     for (std::size_t after = 0; !isDone; ++after) {
-        std::wstring const unknown(20'000 + after, L'x'); // more than what a pool has left
+        std::wstring const unknown(20'000 + after, L'x'); // more than the free memory of a pool
         try {
             VFailingAllocations const failing(after);
             link.SetReference(NMemory::VReference::ById(unknown.c_str()));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Questions about the sample while memory runs out at every point: the exception arrives, nothing is lost, and the
-// next answer is as it was.
+// Queries about the sample while memory runs out at every point: the exception is passed on, nothing is lost, and the
+// next result is correct.
 
 #include <string>
 
@@ -23,7 +23,7 @@ constexpr VInheritedKind kKindsOfQueries[] = {VInheritedKind::DiagComm, VInherit
 
 class QueryFaultsTest : public testing::Test {
 protected:
-    /// `ask` is a question whose answer is given as numbers. Each run starts without what links remember.
+    /// `ask` is a query whose result is given as numbers. Each run starts with links that remember nothing.
     template <class Ask>
     void Check(Ask ask) {
         auto const forget = [this] {

@@ -35,7 +35,7 @@ protected:
             action);
     }
 
-    /// One resolver through all failures: what it remembers of a failed call is no wrong answer.
+    /// One resolver for all failures: what it remembers of a failed call must not give wrong results.
     template <class Resolve>
     void CheckOneResolver(Resolve resolve) {
         VOpResolveSnref resolver;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Building each view of every layer, DIAG-COMM, job and flash of the sample while memory runs out at every point: the
-// exception arrives, nothing is lost, and what existed before is as it was.
+// exception is passed on, nothing is lost, and existing objects do not change.
 
 #include <memory>
 #include <vector>
@@ -41,7 +41,8 @@ auto EntriesOf(View& view) {
 
 class ViewFaultsTest : public testing::Test {
 protected:
-    /// `build` gives a view that the caller destroys. Each run starts without what links and resolver remember.
+    /// `build` returns a view that the caller destroys. Each run starts with links and a resolver that remember
+    /// nothing.
     template <class Build>
     void Check(Build build) {
         auto const forget = [this] {
@@ -55,7 +56,7 @@ protected:
         EXPECT_EQ(EntriesOf(*Own(build())), before) << "a view built afterwards";
     }
 
-    /// The same with a builder that holds a view already: it gives that up, and goes on afterwards.
+    /// The same with a builder that has a view already: it destroys that view, and can be used afterwards.
     template <class Builder, class View>
     void CheckBuilder(View* (Builder::*create)(NODX201::VDiagLayer&), NODX201::VDiagLayer& layer) {
         Builder builder;

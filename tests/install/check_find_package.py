@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Build and run programs as a project does that finds the installed diagkit with CMake.
+"""Build and run programs in a project that finds the installed diagkit with CMake.
 
     check_find_package.py PREFIX FOLDER CMAKE_ARGUMENT...
 """
@@ -27,7 +27,7 @@ from project import (
 
 
 def finding(prefix, folder):
-    """How CMake is told of the prefix. A toolchain file names all places where things for another system are."""
+    """The arguments that give CMake the prefix. A toolchain file lists all places with files for another system."""
     if not EMULATOR:
         return f"-DCMAKE_PREFIX_PATH={prefix}"
     toolchain = folder / "toolchain.cmake"

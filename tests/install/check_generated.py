@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Hold the man page and the completions against the program, and let the shells read them that are there.
+"""Compare the man page and the completions with the program, and have the available shells read them.
 
     check_generated.py PROGRAM...
 """
@@ -21,7 +21,7 @@ FILES = ["diagkit.1", "completions/diagkit.bash", "completions/_diagkit", "compl
 
 
 def is_here(tool):
-    """Says so where a tool is not, since what is made for it is then not tried."""
+    """Reports a missing tool, because the file generated for it is then not tested."""
     if not shutil.which(tool):
         print(f"not tried, because {tool} is not installed")
     return shutil.which(tool) is not None
@@ -47,7 +47,7 @@ def check_man_page(commands):
 
 
 def offered_by_bash(*words):
-    """What bash offers for the last word."""
+    """The completions of bash for the last word."""
     script = 'source "$1"; COMP_WORDS=("${@:2}"); COMP_CWORD=$(($# - 2)); _diagkit; printf "%s\\n" "${COMPREPLY[@]}"'
     return run("bash", "-uc", script, "bash", COMPLETIONS / "diagkit.bash", "diagkit", *words).split()
 
@@ -85,7 +85,7 @@ def check_fish(commands):
 def main():
     program = sys.argv[1:]
     own, commands = program_help.read(program)
-    # Were these not told, the rest would say nothing.
+    # Without these differences being detected, the rest would prove nothing.
     view = next(command for command in commands if command.name == "view")
     expected = {"--layer", "--range", "--json", "--max-file-size"}
     expect(expected <= {option.name for option in view.options}, "the options are not told")

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""There is one list of the packages that a machine needs: scripts/packages.txt. Whoever needs them reads that, and the
-manifest of vcpkg asks for the same libraries."""
+"""There is one list of the packages that a machine needs: scripts/packages.txt. All users of the list read that file,
+and the manifest of vcpkg requires the same libraries."""
 
 import json
 import re
@@ -21,7 +21,7 @@ LIBRARIES = {
     "benchmark": ("libbenchmark-dev", "benchmark"),
 }
 PROGRAMS = {"PkgConfig": "pkg-config", "Python3": "python3"}
-PORTS_OF_PROGRAMS = {"pkgconf"}  # what Windows does not have; Python has an installer of its own
+PORTS_OF_PROGRAMS = {"pkgconf"}  # missing on Windows; Python has its own installer
 OF_THE_COMPILER = {"Threads"}
 
 
@@ -30,7 +30,7 @@ def text(name):
 
 
 def searched_for():
-    """What the tree's CMake files look for."""
+    """The libraries that the tree's CMake files look for."""
     found = set()
     for path in [ROOT / "CMakeLists.txt", *ROOT.glob("*/CMakeLists.txt"), *ROOT.glob("*/*/CMakeLists.txt")]:
         code = path.read_text(encoding="utf-8")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Make the archives, and on Debian its packages; look into them, and run the program out of them.
+"""Make the archives, and on Debian its packages; check their contents, and run the program from them.
 
     check_packages.py BUILD_FOLDER FOLDER
 """
@@ -18,7 +18,7 @@ FIELDS = ["Package", "Version", "Architecture", "Depends", "Recommends"]
 
 
 def make(build, folder):
-    """Runs scripts/package in a tree that builds nothing."""
+    """Runs scripts/package in a tree without a build."""
     tree = empty(folder / "tree")
     (tree / "scripts").mkdir()
     (tree / "scripts" / "package").write_bytes((ROOT / "scripts" / "package").read_bytes())

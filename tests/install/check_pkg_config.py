@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Build and run programs with the compiler alone, with what pkg-config says about the installed diagkit.
+"""Build and run programs with only the compiler and the flags of pkg-config for the installed diagkit.
 
     check_pkg_config.py PREFIX FOLDER COMPILER
 """
@@ -28,7 +28,7 @@ from project import (
     write_readme_program,
 )
 
-# Libraries of MinGW that its programs need.
+# Libraries of MinGW required by its programs.
 RUNTIME = ["libstdc++-6.dll", "libgcc_s_seh-1.dll", "libwinpthread-1.dll"]
 
 

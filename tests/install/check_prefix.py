@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Install the build into an empty prefix, move that somewhere else, and look at what is there.
+"""Install the build into an empty prefix, move that somewhere else, and check its contents.
 
     check_prefix.py BUILD_FOLDER PREFIX
 """
@@ -17,7 +17,7 @@ from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, run_program, ver
 
 INCLUDE = re.compile(r"^\s*#\s*include\s*<(diagkit/[^>]+)>", re.MULTILINE)
 
-# In folders that are not listed below all headers are public but those that the README there calls internal.
+# In folders that are not listed below all headers are public except those that the README there calls internal.
 FOLDERS = {"", "model", "model/facts", "logging", "util", "tools", "tools/oem", "memory", "conformance", "reader", "check", "query"}
 PUBLIC = {
     "": {
@@ -102,7 +102,7 @@ def check_headers(include):
 
 
 def check_relocatable(prefix, *folders):
-    """Nothing that others read names a folder of this machine."""
+    """No installed text contains the path of a folder of this machine."""
     for path in prefix.rglob("*"):
         if path.suffix in (".cmake", ".pc", ".h", ".def"):
             text = path.read_text(encoding="utf-8")

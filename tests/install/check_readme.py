@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Run every command of README.md, in a tree that is like this one but builds nothing.
+"""Run every command of README.md, in a copy of this tree that uses the existing build.
 
     check_readme.py BUILD_FOLDER FOLDER
 
-The blocks of C++ and CMake are tried by check_find_package.py.
+The blocks of C++ and CMake are tested by check_find_package.py.
 """
 
 import os
@@ -15,14 +15,14 @@ import sys
 
 from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, write_preparation
 
-# What stands in the commands for something of the user's, and something of the sample's for it.
+# Placeholders in the commands for the user's data, and data of the sample for them.
 PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "OLD": str(SAMPLE),
                 "NEW": str(SAMPLE)}
 
 # These run this test, or take long; check_packages.py runs the latter.
 ELSEWHERE = {"./test", "scripts/package"}
 
-# For a command, what its answer must hold.
+# For a command, what its output must contain.
 ANSWERS = {
     "./run": ["FrontWiperRainLight", "SwitchHeadlamps"],
     "./run info": ["WiperFlash.odx-f", "DIAG-SERVICE"],
@@ -50,7 +50,7 @@ def commands():
 
 
 def make_windows_build(release, build):
-    """What the commands find where the build of this machine would be: the program of Windows, and its installation."""
+    """Provides the program for Windows, and its installation, where the build of this machine would be."""
     program = release / "cli" / "diagkit"
     program.parent.mkdir(parents=True)
     program.write_text(f'#!/bin/sh\nexec {EMULATOR[0]} {build}/bin/diagkit.exe "$@"\n')

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Build and run programs of projects that take the sources of diagkit with them: of one that wants the toolkit alone, and
-the examples, which want the reader, too.
+"""Build and run programs of projects that include the sources of diagkit: of one that needs only the toolkit, and the
+examples, which also need the reader.
 
     check_subproject.py FOLDER CMAKE_ARGUMENT...
 """
@@ -37,7 +37,7 @@ def check_examples(configure, folder):
     ]
     run(*configure, "-B", folder, "-DWITH_READER=ON", *sources)
     if EMULATOR:
-        return  # building the reader once more takes ten minutes there, and CMake says the same for all systems
+        return  # building the reader once more takes ten minutes there, and CMake does the same for all systems
     names = [*examples(), "own_model"]
     run("cmake", "--build", folder, "--target", *names)
     use_library_built_in(folder)
@@ -47,9 +47,9 @@ def check_examples(configure, folder):
 def main():
     folder = empty(pathlib.Path(sys.argv[1]))
     with_reader = empty(folder.with_name("subproject_with_reader"))
-    # ccache remembers nothing that a precompiled header went into.
+    # ccache does not cache objects that use a precompiled header.
     launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache", "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON"]
-    # Only whether it can be built is the question, so nothing is spent on fast code, nor on reading headers again.
+    # This only tests whether it can be built, so optimisation and reading headers repeatedly are avoided.
     configure = [
         "cmake",
         *sys.argv[2:],

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Hold everything that names a version against the version of the project.
+"""Compare every place with a version number with the version of the project.
 
     check_version.py VERSION PROGRAM...
 """

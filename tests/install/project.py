@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""What the tests of this folder share."""
+"""Common to the tests of this folder."""
 
 import os
 import pathlib
@@ -13,7 +13,7 @@ ROOT = HERE.parents[1]
 SAMPLE = ROOT / "samples" / "WiperDatabase.pdx"
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Werror"]
 
-# What runs the programs that were built, where they are not for this machine but for Windows.
+# The command that runs the built programs, where they are not for this machine but for Windows.
 EMULATOR = [word for word in [os.environ.get("DIAGKIT_EMULATOR")] if word]
 EXE = ".exe" if EMULATOR else ""
 
@@ -28,7 +28,7 @@ def expect(is_so, message):
 
 
 def run(*command, **options):
-    """What a command prints, both streams together; ends the test when the command fails."""
+    """The output of a command, both streams together; ends the test when the command fails."""
     command = [str(word) for word in command]
     done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8", **options)
     if done.returncode != 0:
@@ -37,12 +37,12 @@ def run(*command, **options):
 
 
 def run_program(program, *arguments, **options):
-    """What a program that was built prints, with line feeds alone."""
+    """The output of a built program, with line feeds only."""
     return run(*EMULATOR, f"{program}{EXE}", *arguments, **options).replace("\r\n", "\n")
 
 
 def use_libraries_of(*folders):
-    """Where the system looks for the libraries of programs from now on."""
+    """Sets where the system looks for the libraries of programs."""
     if EMULATOR:
         os.environ["WINEPATH"] = ";".join(f"Z:{folder}" for folder in folders)
     else:
@@ -56,7 +56,7 @@ def empty(folder):
 
 
 def write_preparation(scripts):
-    """A scripts/prepare that builds nothing: it says what it is asked for when that is not what is installed."""
+    """A scripts/prepare that builds nothing: it prints its arguments when they are not what is installed."""
     script = scripts / "prepare"
     script.write_text('#!/bin/sh\n[ "$2" = diagkit_products ] || { echo "prepare $*: what is installed?"; exit 1; }\n')
     script.chmod(0o755)
@@ -78,7 +78,7 @@ def own_model():
 
 
 def run_examples(folder, names):
-    """Hold the examples that were built into a folder against their cases."""
+    """Compare the output of the examples built into a folder with their cases."""
     for name in names:
         cases = sorted((ROOT / "tests" / "examples").glob(f"{name}*.case"))
         expect(cases, f"no case for {name}")
@@ -118,7 +118,7 @@ def write_readme_program(folder):
 
 
 def run_readme_program(program):
-    """Its answer for one layer, as samples/README.md gives it."""
+    """Its output for one layer, as in samples/README.md."""
     answer = run_program(program, SAMPLE)
     layers = dict(re.findall(r"^\[(\w+)\]\n((?:\w+\n)*)", answer, re.M))
     expected = "ReadTroubleCodes ClearTroubleCodes HardReset TesterPresent StartSession RequestSeed SendKey"

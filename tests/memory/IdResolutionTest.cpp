@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Where a reference by ID looks, step by step. Several DIAG-COMMs of one ID tell by their short names which one a
-// reference hit.
+// The places where a reference by ID looks, step by step. The short names of several DIAG-COMMs of one ID show which
+// one a reference found.
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ using NMemory::VReference;
 
 class IdResolutionTest : public testing::Test {
 protected:
-    /// A DIAG-SERVICE of ID "X"; its name says where it stands.
+    /// A DIAG-SERVICE of ID "X"; its name shows where it is.
     template <class Layer>
     NMemory::VMemDiagService& AddX(Layer& layer, wchar_t const* shortName) {
         auto& service = layer.AddDiagService(shortName);
@@ -26,7 +26,7 @@ protected:
         return service;
     }
 
-    /// The short name of what a DIAG-COMM-REF to "X" in this layer hits; "-" for nothing.
+    /// The short name of the target of a DIAG-COMM-REF to "X" in this layer; "-" for none.
     template <class Layer>
     std::wstring Hit(Layer& layer, wchar_t const* docref = L"", wchar_t const* doctype = L"") {
         auto& link = layer.AddDiagCommRef(VReference::ById(L"X", docref, doctype));
@@ -284,7 +284,7 @@ TEST_F(IdResolutionTest, TheEmptyIdDoesNotResolve) {
     EXPECT_FALSE(link.HasDiagComm(own));
 }
 
-// A hit of another class is none, at every step.
+// An element of another class is not a target, at every step.
 
 TEST_F(IdResolutionTest, AHitOfAnotherClassIsAMissInTheNamedDocument) {
     auto& own = m_first.AddProtocol(L"Own");
@@ -340,7 +340,7 @@ TEST_F(IdResolutionTest, AParentRefHitsLayersOfItsKindOnly) {
     EXPECT_FALSE(wrong.HasFunctionalGroup());
 }
 
-// The answer follows the database.
+// The result follows changes of the database.
 
 TEST_F(IdResolutionTest, AnswersFollowWhatIsAddedRenamedAndRenumbered) {
     auto& own = m_first.AddProtocol(L"Own");
@@ -372,7 +372,7 @@ TEST_F(IdResolutionTest, AnswersFollowAnImportThatIsAddedRedirectedAndRemoved) {
     auto& own = m_second.AddBaseVariant(L"Own");
     auto& link = own.AddDiagCommRef(VReference::ById(L"X"));
     EXPECT_EQ(HitOf(link, own), L"Elsewhere");
-    NMemory::VReference const toTwo(two); // may give an ID, so before the answer is remembered
+    NMemory::VReference const toTwo(two); // may assign an ID, so before the result is remembered
     auto& import = own.AddImportRef(one);
     EXPECT_EQ(HitOf(link, own), L"InOne") << "added";
     import.SetReference(toTwo);

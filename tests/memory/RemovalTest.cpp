@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What is destroyed is gone from the model: from its collection, from the index, from every link that names it; and
-// nothing is destroyed twice, which the sanitizers see. The database ends with every test.
+// A destroyed element is removed from the model: from its collection, from the index, from every link to it; and
+// nothing is destroyed twice, which the sanitizers check. The database is destroyed with every test.
 
 #include <vector>
 
@@ -34,7 +34,7 @@ protected:
 
     void TearDown() override { VerifyModel(m_graph->Database()); }
 
-    /// Destroys the first entry of the name, as an editor does that shows the layer's view.
+    /// Destroys the first entry of the name, as an editor that shows the layer's view does.
     void RemoveThroughViewOf(wchar_t const* layer, wchar_t const* name) {
         NDIAGKIT::VOpBuildDiagCommView builder;
         NDIAGKIT::VDiagCommView* const view = builder.CreateDiagCommView(Layer(layer));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// References to an ID that many elements have: each finds the one that the order of places gives, and many of them take
-// no longer each than few.
+// References to an ID that many elements have: each finds the one given by the order of places, and the time for each
+// does not grow with their number.
 
 #include <random>
 
@@ -20,7 +20,7 @@ using NMemory::VReference;
 
 constexpr wchar_t const* kNames[] = {L"A", L"B", L"C"};
 
-/// A database at random in which elements of several classes have the ID "X", and a search written from the rule.
+/// A random database in which elements of several classes have the ID "X", and a search that follows the rule directly.
 class VRandomIds {
 public:
     explicit VRandomIds(std::uint32_t seed) : m_random(seed) {
@@ -169,7 +169,7 @@ bool CountedIsOfClass(NODX201::VReferencable& element) {
 
 constexpr int kMany = 2000;
 
-/// Resolves a reference to "X" from every layer; how often the class of an element was asked for.
+/// Resolves a reference to "X" from every layer; returns how often the class of an element was checked.
 int AskedFrom(NMemory::VDatabase& database, NMemory::VExpect expect,
               std::vector<NMemory::VMemBaseVariant*> const& layers, bool isThere) {
     s_asked = 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Links by short name: answered by the database's resolver, in the context they are read in.
+// Links by short name: resolved by the database's resolver, in the context in which they are read.
 
 #include <memory>
 
@@ -24,7 +24,7 @@ class ShortNameLinksTest : public testing::Test {
 protected:
     VReference const kByName = VReference::ByShortName(L"Name");
 
-    VFakeNames m_names; // before the database, whose resolver answers from it until the end
+    VFakeNames m_names; // before the database, whose resolver uses it until the end
     NMemory::VDatabase m_database;
     NMemory::VMemDiagLayerContainer& m_container = m_database.AddDiagLayerContainer(L"Container");
     NMemory::VMemEcuVariant& m_one = m_container.AddEcuVariant(L"One");
@@ -326,7 +326,7 @@ TEST_F(ShortNameLinksTest, WhateverLeadsAParentRefToAnotherLayerStartsANewResolv
     first.SetId(L"Other"); // the ID of a layer
     m_database.GetResolver();
     EXPECT_EQ(m_names.started, 2);
-    import.SetReference(second); // where IDs are looked for
+    import.SetReference(second); // the layer where IDs are looked for
     m_database.GetResolver();
     EXPECT_EQ(m_names.started, 3);
 }
@@ -361,7 +361,7 @@ TEST_F(SeveredLinksTest, AnotherReferenceIsNotSevered) {
 }
 
 TEST_F(SeveredLinksTest, ALayerInThePlaceOfADestroyedOneIsAnother) {
-    for (int round = 0; round < 100; ++round) { // sooner or later one comes to stand where another was
+    for (int round = 0; round < 100; ++round) { // sooner or later one is created at the address of an earlier one
         auto& layer = m_container.AddEcuVariant(L"Brief");
         ASSERT_FALSE(m_link.IsSeveredIn(layer));
         SeverIn(layer);

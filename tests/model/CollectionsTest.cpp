@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What the toolkit relies on in the model's collections, iterators and elements.
+// Properties of the model's collections, iterators and elements on which the toolkit relies.
 
 #include <diagkit/model/Collections.h>
 
@@ -28,7 +28,7 @@ static_assert(std::is_same_v<decltype(*std::declval<VIterator&>()), NODX201::IDi
 static_assert(std::is_same_v<decltype(++std::declval<VIterator&>()), VIterator&>);
 static_assert(sizeof(std::declval<NODX201::VStringCollection&>().Count()) == 8, "counts have 64 bits");
 
-// What a view destroys by position, it destroys through a virtual destructor.
+// Views that destroy by position use a virtual destructor.
 static_assert(std::has_virtual_destructor_v<NODX201::VDiagComm>);
 static_assert(std::has_virtual_destructor_v<NODX201::VDiagVariable>);
 static_assert(std::has_virtual_destructor_v<NODX201::VProtocol>);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Where the virtual operations stand in their classes' tables. A host that overrides or calls them from a library of
-// its own relies on it.
+// The slots of the virtual operations in the tables of their classes. A host that overrides or calls them from its own
+// library relies on them.
 
 #include <gtest/gtest.h>
 
@@ -90,7 +90,7 @@ TEST(SlotsTest, ChoicesAskInTheOrderOfTheirNames) {
     EXPECT_EQ(SlotsOf(&Tables::IsTableLink, &Tables::IsTableRowLink), slots);
 }
 
-// Views destroy what is removed from them by position, so these have a destructor.
+// Views destroy elements that are removed by position, so these have a destructor.
 TEST(SlotsTest, InterfacesOfViewsHaveADestructorFirst) {
     using NODX201::IIdentIf;
     using NODX201::IInParamIf;

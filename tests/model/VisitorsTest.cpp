@@ -20,7 +20,7 @@ static_assert(std::has_virtual_destructor_v<NODX201::VDiagCommVisitor>);
 static_assert(std::has_virtual_destructor_v<NODX201::VDopBaseVisitor>);
 static_assert(std::has_virtual_destructor_v<NODX201::VParamVisitor>);
 
-/// Writes down every callback with the short name of the element.
+/// Records every callback with the short name of the element.
 class VRecorder : public NODX201::VDiagLayerVisitor,
                   public NODX201::VDiagCommVisitor,
                   public NODX201::VDopBaseVisitor,

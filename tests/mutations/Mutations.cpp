@@ -19,7 +19,7 @@ std::string BytesOf(std::string const& path) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-/// Chooses by number alone: the standard's distributions differ between libraries.
+/// Chooses only by number: the standard's distributions differ between libraries.
 class VDice {
 public:
     explicit VDice(std::uint32_t number) : m_engine(number) {}
@@ -47,7 +47,7 @@ void DuplicateElement(VSampleDocument const& document, VDice& dice, VMutation& m
     mutation.bytes.insert(element.end, document.bytes, element.start, element.end - element.start);
 }
 
-/// Any two that are not inside one another, wherever they stand.
+/// Any two that are not nested, anywhere.
 void SwapElements(VSampleDocument const& document, VDice& dice, VMutation& mutation) {
     VElementPart const* first = nullptr;
     VElementPart const* second = nullptr;
@@ -62,14 +62,14 @@ void SwapElements(VSampleDocument const& document, VDice& dice, VMutation& mutat
                      bytes.substr(first->start, first->end - first->start) + bytes.substr(second->end);
 }
 
-/// To the name of another element of the document, or to one that ODX does not have.
+/// Renames to the name of another element of the document, or to one that ODX does not have.
 void RenameElement(VSampleDocument const& document, VDice& dice, VMutation& mutation) {
     VElementPart const& element = document.elements[ChooseElement(document, dice)];
     VElementPart const& other = document.elements[ChooseElement(document, dice)];
     bool const isOther = other.name != element.name && dice.Below(4) != 0;
     std::string const name = isOther ? other.name : "NO-SUCH-ELEMENT";
     mutation.offset = element.start;
-    if (element.tail != element.end) { // the end tag first: what stands before it stays where it is
+    if (element.tail != element.end) { // the end tag first: what precedes it does not move
         mutation.bytes.replace(element.tail + 2, element.name.size(), name);
     }
     mutation.bytes.replace(element.start + 1, element.name.size(), name);

@@ -23,11 +23,11 @@ struct VAttributePart {
 struct VElementPart {
     std::string name;
     std::size_t start;
-    std::size_t headEnd; ///< behind the start tag
+    std::size_t headEnd; ///< after the start tag
     std::size_t tail;    ///< the end tag
     std::size_t end;
     int parent;      ///< index among the document's elements; -1 for the root
-    bool isRequired; ///< where it stands
+    bool isRequired; ///< at its place
     std::vector<VAttributePart> attributes{};
 };
 
@@ -50,11 +50,11 @@ struct VMutation {
     std::size_t document;          ///< index of the one that was changed
     std::size_t offset;            ///< of the change in that one
     std::string bytes;             ///< after the change
-    bool isRequiredGone = false;   ///< something is missing now that ODX wants there
-    bool isCategoryIntact = false; ///< ODX and the start of its category are as they were
+    bool isRequiredGone = false;   ///< something required by ODX is missing now
+    bool isCategoryIntact = false; ///< ODX and the start of its category are unchanged
 };
 
-/// The mutation of a number; kinds and documents take turns.
+/// The mutation of a number; kinds and documents alternate.
 VMutation Mutate(std::vector<VSampleDocument> const& documents, std::uint32_t number);
 
 } // namespace NTest

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Ten thousand changes of the sample's documents: each is loaded, checked and looked at from all sides, and none of
-// that may crash or take long. `DIAGKIT_MUTATIONS` says how many are made instead, `DIAGKIT_MUTATION` which one alone.
+// Ten thousand changes of the sample's documents: each is loaded, checked and used in all ways, and none of that may
+// crash or take long. `DIAGKIT_MUTATIONS` sets another number of changes, `DIAGKIT_MUTATION` a single one.
 
 #include <algorithm>
 #include <cstdlib>
@@ -19,8 +19,8 @@ namespace NTest {
 namespace {
 
 constexpr std::uint32_t kMutations = 10000;
-constexpr std::uint32_t kShards = 10; // run side by side
-constexpr double kMostSeconds = 1;    // of the processor: what else the machine does is not held against us
+constexpr std::uint32_t kShards = 10; // run in parallel
+constexpr double kMostSeconds = 1;    // of the processor: other load of the machine does not count
 
 std::vector<VSampleDocument> const& Documents() {
     static std::vector<VSampleDocument> const documents = ReadSampleDocuments(DIAGKIT_SAMPLE_PARTS);
@@ -35,7 +35,7 @@ char const* NameOf(VMutationKind kind) {
     return kNames[static_cast<int>(kind)];
 }
 
-/// As XML says it, by a parser that the reader's leniencies have no part in.
+/// As defined by XML, by a parser without the reader's leniencies.
 bool IsWellFormed(std::string const& bytes) {
     XML_Parser const parser = XML_ParserCreate(nullptr);
     bool const isWellFormed = XML_Parse(parser, bytes.data(), static_cast<int>(bytes.size()), 1) == XML_STATUS_OK;
@@ -48,7 +48,7 @@ bool IsOfMissing(NReader::VDiagnostic const& diagnostic) {
            diagnostic.code == "missing-model-version";
 }
 
-/// What loading and using a document came to.
+/// The result of loading and using a document.
 struct VOutcome {
     bool isLoaded = false;
     std::size_t documents = 0;
@@ -123,7 +123,7 @@ TEST(MutationsTest, TheSampleAsItIsHasNoDiagnostics) {
 TEST(MutationsTest, EveryKindKeepsItsPromise) {
     std::size_t required[kMutationKinds] = {};
     std::size_t unreadable = 0;
-    std::size_t unchanged = 0; // two elements that are alike were swapped
+    std::size_t unchanged = 0; // two equal elements were swapped
     for (std::uint32_t number = 0; number < kMutations; ++number) {
         VMutation const mutation = Mutate(Documents(), number);
         required[static_cast<int>(mutation.kind)] += mutation.isRequiredGone ? 1 : 0;

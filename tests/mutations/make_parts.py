@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""List the elements and attributes of valid documents, and which of them the grammar requires where they stand.
+"""List the elements and attributes of valid documents, and which of them the grammar requires at their place.
 
     make_parts.py OUTPUT DOCUMENT...
 
@@ -9,9 +9,9 @@ A document is a line `document PATH`; then come its elements in document order, 
     element NAME START HEAD-END TAIL END PARENT REQUIRED
     attribute START END REQUIRED
 
-in bytes: HEAD-END is behind the start tag, TAIL is the end tag. PARENT counts the document's elements from 0; the root
+in bytes: HEAD-END is after the start tag, TAIL is the end tag. PARENT counts the document's elements from 0; the root
 has -1. An attribute starts with the blank before it. An element is required (1) when its parent does not fit the
-grammar without it and a list would not do as well; a list may be empty where the grammar wants one item.
+grammar without it and a list would not be accepted either; a list may be empty where the grammar requires one item.
 """
 
 import pathlib

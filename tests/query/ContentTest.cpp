@@ -23,7 +23,7 @@ namespace {
 using NQuery::VContentPart;
 using NQuery::VPartRole;
 
-/// All values of an element and what is in it, as `ValuesOf` gives those of a document.
+/// All values of an element and its contents, in the form of `ValuesOf` for a document.
 void AddValues(std::string const& path, NODX201::VOdxElement& element, std::vector<VXmlValue>& values) {
     NQuery::ForEachPartOf(element, [&](VContentPart const& part) {
         std::string const wrapper = *part.wrapper != L'\0' ? '/' + NReader::ToUtf8(part.wrapper) : "";
@@ -50,7 +50,7 @@ void AddValues(std::string const& path, NODX201::VOdxElement& element, std::vect
 
 std::string InPrint(VXmlValue const& value) { return value.path + "=\"" + value.value + '"'; }
 
-/// Values as lines: those that are in one list alone, as often as they are there more than in the other.
+/// Values as lines: those that are in only one list, as often as they occur more often there than in the other.
 std::string OnlyIn(std::vector<VXmlValue> values, std::vector<VXmlValue> others) {
     std::sort(values.begin(), values.end());
     std::sort(others.begin(), others.end());
@@ -95,7 +95,7 @@ protected:
         return values;
     }
 
-    /// The parts of an element, a line each.
+    /// The parts of an element, one per line.
     static std::string Parts(NODX201::VOdxElement& element) {
         std::ostringstream text;
         NQuery::ForEachPartOf(element, [&text](VContentPart const& part) {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "query/DiffTest.h"
 
-/// What counts as a difference between two entries, and where it is told.
+/// Differences between two entries, and where they are reported.
 
 namespace NTest {
 namespace {
 
 class VDiffContentTest : public VDiffTest {
 protected:
-    /// A layer with one service, whose request has these parameters, and what else stands in the layer.
+    /// A layer with one service, whose request has these parameters, and with the given further contents.
     static std::string Database(std::string const& params, std::string const& dictionary = "",
                                 std::string const& service = "") {
         return ContainerOfLayers(
@@ -196,7 +196,7 @@ TEST_F(VDiffContentTest, ShortNamesMeanWhatTheyMeanInTheViewedLayer) {
               Diff(database("8"), database("16")));
 }
 
-// Tables lead to each other in a circle: the structure in a row has a key of the table.
+// Tables lead to each other in a cycle: the structure in a row has a key of the table.
 TEST_F(VDiffContentTest, AnElementMetAgainInsideItselfCountsByItsName) {
     auto const database = [](std::string const& key) {
         auto const table = [](std::string const& name, std::string const& other, std::string const& rowKey) {

@@ -3,8 +3,8 @@
 
 #include "query/DiffTest.h"
 
-/// Databases in which everything leads to everything: compared as far as they go, in time, and what is left out is
-/// said.
+/// Databases in which everything leads to everything: compared up to the limits, in time, and parts that are left out
+/// are reported.
 
 namespace NTest {
 namespace {
@@ -63,7 +63,7 @@ TEST_F(VDiffHostileTest, OfALatticeThatDiffersTheFirstDetailsAreToldAndTheRestIs
     EXPECT_EQ(51U, diff.cutDetails); // 2 ^ 10 ways and more
 }
 
-/// A chain of structures, longer than any stack bears.
+/// A chain of structures, too long for any call stack.
 std::string Chain(int links, std::string const& bits) {
     std::string structures;
     for (int link = 0; link < links; ++link) {
@@ -90,7 +90,7 @@ TEST_F(VDiffHostileTest, AChainOfAnyLengthIsComparedAndToldUpToALength) {
               diff.cutDetails); // the structures before the last, and the service
 }
 
-/// Tables of which each leads to each: as many ways as there are orders.
+/// Tables that each lead to all others: as many ways as there are permutations.
 std::string Clique(int tables, std::string const& label) {
     std::string structures;
     std::string text;
@@ -118,7 +118,7 @@ TEST_F(VDiffHostileTest, ElementsThatAllLeadToEachOtherAreComparedInTime) {
     EXPECT_EQ(12U, diff.cutDetails);
 }
 
-/// Groups inside one another.
+/// Nested groups.
 std::string Groups(int depth, std::string const& text) {
     std::string open;
     std::string close;
@@ -149,7 +149,7 @@ TEST_F(VDiffHostileTest, ReferencesThatLeadNowhereAreCounted) {
     EXPECT_EQ(1U, diff.unresolvedNew);
 }
 
-/// Many layers over one shared base, of which a short name means something of its own in each.
+/// Many layers over one shared base, in each of which a short name has its own meaning.
 std::string Variants(int count, std::string const& bits, bool ownDops) {
     std::string variants;
     for (int variant = 0; variant < count; ++variant) {

@@ -13,7 +13,7 @@ namespace {
 using NQuery::VChangeKind;
 using VBlocks = std::vector<std::string>;
 
-/// Prints an answer as it is, or as that of the sides exchanged.
+/// Prints a result as it is, or as that for exchanged sides.
 class VPrinter {
 public:
     VPrinter(bool isMirrored, bool isSorted) : m_isMirrored(isMirrored), m_isSorted(isSorted) {}

@@ -7,7 +7,7 @@
 
 namespace NTest {
 
-/// An answer as text: a line for each layer, view, change and detail, the deeper the further in.
+/// A result as text: a line for each layer, view, change and detail, indented by level.
 ///
 ///     L changed
 ///       diag-comms

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "query/DiffTest.h"
 
-/// Which layers and entries are matched with which, and what became of them.
+/// Which layers and entries are matched with which, and what changed.
 
 namespace NTest {
 namespace {

@@ -9,13 +9,13 @@
 #include "reader/LayerXml.h"
 #include "reader/ReaderTest.h"
 
-/// What the tests of comparisons share: two databases from their texts, compared both ways.
+/// Common to the tests of comparisons: two databases from their texts, compared both ways.
 
 namespace NTest {
 
 class VDiffTest : public VReaderTest {
 protected:
-    /// The answer in print. Exchanged sides must give the mirrored one, and either with itself nothing.
+    /// The result in print. Exchanged sides must give the mirrored one, and either compared with itself nothing.
     std::string Diff(std::string const& old, std::string const& now);
 
     NReader::VReadResult Loaded(std::string const& document);
@@ -27,7 +27,7 @@ protected:
 std::string Dop(std::string const& id, std::string const& bits = "8", std::string const& content = "");
 std::string DopList(std::string const& dops); ///< DATA-OBJECT-PROPS in a dictionary
 
-/// A service with its request, both of the name; the request has the ID "RQ." and the name.
+/// A service with its request, both with the name; the ID of the request is "RQ." and the name.
 std::string ServiceXml(std::string const& name, std::string const& content = "");
 std::string RequestsXml(std::string const& requests);
 std::string RequestXml(std::string const& service, std::string const& params);

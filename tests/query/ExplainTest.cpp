@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Why a name means what it means in a layer: the rules one by one, and against what the reference says of graphs at
-// random.
+// Why a name has its meaning in a layer: the rules one by one, and compared with the reference implementation on random
+// graphs.
 
 #include <diagkit/query/Explain.h>
 

@@ -15,7 +15,7 @@ using NQuery::VParentRefState;
 /// A letter for each state.
 constexpr char kStates[] = {'=', '/', '!', '?'};
 
-/// "PROTOCOL UDS, BASE-VARIANT BV": what is not there in brackets.
+/// "PROTOCOL UDS, BASE-VARIANT BV": missing targets in brackets.
 std::string PrintNodes(NQuery::VInheritanceGraph const& graph) {
     std::string text;
     for (NQuery::VGraphNode const& node : graph.nodes) {
@@ -25,7 +25,7 @@ std::string PrintNodes(NQuery::VInheritanceGraph const& graph) {
     return text;
 }
 
-/// "BV=UDS", with the exclusions of an arrow: "BV=UDS-2+1" has two DIAG-COMMs and a variable.
+/// "BV=UDS", with the exclusions of an edge: "BV=UDS-2+1" has two DIAG-COMMs and a variable.
 std::string PrintEdges(NQuery::VInheritanceGraph const& graph) {
     std::string text;
     for (NQuery::VGraphEdge const& edge : graph.edges) {
@@ -56,7 +56,7 @@ std::string LayerWith(std::string const& kind, std::string const& id, std::vecto
     return LayerXml(kind, id, parents.empty() ? "" : ParentRefs(parents));
 }
 
-/// A family: E and F inherit from B, B from P and G, G from P; H stands aside and inherits from P.
+/// A family: E and F inherit from B, B from P and G, G from P; H is separate and inherits from P.
 std::string Family() {
     return LayerWith("PROTOCOL", "P") + LayerWith("FUNCTIONAL-GROUP", "G", {{"PROTOCOL", "P"}}) +
            LayerWith("BASE-VARIANT", "B", {{"FUNCTIONAL-GROUP", "G"}, {"PROTOCOL", "P"}}) +

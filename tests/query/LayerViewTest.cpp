@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The view of a layer with the way of each entry, and what is left out of it.
+// The view of a layer with the way of each entry, and the elements left out of it.
 
 #include <diagkit/query/LayerView.h>
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <set>
 
 #include "reader/LayerXml.h"
 
@@ -16,8 +17,8 @@ bool Has(VView const& view, std::string const& name) {
     return std::any_of(view.begin(), view.end(), [&](VNaiveElement const* entry) { return entry->name == name; });
 }
 
-/// What is visible in a layer: its own, then what its structural parents bring, then what libraries bring; the first of
-/// a name counts.
+/// The elements visible in a layer: its own, then those of its structural parents, then those of libraries; the first
+/// of a name counts.
 VView ViewOf(VNaiveDatabase const& database, std::size_t layer, bool isOfServices) {
     VNaiveLayer const& here = database.layers[layer];
     VView view;
@@ -40,7 +41,7 @@ VView ViewOf(VNaiveDatabase const& database, std::size_t layer, bool isOfService
     return view;
 }
 
-/// The ID of what a name means; "" for nothing.
+/// The ID of a name's target; "" for none.
 std::string MeaningIn(VView const& view, std::string const& name) {
     for (VNaiveElement const* const entry : view) {
         if (entry->name == name) {
@@ -50,16 +51,37 @@ std::string MeaningIn(VView const& view, std::string const& name) {
     return "";
 }
 
-/// Whether the holder of a reference is visible in a view; a request by a service that names it.
-bool IsSeen(VView const& structures, VView const& services, VNaiveElement const& holder) {
-    bool const isStructure = std::find(structures.begin(), structures.end(), &holder) != structures.end();
-    return isStructure || std::any_of(services.begin(), services.end(), [&holder](VNaiveElement const* service) {
-               return service->references.front().target == holder.id;
-           });
+using VIds = std::set<std::string>;
+
+/// What a layer reads besides what stands in it: what it sees, the requests of its services, and all to which
+/// references by ID lead that it reads.
+VIds ReadIn(VNaiveDatabase const& database, std::size_t layer, VView const& structures, VView const& services) {
+    VIds read;
+    for (VNaiveElement const* const structure : structures) {
+        read.insert(structure->id);
+    }
+    for (VNaiveElement const* const service : services) {
+        read.insert(service->references.front().target);
+    }
+    for (std::size_t before = 0; before != read.size();) { // once more after each that is new
+        before = read.size();
+        for (std::size_t other = 0; other < database.layers.size(); ++other) {
+            for (auto const& holders : {database.layers[other].structures, database.layers[other].requests}) {
+                for (VNaiveElement const& holder : holders) {
+                    for (VNaiveReference const& reference : holder.references) {
+                        if (reference.isById && (other == layer || read.count(holder.id) != 0)) {
+                            read.insert(reference.target);
+                        }
+                    }
+                }
+            }
+        }
+    }
+    return read;
 }
 
-/// Calls `take(layer, holder, reference, tag, isOfServices)` with everything that refers, in document order; the holder
-/// is null where that is the layer itself.
+/// Calls `take(layer, holder, reference, tag, isOfServices)` with every reference, in document order; the holder is
+/// null where it is the layer itself.
 void ForEachReference(VNaiveDatabase const& database,
                       std::function<void(std::size_t, VNaiveElement const*, VNaiveReference const&, std::string const&,
                                          bool)> const& take) {
@@ -84,15 +106,32 @@ void ForEachReference(VNaiveDatabase const& database,
     }
 }
 
-/// The layers in which a reference by short name means the element, as " V W"; "" for none.
-std::string LayersOf(VNaiveDatabase const& database, std::size_t home, VNaiveElement const* holder,
-                     VNaiveReference const& reference, bool isOfServices, std::string const& id) {
-    std::string layers;
+/// What a layer sees and reads.
+struct VSeen {
+    VView structures;
+    VView services;
+    VIds read;
+};
+
+std::vector<VSeen> SeenInEach(VNaiveDatabase const& database) {
+    std::vector<VSeen> seen;
     for (std::size_t layer = 0; layer < database.layers.size(); ++layer) {
         VView const structures = ViewOf(database, layer, false);
         VView const services = ViewOf(database, layer, true);
-        bool const isRead = layer == home || (holder != nullptr && IsSeen(structures, services, *holder));
-        if (isRead && MeaningIn(isOfServices ? services : structures, reference.target) == id) {
+        seen.push_back({structures, services, ReadIn(database, layer, structures, services)});
+    }
+    return seen;
+}
+
+/// The layers in which a reference by short name means the element, as " V W"; "" for none.
+std::string LayersOf(VNaiveDatabase const& database, std::vector<VSeen> const& seen, std::size_t home,
+                     VNaiveElement const* holder, VNaiveReference const& reference, bool isOfServices,
+                     std::string const& id) {
+    std::string layers;
+    for (std::size_t layer = 0; layer < database.layers.size(); ++layer) {
+        bool const isRead = layer == home || (holder != nullptr && seen[layer].read.count(holder->id) != 0);
+        VView const& view = isOfServices ? seen[layer].services : seen[layer].structures;
+        if (isRead && MeaningIn(view, reference.target) == id) {
             layers += ' ' + database.layers[layer].name;
         }
     }
@@ -192,6 +231,7 @@ std::vector<std::string> VNaiveDatabase::Ids() const {
 }
 
 std::string VNaiveDatabase::Uses(std::string const& id) const {
+    std::vector<VSeen> const seen = SeenInEach(*this);
     std::string uses;
     ForEachReference(*this, [&](std::size_t layer, VNaiveElement const* holder, VNaiveReference const& reference,
                                 std::string const& tag, bool isOfServices) {
@@ -200,24 +240,25 @@ std::string VNaiveDatabase::Uses(std::string const& id) const {
             uses += reference.target == id ? line + '\n' : "";
             return;
         }
-        std::string const in = LayersOf(*this, layer, holder, reference, isOfServices, id);
+        std::string const in = LayersOf(*this, seen, layer, holder, reference, isOfServices, id);
         uses += in.empty() ? "" : line + " in" + in + '\n';
     });
     return uses;
 }
 
 std::string VNaiveDatabase::Unused() const {
+    std::vector<VSeen> const seen = SeenInEach(*this);
     std::string unused;
     for (std::string const& id : Ids()) {
-        bool isUsed = id.front() == 'S'; // services are of no kind that may be unused
+        bool isUsed = id.front() == 'S'; // services are of a kind that is never reported as unused
         ForEachReference(*this, [&](std::size_t layer, VNaiveElement const* holder, VNaiveReference const& reference,
                                     std::string const&, bool isOfServices) {
             if (holder != nullptr && holder->id == id) {
                 return;
             }
-            isUsed =
-                isUsed || (reference.isById ? reference.target == id
-                                            : !LayersOf(*this, layer, holder, reference, isOfServices, id).empty());
+            isUsed = isUsed ||
+                     (reference.isById ? reference.target == id
+                                       : !LayersOf(*this, seen, layer, holder, reference, isOfServices, id).empty());
         });
         unused += isUsed ? "" : (unused.empty() ? "" : " ") + id;
     }

@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-/// A small database as plain lists, from which its XML is written and what refers to what is worked out by looking at
-/// everything in every layer. It shares nothing with the library.
+/// A small database as plain lists, from which its XML is written and its references are determined by examining
+/// everything in every layer. It has no code in common with the library.
 
 namespace NTest {
 
 struct VNaiveReference {
-    std::string from;   ///< the short name of the parameter or layer that holds it
+    std::string from;   ///< the short name of the parameter or layer that contains it
     std::string target; ///< ID or short name
     bool isById;
 };
@@ -36,14 +36,14 @@ struct VNaiveLayer {
     std::vector<VNaiveElement> structures{};
     std::vector<VNaiveElement> services{};
     std::vector<VNaiveElement> requests{};
-    std::vector<VNaiveReference> accessLevels{}; ///< which name DIAG-COMMs by short name
+    std::vector<VNaiveReference> accessLevels{}; ///< which refer to DIAG-COMMs by short name
 };
 
 struct VNaiveDatabase {
     std::vector<VNaiveLayer> layers;
 
     std::vector<std::string> Ids() const;          ///< of structures, services and requests, in document order
-    std::string Uses(std::string const& id) const; ///< as `Printed` has them
+    std::string Uses(std::string const& id) const; ///< in the form of `Printed`
     std::string Unused() const;                    ///< the IDs, with blanks between
 
     void Remove(std::string const& id);

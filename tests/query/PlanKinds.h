@@ -12,7 +12,7 @@
 
 namespace NTest {
 
-/// A kind of inherited element, as layer graphs, the reference and the library call it.
+/// A kind of inherited element, with its names in layer graphs, the reference implementation and the library.
 struct VPlanKind {
     VContent content;
     VNaiveKind naive;

@@ -7,7 +7,7 @@ namespace {
 
 class VRandomUsesTest : public VUsesTest {
 protected:
-    /// Compares every answer with that of the plain lists.
+    /// Compares every result with that of the plain lists.
     void Compare(VNaiveDatabase const& naive) {
         for (std::string const& id : naive.Ids()) {
             ASSERT_EQ(Uses(id), naive.Uses(id)) << id << " in\n" << XmlOf(naive);

@@ -11,7 +11,7 @@
 namespace NTest {
 namespace {
 
-/// References by ID as a search of the text finds them: how often each ID is named.
+/// References by ID as found by a search of the text: how often each ID occurs.
 std::map<std::string, std::size_t> NamedIn(std::vector<std::string> const& files) {
     std::map<std::string, std::size_t> named;
     std::regex const reference("ID-REF\\s*=\\s*[\"']([^\"']*)");
@@ -27,7 +27,7 @@ std::map<std::string, std::size_t> NamedIn(std::vector<std::string> const& files
 
 class VSamplesUsesTest : public VUsesTest {
 protected:
-    /// Every element with an ID is referred to as often as the text names it; where no two elements share an ID.
+    /// Every element with an ID has as many references as in the text; where no two elements share an ID.
     void CompareWithText(std::vector<std::string> const& files) {
         ReadFiles(files);
         std::map<std::string, std::size_t> named = NamedIn(files);
@@ -62,7 +62,7 @@ TEST_F(VSamplesUsesTest, NothingOfOurOwnIsUnused) {
     EXPECT_EQ(Unused(), "");
 }
 
-/// A structure of UdsOnCan names a DOP that FrontWiper has as well.
+/// A structure of UdsOnCan refers to a DOP that FrontWiper has as well.
 TEST_F(VSamplesUsesTest, AShortNameOfOurOwnMeansWhatEachLayerHas) {
     ReadFiles({std::string(DIAGKIT_SAMPLES) + "/WiperDatabase.pdx"});
     EXPECT_EQ(Uses("UdsOnCan.DataObject.TroubleCode"), "DOP-SNREF from TroubleCode in UdsOnCan BodyElectronics\n"

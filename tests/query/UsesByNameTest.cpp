@@ -77,6 +77,64 @@ TEST_F(VUsesByNameTest, OfAMessageThatNoServiceNamesAreReadInItsOwnLayer) {
     EXPECT_EQ(Uses("D"), "DOP-SNREF from P in B\n");
 }
 
+TEST_F(VUsesByNameTest, OfADopAreReadWhereAMessageLeadsToItById) {
+    std::string const service = DiagComms(Service("S", "<REQUEST-REF ID-REF=\"RQ\"/>"));
+    ReadLayers(LayerXml("ECU-SHARED-DATA", "L", InDictionary(Structure("T", Value("P", DopSnrefTo("X"))))) +
+               LayerXml("BASE-VARIANT", "B", service + Request("RQ", Value("Q", "<DOP-REF ID-REF=\"T\"/>"))) +
+               LayerXml("ECU-VARIANT", "V1",
+                        InDictionary(OwnDop("D1", "X")) + ParentRefs({{"BASE-VARIANT", "B", Excluded("S")}})) +
+               LayerXml("ECU-VARIANT", "V2", InDictionary(OwnDop("D2", "X")) + ParentRefs({{"BASE-VARIANT", "B"}})));
+    EXPECT_EQ(Uses("D1"), "");
+    EXPECT_EQ(Uses("D2"), "DOP-SNREF from P in V2\n");
+}
+
+TEST_F(VUsesByNameTest, OfADopWhoseNameMeansAnotherAreReadWhereAReferenceByIdLeadsToIt) {
+    ReadFamily(InDictionary(Structure("T", Value("P", DopSnrefTo("X")))) +
+                   WithParams(Value("Q", "<DOP-REF ID-REF=\"T\"/>")),
+               InDictionary(OwnDop("D1", "X") + "<STRUCTURES><STRUCTURE ID=\"T1\"><SHORT-NAME>T</SHORT-NAME>"
+                                                "</STRUCTURE></STRUCTURES>"),
+               "");
+    EXPECT_EQ(Uses("D1"), "DOP-SNREF from P in V1\n");
+}
+
+TEST_F(VUsesByNameTest, AreReadOverSeveralReferencesById) {
+    std::string const table =
+        "<TABLES>" + Xml("TABLE", "TB", Xml("TABLE-ROW", "R", "<STRUCTURE-REF ID-REF=\"T\"/>")) + "</TABLES>";
+    std::string const key = "<PARAM xsi:type=\"TABLE-KEY\" ID=\"K\"><SHORT-NAME>K</SHORT-NAME>"
+                            "<TABLE-REF ID-REF=\"TB\"/></PARAM>";
+    ReadLayers(LayerXml("ECU-SHARED-DATA", "L",
+                        InDictionary("<STRUCTURES>" +
+                                     Xml("STRUCTURE", "T", "<PARAMS>" + Value("P", DopSnrefTo("X")) + "</PARAMS>") +
+                                     Xml("STRUCTURE", "U", "<PARAMS>" + key + "</PARAMS>") + "</STRUCTURES>" + table)) +
+               LayerXml("BASE-VARIANT", "B",
+                        InDictionary(OwnDop("D", "X")) + WithParams(Value("Q", "<DOP-REF ID-REF=\"U\"/>"))));
+    EXPECT_EQ(Uses("D"), "DOP-SNREF from P in B\n");
+}
+
+TEST_F(VUsesByNameTest, OfAJobsDopAreReadWhereTheJobIsVisible) {
+    std::string const job = "<SINGLE-ECU-JOB ID=\"J\"><SHORT-NAME>J</SHORT-NAME><OUTPUT-PARAMS>" +
+                            Xml("OUTPUT-PARAM", "O", "<DOP-BASE-REF ID-REF=\"T\"/>") +
+                            "</OUTPUT-PARAMS></SINGLE-ECU-JOB>";
+    ReadLayers(LayerXml("ECU-SHARED-DATA", "L", InDictionary(Structure("T", Value("P", DopSnrefTo("X"))))) +
+               LayerXml("BASE-VARIANT", "B", DiagComms(job)) +
+               LayerXml("ECU-VARIANT", "V", InDictionary(OwnDop("D", "X")) + ParentRefs({{"BASE-VARIANT", "B"}})));
+    EXPECT_EQ(Uses("D"), "DOP-SNREF from P in V\n");
+}
+
+TEST_F(VUsesByNameTest, OfAnEnvDataAreReadWhereAReferenceLeadsToItFromItsDescription) {
+    auto const envData = [](std::string const& id) {
+        return Xml("ENV-DATA", id, "<PARAMS>" + Value("P." + id, DopSnrefTo("X")) + "</PARAMS>");
+    };
+    std::string const described =
+        "<ENV-DATA-DESCS>" +
+        Xml("ENV-DATA-DESC", "E", "<ENV-DATAS><ENV-DATA-REF ID-REF=\"N\"/>" + envData("I") + "</ENV-DATAS>") +
+        "</ENV-DATA-DESCS>";
+    ReadLayers(LayerXml("ECU-SHARED-DATA", "L", InDictionary("<ENV-DATAS>" + envData("N") + "</ENV-DATAS>")) +
+               LayerXml("BASE-VARIANT", "B", InDictionary(described)) +
+               LayerXml("ECU-VARIANT", "V", InDictionary(OwnDop("D", "X")) + ParentRefs({{"BASE-VARIANT", "B"}})));
+    EXPECT_EQ(Uses("D"), "DOP-SNREF from P.N in V\nDOP-SNREF from P.I in V\n");
+}
+
 TEST_F(VUsesByNameTest, WithTheCaseOfLettersMeanNothing) {
     ReadFamily(InDictionary(OwnDop("D", "x")) + WithParams(Value("P", DopSnrefTo("X"))), "", "");
     EXPECT_EQ(Uses("D"), "");

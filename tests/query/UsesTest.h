@@ -24,7 +24,7 @@ protected:
     /// Reads a container with these layers.
     void ReadLayers(std::string const& layers) { Read(ContainerOfLayers(layers)); }
 
-    /// What leads to the first element of this ID or short name, a line for each reference.
+    /// The references to the first element of this ID or short name, a line for each.
     std::string Uses(std::string const& name);
     std::string UsesOf(NODX201::VOdxElement const& element);
 
@@ -33,7 +33,7 @@ protected:
     std::string Unused(); ///< their IDs, with blanks between; short names where there is none
 
     void Remove(std::string const& name); ///< an element, for the tests of edited databases
-    void Forget() { m_uses.reset(); }     ///< the index; the next question makes a new one
+    void Forget() { m_uses.reset(); }     ///< the index; the next query makes a new one
 
 private:
     NQuery::VUses const& Index();

@@ -36,7 +36,7 @@ public:
 private:
     bool StartsWith(char const* text) const { return m_xml.compare(m_at, std::string(text).size(), text) == 0; }
 
-    /// What stands up to the text; goes on after it.
+    /// Returns the text up to `end`; continues after it.
     std::string UpTo(char const* end) {
         std::size_t const found = m_xml.find(end, m_at);
         if (found == std::string::npos) {

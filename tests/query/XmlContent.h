@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// What a document of ODX says, straight from its text, with no code of the library.
+/// The contents of a document of ODX, directly from its text, without code of the library.
 
 namespace NTest {
 
@@ -19,8 +19,8 @@ struct VXmlValue {
     }
 };
 
-/// All attributes and texts of a well-formed document, in the order of the document. Texts are trimmed; one of white
-/// space alone is none. A DESC counts as a text with its markup.
+/// All attributes and texts of a well-formed document, in the order of the document. Texts are trimmed; one of only
+/// white space does not count. A DESC counts as a text with its markup.
 std::vector<VXmlValue> ValuesOf(std::string const& xml);
 
 std::string Trimmed(std::string const& text); ///< without the white space around it

@@ -12,7 +12,7 @@ namespace {
 
 class VBadInputTest : public VReaderTest {
 protected:
-    /// What is refused: no database, one error.
+    /// The result of a refused file: no database, one error.
     void ExpectRefused(std::string const& diagnostic, std::string const& message) {
         EXPECT_EQ(m_result.database, nullptr);
         EXPECT_TRUE(m_result.documents.empty());
@@ -47,7 +47,7 @@ TEST_F(VBadInputTest, MissingFileIsRefused) {
 TEST_F(VBadInputTest, FolderWithoutOdxIsRefused) {
     std::filesystem::create_directory(Path("folder"));
     ReadFiles({Path("folder")});
-    ExpectRefused("folder:0:0 error no-file", "the folder holds no ODX document or package");
+    ExpectRefused("folder:0:0 error no-file", "the folder contains no ODX document or package");
 }
 
 TEST_F(VBadInputTest, EmptyFileIsRefused) {
@@ -91,7 +91,7 @@ TEST_F(VBadInputTest, VeryLongNameIsReported) {
     EXPECT_EQ(m_result.database, nullptr);
     ASSERT_EQ(m_result.diagnostics.size(), 1U);
     EXPECT_EQ(m_result.diagnostics[0].code, "no-file");
-#ifndef _WIN32 // which calls it a file that is not there
+#ifndef _WIN32 // which reports it as a missing file
     EXPECT_NE(Message(0), "no such file");
 #endif
 }
@@ -130,7 +130,7 @@ TEST_F(VBadInputTest, FileNamedTwiceThatCannotBeReadIsRefused) {
     EXPECT_EQ(Diagnostics(), "a.odx:1:6 error not-xml\na.odx:0:0 warning repeated-file");
 }
 
-// XML that attacks
+// XML used for attacks
 
 TEST_F(VBadInputTest, DocumentTypesAreRefused) {
     std::string laughs = "<?xml version=\"1.0\"?>\n<!DOCTYPE ODX [<!ENTITY a \"ha\">";
@@ -187,7 +187,7 @@ TEST_F(VBadInputTest, PackageThatIsNoArchiveIsRefused) {
 
 TEST_F(VBadInputTest, PackageWithoutDocumentsIsRefused) {
     ReadFiles({WritePackage("a.pdx", {{"index.xml", "<CATALOG/>"}, {"job.jar", "x"}, {"odx", "x"}})});
-    ExpectRefused("a.pdx:0:0 error no-package", "holds no ODX document");
+    ExpectRefused("a.pdx:0:0 error no-package", "contains no ODX document");
 }
 
 TEST_F(VBadInputTest, PackageIsToldByItsBytesAndNotByItsName) {
@@ -242,7 +242,7 @@ TEST_F(VBadInputTest, PackageOfBrokenMembersIsRefused) {
 }
 
 TEST_F(VBadInputTest, CorruptMembersAreLeftOut) {
-    // Long enough to be deflated, and to be noticed only at its end.
+    // Long enough to be deflated, and to be detected only at its end.
     std::string const filler = "<!--" + Repeated("0123456789 abcdefgh ", 2000) + "-->";
     WritePackage("a.pdx", {{"a.odx-d", Named("A")}, {"b.odx-d", filler + Named("B")}, {"c.odx-d", Named("C")}});
     Patch("a.pdx", [](std::string& bytes) {
@@ -300,7 +300,7 @@ TEST_F(VBadInputTest, SizeOfAPackageIsLimited) {
     m_options.maxPackageSize = 3 * size - 1;
     ReadFiles({path});
     EXPECT_EQ(m_result.database, nullptr);
-    EXPECT_EQ(Diagnostics(), "a.pdx:0:0 error too-large"); // and nothing of the member at which it shows
+    EXPECT_EQ(Diagnostics(), "a.pdx:0:0 error too-large"); // and nothing about the member in which it occurs
     EXPECT_EQ(Message(0), "the package unpacks to more than " + std::to_string(3 * size - 1) +
                               " bytes; --max-package-size allows more");
 }

@@ -10,7 +10,7 @@
 namespace NTest {
 namespace {
 
-// Data whose required parts are left out, as documents of later versions may leave them out: only cycles are reported.
+// Data without required parts, as documents of later versions may be: only cycles are reported.
 constexpr char kVersion[] = "2.2.0";
 
 std::string Xml(std::string const& tag, std::string const& id, std::string const& content) {
@@ -51,7 +51,7 @@ class VCyclesTest : public VReaderTest {
 protected:
     void ReadDictionary(std::string const& content) { Read(Dictionary(content, kVersion)); }
 
-    /// The document has one cycle, which the reference at this place closes, and a walk over it ends.
+    /// The document has one cycle, closed by the reference at this place, and a walk over it terminates.
     void ExpectSevered(std::string const& position, std::string const& element) {
         EXPECT_EQ(Diagnostics(), "test.odx:" + position + " error containment-cycle");
         ASSERT_EQ(m_result.diagnostics.size(), 1U);
@@ -192,7 +192,7 @@ TEST_F(VCyclesTest, ShortNameOfTheStructureItself) {
 }
 
 TEST_F(VCyclesTest, ShortNameThatMeansAnotherDopInEveryLayerIsNone) {
-    // "S" is a STRUCTURE in a layer of which the ECU-SHARED-DATA with "T" knows nothing.
+    // "S" is a STRUCTURE in a layer that the ECU-SHARED-DATA with "T" does not see.
     Read(Container("<ECU-SHARED-DATAS>" +
                        Xml("ECU-SHARED-DATA", "A",
                            "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("T", {DopSnref("S")})) +
@@ -206,7 +206,7 @@ TEST_F(VCyclesTest, ShortNameThatMeansAnotherDopInEveryLayerIsNone) {
 }
 
 TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) {
-    // In the first variant "Payload" is a DOP, in the second a STRUCTURE that holds the frame that holds it.
+    // In the first variant "Payload" is a DOP, in the second a STRUCTURE that contains the frame that contains it.
     std::string const shared =
         "<ECU-SHARED-DATAS>" +
         Xml("ECU-SHARED-DATA", "A",
@@ -244,13 +244,13 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) 
         EXPECT_TRUE(link.HasDopBase(Get<NODX201::VDiagLayer>(L"V1")));
         EXPECT_FALSE(link.HasDopBase(Get<NODX201::VDiagLayer>(L"V2")));
         auto& inner = As<NODX201::VValue>(At(Get<NODX201::VStructure>(L"N").ParamCollection(), 0)).GetDopBaseLink();
-        EXPECT_TRUE(inner.HasDopBase(Get<NODX201::VDiagLayer>(L"V2"))); // an ID is the same in all layers
+        EXPECT_TRUE(inner.HasDopBase(Get<NODX201::VDiagLayer>(L"V2"))); // an ID has the same target in all layers
         Walk();
     }
 }
 
 TEST_F(VCyclesTest, ShortNameThatClosesACycleInSeveralLayersIsReportedOnceWithAllOfThem) {
-    // The name means the base variant's structure there and in two variants; a third has another one.
+    // The target of the name is the base variant's structure there and in two variants; a third has another one.
     std::string const parentRef = "<PARENT-REFS><PARENT-REF xsi:type=\"BASE-VARIANT-REF\" ID-REF=\"B\"/></PARENT-REFS>";
     auto const dictionary = [](std::string const& content) {
         return "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(content) + "</DIAG-DATA-DICTIONARY-SPEC>";
@@ -278,7 +278,7 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInSeveralLayersIsReportedOnceWithAl
 }
 
 TEST_F(VCyclesTest, EveryEnvDataInsideADescriptionIsSearched) {
-    // The fields lead into the description from its inside, before it is met itself.
+    // The fields lead into the description from inside, before it is visited itself.
     std::string fields;
     std::string envDatas;
     for (char const* const number : {"1", "2", "3", "4"}) {
@@ -292,9 +292,9 @@ TEST_F(VCyclesTest, EveryEnvDataInsideADescriptionIsSearched) {
     Walk();
 }
 
-// Whatever refers to whatever
+// Random references
 
-/// Whether a DOP is reached from itself, told by the contract alone.
+/// Whether a DOP can be reached from itself, determined only through the contract.
 bool IsInCycle(NODX201::VDopBase& dop, NODX201::VDiagLayer& layer, std::set<NODX201::VDopBase*>& above) {
     if (!above.insert(&dop).second) {
         return true;

@@ -3,7 +3,7 @@
 
 #include "reader/ReaderTest.h"
 
-/// What becomes of each element of data dictionaries, of administrative data and of special data groups.
+/// The results for each element of data dictionaries, of administrative data and of special data groups.
 
 namespace NTest {
 namespace {

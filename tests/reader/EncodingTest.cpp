@@ -8,7 +8,7 @@ namespace {
 
 class VEncodingTest : public VReaderTest {
 protected:
-    /// Reads bytes that hold a container whose short name they write, and gives that name.
+    /// Reads bytes of a container with a short name in their encoding, and returns that name.
     std::wstring NameIn(std::string_view bytes) {
         Read(bytes);
         auto& containers = Database().GetOdx().DiagLayerContainerCollection();
@@ -209,7 +209,7 @@ TEST_F(VEncodingTest, DeclaredOneByteEncodingOfAUtf8FileIsObeyedAndReportedWhere
     EXPECT_EQ(Message(0),
               "the document declares ISO-8859-1 and is read as Windows-1252, but all that is beyond ASCII is UTF-8, "
               "first here");
-    // One character that is none in UTF-8 decides for the declaration.
+    // A single character that is not UTF-8 confirms the declaration.
     EXPECT_EQ(NameIn(With(declaration, "T\xC3\xBCr \xFC")), L"T\u00C3\u00BCr \u00FC");
     EXPECT_EQ(Diagnostics(), "");
     EXPECT_EQ(NameIn(With(declaration, "T\xFCr \xC3\xBC")), L"T\u00FCr \u00C3\u00BC");
@@ -225,13 +225,13 @@ TEST_F(VEncodingTest, Latin1WithBytesThatItHasNoCharactersForIsReadAsWindows1252
     EXPECT_EQ(Message(0),
               "the document declares ISO-8859-1, which has no character for the byte 0x80, first here; read "
               "as Windows-1252");
-    // The five codes that Windows-1252 leaves open stay control characters.
+    // The five unassigned codes of Windows-1252 remain control characters.
     EXPECT_EQ(NameIn(With(declaration, "a\x9D")), L"a\x9D");
     EXPECT_EQ(Diagnostics(), "test.odx:2:70 warning encoding");
     EXPECT_NE(Message(0).find("the byte 0x9D"), std::string::npos) << Message(0);
     EXPECT_EQ(NameIn(With(declaration, "\xA0\xFF")), L"\u00A0\u00FF");
     EXPECT_EQ(Diagnostics(), "");
-    EXPECT_EQ(NameIn(With(kWindows1252, "\x80")), L"\u20AC"); // which says what it is
+    EXPECT_EQ(NameIn(With(kWindows1252, "\x80")), L"\u20AC"); // which declares its encoding
     EXPECT_EQ(Diagnostics(), "");
 }
 

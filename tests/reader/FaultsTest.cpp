@@ -11,14 +11,14 @@ namespace {
 
 class VFaultsTest : public VReaderTest {
 protected:
-    /// Reads a file that fails after so many bytes; whether it came to that.
+    /// Reads a file that fails after the given number of bytes; returns whether it did.
     bool ReadUntilFault(std::string const& path, std::uint64_t bytesBefore) {
         VFault const fault(bytesBefore);
         ReadFiles({path});
         return fault.HasHappened();
     }
 
-    /// A document of this size or more that is complete without its end: a fault taken for an end would go unseen.
+    /// A document of at least this size that is complete without its end: a fault taken for an end would go unnoticed.
     static std::string Large(std::string const& name, std::size_t size) {
         return "<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"" + name + "\"><SHORT-NAME>" + name +
                "</SHORT-NAME></DIAG-LAYER-CONTAINER></ODX>" + std::string(size, '\n');
@@ -54,8 +54,8 @@ TEST_F(VFaultsTest, MemberThatCannotBeReadToItsEndIsNeverLostInSilence) {
         }
         EXPECT_EQ(m_result.documents.size(), 2U);
         EXPECT_EQ(Diagnostics(), "");
-        EXPECT_GT(refused, 2U); // in the directory at least
-        if (threads == 1) {     // of two threads it is chance which one meets the fault, and with how much behind it
+        EXPECT_GT(refused, 2U);      // in the directory at least
+        if (threads == 1) {          // of two threads either may get the fault, after any number of documents
             EXPECT_GT(refused, 10U); // in the directory, or in the first member
             EXPECT_GT(leftOut, 10U); // in the second member
         }
@@ -64,7 +64,7 @@ TEST_F(VFaultsTest, MemberThatCannotBeReadToItsEndIsNeverLostInSilence) {
 
 TEST_F(VFaultsTest, PackageWhoseBytesCannotBeHadIsCalledThat) {
     std::string const path = Write("a.pdx", ZipOf({{"a.odx", Large("A", 1000)}}));
-    // At its first bytes, which tell what it is, and in its directory.
+    // At its first bytes, which show what it is, and in its directory.
     for (std::uint64_t const bytes : {0, 4}) {
         ASSERT_TRUE(ReadUntilFault(path, bytes)) << bytes;
         EXPECT_EQ(m_result.database, nullptr) << bytes;

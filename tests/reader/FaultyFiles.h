@@ -6,12 +6,12 @@
 #include <memory>
 #include <string>
 
-/// Reading that fails, as on a medium that is broken. The functions with which the standard library and libzip read
-/// files are replaced in the whole program, which therefore holds nothing but tests of such faults.
+/// Failing reads, as on broken media. The functions with which the standard library and libzip read files are replaced
+/// in the whole program, which therefore contains only tests of such faults.
 
 namespace NTest {
 
-/// While it lives, reading fails once so many bytes have been read.
+/// While it exists, reading fails once the given number of bytes has been read.
 class VFault {
 public:
     explicit VFault(std::uint64_t bytesBefore);
@@ -22,17 +22,17 @@ public:
     bool HasHappened() const;
 };
 
-/// What the system calls the fault that libzip meets; the standard library meets EIO.
+/// The system's text for the fault as libzip gets it; the standard library gets EIO.
 std::string TextOfPackageFault();
 
-/// Makes a file that is there and cannot be read, as long as what is returned lives.
+/// Makes a file that exists and cannot be read, as long as the returned object exists.
 [[nodiscard]] std::shared_ptr<void> MakeUnreadableFile(std::string const& path);
 
 /// The errno of reading it.
 extern int const kErrorOfUnreadableFile;
 
-/// For the functions in the place of the system's: how many of the bytes wanted can be had. 0, with the fault noted,
-/// when reading is to fail.
+/// For the replacements of the system's functions: how many of the requested bytes can be read. 0, with the fault
+/// recorded, when reading is to fail.
 std::size_t GrantedBytes(std::size_t wanted);
 
 } // namespace NTest

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#undef _FORTIFY_SOURCE // which would have these functions inline
+#undef _FORTIFY_SOURCE // it would make these functions inline
 #include "reader/FaultyFiles.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ extern "C" __attribute__((visibility("default"))) size_t fread(void* buffer, siz
     static auto const real = reinterpret_cast<VFread>(dlsym(RTLD_NEXT, "fread"));
     std::size_t const granted = NTest::GrantedBytes(size * count);
     if (granted == 0 && size * count > 0) {
-        fputc(0, stream); // on a stream that is only read this fails, and leaves it failed
+        fputc(0, stream); // this fails on a stream that is only read, and leaves it failed
         errno = EIO;
         return 0;
     }

@@ -8,8 +8,8 @@
 
 #include <windows.h>
 
-// The linker puts the functions called __wrap_... in the place of others (--wrap), which it then calls __real_...;
-// those of Windows are called by way of pointers called __imp_....
+// The linker replaces functions by those called __wrap_... (--wrap), and names the originals __real_...; functions of
+// Windows are called through pointers called __imp_....
 extern "C" {
 int __real_read(int file, void* buffer, unsigned count);
 extern decltype(&ReadFile) __real___imp_ReadFile;
@@ -41,7 +41,7 @@ std::string TextOfPackageFault() { return std::system_category().message(ERROR_I
 
 int const kErrorOfUnreadableFile = EACCES;
 
-// What one has opened and shares with nobody cannot be read by others.
+// A file opened without sharing cannot be read by others.
 std::shared_ptr<void> MakeUnreadableFile(std::string const& path) {
     HANDLE const file =
         CreateFileW(std::filesystem::u8path(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);

@@ -3,7 +3,7 @@
 
 #include "reader/ReaderTest.h"
 
-/// What becomes of each element of flash data.
+/// The results for each element of flash data.
 
 namespace NTest {
 namespace {

@@ -37,7 +37,7 @@ TEST_F(VHostilePackagesTest, NamesThatLeadOutOfThePackageAreLeftOut) {
                              "a.pdx!C:/d.odx:0:0 error unsafe-name\n"
                              "a.pdx!c:e.odx:0:0 error unsafe-name\n"
                              "a.pdx!x/../../c.odx:0:0 error unsafe-name");
-    EXPECT_EQ(Message(0), "the member's name is no path inside the package, so the member is left out");
+    EXPECT_EQ(Message(0), "the member's name is not a path inside the package, so the member is ignored");
 }
 
 TEST_F(VHostilePackagesTest, PackageOfNothingElseIsRefused) {
@@ -61,7 +61,7 @@ TEST_F(VHostilePackagesTest, OfMembersOfOneNameTheLastCounts) {
                      {"s/A.odx", Named("Other")}}));
     EXPECT_EQ(ContainerNames(), L"B Other Third");
     EXPECT_EQ(Diagnostics(), "a.pdx!s/a.odx:0:0 error duplicate-member\na.pdx!s/a.odx:0:0 error duplicate-member");
-    EXPECT_EQ(Message(0), "another member of this name follows in the package and counts; this one is left out");
+    EXPECT_EQ(Message(0), "a later member of the package has the same name and is used; this one is ignored");
 }
 
 TEST_F(VHostilePackagesTest, MemberThatIsLargerThanItsHeaderSaysIsLeftOut) {
@@ -132,7 +132,7 @@ TEST_F(VHostilePackagesTest, PackagesInsidePackagesAreNotOpened) {
     ReadBytes(ZipOf({{"inner.pdx", inner}, {"a.odx", Named("A")}}));
     EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "");
-    ReadBytes(ZipOf({{"inner.odx", inner}, {"a.odx", Named("A")}})); // named like a document, it is no XML
+    ReadBytes(ZipOf({{"inner.odx", inner}, {"a.odx", Named("A")}})); // named like a document, but not XML
     EXPECT_EQ(ContainerNames(), L"A");
     EXPECT_EQ(Diagnostics(), "a.pdx!inner.odx:1:3 error not-xml");
 }

@@ -3,8 +3,8 @@
 
 #include "reader/ReaderTest.h"
 
-/// What becomes of each element of containers and layers, services, jobs and parameters: attributes, texts, children,
-/// and the defaults of what is absent.
+/// The results for each element of containers and layers, services, jobs and parameters: attributes, texts, children,
+/// and the defaults of absent ones.
 
 namespace NTest {
 namespace {
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-/// What a link names: `#id in docref (doctype) rREVISION`, or `name` of a short-name reference.
+/// The reference in a link: `#id in docref (doctype) rREVISION`, or `name` for a short-name reference.
 std::wstring Named(NODX201::VLink& link) {
     if (auto const* const snref = dynamic_cast<NODX201::VSnref const*>(&link.GetLink())) {
         return snref->GetShortName();
@@ -80,7 +80,7 @@ TEST_F(VLayerElementsTest, PositionsAreThoseOfTheStartTags) {
     auto& variant = Get<VMemEcuVariant>(L"V");
     EXPECT_EQ(PositionOf(variant), "3:2");
     EXPECT_EQ(Database().GetDocumentName(variant.GetPosition()), path);
-    // Behind ` ID="V"><SHORT-NAME>ü</SHORT-NAME><DIAG-COMMS><!--ü-->`: 8 + 26 + 12 + 8 characters.
+    // After ` ID="V"><SHORT-NAME>ü</SHORT-NAME><DIAG-COMMS><!--ü-->`: 8 + 26 + 12 + 8 characters.
     EXPECT_EQ(PositionOf(As<VMemDiagCommLink>(At(variant.DiagCommProxyCollection(), 0))), "4:55");
     EXPECT_EQ(Diagnostics(), "p.odx:4:55 error unresolved-reference");
 }

@@ -11,19 +11,19 @@ namespace NTest {
 /// An element whose ID and short name are the same.
 std::string Xml(std::string const& tag, std::string const& id, std::string const& content = "");
 
-/// A layer in the wrapper of its kind, on a line of its own, as its content is.
+/// A layer in the wrapper of its kind, on its own line, as its content is.
 std::string LayerXml(std::string const& kind, std::string const& id, std::string const& content = "");
 
 std::string Service(std::string const& id, std::string const& content = "");
 std::string DiagComms(std::string const& content);
-std::string Dops(std::string const& names); ///< DATA-OBJECT-PROPs of these names, a letter each, with IDs of their own
+std::string Dops(std::string const& names); ///< DATA-OBJECT-PROPs of these names, one letter each, each with its own ID
 std::string Value(std::string const& name, std::string const& reference); ///< a VALUE parameter
 std::string Structure(std::string const& id, std::string const& params);
 std::string Request(std::string const& id, std::string const& params);
 std::string InDictionary(std::string const& content);
 
-/// PARENT-REFS to these layers, each reference on a line of its own. A word is the kind, such as "BASE-VARIANT", and
-/// the ID of a layer, with what the reference holds.
+/// PARENT-REFS to these layers, each reference on its own line. A word is the kind, such as "BASE-VARIANT", and the ID
+/// of a layer, with the contents of the reference.
 struct VParentXml {
     std::string kind;
     std::string id;

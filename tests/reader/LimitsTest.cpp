@@ -6,7 +6,7 @@
 namespace NTest {
 namespace {
 
-/// What is beyond a limit gives one diagnostic, which names the limit, its value and the option that raises it.
+/// Input beyond a limit gives one diagnostic, which names the limit, its value and the option that raises it.
 class VLimitsTest : public VReaderTest {
 protected:
     /// Reads a document once just within a limit, and once just beyond it.
@@ -75,7 +75,7 @@ TEST_F(VLimitsTest, SizeOfATag) {
 }
 
 TEST_F(VLimitsTest, SizeOfATagThatNeverEnds) {
-    // Larger than the pieces in which files are read: the end is not waited for.
+    // Larger than the pieces in which files are read: the reader does not wait for the end.
     for (std::string const start : {"<A a='", "<!--", "<?a "}) {
         m_options.maxTagSize = 100000;
         Read(Container(start + std::string(1500000, 'x')));
@@ -150,11 +150,11 @@ TEST_F(VLimitsTest, NumberOfDiagnosticsOfEachSeverity) {
     EXPECT_NE(m_result.database, nullptr);
     EXPECT_EQ(Diagnostics(), "test.odx:2:1 warning unknown-child\ntest.odx:2:5 warning unknown-child\n"
                              "test.odx:3:1 warning too-many-diagnostics\ntest.odx:4:1 error repeated-child");
-    EXPECT_EQ(Message(2), "left out are 3 diagnostics, 0 of them errors, the first here: there are more errors or more "
-                          "warnings than 2; --max-diagnostics allows more");
+    EXPECT_EQ(Message(2), "left out are 3 diagnostics, 0 of them errors, the first here: there are more errors, "
+                          "warnings or notes than 2; --max-diagnostics allows more");
     m_options.maxDiagnostics = 0;
     Read(document);
-    EXPECT_EQ(Diagnostics(), "test.odx:2:1 error too-many-diagnostics"); // an error is among them
+    EXPECT_EQ(Diagnostics(), "test.odx:2:1 error too-many-diagnostics"); // one of them is an error
     EXPECT_EQ(Message(0).find("left out are 6 diagnostics, 1 of them errors"), 0U) << Message(0);
 }
 

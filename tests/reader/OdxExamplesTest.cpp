@@ -4,7 +4,7 @@
 #include "reader/LayersInPrint.h"
 #include "reader/ReaderTest.h"
 
-/// A database that uses each construct of ODX 2.0.1 but VEHICLE-INFO-SPEC, with known views. It is no part of the
+/// A database that uses each construct of ODX 2.0.1 except VEHICLE-INFO-SPEC, with known views. It is not part of the
 /// project; this test is built where it is found.
 
 namespace NTest {

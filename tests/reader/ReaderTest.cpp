@@ -129,8 +129,7 @@ std::string VReaderTest::Diagnostics() const {
             file.erase(0, folder.size());
         }
         text += (text.empty() ? "" : "\n") + file + ':' + std::to_string(diagnostic.line) + ':' +
-                std::to_string(diagnostic.column) +
-                (diagnostic.severity == NReader::VSeverity::Error ? " error " : " warning ") + diagnostic.code;
+                std::to_string(diagnostic.column) + ' ' + SeverityText(diagnostic.severity) + ' ' + diagnostic.code;
     }
     return text;
 }

@@ -11,7 +11,7 @@
 
 #include <diagkit/reader/OdxReader.h>
 
-/// What the tests of the reader share: small documents and packages in a folder of the test's own.
+/// Common to the tests of the reader: small documents and packages in a folder for each test.
 
 namespace NTest {
 

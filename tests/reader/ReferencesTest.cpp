@@ -9,7 +9,7 @@ namespace {
 
 class VReferencesTest : public VReaderTest {
 protected:
-    /// Where the REQUEST-REF of the service with this ID leads: the short names of the request and its layer.
+    /// The target of the REQUEST-REF of the service with this ID: the short names of the request and its layer.
     std::wstring RequestOf(wchar_t const* service) {
         NODX201::VRequestLink& link = Get<NODX201::VDiagService>(service).GetRequestRef();
         if (!link.HasRequest()) {
@@ -40,7 +40,7 @@ std::string LayerOfKind(std::string const& kind, std::string const& id, std::str
            "><SHORT-NAME>" + id + "</SHORT-NAME>" + content + "</" + kind + "></" + kind + "S>";
 }
 
-/// A document with a container and a layer in it, with the request RQ in the layer under a name that tells which.
+/// A document with a container and a layer in it, with the request RQ in the layer under a name that identifies it.
 std::string Exported(std::string const& container, std::string const& layer, std::string const& services = "",
                      std::string const& rest = "") {
     return "<ODX MODEL-VERSION=\"2.0.1\"><DIAG-LAYER-CONTAINER ID=\"ID." + container + "\"><SHORT-NAME>" + container +
@@ -190,15 +190,50 @@ TEST_F(VReferencesTest, LayerIsInItsOwnScopeAndItsIdResolves) {
     EXPECT_EQ(Diagnostics(), "");
 }
 
-// What is wrong with references
+// Faulty references
 
 TEST_F(VReferencesTest, UnresolvedReferenceIsOneErrorAtTheReference) {
-    Read(Layer("<DIAG-COMMS>\n  " + Service("S", "ID-REF=\"gone\" DOCREF=\"Far\"") + "</DIAG-COMMS>"));
+    Read(Layer("<DIAG-COMMS>\n  " + Service("S", "ID-REF=\"gone\" DOCREF=\"L\"") + "</DIAG-COMMS>"));
     EXPECT_EQ(RequestOf(L"S"), L"(none)");
     EXPECT_EQ(Diagnostics(), "test.odx:3:61 error unresolved-reference");
-    EXPECT_EQ(
-        Message(0),
-        "REQUEST-REF names the ID 'gone' in 'Far', which no loaded element has; load the document that holds it too");
+    EXPECT_EQ(Message(0), "REQUEST-REF names the ID 'gone' in 'L', which no loaded element has; load the document that "
+                          "contains it as well");
+}
+
+TEST_F(VReferencesTest, ReferencesIntoAMissingDocumentAreOneErrorAtTheFirst) {
+    std::string const document = Layer("<DIAG-COMMS>\n" + Service("S", "ID-REF=\"a\" DOCREF=\"Far\"") + "\n" +
+                                       Service("T", "ID-REF=\"b\" DOCREF=\"Far\" DOCTYPE=\"LAYER\"") + "\n" +
+                                       Service("U", "ID-REF=\"c\" DOCREF=\"Other\"") + "</DIAG-COMMS>");
+    Read(document);
+    EXPECT_EQ(Diagnostics(), "test.odx:3:59 error unresolved-reference\ntest.odx:5:59 error unresolved-reference");
+    EXPECT_EQ(Message(0), "2 references lead into Far, which is not loaded");
+    EXPECT_EQ(Message(1), "1 reference leads into Other, which is not loaded");
+    EXPECT_EQ(RequestOf(L"S"), L"(none)");
+}
+
+TEST_F(VReferencesTest, ReferencesIntoAMissingDocumentAreEachToldWhenAskedFor) {
+    m_options.tellsEachReference = true;
+    Read(Layer("<DIAG-COMMS>\n" + Service("S", "ID-REF=\"a\" DOCREF=\"Far\"") + "\n" +
+               Service("T", "ID-REF=\"b\" DOCREF=\"Far\"") + "</DIAG-COMMS>"));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:59 error unresolved-reference\ntest.odx:4:59 error unresolved-reference");
+    EXPECT_EQ(Message(1), "REQUEST-REF names the ID 'b' in 'Far', which no loaded element has; load the document that "
+                          "contains it as well");
+}
+
+TEST_F(VReferencesTest, ReferencesIntoWhatIsLoadedAreEachTold) {
+    for (char const* const docref : {"", " DOCREF=\"L\"", " DOCREF=\"C\""}) { // the layer, the container
+        Read(Layer("<DIAG-COMMS>" + Service("S", std::string("ID-REF=\"a\"") + docref) +
+                   Service("T", std::string("ID-REF=\"b\"") + docref) + "</DIAG-COMMS>"));
+        EXPECT_EQ(m_result.diagnostics.size(), 2U) << docref << Diagnostics();
+    }
+}
+
+TEST_F(VReferencesTest, ParentRefsWithoutTypeIntoAMissingDocumentAreCounted) {
+    Read(Container(LayerOfKind("ECU-VARIANT", "V",
+                               "<PARENT-REFS>\n<PARENT-REF ID-REF=\"B\" DOCREF=\"Far\"/>\n<PARENT-REF "
+                               "xsi:type=\"PROTOCOL-REF\" ID-REF=\"P\" DOCREF=\"Far\"/></PARENT-REFS>")));
+    EXPECT_EQ(Diagnostics(), "test.odx:3:1 error unresolved-reference");
+    EXPECT_EQ(Message(0), "2 references lead into Far, which is not loaded");
 }
 
 TEST_F(VReferencesTest, ReferenceOfTheWrongKindIsOneError) {
@@ -261,7 +296,7 @@ TEST_F(VReferencesTest, MessagesAboutAttributesNameTheReference) {
     Read(Params("<PARAM xsi:type=\"VALUE\"><SHORT-NAME>P</SHORT-NAME><DOP-SNREF/></PARAM>"));
     EXPECT_EQ(Message(0), "'DOP-SNREF' has no SHORT-NAME");
     Read(Layer("<DIAG-COMMS>" + Service("S", "ID-REF=\"R\" DOCTYPE=\"NOWHERE\"") + "</DIAG-COMMS>"));
-    EXPECT_EQ(Message(0).rfind("DOCTYPE of 'REQUEST-REF' is 'NOWHERE', which is none of ", 0), 0U) << Message(0);
+    EXPECT_EQ(Message(0).rfind("DOCTYPE of 'REQUEST-REF' is 'NOWHERE', which is not one of ", 0), 0U) << Message(0);
 }
 
 TEST_F(VReferencesTest, IdTwiceInOneDocumentIsAnErrorAtTheSecond) {
@@ -282,7 +317,7 @@ TEST_F(VReferencesTest, ElementsWithoutIdAreNotFoundAndNotDuplicates) {
     Read(Layer("<REQUESTS><REQUEST ID=\"\"><SHORT-NAME>A</SHORT-NAME><PARAMS/></REQUEST>"
                "<REQUEST><SHORT-NAME>B</SHORT-NAME><PARAMS/></REQUEST></REQUESTS>",
                "2.2.0"));
-    EXPECT_EQ(Diagnostics(), "test.odx:2:11 error missing-attribute"); // of the one that is there
+    EXPECT_EQ(Diagnostics(), "test.odx:2:11 error missing-attribute"); // of the one that is present
     EXPECT_EQ(Count(L"REQUEST"), 2U);
 }
 
@@ -378,7 +413,7 @@ TEST_F(VReferencesTest, ParentsThatOdxDoesNotAllowAreReported) {
     for (auto const& row : kRows) {
         for (std::string const parent :
              {"PROTOCOL", "FUNCTIONAL-GROUP", "BASE-VARIANT", "ECU-VARIANT", "ECU-SHARED-DATA"}) {
-            // Of a later version, which asks for no required parts; the parent's kind shows from the target.
+            // Of a later version, in which no parts are required; the parent's kind follows from the target.
             std::string both =
                 LayerOfKind(parent, "Above", "") +
                 LayerOfKind(row.layer, "Below", "<PARENT-REFS>\n<PARENT-REF ID-REF=\"Above\"/></PARENT-REFS>");

@@ -22,7 +22,8 @@
 #include "support/PrintView.h"
 #include "support/VerifyModel.h"
 
-/// The project's own database: the documents and the package made from them; and what it shows of the memory model.
+/// The project's own database: the documents and the package made from them; and the parts of the memory model that it
+/// uses.
 
 namespace NTest {
 namespace {
@@ -83,7 +84,7 @@ TEST_F(VSamplesTest, EveryDopMayBeRemovedThroughAViewAndTheRestIsReadOn) {
             NDIAGKIT::VDiagLayerTraverser(*layer).TraverseDiagLayer();
         }
     };
-    walkAll(); // every link has an answer to forget
+    walkAll(); // every link has a result to forget
     std::size_t removed = 0;
     for (NODX201::VDiagLayer* const layer : layers) {
         NDIAGKIT::VOpBuildDopView builder;
@@ -227,9 +228,9 @@ TEST_F(VSamplesTest, GlobalNegResponseViewsAreThoseOfTheirReadme) {
                      L"ResponsePending@UdsOnCan GeneralReject@SessionLibrary RoutineNotComplete@Kwp2000OnKLine\n");
 }
 
-// One DOP-SNREF, several answers
+// One DOP-SNREF, several targets
 
-/// The VALUE parameter of this short name in what holds parameters.
+/// The VALUE parameter of this short name in an element with parameters.
 template <class Owner>
 NODX201::VValue& ValueNamed(Owner& owner, std::wstring_view shortName) {
     for (NODX201::VParam& param : owner.ParamCollection()) {
@@ -240,7 +241,7 @@ NODX201::VValue& ValueNamed(Owner& owner, std::wstring_view shortName) {
     throw std::out_of_range("nothing holds such a parameter");
 }
 
-/// Kind and layer of the DOP that the parameter names, seen from a layer, and the texts of a DATA-OBJECT-PROP.
+/// Kind and layer of the DOP to which the parameter refers, seen from a layer, and the texts of a DATA-OBJECT-PROP.
 std::wstring DopSeenFrom(NODX201::VDiagLayer& layer, NODX201::VValue& value) {
     if (!value.GetDopBaseLink().HasDopBase(layer)) {
         return L"";
@@ -326,7 +327,7 @@ TEST_F(VSamplesTest, ParametersInsideOfParametersAreFoundWhereTheirReadmeSays) {
     }
 }
 
-// Which parts of the memory model the samples reach
+// The parts of the memory model that the samples use
 
 struct VTag {
     NODX201::VOdxTagEnum tag;
@@ -340,17 +341,17 @@ constexpr VTag kTags[] = {
 
 /// Tags that no element of a valid database counts under.
 std::set<std::string> const kNeverCounted = {
-    // Texts and values of their owners, no elements of the model.
+    // Texts and values of their owners, not elements of the model.
     "AutMethod", "LongName",
-    // Kinds that the model does not tell apart: they count as FILTER, FLASHDATA, PHYS-SEGMENT, TARGET-ADDR-OFFSET.
+    // Kinds that the model does not distinguish: they count as FILTER, FLASHDATA, PHYS-SEGMENT, TARGET-ADDR-OFFSET.
     "AddrdefFilter", "SizedefFilter", "ExternFlashdata", "InternFlashdata", "AddrdefPhysSegment", "SizedefPhysSegment",
     "NegOffset", "PosOffset",
-    // Names of what always has a kind.
+    // Names of elements that always have a kind.
     "DiagCodedType", "Param", "ParentRef",
-    // The form by short name, which only later versions or odd data have.
+    // The form by short name, which occurs only in later versions or unusual data.
     "DopBaseSnref"};
 
-/// The samples hold no VEHICLE-INFO-SPEC.
+/// The samples have no VEHICLE-INFO-SPEC.
 std::set<std::string> const kOfVehicleInfo = {
 #define ODX_EXTRA(name, contract, names, value, element, type) #name,
 #define ODX_EXTRA_LINK(name, target, targetClass, tag, value, element) #tag,

@@ -4,7 +4,7 @@
 #include "reader/LayersInPrint.h"
 #include "reader/ReaderTest.h"
 
-/// Databases that others wrote. They are no part of the project; these tests are built where they are found.
+/// Databases of other authors. They are not part of the project; these tests are built where they are found.
 
 namespace NTest {
 namespace {
@@ -41,7 +41,7 @@ protected:
     }
 };
 
-// Both packages name a COMPLEX-COMPARAM, of which the model holds nothing.
+// Both packages refer to a COMPLEX-COMPARAM, which the model does not support.
 
 TEST_F(VSharedSamplesTest, Somersault) {
     ReadSamples({"somersault.pdx"});

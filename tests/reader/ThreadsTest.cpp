@@ -14,8 +14,8 @@ namespace {
 
 using NReader::ToUtf8;
 
-/// Everything that can be told of a reading, as text. Texts are numbered by their addresses, so that it also tells
-/// which of them share one copy.
+/// All results of reading, as text. Texts are numbered by their addresses, so that it also shows which of them share
+/// one copy.
 class VDump {
 public:
     explicit VDump(NReader::VReadResult& result) : m_result(result) {
@@ -113,7 +113,7 @@ protected:
         }
     }
 
-    /// Documents with all that goes wrong, of different lengths, so that they do not end in their order.
+    /// Documents with all kinds of faults, of different lengths, so that they do not end in their order.
     std::vector<VMember> FaultyMembers() const {
         std::string const many = Repeated("<REQUEST ID='RQ'><SHORT-NAME>Twice</SHORT-NAME></REQUEST>", 500);
         std::string const latin = "<?xml version='1.0'?><ODX MODEL-VERSION='2.0.1'><DIAG-LAYER-CONTAINER ID='C'>"

@@ -125,7 +125,7 @@ TEST_F(VToleranceTest, LiteralsThatAreNoneAreReportedAndKeptFor20Only) {
                             std::string(kStandardType) + "\n" + type + "</DATA-OBJECT-PROP></DATA-OBJECT-PROPS>";
     Read(Dictionary(dop));
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 error unknown-literal");
-    EXPECT_EQ(Message(0), "DISPLAY-RADIX of 'PHYSICAL-TYPE' is 'hex', which is none of HEX, DEC, BIN, OCT");
+    EXPECT_EQ(Message(0), "DISPLAY-RADIX of 'PHYSICAL-TYPE' is 'hex', which is not one of HEX, DEC, BIN, OCT");
     EXPECT_STREQ(Get<NMemory::VMemDataObjectProp>(L"D").GetPhysicalType().GetDisplayRadix(), L"hex");
     Read(Dictionary(dop, "2.2.0"));
     EXPECT_EQ(Diagnostics(), "");
@@ -136,7 +136,7 @@ TEST_F(VToleranceTest, DoctypesThatAreNoneAreReportedAndForgiven) {
                "<IMPORT-REFS>\n<IMPORT-REF ID-REF=\"L\" DOCREF=\"L\" DOCTYPE=\"Layer\"/></IMPORT-REFS>"));
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 warning unknown-literal");
     EXPECT_EQ(Message(0),
-              "DOCTYPE of 'IMPORT-REF' is 'Layer', which is none of FLASH, CONTAINER, LAYER, MULTIPLE-ECU-JOB-SPEC, "
+              "DOCTYPE of 'IMPORT-REF' is 'Layer', which is not one of FLASH, CONTAINER, LAYER, MULTIPLE-ECU-JOB-SPEC, "
               "COMPARAM-SPEC; the target is looked for without it");
 }
 

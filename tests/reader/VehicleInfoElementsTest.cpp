@@ -4,7 +4,7 @@
 
 #include "reader/ReaderTest.h"
 
-/// What becomes of each element of vehicle information.
+/// The results for each element of vehicle information.
 
 namespace NTest {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 using namespace NMemory;
 using NODX201::VOdxTagEnum;
 
-/// A document of such a category, with VEHICLE-INFORMATIONS, which it must have.
+/// A document of such a category, with the required VEHICLE-INFORMATIONS.
 std::string VehicleInfo(std::string const& content, std::string const& informations = "") {
     return Document("<VEHICLE-INFO-SPEC ID=\"V\" OID=\"o\"><SHORT-NAME>Van</SHORT-NAME>" + content +
                     "<VEHICLE-INFORMATIONS>" + informations + "</VEHICLE-INFORMATIONS></VEHICLE-INFO-SPEC>");
@@ -184,7 +184,7 @@ constexpr char kComparams[] =
 
 class VVehicleLinksTest : public VVehicleInfoElementsTest {
 protected:
-    /// LOGICAL-LINKS, and groups of them, beside a PHYSICAL-VEHICLE-LINK.
+    /// LOGICAL-LINKS, and groups of them, next to a PHYSICAL-VEHICLE-LINK.
     void ReadLinks(std::string const& components, std::string const& links, std::string const& groups = "") {
         Read({Document(kComparams, "2.2.0"),
               Container("<PROTOCOLS><PROTOCOL ID=\"UDS\"><SHORT-NAME>UDS</SHORT-NAME></PROTOCOL></PROTOCOLS>"

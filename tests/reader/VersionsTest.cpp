@@ -3,7 +3,7 @@
 
 #include "reader/ReaderTest.h"
 
-/// Documents of all versions, with categories and elements that the reader does not know.
+/// Documents of all versions, with categories and elements unknown to the reader.
 
 namespace NTest {
 namespace {
@@ -54,7 +54,8 @@ TEST_F(VVersionsTest, UnknownElementsAreReportedFor20Only) {
     std::string const content = "<NO-SUCH-LIST>\n<NO-SUCH-ELEMENT/></NO-SUCH-LIST>";
     Read(Container(content));
     EXPECT_EQ(Diagnostics(), "test.odx:2:1 warning unknown-child");
-    EXPECT_EQ(Message(0), "'DIAG-LAYER-CONTAINER' holds no 'NO-SUCH-LIST' in ODX 2.0; it is left out with all inside");
+    EXPECT_EQ(Message(0),
+              "'DIAG-LAYER-CONTAINER' holds no 'NO-SUCH-LIST' in ODX 2.0; it is ignored, with its children");
     Read(Container(content, "2.2.0"));
     EXPECT_EQ(Diagnostics(), "");
 }

@@ -23,7 +23,7 @@ std::uint32_t Checksum(std::string const& bytes) {
     return ~sum;
 }
 
-/// What the local header and the entry of the directory have in common, from the version on.
+/// The common part of the local header and the entry of the directory, from the version on.
 std::string CommonHeader(VZipMember const& member, std::string const& bytes) {
     auto const size = static_cast<std::uint32_t>(bytes.size());
     return Number(20, 2) + Number(member.flags, 2) + Number(member.method, 2) + Number(0, 2) + Number(0x21, 2) +

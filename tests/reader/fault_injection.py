@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Break a valid database in every way that the grammar knows, one fault at a time, and see that each is reported.
+"""Break a valid database in every way known from the grammar, one fault at a time, and check that each is reported.
 
     fault_injection.py PROGRAM... -- DOCUMENT...
 
-For every element that the grammar defines and the documents hold: each required attribute and child left out, each
-single child twice, each pair of children in the wrong order, an alternative beside another, a child that belongs
-nowhere, a value or literal that is none, an xsi:type that is unknown or lacks its prefix, a reference to nothing and
+For every element that the grammar defines and the documents contain: each required attribute and child left out, each
+single child twice, each pair of children in the wrong order, two alternatives together, a child that is not allowed
+anywhere, an invalid value or literal, an xsi:type that is unknown or lacks its prefix, a reference without a target and
 one to an element of the wrong kind.
 
 The program must report the fault once, with code, severity and position, and load the rest: the counts of all element
@@ -29,7 +29,7 @@ from odx_grammar import Grammar, Match  # noqa: E402
 
 GRAMMAR = pathlib.Path(__file__).resolve().parent.parent / "samples" / "grammar.txt"
 FREE_TYPES = ("text", "reference", "id", "day", None)  # of these, every text is a value
-# The second of these adds to the first; of everything else but wrappers it is left out.
+# The second of these is merged into the first; the second of everything else but wrappers is left out.
 ADDING = ("DIAG-DATA-DICTIONARY-SPEC", "DIAG-COMM-SNREF", "DIAG-VARIABLE-SNREF", "MEM")
 NOT_IN_THE_MODEL = {"CATALOG"}
 
@@ -43,7 +43,7 @@ class Element:
         self.start = start
         self.parent = parent
         self.children = []
-        self.head_end = 0  # behind the start tag
+        self.head_end = 0  # after the start tag
         self.tail = 0      # the end tag
         self.end = 0
         self.definition = None
@@ -87,7 +87,7 @@ def parse(data):
     return roots[0]
 
 
-# xsi:types that say no more than what is inside.
+# xsi:types that also follow from the contents.
 TYPES_THAT_SHOW = {
     "FILTER": ("ADDRDEF-FILTER", "SIZEDEF-FILTER"),
     "TARGET-ADDR-OFFSET": ("POS-OFFSET", "NEG-OFFSET"),
@@ -231,7 +231,7 @@ class Faults:
         return Match(model, names).complete
 
     def _missing(self, element, child):
-        # A list may be empty where the grammar wants one item: an editor has to begin somewhere.
+        # A list may be empty where the grammar requires one item, as editors write it at first.
         if not self._fits(element.definition.content, element.names() + [child.name]):
             self._add(element, "no", child.name, self._without(child.start, child.end), element.start, "error",
                       "missing-child", self._touched(child) | {element.name})
@@ -289,14 +289,14 @@ def run(program, paths):
     call = [*program, "info", "--json", *paths]
     done = subprocess.run(call, capture_output=True, encoding="utf-8", check=False)
     if len(program) > 1 and done.returncode != 0:
-        # No fault is refused; but once in thousands of calls Wine fails itself, as a program starts or ends.
+        # No fault is refused; but once in thousands of calls Wine itself fails, as a program starts or ends.
         done = subprocess.run(call, capture_output=True, encoding="utf-8", check=False)
     counts = json.loads(done.stdout)["counts"] if done.returncode == 0 else None
     return done.returncode, counts, done.stderr.splitlines()
 
 
 def failure_of(fault, program, documents, counts, folder, number):
-    """What is wrong with the answer to a fault, or None."""
+    """The error in the answer to a fault, or None."""
     broken = os.path.join(folder, f"{number}-{os.path.basename(fault.document)}")
     pathlib.Path(broken).write_bytes(fault.data)
     status, found, diagnostics = run(program, [broken if path == fault.document else path for path in documents])

@@ -4,7 +4,7 @@
 
     check_grammar.py DOCUMENT...
 
-Checks what the grammar says (elements, order, cardinality, attributes, value types, enumerations,
+Checks the rules of the grammar (elements, order, cardinality, attributes, value types, enumerations,
 xsi:type) and, across all documents of the call, that IDs are unique in their file and that every
 reference by ID resolves to an element of the right kind. A reference is looked for where ODX puts
 it: in the document or layer that DOCREF and DOCTYPE name; without DOCREF in the own layer, in the

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Break one sample document at a time and see that check_grammar.py notices.
+"""Break one sample document at a time and check that check_grammar.py detects it.
 
     check_grammar_test.py [DOCUMENT...]
 
-Documents on the command line must pass too: a second database against which to hold the grammar.
+Documents on the command line must pass too: a second database to test the grammar.
 """
 
 import pathlib

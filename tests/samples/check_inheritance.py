@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
 """Every database of samples/inheritance has its answers and its row on the page, and the page has no other; and a
-program that answers nothing, or something else, is told to be wrong.
+program with missing or different answers is reported as wrong.
 
     check_inheritance.py FOLDER
 """

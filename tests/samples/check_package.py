@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Check that a package holds exactly the documents of a folder.
+"""Check that a package contains exactly the documents of a folder.
 
     check_package.py PACKAGE FOLDER
 
 The members are index.xml, every ODX document of the folder and every other file that index.xml
-lists, byte for byte; they stand in name order, deflated, with one time stamp for all. What
-index.xml lists and what the package holds is the same.
+lists, byte for byte; they are in name order, deflated, with one time stamp for all. The package
+contains exactly the files listed in index.xml.
 
 Prints PACKAGE: MESSAGE for every fault. Exit status: 0 no fault, 1 faults, 2 wrong usage.
 """

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""See that the sample package is up to date and that check_package.py notices when it is not."""
+"""Check that the sample package is up to date and that check_package.py detects when it is not."""
 
 import filecmp
 import pathlib

@@ -50,11 +50,11 @@ class GrammarError(Exception):
 
 
 class Definition:
-    """What the grammar says about one element (with one xsi:type, in one parent)."""
+    """The definition of one element (with one xsi:type, in one parent) in the grammar."""
 
     def __init__(self):
         self.attributes = {}  # name -> (required, type)
-        self.targets = None   # names of the elements that a reference may hit
+        self.targets = None   # names of the elements that a reference may target
         self.content = None   # content model; None for text and empty elements
         self.text_type = None
         self.mixed = False

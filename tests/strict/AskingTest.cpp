@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The whole toolkit over the strict model: it gets nothing for which it has not asked. Each use has a model of its own,
-// so that no use profits from what another one asked.
+// The whole toolkit over the strict model: it gets only what it has asked for. Each use has its own model, so that it
+// cannot rely on what another use asked.
 
 #include <gtest/gtest.h>
 
@@ -37,9 +37,9 @@ namespace {
 using namespace NDIAGKIT;
 using namespace NODX201;
 
-constexpr wchar_t const* kNowhere = L"NoSuchName"; // has searches look everywhere
+constexpr wchar_t const* kNowhere = L"NoSuchName"; // makes searches look everywhere
 
-/// Uses the toolkit and writes down what was got without asking, and what was got at all.
+/// Uses the toolkit and records what was got without asking, and everything that was got.
 class VUses {
 public:
     template <class Action, class... Starts>
@@ -47,7 +47,7 @@ public:
         UseIn(VStrictModel::VParentRefs::BehindHas, action, starts...);
     }
 
-    /// For what may call `ParentRefCollection()` without asking.
+    /// For code that may call `ParentRefCollection()` without asking.
     template <class Action, class... Starts>
     void UseWithFreeParentRefs(Action action, Starts&... starts) {
         UseIn(VStrictModel::VParentRefs::Free, action, starts...);
@@ -225,11 +225,12 @@ TEST(AskingTest, TheUsesReachEveryGetterThatTheToolkitHasAUseFor) {
     EXPECT_EQ(Lines(never), "VParentRef::NotInheritedVariableCollection\n");
 }
 
-/// The conformance suite is made of the facts about ODX; what those forget of the contract, it would not ask.
+/// The conformance suite is made from the facts about ODX; parts of the contract that are missing there would not be
+/// queried.
 TEST(AskingTest, TheConformanceSuiteAsksForEverything) {
     VOperations called;
     for (auto const& database : SmallDatabases()) {
-        // No DOP of these databases bears one, and what is absent is not asked for.
+        // No DOP of these databases has one, and absent ones are not requested.
         database->All<NMemory::VMemDataObjectProp>().front()->SetOid(L"1.2.3");
         VStrictModel model(VStrictModel::VParentRefs::BehindHas, &called);
         NConformance::VModel checked{model.Of<NODX201::VOdx>(database->result.database->GetOdx())};
@@ -239,7 +240,7 @@ TEST(AskingTest, TheConformanceSuiteAsksForEverything) {
         for (auto* const job : database->All<NODX201::VMultipleEcuJob>()) {
             checked.multipleEcuJobs.push_back(&model.Of(*job));
         }
-        // It asks for absent collections as well, which this model refuses; what counts is what was called.
+        // It also requests absent collections, which this model refuses; only the calls count.
         NConformance::CheckModel(checked);
     }
     VOperations never = AllGuardedGetters();

@@ -12,7 +12,7 @@
 
 namespace NTest {
 
-/// A database and what of it a use of the toolkit starts from.
+/// A database and the elements with which uses of the toolkit start.
 struct VLoaded {
     explicit VLoaded(std::vector<std::string> const& files) {
         NReader::VReadOptions options;
@@ -43,7 +43,7 @@ struct VLoaded {
     std::vector<NODX201::VDiagLayer*> layers;
 };
 
-/// The sample, and the reference database of the conformance suite, with what neither of them has.
+/// The sample, and the reference database of the conformance suite, with additions that both lack.
 inline std::vector<std::unique_ptr<VLoaded>> SmallDatabases() {
     std::vector<std::unique_ptr<VLoaded>> databases;
     for (char const* const file : {DIAGKIT_SAMPLES "/WiperDatabase.pdx", DIAGKIT_CONFORMANCE "/reference.odx-d"}) {

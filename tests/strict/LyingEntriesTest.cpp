@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Interfaces of the contract are open to any class. An entry that says to be what it is not is passed over.
+// Interfaces of the contract are open to any class. An entry that claims to be what it is not is skipped.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ namespace {
 
 using namespace NODX201;
 
-/// Says yes to every test and is nothing.
+/// Returns true for every test and is none of them.
 #define TWO_ALTERNATIVES(interface, first, second)                                                                     \
     struct VLying##interface : interface {                                                                             \
         virtual ~VLying##interface() = default;                                                                        \
@@ -45,7 +45,7 @@ struct VLyingIDiagCommProxy : IDiagCommProxy {
     bool IsDiagCommLink() const override { return true; }
 };
 
-/// Elements with one such alternative or entry, and beside that what the elements behind them have.
+/// Elements with one such alternative or entry, and in addition the contents of the elements behind them.
 template <class Class>
 using VElementOf = typename VStrict<Class>::Type;
 
@@ -109,7 +109,7 @@ struct VLyingProtocol : VElementOf<VProtocol> {
     VLyingCollection<VDiagCommProxyCollection, VLyingIDiagCommProxy> m_lying;
 };
 
-/// Counts what it meets; its visits are open to the tests.
+/// Counts the elements it visits; its Visit operations are public for the tests.
 class VCountingWalk : public NDIAGKIT::VDiagLayerTraverser {
 public:
     explicit VCountingWalk(VDiagLayer& layer) : VDiagLayerTraverser(layer) {}

@@ -31,7 +31,7 @@
 
 namespace NTest {
 
-/// An element that stands for another one.
+/// An element that represents another one.
 class VStandIn {
 public:
     virtual NODX201::VOdxElement& Inner() const = 0;
@@ -40,7 +40,7 @@ protected:
     ~VStandIn() = default;
 };
 
-/// The element that one of this model stands for.
+/// The element that one of this model represents.
 template <class Class>
 Class& InnerOf(Class& element) {
     return dynamic_cast<Class&>(dynamic_cast<VStandIn&>(element).Inner());
@@ -76,7 +76,7 @@ private:
     mutable std::map<std::string_view, bool> m_answers; // the last one of each Has
 };
 
-/// What a class of the contract hands out.
+/// The parts that a class of the contract returns.
 template <class Class, class Base>
 class VStrictParts;
 
@@ -126,7 +126,7 @@ class VStrictParts;
 #include <contract/Parts.def>
 #undef HAS
 
-/// Where a class of links leads.
+/// The targets of a class of links.
 template <class Class, class Base>
 class VStrictLink;
 
@@ -220,7 +220,7 @@ template <class Base> struct VAcceptingOf<NODX201::VParam, Base>     : VAcceptin
 
 template <class Class>
 struct VStrict {
-    struct VNone; // a list starts with it, for the sake of commas
+    struct VNone; // a list starts with it, because of the commas
 
 #define PARTS(name) , NODX201::name
 #define END

@@ -15,7 +15,7 @@
 
 namespace NTest {
 
-/// What a getter of the strict model throws when its Has did not answer true before.
+/// Thrown by a getter of the strict model when its Has did not return true before.
 struct VNotAsked : std::logic_error {
     using std::logic_error::logic_error;
 };
@@ -23,18 +23,18 @@ struct VNotAsked : std::logic_error {
 /// Operations as "VDiagService::GetRequestRef".
 using VOperations = std::set<std::string>;
 
-/// All getters that stand behind a Has.
+/// All getters with a Has.
 VOperations AllGuardedGetters();
 
-/// A model that takes the rule literally: an optional child, text or collection, or the target of a link, may be got
-/// only after its Has answered true on that very element. Every element of it stands for one of the memory model and
-/// answers as that one does, with elements of this model in place of that one's.
+/// A model that applies the rule literally: an optional child, text or collection, or the target of a link, may be got
+/// only after its Has returned true for the same element. Every element represents one of the memory model and returns
+/// the same results, with elements of this model in place of that one's.
 ///
-/// An element remembers what it was asked for as long as the model lives, so each use of the toolkit gets a model of
-/// its own. Models and elements are not copied; the memory model must outlive this one.
+/// An element remembers its queries as long as the model exists, so each use of the toolkit gets its own model. Models
+/// and elements are not copied; the memory model must outlive this one.
 class VStrictModel {
 public:
-    /// `ParentRefCollection()` may be called without asking by some views, and not by everybody else.
+    /// Some views may call `ParentRefCollection()` without asking, other code may not.
     enum class VParentRefs { BehindHas, Free };
 
     explicit VStrictModel(VParentRefs parentRefs = VParentRefs::BehindHas, VOperations* called = nullptr);
@@ -42,14 +42,14 @@ public:
     VStrictModel(VStrictModel const&) = delete;
     VStrictModel& operator=(VStrictModel const&) = delete;
 
-    /// What stands for an element, an entry of a collection, or a collection.
+    /// The object that represents an element, an entry of a collection, or a collection.
     template <class T>
     T& Of(T& inner);
     NODX201::VOdxObject* Of(NODX201::VOdxObject* inner); ///< an owner, or null
 
     // For the elements.
 
-    void Call(std::string const& operation) const; ///< writes down that a getter was called
+    void Call(std::string const& operation) const; ///< records that a getter was called
     bool AreParentRefsFree() const { return m_parentRefs == VParentRefs::Free; }
 
 private:
@@ -76,7 +76,7 @@ public:
     virtual ~VStrictCollection() = default;
 };
 
-/// The one collection that has an owner.
+/// The only collection that has an owner.
 class VStrictLayers final : public VStrictCollection<NODX201::VDiagLayerCollection> {
 public:
     VStrictLayers(VStrictModel& model, NODX201::VDiagLayerCollection& inner)
@@ -96,7 +96,7 @@ constexpr bool kIsCollection<T, std::void_t<typename T::List>> = true;
 template <class T>
 T& VStrictModel::Of(T& inner) {
     if constexpr (std::is_same_v<T, std::wstring const> || std::is_same_v<T, NODX201::VProcessingInstruction>) {
-        return inner; // holds nothing that could be asked for
+        return inner; // has nothing that could be requested
     } else if constexpr (kIsCollection<T>) {
         return CollectionOf(inner);
     } else {

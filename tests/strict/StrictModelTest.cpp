@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// That the strict model is strict, and otherwise answers as the model behind it.
+// The strict model is strict, and otherwise returns the same as the model behind it.
 
 #include <gtest/gtest.h>
 
@@ -112,7 +112,7 @@ TEST(StrictModelTest, ParentRefsAreFreeWhereTheTestSaysSo) {
     EXPECT_NO_THROW(lenient.Of(protocol).ParentRefCollection());
 }
 
-/// The tags and names of what a walk meets.
+/// The tags and names of the elements in a walk.
 class VMet : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
     static std::wstring In(NODX201::VDiagLayer& layer) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Write down what the classes of the contract hand out, as its headers say.
+"""Write down the parts that the classes of the contract return, according to its headers.
 
     contract_parts.py FOLDER
 
@@ -32,7 +32,7 @@ PART_WORDS = ["PARTS", "END", "TEXT", "OPTIONAL_TEXT", "PART", "CHILD", "LIST", 
 
 
 def classes():
-    """Name, base and body of each class that elements are of."""
+    """Name, base and body of each class of elements."""
     for header in sorted((ROOT / "diagkit/model").glob("*.h")):
         for name, base, body in CLASS.findall(header.read_text(encoding="utf-8")):
             if not NO_ELEMENTS.search(name):

@@ -5,8 +5,8 @@
 #include <diagkit/tools/OdxCategoryInfoCollection.h>
 #include <diagkit/tools/StringContainer.h>
 
-/// Links with the toolkit as a host without optimisation does: every inline member of a template that the library
-/// instantiates is called, none is put in place. Returns how many answers are wrong.
+/// Links with the toolkit like a host without optimisation: every inline member of a template that the library
+/// instantiates is called, none is inlined. Returns the number of wrong results.
 
 namespace {
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Compare what the toolkit's shared library exports with what it is meant to export.
+"""Compare the exports of the toolkit's shared library with those intended.
 
     check_exports.py LIBRARY [OBJDUMP]
 
-With OBJDUMP, the program of that name for the library's platform, the library is a Windows DLL. Meant are the names of
-exported.txt, and every class and function that a header of model/ marks DIAGKIT_EXPORT. Symbols of std:: that the
+With OBJDUMP, the program of that name for the library's platform, the library is a Windows DLL. Intended are the names
+in exported.txt, and every class and function that a header of model/ marks DIAGKIT_EXPORT. Symbols of std:: that the
 compiler emitted along with others do not count.
 """
 
@@ -25,7 +25,7 @@ DECLARED_FUNCTION = re.compile(r"^DIAGKIT_EXPORT [^;{]*?(\w+)\(", re.MULTILINE)
 
 
 def split_outside_brackets(text, separator):
-    """Split at the separator where it stands in no <> and no ()."""
+    """Split at the separator outside of <> and ()."""
     parts, depth, start, position = [], 0, 0, 0
     while position < len(text):
         if text[position] in "<(":
@@ -43,14 +43,14 @@ def split_outside_brackets(text, separator):
 
 
 def without_operators(symbol):
-    """Operators of comparison and increment must not be taken for brackets."""
+    """Operators of comparison and increment must not be treated as brackets."""
     return re.sub(r"operator[^\w\s(]+", "operator_", symbol)
 
 
 def owner_of(symbol):
     """The class or function in a namespace that a demangled symbol belongs to, without template arguments."""
     symbol = PREFIXES.sub("", without_operators(symbol))
-    # A template function is demangled with its result in front, and everything with its parameters behind.
+    # A template function is demangled with its result type first, and every function with its parameters at the end.
     for word in split_outside_brackets(symbol, " "):
         parts = split_outside_brackets(word, "::")
         if len(parts) > 1:
@@ -88,7 +88,7 @@ def exported_by_dll(library, objdump):
 
 
 def without_type_information(symbols):
-    """GCC for Windows exports the type information of some classes that it meets on its way, and nothing else of them."""
+    """GCC for Windows exports the type information of some other classes that it uses, and nothing else of them."""
     return [symbol for symbol in symbols if not symbol.startswith("typeinfo for ")]
 
 

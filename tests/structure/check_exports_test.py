@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""See that check_exports.py reads symbols right and notices what it is there to notice."""
+"""Check that check_exports.py reads symbols correctly and detects wrong exports."""
 
 import unittest
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""See that check_includes.py notices an include that runs against the arrows."""
+"""Check that check_includes.py detects an include against the direction of dependencies."""
 
 import pathlib
 import subprocess

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The changes that scripts/mutants makes are those that its rows say, in one place each."""
+"""The changes that scripts/mutants makes are those described by its rows, in one place each."""
 
 import pathlib
 import sys

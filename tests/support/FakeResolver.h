@@ -12,8 +12,8 @@
 
 namespace NTest {
 
-/// What a short name means in a context (a layer, flash, container or DIAG-COMM), and what resolvers were asked. It
-/// outlives the resolvers that answer from it.
+/// The targets of short names in a context (a layer, flash, container or DIAG-COMM), and the calls of resolvers. It
+/// outlives the resolvers that use it.
 struct VFakeNames {
     using VKey = std::pair<std::wstring, NODX201::VOdxElement const*>;
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-/// A graph of diagnostic layers as plain data: what a test wants, before any model is built from it. Tests write it as
+/// A graph of diagnostic layers as plain data: what a test needs, before any model is built from it. Tests write it as
 /// text (`GraphText.h`) or generate it.
 
 namespace NTest {
@@ -22,13 +22,13 @@ struct VOwnPlan {
     enum class VForm { Service, Job, Reference };
 
     VForm form = VForm::Service;
-    std::wstring name; ///< of a service or job; of a reference, the ID that it names
+    std::wstring name; ///< of a service or job; of a reference, its ID-REF
     std::wstring id{}; ///< of a service or job; empty for a reference
 };
 
 /// A NOT-INHERITED-DIAG-COMM.
 struct VExclusionPlan {
-    std::wstring name; ///< the short name; of a reference by ID, the ID that it names
+    std::wstring name; ///< the short name; of a reference by ID, its ID-REF
     bool isById = false;
 };
 
@@ -38,7 +38,7 @@ struct VParentPlan {
     enum class VRefKind { EcuSharedData, Protocol, FunctionalGroup, BaseVariant, NoKind };
 
     VRefKind kind = VRefKind::NoKind;
-    std::wstring target; ///< the ID of a layer, which is its name; it need not be there
+    std::wstring target; ///< the ID of a layer, which is its name; it need not exist
     bool hasExclusions = false;
     std::vector<VExclusionPlan> exclusions{};
 };
@@ -53,7 +53,7 @@ struct VLayerPlan {
 };
 
 struct VGraphPlan {
-    std::vector<VLayerPlan> layers; ///< in document order; parents may stand before or after
+    std::vector<VLayerPlan> layers; ///< in document order; parents may come before or after
 
     VLayerPlan const* Find(std::wstring const& name) const; ///< null when there is none
 };

@@ -12,7 +12,7 @@
 
 namespace NTest {
 
-/// A test over one layer graph. Failed assertions are recorded; a test that expects some takes them.
+/// A test over one layer graph. Failed assertions are recorded; a test that expects some calls `Take`.
 class VGraphTest : public testing::Test {
 protected:
     void Graph(wchar_t const* text) { m_graph = std::make_unique<VGraph>(std::wstring(text)); }

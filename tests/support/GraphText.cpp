@@ -70,7 +70,7 @@ VExclusionPlan ParseExclusion(std::wstring const& word) {
     return {NameIn(isById ? word.substr(1) : word), isById};
 }
 
-/// Kind still open when the word does not say it; that needs the other lines.
+/// The kind is left open when the word does not give it; that needs the other lines.
 VParentPlan ParseParent(std::wstring const& word) {
     VParentPlan parent;
     std::wistringstream parts(word);

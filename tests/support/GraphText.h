@@ -5,7 +5,7 @@
 
 #include "support/GraphPlan.h"
 
-/// Layer graphs as text, one line a layer:
+/// Layer graphs as text, one line per layer:
 ///
 ///     KIND NAME : OWN OWN ... < PARENT PARENT ...
 ///
@@ -21,9 +21,9 @@
 /// without entries makes an empty DIAG-COMMS, no colon makes none; likewise `<` and PARENT-REFS.
 ///
 /// PARENT is a layer of the graph, with `-Name` for every NOT-INHERITED-DIAG-COMM by short name and `-@Lib.Name` for
-/// one by ID; `-` alone makes an empty NOT-INHERITED-DIAG-COMMS. The kind of the reference is that of the layer named.
-/// Another kind stands before a colon: `prot:Lib` is a PROTOCOL-REF to a layer that is none, `esd:Gone` has no target,
-/// `any:Lib` has no known kind.
+/// one by ID; `-` alone makes an empty NOT-INHERITED-DIAG-COMMS. The kind of the reference is that of the target.
+/// Another kind is given before a colon: `prot:Lib` is a PROTOCOL-REF to a layer that is not a PROTOCOL, `esd:Gone` has
+/// no target, `any:Lib` has no known kind.
 
 namespace NTest {
 

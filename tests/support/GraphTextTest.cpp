@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The tests' own language and checks: what is relied on everywhere is pinned here.
+// Tests of the tests' own language and checks, on which all tests rely.
 
 #include <stdexcept>
 

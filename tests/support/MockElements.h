@@ -9,8 +9,8 @@
 #include <diagkit/model/ParentRefs.h>
 #include <diagkit/model/Visitors.h>
 
-/// Elements of the contract for tests of what a sound model never does: entries that are not what they say, layers
-/// that call back nothing, parts that must not be asked for. An operation that a test has no use for throws.
+/// Elements of the contract for tests of behaviour that a correct model never shows: entries that are not what they
+/// claim, layers that call back nothing, parts that must not be requested. Operations that no test uses throw.
 
 namespace NTest {
 
@@ -23,7 +23,7 @@ public:
     void Add(typename Collection::List::value_type entry) { this->m_elements.push_back(entry); }
 };
 
-/// What an element of the contract has at least.
+/// The minimum of an element of the contract.
 template <class Contract>
 class VMockElement : public Contract {
 public:
@@ -36,7 +36,7 @@ public:
     std::wstring m_shortName;
 };
 
-/// A DIAG-SERVICE that can tell that it was destroyed.
+/// A DIAG-SERVICE that reports its destruction.
 class VMockDiagService : public VMockElement<NODX201::VDiagService> {
 public:
     explicit VMockDiagService(wchar_t const* shortName, bool* isDestroyed = nullptr)
@@ -68,7 +68,7 @@ private:
     bool* m_isDestroyed;
 };
 
-/// An entry of DIAG-COMMS that says of itself what the test wants and is nothing of it.
+/// An entry of DIAG-COMMS that claims to be what the test sets and is none of it.
 class VMockProxy : public NODX201::IDiagCommProxy {
 public:
     VMockProxy(bool isService, bool isJob, bool isLink) : m_isService(isService), m_isJob(isJob), m_isLink(isLink) {}
@@ -99,7 +99,7 @@ private:
     NODX201::VDiagComm* m_target;
 };
 
-/// A layer of any kind, as far as the kinds agree. DIAG-COMMS that are absent must not be asked for.
+/// A layer of any kind, with the operations common to all kinds. Absent DIAG-COMMS must not be requested.
 template <class Kind>
 class VMockLayer : public VMockElement<Kind> {
 public:
@@ -146,7 +146,7 @@ public:
     void Accept(NODX201::VDiagLayerVisitor& visitor) override { visitor.VisitEcuSharedData(*this); }
 };
 
-/// A layer with parents; PARENT-REFS that are absent must not be asked for.
+/// A layer with parents; absent PARENT-REFS must not be requested.
 template <class Kind>
 class VMockLayerWithParents : public VMockLayer<Kind> {
 public:
@@ -196,7 +196,7 @@ public:
     void Accept(NODX201::VDiagLayerVisitor&) override {}
 };
 
-/// A PARENT-REF without exclusions, which must not be asked for then. It writes down what it is asked.
+/// A PARENT-REF without exclusions, which must not be requested then. It records its calls.
 template <class Contract>
 class VMockParentRef : public VMockElement<Contract> {
 public:
@@ -218,7 +218,7 @@ private:
     std::vector<std::wstring>* m_transcript;
 };
 
-/// References without a target, which must not be asked for then.
+/// References without a target, which must not be requested then.
 class VMockProtocolRef : public VMockParentRef<NODX201::VProtocolRef> {
 public:
     using VMockParentRef::VMockParentRef;

@@ -27,7 +27,7 @@ bool Excludes(VParentPlan const& parent, std::wstring const& name) {
                        [&](VExclusionPlan const& exclusion) { return !exclusion.isById && exclusion.name == name; });
 }
 
-/// How one kind of view differs from the others.
+/// The differences of one kind of view from the others.
 struct VRules {
     VVisibles (*own)(VGraphPlan const& graph, VLayerPlan const& layer);
     /// Which pass over the PARENT-REFS merges a reference of this kind into a layer of that kind; 0: none.
@@ -101,7 +101,7 @@ int PassOfDiagVariables(VKind layer, VRefKind ref) {
     return 0;
 }
 
-/// What a DIAG-COMM-REF names; nothing when there is no such DIAG-COMM.
+/// The target of a DIAG-COMM-REF; nothing when there is no such DIAG-COMM.
 VVisibles Referenced(VGraphPlan const& graph, std::wstring const& id) {
     for (VLayerPlan const& layer : graph.layers) {
         for (VOwnPlan const& own : layer.own) {
@@ -196,7 +196,7 @@ struct VNaiveStep {
     VParentPlan const* by;
 };
 
-/// Goes all ways from a layer, and follows what it meets back to it.
+/// Follows all ways from a layer, and determines for each element what happens to it on the way back.
 class VNaiveWays {
 public:
     VNaiveWays(VNaiveKind kind, VGraphPlan const& graph, std::wstring name)
@@ -283,9 +283,9 @@ private:
         return L" visible";
     }
 
-    /// What a layer has under the name when its passes come to a PARENT-REF; null for nothing.
+    /// The element that a layer has under the name when its passes come to a PARENT-REF; null for none.
     VVisible const* Holder(VLayerPlan const& heir, VParentPlan const& until, int passUntil) const {
-        // The layer as it would be with the PARENT-REFs before this one alone.
+        // The layer with only the PARENT-REFs before this one.
         VLayerPlan before = heir;
         before.parents.clear();
         for (int pass = 1; pass <= passUntil; ++pass) {

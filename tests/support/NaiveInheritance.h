@@ -5,8 +5,8 @@
 
 #include "support/GraphPlan.h"
 
-/// What is visible in a layer, by the rules of ODX inheritance and nothing else: no model, no toolkit, quadratic. In
-/// the form of `Print(view)`. What the entries of a plan stand for, other than DIAG-COMMs, is what `VContent` says.
+/// The elements visible in a layer, by the rules of ODX inheritance and nothing else: no model, no toolkit, quadratic.
+/// In the form of `Print(view)`. `VContent` defines what the entries of a plan represent, other than DIAG-COMMs.
 
 namespace NTest {
 
@@ -18,8 +18,8 @@ std::wstring NaiveGlobalNegResponses(VGraphPlan const& graph, std::wstring const
 /// The kinds of inherited element.
 enum class VNaiveKind { DiagComms, DiagVariables, GlobalNegResponses, Dops };
 
-/// Every own element of the name on every way to the layer, a line each with its ID, the layers of the way and what
-/// becomes of it: "L1.a<L2<L1 hidden in L0 by L0.a". Elements are called by their IDs.
+/// Every own element of the name on every way to the layer, one per line with its ID, the layers of the way and what
+/// happens to it: "L1.a<L2<L1 hidden in L0 by L0.a". Elements are shown by their IDs.
 std::wstring NaiveWays(VNaiveKind kind, VGraphPlan const& graph, std::wstring const& layer, std::wstring const& name);
 
 /// The elements of the name in layers to which no chain of PARENT-REFs leads, a line each.

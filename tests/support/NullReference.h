@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// Calls as a C++ program may make by mistake, and a program in another language on purpose: with a reference behind
-/// which there is nothing, or on no object. The sanitizers are not asked about them.
+/// Calls that a C++ program may make by mistake, and a program in another language on purpose: with a reference to
+/// null, or on no object. The sanitizers do not check them.
 
 #if defined(__GNUC__)
 #define DIAGKIT_TEST_NULLS __attribute__((no_sanitize("undefined"))) __attribute__((noinline))

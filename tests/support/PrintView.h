@@ -10,7 +10,7 @@
 
 namespace NTest {
 
-/// The short name of the layer that an element stands in; "" for one outside layers.
+/// The short name of the layer around an element; "" for one outside layers.
 std::wstring LayerNameOf(NODX201::VOdxObject const& element);
 
 std::wstring Print(NODX201::VDiagComm& diagComm);

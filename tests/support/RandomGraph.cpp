@@ -24,7 +24,7 @@ public:
     }
 
 private:
-    // Not a distribution of the standard library: those give other numbers on other platforms.
+    // Not a distribution of the standard library: those give different numbers on different platforms.
     std::uint32_t Below(std::uint32_t limit) { return static_cast<std::uint32_t>(m_random() % limit); }
     bool OneIn(std::uint32_t count) { return Below(count) == 0; }
 

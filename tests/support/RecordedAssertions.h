@@ -21,7 +21,7 @@ struct VRecordedAssertion {
 
 std::ostream& operator<<(std::ostream& out, VRecordedAssertion const& assertion);
 
-/// As long as it lives, failed assertions are recorded and carried on from; one at a time. A test that ends with
+/// While it exists, failed assertions are recorded and execution continues; one at a time. A test that ends with
 /// assertions it did not `Take` has failed.
 class VRecordedAssertions {
 public:
@@ -30,7 +30,7 @@ public:
     VRecordedAssertions(VRecordedAssertions const&) = delete;
     VRecordedAssertions& operator=(VRecordedAssertions const&) = delete;
 
-    /// What failed since the last call, in order.
+    /// The failures since the last call, in order.
     std::vector<VRecordedAssertion> Take();
 
 private:

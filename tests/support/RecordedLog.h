@@ -10,8 +10,8 @@
 
 namespace NTest {
 
-/// As long as it lives, it is the shared logger's listener; afterwards the logger is as before. Each message is
-/// recorded and then answered by an action, if there is one.
+/// While it exists, it is the shared logger's listener; afterwards the logger is as before. Each message is recorded
+/// and then passed to an action, if there is one.
 class VRecordedLog : public NLogging::ILogListener {
 public:
     using VLine = std::pair<int, std::wstring>; ///< severity and message

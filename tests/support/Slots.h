@@ -27,7 +27,7 @@ std::vector<std::ptrdiff_t> SlotsOf(Operations... operations) {
     return {SlotOf(operations)...};
 }
 
-/// The places of so many operations that stand in a row after the destructor, which comes first.
+/// The places of the given number of operations that follow the destructor, which comes first.
 inline std::vector<std::ptrdiff_t> SlotsAfterDestructor(std::size_t count) {
     std::vector<std::ptrdiff_t> slots;
     for (std::size_t slot = 0; slot < count; ++slot) {

@@ -8,11 +8,11 @@
 
 namespace NTest {
 
-/// What is wrong with a model's inner agreement, a line each: owners, link targets, collection counts and the
-/// database's own counts. Empty for a sound model.
+/// The inconsistencies of a model, one per line: owners, link targets, collection counts and the database's own counts.
+/// Empty for a consistent model.
 std::vector<std::wstring> FaultsOf(NMemory::VDatabase& database);
 
-/// Fails the test for every fault. Every set-up model passes here, and every model after a removal.
+/// Fails the test for every fault. Every model set up by a test is checked here, and every model after a removal.
 void VerifyModel(NMemory::VDatabase& database);
 
 } // namespace NTest

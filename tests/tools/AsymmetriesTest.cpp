@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The choices of the traversers that look like mistakes and are none.
+// The choices of the traversers that look like mistakes but are intentional.
 
 #include <stdexcept>
 
@@ -11,7 +11,7 @@ namespace {
 
 using AsymmetriesTest = VTraverserTest;
 
-/// Writes down the DIAG-COMMs that it enters and leaves, with the current DIAG-COMM.
+/// Records the DIAG-COMMs that it enters and leaves, with the current DIAG-COMM.
 class VCurrentRecorder : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -80,7 +80,7 @@ TEST_F(AsymmetriesTest, CurrentDiagCommIsNullAfterANestedDiagComm) {
         )"));
 }
 
-/// Tells its current DIAG-COMM, and leaves a walk by an exception where a hook is told to.
+/// Reports its current DIAG-COMM, and leaves a walk by an exception where a hook is set to do so.
 class VLeaving : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -194,7 +194,7 @@ TEST_F(AsymmetriesTest, EnvDataReferencesOfADictionaryAreNotFollowedButThoseOfAn
 }
 
 TEST_F(AsymmetriesTest, ReferencesResolveAgainstTheLayerOfTheTraverserNotAgainstTheirOwner) {
-    // Both layers have a DOP and a service of the same names; the reference by short name stands in the library.
+    // Both layers have a DOP and a service of the same names; the reference by short name is in the library.
     m_dictionary.AddDtcDop(L"Status");
     m_library.MakeDiagDataDictionarySpec().AddStructure(L"Status");
     m_layer.AddDiagService(L"Read");
@@ -255,7 +255,7 @@ TEST_F(AsymmetriesTest, OnlyReferencesToDopsOfAnyKindAreDispatched) {
     EXPECT_EQ(dispatched.m_dispatched, 1u);
 }
 
-/// Changes every text that its hooks receive, and writes down what they are given.
+/// Changes every text that its hooks receive, and records the received texts.
 class VTextChanger : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -319,7 +319,7 @@ TEST_F(AsymmetriesTest, ADictionaryTraverserHasNoCurrentDiagCommAndFollowsNoPara
     EXPECT_EQ(traverser.CurrentDiagComm(), nullptr);
 }
 
-/// Leaves out the children of structures, and DTC-DOPs with all that belongs to them.
+/// Leaves out the children of structures, and DTC-DOPs with all their parts.
 class VSkipping : public VRecorder {
 public:
     using VRecorder::VRecorder;

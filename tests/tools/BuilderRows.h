@@ -16,11 +16,11 @@
 #include "tools/ContentGraph.h"
 #include "tools/ParamTest.h"
 
-/// The seven builders of views as rows of typed tests. A row is the test class of its builder. It says what the builder
-/// makes views of, what they look like, and how the builder reports that it made none:
+/// The seven builders of views as rows of typed tests. A row is the test class of its builder. It defines the objects
+/// from which the builder makes views, the printed views, and how the builder reports that it made none:
 ///
-///   Subject(), OtherSubject()         what has a view; they print as kPrint and kOtherPrint
-///   SubjectWithoutView()              what the builder makes no view of
+///   Subject(), OtherSubject()         objects with a view; they print as kPrint and kOtherPrint
+///   SubjectWithoutView()              an object for which the builder makes no view
 ///   Create(builder, subject)          the builder's Create
 ///   Destroy(builder, view)            its Destroy, where it has one
 ///   kName                             the row in the names of the tests
@@ -38,7 +38,7 @@ struct VBuilderRow {
 
 // Layers
 
-/// What is different about a builder of layers' views.
+/// The differences of a builder of layers' views.
 struct VLayerRow {
     char const* name;
     VContent content;

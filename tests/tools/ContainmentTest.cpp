@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// What each kind of parameter, DOP and table contains, one step deep.
+// The contents of each kind of parameter, DOP and table, one level deep.
 
 #include <diagkit/tools/Containment.h>
 
@@ -17,8 +17,8 @@ namespace {
 using NDIAGKIT::VContained;
 using NMemory::VReference;
 
-/// Writes down what an element contains: its short name, in parentheses where a reference leads to it, "?" where that
-/// does not resolve, behind the case of a MUX.
+/// Records the contents of an element: short names, in parentheses for references, "?" where a reference does not
+/// resolve, after the case of a MUX.
 class VPartsPrinter : public NDIAGKIT::VContainment {
 public:
     explicit VPartsPrinter(NDIAGKIT::IDopFinder& dops) : m_dops(dops) {}

@@ -14,15 +14,15 @@
 
 namespace NTest {
 
-/// What the entries of a layer graph become. They keep their IDs.
+/// What the entries of a layer graph represent. They keep their IDs.
 enum class VContent {
-    DiagComms,         ///< what they are
+    DiagComms,         ///< DIAG-COMMs
     Dops,              ///< `Read` a DATA-OBJECT-PROP, `Read!` a STRUCTURE; references become nothing
     DiagVariables,     ///< `Read` and `Read!` a DIAG-VARIABLE, `->Lib.Read` a DIAG-VARIABLE-REF; nothing in a PROTOCOL
     GlobalNegResponses ///< `Read` a GLOBAL-NEG-RESPONSE, `Read!` a NEG-RESPONSE; a reference becomes a POS-RESPONSE
 };
 
-/// The graph of the plan, its entries as the content says. Exclusions also exclude DIAG-VARIABLEs.
+/// The graph of the plan, with entries as given by the content. Exclusions also exclude DIAG-VARIABLEs.
 std::unique_ptr<VGraph> MakeContentGraph(VGraphPlan const& plan, VContent content);
 
 /// An element by its ID; throws when there is none of the class.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The views against the naive reading of the rules: on all graphs of up to four layers, and on random bigger ones.
+// The views compared with a naive implementation of the rules: on all graphs of up to four layers, and on larger random
+// ones.
 
 #include <algorithm>
 #include <cstdint>
@@ -37,8 +38,8 @@ std::vector<std::vector<int>> ParentLists(int count) {
 }
 
 /// Calls back for every graph of `count` layers: every kind for every layer, every list of parents among the layers
-/// before it, whether or not ODX allows them. Every graph without circles is one of these. Graphs in which the last
-/// layer does not reach all others are left out: what it shows is that of a smaller graph.
+/// before it, whether or not ODX allows them. Every graph without cycles is one of these. Graphs in which the last
+/// layer does not reach all others are left out: its view is that of a smaller graph.
 class VAllGraphs {
 public:
     explicit VAllGraphs(int count) : m_count(count) {
@@ -123,7 +124,7 @@ public:
     unsigned ReferenceCount() const { return static_cast<unsigned>(m_exclusions.size()); }
     VGraphPlan const& Plan() const { return m_plan; }
 
-    /// Layers in the set show a DIAG-COMM "x", the others one of a name that no other layer has.
+    /// Layers in the set have a DIAG-COMM "x", the others one with a name that no other layer has.
     void SetNames(unsigned layersOfX) {
         for (unsigned layer = 0; layer < LayerCount(); ++layer) {
             std::wstring& name = m_plan.layers[layer].own[0].name;
@@ -132,7 +133,7 @@ public:
         }
     }
 
-    /// References in the set exclude "x", the others a name that is nowhere.
+    /// References in the set exclude "x", the others a name that does not exist.
     void SetExclusions(unsigned referencesWithoutX) {
         for (unsigned reference = 0; reference < ReferenceCount(); ++reference) {
             auto const& [planned, link] = m_exclusions[reference];
@@ -205,7 +206,7 @@ bool CompareSomeStates(VChangingGraph& graph, unsigned& references) {
 
 class DiagCommViewAllGraphsTest : public testing::TestWithParam<VKind> {
 protected:
-    /// Hands every graph of so many layers to `compare` until one fails; returns how many there are.
+    /// Passes every graph with this number of layers to `compare` until one fails; returns their number.
     template <class Compare>
     int CompareAll(int layerCount, Compare compare) {
         int graphs = 0;

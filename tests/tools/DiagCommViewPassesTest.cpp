@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The passes over PARENT-REFS, a row of their table a test: which kinds of reference a kind of layer follows, and in
-// which order.
+// The passes over PARENT-REFS, one test per row of their table: which kinds of reference a kind of layer follows, and
+// in which order.
 
 #include <diagkit/tools/DiagCommView.h>
 
@@ -13,8 +13,8 @@ namespace {
 
 class DiagCommViewPassesTest : public VGraphTest {
 protected:
-    /// Two layers of each kind, each with a name of its own and without parents; a test adds the layer under test,
-    /// which references all of them.
+    /// Two layers of each kind, each with its own name and without parents; a test adds the layer under test, which
+    /// references all of them.
     void GraphOverAllKinds(std::wstring const& layerUnderTest) {
         Graph((std::wstring(LR"(
             esd  Lib1   : FromLib1
@@ -156,7 +156,7 @@ TEST_F(DiagCommViewPassesOrderTest, ProtocolsAndFunctionalGroupsShareAPass) {
 // clang-format on
 
 TEST_F(DiagCommViewPassesOrderTest, AbsentPartsAreNotAskedFor) {
-    VMockEcuVariant layer; // throws when its absent DIAG-COMMS or PARENT-REFS are asked for
+    VMockEcuVariant layer; // throws when its absent DIAG-COMMS or PARENT-REFS are requested
     EXPECT_NO_THROW(NDIAGKIT::VDiagCommView{layer});
     EXPECT_THROW(layer.DiagCommProxyCollection(), std::logic_error);
     EXPECT_THROW(layer.ParentRefCollection(), std::logic_error);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Who is visible in a layer, and what comparing and searching a view mean.
+// Which elements are visible in a layer, and the meaning of comparing and searching a view.
 
 #include <diagkit/tools/DiagCommView.h>
 

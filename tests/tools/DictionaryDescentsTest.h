@@ -5,7 +5,7 @@
 
 namespace NTest {
 
-/// The children of every kind that the dictionary traverser knows, and their order: one test a kind.
+/// The children of every kind that the dictionary traverser knows, and their order: one test per kind.
 class DictionaryDescentsTest : public VTraverserTest {
 protected:
     NMemory::VMemStructure& Structure(wchar_t const* name) { return m_dictionary.AddStructure(name); }

@@ -329,7 +329,7 @@ TEST_F(DictionaryDescentsTest, KindsWithoutChildrenHaveNone) {
     NMemory::VMemCompuScale& scale =
         Dop(L"Dop").MakeCompuMethod().MakeCompuInternalToPhys().MakeCompuScales().AddCompuScale();
     NMemory::VMemCompuInverseValue& inverse = scale.MakeCompuInverseValue();
-    inverse.MakeVt(); // the one child that such a kind may hold
+    inverse.MakeVt(); // the only child that such a kind may have
     m_recorder.VisitCompuInverseValue(inverse);
     EXPECT_EQ(m_recorder.TakeTranscript(), L"CompuInverseValue\n");
 }

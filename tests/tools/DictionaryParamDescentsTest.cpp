@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Parameters, tables, and what leads from a DOP to others.
+// Parameters, tables, and references from DOPs to others.
 
 #include "tools/DictionaryDescentsTest.h"
 

@@ -305,7 +305,7 @@ TEST_F(DopViewTest, ALayerWithoutDopsAndParentsHasAnEmptyView) {
 }
 
 TEST(DopViewMockTest, AnAbsentDictionaryIsNotAskedFor) {
-    VCountingLayer layer; // throws when its absent dictionary is asked for
+    VCountingLayer layer; // throws when its absent dictionary is requested
     EXPECT_NO_THROW(VDopView{layer});
     EXPECT_EQ(layer.m_timesAsked, 1);
     EXPECT_THROW(layer.GetDiagDataDictionarySpec(), std::logic_error);

@@ -46,7 +46,7 @@ static_assert(KeepsTheProtocol<VSetIterator, std::set<std::wstring*>::const_iter
 static_assert(KeepsTheProtocol<VMapIterator, VIntMap::iterator, int&>());
 static_assert(sizeof(VListIterator) == 2 * sizeof(void*), "a table pointer and one position");
 
-// What the toolkit hands out.
+// The iterators of the toolkit.
 static_assert(
     std::is_same_v<NDIAGKIT::VDiagCommView::Iterator,
                    NDIAGKIT::VExternalIterator<std::list<NODX201::VDiagComm*>::iterator, NODX201::VDiagComm&>>);

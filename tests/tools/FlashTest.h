@@ -14,7 +14,7 @@
 
 namespace NTest {
 
-/// A test over one FLASH. The elements that it adds are called what the test calls them.
+/// A test over one FLASH. The elements that it adds have the names given by the test.
 class VFlashTest : public testing::Test {
 protected:
     NMemory::VMemMem& AddMem() { return m_flash.AddEcuMem(L"EcuMem").GetMem(); }

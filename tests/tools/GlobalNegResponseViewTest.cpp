@@ -160,7 +160,7 @@ TEST_F(GlobalNegResponseViewTest, TheVisitOperationsKeepTheVisitorsPlaces) {
 }
 #endif
 
-/// A response of one class with the tag of whichever.
+/// A response of one class with any tag.
 template <class Contract>
 class VMockResponse : public VMockElement<Contract> {
 public:
@@ -176,7 +176,7 @@ private:
     NODX201::VOdxTagEnum m_tag;
 };
 
-/// An ECU-VARIANT with responses; it throws when its absent PARENT-REFS are asked for.
+/// An ECU-VARIANT with responses; it throws when its absent PARENT-REFS are requested.
 class VLayerOfResponses : public VMockEcuVariant {
 public:
     NODX201::VResponseCollection& ResponseCollection() override { return m_responses; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The guarded traverser over every kind of cycle that references can make, and where it must not differ from the other.
+// The guarded traverser over every kind of cycle that references can form, and where it must not differ from the other.
 
 #include <stdexcept>
 #include <string>
@@ -281,7 +281,7 @@ TEST_F(GuardedTest, ADictionaryAloneIsGuardedToo) {
         )"));
 }
 
-/// Writes down the DIAG-COMMs that it enters, and those that stand too deep.
+/// Records the DIAG-COMMs that it enters, and those that are too deep.
 class VShallowWalk : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
     using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;
@@ -344,7 +344,7 @@ TEST_F(GuardedTest, NothingHappensAtACycleOrTheLimitUnlessItIsOverridden) {
 }
 
 TEST_F(GuardedTest, ARingOfThousandsIsToldWhereItCloses) {
-    constexpr int kServices = 1500; // more than the guard keeps apart
+    constexpr int kServices = 1500; // more than the buckets of the guard
     std::vector<NMemory::VMemDiagService*> services;
     for (int number = 0; number < kServices; ++number) {
         services.push_back(&m_library.AddDiagService((L"Service" + std::to_wstring(number)).c_str()));

@@ -23,7 +23,7 @@ public:
     using VIdentIfView::VIdentIfView;
 };
 
-/// An ident that says of itself what the test wants, is nothing of it, and can tell that it was destroyed.
+/// An ident that claims to be what the test sets, is none of it, and reports its destruction.
 class VMockIdent : public NODX201::IIdentIf {
 public:
     explicit VMockIdent(bool isExpected, bool* isDestroyed = nullptr)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// How elements come to a layer, and what becomes of those that do not.
+// The ways of elements to a layer, and what happens to those that do not reach it.
 
 #include <diagkit/tools/InheritanceNotes.h>
 
@@ -179,7 +179,7 @@ TEST_F(VInheritanceNotesTest, AnElementThatALayerListsTwiceIsOneWay) {
     EXPECT_EQ(Ways(L"Bv", L"Read"), L"\nRead@Bv visible\nRead@Bv hidden in Bv by Read@Bv");
 }
 
-/// Of graphs at random: the visible candidates are the view; each has its path and, of its name, one visible way.
+/// On random graphs: the visible candidates are the view; each has its path and, of its name, one visible way.
 template <class Kind, class MakeGraph>
 void CompareWithViews(MakeGraph makeGraph) {
     for (std::uint32_t seed = 1; seed <= 200; ++seed) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// One object asked about many layers, against the naive reading of the rules, and what it says of parents.
+// One object used for many layers, compared with a naive implementation of the rules, and its results for parents.
 
 #include <diagkit/tools/Inheritance.h>
 
@@ -19,7 +19,7 @@
 
 namespace NMemory {
 
-/// A FUNCTIONAL-GROUP that says to have no PARENT-REFS, and has.
+/// A FUNCTIONAL-GROUP that claims to have no PARENT-REFS, and has some.
 #include <diagkit/memory/Classes.def>
 DIAGKIT_CLASS(SecretiveGroup, NODX201::VFunctionalGroup, FunctionalGroup, Ident)
 ODX_LAYER
@@ -54,7 +54,7 @@ std::wstring PrintElements(std::vector<Element*> const& elements) {
     return text;
 }
 
-/// Compares what one object says of all layers of graphs at random, each asked twice and once as a parent.
+/// Compares the results of one object for all layers of random graphs, each requested twice and once as a parent.
 template <class Kind, class MakeGraph, class Expected>
 void CompareRandomGraphs(MakeGraph makeGraph, Expected expected) {
     for (std::uint32_t seed = 1; seed <= 300; ++seed) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The list of kinds. That each is a kind of the traversers shows when the recorder is compiled, and that they are
-// called, over the sample.
+// The list of kinds. Compiling the recorder shows that each is a kind of the traversers, and a walk over the sample
+// that they are called.
 
 #include <iterator>
 #include <set>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The children of every kind that the layer traverser adds, and their order: one test a kind.
+// The children of every kind that the layer traverser adds, and their order: one test per kind.
 
 #include "tools/TraverserTest.h"
 
@@ -13,7 +13,7 @@ protected:
         return m_database.AddComparamSpec(L"ComparamSpec").AddComparam(name);
     }
 
-    /// What every layer may have, last things first.
+    /// The possible contents of every layer, in reverse order.
     template <class Layer>
     static void FillLayer(Layer& layer) {
         layer.AddNegResponse(L"NegResponse");

@@ -7,7 +7,7 @@
 
 namespace NTest {
 
-/// A DOP of no kind that can tell that it was destroyed.
+/// A DOP of no kind that reports its destruction.
 class VMockDop : public VMockElement<NODX201::VDopBase> {
 public:
     explicit VMockDop(wchar_t const* shortName, bool* isDestroyed = nullptr)
@@ -29,7 +29,7 @@ private:
     bool* m_isDestroyed;
 };
 
-/// An ECU-VARIANT without a dictionary, which must not be asked for then. It counts how often it is asked whether it
+/// An ECU-VARIANT without a dictionary, which must not be requested then. It counts how often it is asked whether it
 /// has one: once for every DOP view that is built of it.
 class VCountingLayer : public VMockEcuVariant {
 public:

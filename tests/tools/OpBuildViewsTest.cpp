@@ -15,8 +15,8 @@ using VLines = std::vector<VRecordedLog::VLine>;
 template <class Builder>
 constexpr bool kIsLayerVisitor = std::is_base_of_v<NODX201::VDiagLayerVisitor, Builder>;
 
-// Every builder. How many blocks are alive is counted in allocations/; here the sanitizers see that nothing leaks or
-// dies twice.
+// Every builder. allocations/ counts the blocks that are alive; here the sanitizers check that nothing leaks or is
+// destroyed twice.
 
 template <class Row>
 class OpBuildViewTest : public Row {
@@ -105,7 +105,7 @@ TYPED_TEST(OpBuildDestroyTest, AnyBuilderDestroysAnyView) {
     EXPECT_EQ(this->Print(*again), this->kPrint) << "the elements live on";
 }
 
-/// A view that tells when it is destroyed.
+/// A view that reports its destruction.
 template <class View>
 class VTellingView : public View {
 public:
@@ -117,7 +117,7 @@ private:
     bool* m_isDestroyed;
 };
 
-/// What a view can be constructed from.
+/// The argument with which a view can be constructed.
 NODX201::VFunctionalGroup& ForView(NODX201::VDiagLayer& layer) {
     return dynamic_cast<NODX201::VFunctionalGroup&>(layer);
 }
@@ -204,7 +204,7 @@ TEST_F(OpBuildGlobalNegResponseViewTest, BuilderWithoutViewIsSilent) {
 
 // Those of layers.
 
-/// A layer whose Accept does what the test says.
+/// A layer whose Accept does what the test sets.
 class VScriptedLayer : public VMockEcuVariant {
 public:
     explicit VScriptedLayer(std::function<void(NODX201::VDiagLayerVisitor&)> accept) : m_accept(std::move(accept)) {}
@@ -220,7 +220,7 @@ protected:
     using typename Row::VBuilder;
     using typename Row::VView;
 
-    /// What the builder makes of a layer is what the constructor for that kind makes.
+    /// The view that the builder makes of a layer is the one that the constructor for that kind makes.
     template <class Kind>
     void ExpectViewOfKind(wchar_t const* name, wchar_t const* print) {
         VBuilder builder;
@@ -335,7 +335,7 @@ TEST_F(OpBuildOutParamIfViewTest, TheRangeIsPassedOnForAServiceAndIgnoredForAJob
         last = m_builder.CreateOutParamIfView(m_singleJob, range);
         EXPECT_EQ(Print(*last), L"OfSingleJob");
     }
-    delete last; // all views before it died in the next Create
+    delete last; // all earlier views were destroyed in the next Create
 }
 
 // The one of containers.

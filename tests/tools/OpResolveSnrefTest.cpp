@@ -54,7 +54,7 @@ TEST_F(OpResolveSnrefTest, OneDopViewIsBuiltForEachLayer) {
     VOpResolveSnref another;
     EXPECT_EQ(another.ResolveDopBaseSnref(L"Volt", one), nullptr);
     EXPECT_EQ(one.m_timesAsked, 2) << "resolvers share nothing";
-    // That both views die with their resolver is what the sanitizers see.
+    // The sanitizers check that both views are destroyed with their resolver.
 }
 
 TEST_F(OpResolveSnrefTest, ADopAddedAfterTheFirstResolutionIsSeenByANewResolverOnly) {
@@ -103,7 +103,7 @@ TEST_F(OpResolveSnrefTest, AResolverOutlivesEditsAndTheDatabase) {
     EXPECT_EQ(Resolver().ResolveDopBaseSnref(L"Volt", one), volt);
     EXPECT_EQ(Resolver().ResolveDiagCommSnref(L"Read", one), nullptr);
     database.reset();
-    StartNewResolver(); // the kept views end after all that they showed
+    StartNewResolver(); // destroys the kept views after all elements that they contained
     EXPECT_EQ(Resolver().ResolveDopBaseSnref(L"Volt", m_layer), nullptr);
 }
 
@@ -353,7 +353,7 @@ TEST_F(OpResolveSnrefTest, TheOperationsStandInTheOrderOfTheInterface) {
 }
 #endif
 
-// Each operation against a linear search of its view. The parameters' ones stand in RandomParamsTest.
+// Each operation compared with a linear search of its view. Those for parameters are in RandomParamsTest.
 
 constexpr wchar_t const* kSearched[] = {L"a", L"b", L"c", L"d", L"e", L"A", L"B", L"", L"L1", L"L3", L"absent"};
 

@@ -54,7 +54,7 @@ TEST_F(OutParamIfViewTest, EverySearchRangeSelectsItsSources) {
     EXPECT_EQ(Params(-1), L"");
 }
 
-/// Otherwise the search takes twice as long with each level, and does not end here.
+/// Otherwise the search takes twice as long with each level, and would not end here.
 TEST_F(OutParamIfViewTest, AStructureThatManyShareIsSearchedOnce) {
     NMemory::VMemStructure* inner = &StructureOf(L"Innermost");
     for (int level = 0; level < 40; ++level) {

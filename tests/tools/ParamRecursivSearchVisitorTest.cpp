@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Where the search below the parameters of a service goes, and in which order.
+// The parameters found by the search below those of a service, and their order.
 
 #include <functional>
 

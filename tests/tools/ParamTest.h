@@ -49,7 +49,7 @@ protected:
         return response;
     }
 
-    /// The job as what it is not supposed to be passed as.
+    /// The job as a class as which it must not be passed.
     NODX201::VDiagComm& MultipleJobAsDiagComm() { return m_multipleJob; }
 
     VRecordedAssertions m_assertions;
@@ -63,8 +63,7 @@ protected:
         m_database.AddMultipleEcuJobSpec(L"Jobs").AddMultipleEcuJob(L"MultipleJob");
 };
 
-/// A parameter by interface that says of itself what the test wants, is nothing of it, and can tell that it was
-/// destroyed.
+/// A parameter by interface that claims to be what the test sets, is none of it, and reports its destruction.
 class VMockInParam : public NODX201::IInParamIf {
 public:
     explicit VMockInParam(bool isValue, bool* isDestroyed = nullptr) : m_isValue(isValue), m_isDestroyed(isDestroyed) {}
@@ -98,7 +97,7 @@ private:
     bool* m_isDestroyed;
 };
 
-/// Supplies what the abstract builders leave open. None of it is ever called.
+/// Implements what the abstract builders leave open. None of it is ever called.
 template <class Builder>
 class VConcreteBuilder : public Builder {
 public:

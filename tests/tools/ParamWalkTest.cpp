@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Walks below parameters: what they meet in which order, and by which way.
+// Walks below parameters: what they find in which order, and on which way.
 
 #include <diagkit/tools/OutParamIfView.h>
 #include <diagkit/tools/ParamWalk.h>
@@ -17,7 +17,7 @@ namespace {
 
 using NMemory::VReference;
 
-/// Writes down the way to every VALUE parameter.
+/// Records the way to every VALUE parameter.
 class VWayPrinter : public NDIAGKIT::VParamWalk {
 public:
     explicit VWayPrinter(NDIAGKIT::IDopFinder& dops, std::wstring const& last = L"") : VParamWalk(dops), m_last(last) {}
@@ -46,7 +46,7 @@ private:
 
 class ParamWalkTest : public VParamTest {
 protected:
-    /// The ways to all VALUEs below the parameters of the response, up to the one named.
+    /// The ways to all VALUEs below the parameters of the response, up to the one with this name.
     std::wstring Ways(std::wstring const& last = L"") {
         VWayPrinter printer(m_dops, last);
         for (NODX201::VParam& param : m_response.ParamCollection()) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The searches of the parameter views against a search written straight from the rules, on random parameters.
+// The searches of the parameter views compared with a search that follows the rules directly, on random parameters.
 
 #include <random>
 
@@ -17,7 +17,7 @@ using NDIAGKIT::VInParamIfView;
 using NDIAGKIT::VOutParamIfView;
 using NMemory::VReference;
 
-/// Where a reference of the plan leads: to the thing of that number, to nothing, or it is not there at all.
+/// The target of a reference of the plan: the object of that number, a missing target, or no reference at all.
 constexpr int kGone = -1;
 constexpr int kAbsent = -2;
 
@@ -37,7 +37,7 @@ struct VDopPlan {
 
     VForm form = VForm::Simple;
     VParamPlans params{};                ///< of a structure
-    std::vector<VParamPlans> envDatas{}; ///< of an ENV-DATA-DESC; the odd ones stand in the dictionary
+    std::vector<VParamPlans> envDatas{}; ///< of an ENV-DATA-DESC; the odd ones are in the dictionary
     int defaultCase = kAbsent;           ///< of a MUX: a structure
     std::vector<int> targets{};          ///< of a field: one DOP; of a MUX: the structures of its cases
 };
@@ -46,10 +46,10 @@ struct VRowPlan {
     int structure = kAbsent;
 };
 
-/// All DOPs lead to DOPs of higher numbers alone, so that nothing contains itself.
+/// All DOPs lead only to DOPs of higher numbers, so that nothing contains itself.
 struct VServicePlan {
     std::vector<VDopPlan> dops;
-    std::vector<VRowPlan> rows;           ///< all stand in one table
+    std::vector<VRowPlan> rows;           ///< all are in one table
     std::vector<std::vector<int>> tables; ///< the numbers of the rows they refer to
     std::vector<VParamPlans> requests;    ///< none or one
     std::vector<VParamPlans> positives;
@@ -96,7 +96,7 @@ private:
     static constexpr int kTableDops = 7; ///< tables lead to DOPs from here on, DOPs before lead to tables
     static constexpr int kTables = 2;
 
-    // Not a distribution of the standard library: those give other numbers on other platforms.
+    // Not a distribution of the standard library: those give different numbers on different platforms.
     int Below(int limit) { return static_cast<int>(m_random() % static_cast<std::uint32_t>(limit)); }
     bool OneIn(int count) { return Below(count) == 0; }
 
@@ -163,7 +163,7 @@ private:
     int m_params = 0;
 };
 
-/// The search as the rules tell it, on the plan alone. Returns IDs; "" when there is none.
+/// The search as defined by the rules, on the plan alone. Returns IDs; "" when there is none.
 class VNaiveSearch {
 public:
     VNaiveSearch(VServicePlan const& plan, std::wstring const& name) : m_plan(plan), m_name(name) {}

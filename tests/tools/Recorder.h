@@ -9,7 +9,7 @@
 
 namespace NTest {
 
-/// A traverser that writes down every hook that is called, and whose Visit operations a test may call.
+/// A traverser that records every hook call, and whose Visit operations a test may call.
 template <class Traverser>
 class VRecording : public Traverser {
 public:
@@ -43,7 +43,7 @@ protected:
 
 using VRecorder = VRecording<NDIAGKIT::VDiagLayerTraverser>;
 
-/// The same for the guarded traverser: what is not entered again is marked.
+/// The same for the guarded traverser: elements that are not entered again are marked.
 class VGuardedRecorder : public VRecording<NDIAGKIT::VGuardedDiagLayerTraverser> {
 public:
     using VRecording::VRecording;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The same answers as its base, asked in any order, and after changes.
+// The same results as its base, in any order of calls, and after changes.
 
 #include <diagkit/tools/RememberingResolver.h>
 
@@ -46,7 +46,7 @@ protected:
         m_multipleJob.AddOutputParam(L"D");
     }
 
-    /// Every question, by number.
+    /// Every query, by number.
     void const* Ask(NODX201::VAbstractSnrefResolver& resolver, unsigned question, wchar_t const* name) {
         NODX201::VDiagLayer& parent = *m_container.DiagLayerCollection().Begin();
         switch (question) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The traversers over every layer of the sample: all hooks are called, and no element of the layers is missed.
+// The traversers over every layer of the sample: all hooks are called, and no element of the layers is left out.
 
 #include <algorithm>
 #include <fstream>
@@ -68,7 +68,7 @@ protected:
         }
     }
 
-    /// What all walks together called.
+    /// The calls of all walks together.
     VTranscript WalkAllLayers() {
         VTranscript all;
         for (NODX201::VDiagLayer* const layer : m_layers) {
@@ -145,11 +145,11 @@ private:
                tag == "ECU-SHARED-DATA";
     }
 
-    /// What the innermost open element stands in, so many elements further out.
+    /// The element around the innermost open one, at this number of levels further out.
     std::string const& Above(std::size_t levels) const { return m_open[m_open.size() - 1 - levels]; }
 
-    /// Elements that the walk passes by: the text of a COMPU-INVERSE-VALUE, and what a layer itself sets of the
-    /// communication parameters.
+    /// Elements that the walk leaves out: the text of a COMPU-INVERSE-VALUE, and a layer's own values of communication
+    /// parameters.
     bool IsPassedBy() const {
         return (Above(0) == "VT" && Above(1) == "COMPU-INVERSE-VALUE") ||
                (Above(0) == "COMPARAM-REF" && IsLayer(Above(2)));
@@ -196,7 +196,7 @@ TEST_F(SampleCoverageTest, NoElementOfTheLayersIsMissed) {
     EXPECT_TRUE(std::includes(all.m_texts.begin(), all.m_texts.end(), texts.begin(), texts.end()));
 }
 
-/// Overrides no hook but the one that all elements share.
+/// Overrides only the hook that all elements have in common.
 class VCounting : public NDIAGKIT::VDiagLayerTraverser {
 public:
     using VDiagLayerTraverser::VDiagLayerTraverser;
@@ -230,7 +230,7 @@ TEST_F(SampleCoverageTest, WithoutCyclesTheGuardedTraverserWalksAsTheOtherDoes) 
     }
 }
 
-/// Enters every element again from its own PreProcess: whatever its kind, the second Visit only says so.
+/// Enters every element again from its own PreProcess: for every kind, the second Visit only reports it.
 class VEntersAgain : public NDIAGKIT::VGuardedDiagLayerTraverser {
 public:
     using VGuardedDiagLayerTraverser::VGuardedDiagLayerTraverser;
@@ -265,7 +265,7 @@ TEST_F(SampleCoverageTest, EveryKindIsGuarded) {
         if (layer->HasDiagDataDictionarySpec()) {
             for (NODX201::VDopBase& dop : layer->GetDiagDataDictionarySpec().DopBaseCollection()) {
                 if (auto* const field = dynamic_cast<NODX201::VField*>(&dop)) {
-                    traverser.VisitField(*field); // which no descent leads to
+                    traverser.VisitField(*field); // no descent leads to it
                     traverser.VisitComplexDop(*field);
                 }
             }

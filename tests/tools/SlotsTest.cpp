@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Where the traversers' operations stand in their tables. Clients of the shared library rely on it.
+// The slots of the traversers' operations in their tables. Clients of the shared library rely on them.
 
 #include <cstddef>
 #include <numeric>
@@ -51,7 +51,7 @@ constexpr std::size_t kLayerKinds = 26;
     X(DiagComm)
 // clang-format on
 
-/// All operations in the open, none overridden.
+/// All operations as public members, none overridden.
 class VOpen : public NDIAGKIT::VDiagLayerTraverser {
 public:
 #define TRAVERSER_KIND(kind, element)                                                                                  \
@@ -83,7 +83,7 @@ using VOperations = std::vector<VOperation>;
 #define VISIT(kind) VOperation{"Visit" #kind, SlotOf(&VOpen::Visit##kind)},
 #define DESCEND(kind) VOperation{"Descend" #kind, SlotOf(&VOpen::Descend##kind)},
 
-/// Those that do not follow one another from the first place on.
+/// Those that are not consecutive from the first place on.
 VTexts Misplaced(std::ptrdiff_t first, VOperations const& operations) {
     VTexts texts;
     for (VOperation const& operation : operations) {
@@ -118,7 +118,7 @@ VSlots const kPostProcess = {
 #include <diagkit/tools/TraverserKinds.def>
 };
 
-// The dictionary's hooks stand in the table of its traverser, those of the layers in that of theirs.
+// The dictionary's hooks are in the table of its traverser, those of the layers in that of theirs.
 
 TEST(TraverserSlotsTest, PreProcess) {
     VSlots layers = Row(49, kLayerKinds);

@@ -17,7 +17,7 @@ static_assert(std::is_polymorphic_v<VStringContainer> && std::has_virtual_destru
 static_assert(!std::is_copy_constructible_v<VStringContainer> && !std::is_copy_assignable_v<VStringContainer>);
 static_assert(std::is_same_v<decltype(std::declval<VStringContainer const&>().Count()), std::size_t>);
 
-/// A container that lets the protected operations be called and tells when it is destroyed.
+/// A container that lets the protected operations be called and reports its destruction.
 class VOpenContainer : public VStringContainer {
 public:
     explicit VOpenContainer(bool* isDestroyed = nullptr) : m_isDestroyed(isDestroyed) {}
@@ -35,7 +35,7 @@ private:
 
 class StringContainerTest : public testing::Test {
 protected:
-    /// The texts held, sorted: the order of iteration is nobody's business.
+    /// The texts, sorted: the order of iteration is unspecified.
     std::multiset<std::wstring> Texts() const { return Texts(m_container); }
 
     static std::multiset<std::wstring> Texts(VStringContainer const& container) {

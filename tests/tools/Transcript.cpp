@@ -12,7 +12,7 @@
 namespace NTest {
 namespace {
 
-/// What tells an element from its neighbours: its short name, the tag of a limit, the text of an SD.
+/// What distinguishes an element from others nearby: its short name, the tag of a limit, the text of an SD.
 std::wstring CalledAs(NODX201::VOdxElement& x) {
     if (dynamic_cast<NODX201::VLimit*>(&x) != nullptr) {
         return NODX201::OdxTagText(x.GetOdxTag());
@@ -88,7 +88,7 @@ std::wstring Text(std::wstring const& written) {
         all.push_back(line);
     }
     if (!all.empty() && IndentationOf(all.back()) == all.back().size()) {
-        all.pop_back(); // what stands before the closing mark
+        all.pop_back(); // the text before the closing mark
     }
     std::size_t const indentation = all.empty() ? 0 : IndentationOf(all.front());
     std::wstring text;

@@ -10,9 +10,9 @@
 
 namespace NTest {
 
-/// What a walk called, as text: a line for each element, with its kind and what it is called, its children indented
-/// below it. Every walk that is written down is held against the order of a visit: PreProcess, DefaultVisit, children,
-/// PostProcess, all with the same element; for a text only PreProcess and PostProcess. A fault fails the test.
+/// The calls of a walk, as text: a line for each element, with its kind and name, its children indented below it. Every
+/// recorded walk is checked against the order of a visit: PreProcess, DefaultVisit, children, PostProcess, all with the
+/// same element; for a text only PreProcess and PostProcess. A fault fails the test.
 class VTranscript {
 public:
     void Before(wchar_t const* kind, NODX201::VOdxElement& x);
@@ -24,7 +24,7 @@ public:
 
     void Cycle(wchar_t const* kind, NODX201::VOdxElement& x);
 
-    std::wstring Take(); ///< the text, which is forgotten; everything that was entered must have been left
+    std::wstring Take(); ///< the text, which is cleared; everything that was entered must have been left
 
     std::map<std::wstring, std::size_t> m_before; ///< how often, by kind
     std::map<std::wstring, std::size_t> m_after;

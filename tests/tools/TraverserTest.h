@@ -12,8 +12,8 @@
 
 namespace NTest {
 
-/// An ECU-VARIANT with a dictionary to fill, a library beside it, and a recorder over the ECU-VARIANT. Where the order
-/// of children is the point, a test makes them in another one.
+/// An ECU-VARIANT with a dictionary to fill, a library, and a recorder over the ECU-VARIANT. Where the order of
+/// children matters, a test creates them in another one.
 class VTraverserTest : public testing::Test {
 protected:
     VTraverserTest() {

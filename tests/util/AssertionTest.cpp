@@ -47,7 +47,7 @@ TEST(AssertionTest, AScopedHandlerEndsWithItsScope) {
     EXPECT_EQ(s_called, 1);
 }
 
-/// Fails in the container, under whatever handler is installed.
+/// Fails in the container, with the installed handler.
 void RemoveAbsentText() {
     NDIAGKIT::VStringContainer container;
     container.Remove(L"absent");

@@ -8,7 +8,7 @@
 namespace NTest {
 namespace {
 
-// An interface as those of the contract, the class to cast to, and classes of a model with both in every arrangement.
+// An interface like those of the contract, the class to cast to, and classes of a model with both in every arrangement.
 
 class IEntry {
 public:
@@ -34,7 +34,7 @@ struct VRow : VElement, IEntry {
 };
 
 struct VPlainRow final : VRow {};
-struct VRowBehindAnother final : VAnother, VRow {}; // the interface lies elsewhere in the whole object
+struct VRowBehindAnother final : VAnother, VRow {}; // the interface is elsewhere in the whole object
 struct VOther final : VElement, IEntry {};          // no row
 struct VBareEntry final : IEntry {
     virtual ~VBareEntry() = default;
@@ -51,7 +51,7 @@ struct VEntryBesideTwoRows final : VEntryBase, VFirstRow, VSecondRow {}; // whic
 struct VVirtualRow : virtual VRow {};
 struct VRowAsVirtualBase final : VAnother, VVirtualRow {};
 struct VHiddenRow final : private VRow {
-    IEntry& Entry() { return *this; } // of a row that is hidden, which does not matter
+    IEntry& Entry() { return *this; } // of a hidden row, which does not matter
 };
 
 using VCast = NPavonaUtil::VCheckedCast<VRow, IEntry>;

@@ -5,7 +5,7 @@
 
 namespace NTest {
 
-/// A text of 2 GiB and a terminator, of which only one block is really in memory.
+/// A text of 2 GiB and a terminator, of which only one block is physical memory.
 class VLongText {
 public:
     VLongText();

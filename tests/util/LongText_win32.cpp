@@ -10,8 +10,7 @@
 namespace NTest {
 
 VLongText::VLongText() {
-    // Where there is room for all of it, its parts are put, one behind the other; the terminator is zero from the
-    // start.
+    // Its parts are mapped one after the other where there is room for all of it; the terminator is zero initially.
     m_text = static_cast<char*>(VirtualAlloc(nullptr, kLength + kBlock, MEM_RESERVE, PAGE_NOACCESS));
     VirtualFree(m_text, 0, MEM_RELEASE);
     HANDLE const block = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, kBlock, nullptr);

@@ -149,7 +149,7 @@ TEST_F(TextConvTest, TheTerminatorIsConvertedOnlyWhereTheLengthCountsIt) {
     EXPECT_EQ(m_written, 2U);
 }
 
-/// The 32 codes that are not their own Unicode, as the code page has them; the five that it leaves open map to
+/// The 32 codes that differ from their Unicode values, as in the code page; the five unassigned codes map to
 /// themselves.
 constexpr wchar_t kUpperControls[] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                       0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,

@@ -29,7 +29,7 @@ std::u16string Encoded(std::u32string const& text) {
     return encoded;
 }
 
-/// All texts of up to three of these characters; among them are surrogates that stand alone, also side by side.
+/// All texts of up to three of these characters; among them are unpaired surrogates, also adjacent ones.
 std::vector<std::u32string> Texts() {
     std::u32string const characters{U'A', 0xD7FF, 0xD83D, 0xDE00, 0xE000, 0xFFFF, 0x10000, 0x1F600, 0x10FFFF};
     std::vector<std::u32string> texts{U""};

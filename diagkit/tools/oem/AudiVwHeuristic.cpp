@@ -19,7 +19,7 @@ bool IsNamedAsByVolkswagen(NODX201::VProtocol const& protocol) {
 
 constexpr std::wstring_view kCompanies[] = {L"audi", L"audi ag", L"volkswagen ag", L"volkswagen", L"vag"};
 
-/// The long name of the company that a person works for; "" for nobody's.
+/// The long name of the company that a person works for; "" when there is none.
 std::wstring_view CompanyOf(NODX201::VTeamMember const& member) {
     auto* const company = dynamic_cast<NODX201::VCompanyData*>(member.GetOwner());
     return company != nullptr ? LongNameOf(*company) : L"";
@@ -146,7 +146,7 @@ bool VAudiVwCharacterRule::IsSeparator(wchar_t character) const {
     return code < m_isSeparator.size() && m_isSeparator[code];
 }
 
-/// Hands out the abbreviation character by character, as long as they are taken.
+/// Passes the abbreviation to `take` character by character, as long as it accepts them.
 template <class Take>
 bool VAudiVwCharacterRule::Abbreviate(std::wstring_view text, Take take) const {
     int units = 0;

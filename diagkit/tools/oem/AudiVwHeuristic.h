@@ -19,7 +19,7 @@ public:
     wchar_t const* GetName() const override { return L"VAudiVwHeuristic"; }
 };
 
-/// There are PROTOCOLs, each has DIAG-COMMs of its own, and the name of one begins in the Volkswagen way.
+/// There are PROTOCOLs, each has DIAG-COMMs of its own, and the name of one begins as is usual for Volkswagen.
 class VAudiVwProtocolRule final : public VHeuristicRule {
 public:
     using VHeuristicRule::VHeuristicRule;
@@ -44,9 +44,9 @@ public:
     bool Matches() override;
     wchar_t const* GetName() const override { return L"VAudiVwCharacterRule"; }
 
-    /// The first five code units of UTF-16 of every word, the first of them in upper case, without anything between;
-    /// special characters separate words as a space does. "Read (ECU) identification-data" becomes "ReadECUIdentData".
-    /// Of a character that is cut its first unit is left, so no short name agrees.
+    /// The first five code units of UTF-16 of every word, the first of them in upper case, without separators; special
+    /// characters separate words as a space does. "Read (ECU) identification-data" becomes "ReadECUIdentData". A
+    /// character that is cut leaves its first unit, so that no short name matches.
     std::wstring Abbreviate(std::wstring_view text) const;
 
     /// Each a text of one character.

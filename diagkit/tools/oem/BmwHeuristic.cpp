@@ -44,7 +44,7 @@ bool IsManufacturerBmw(NODX201::VCompanyData& company) {
     return IsNameOfBmw(LongNameOf(company)) && IsManufacturerAlone(company.RoleCollection());
 }
 
-/// What speaks against a COMPANY-DATA that is called BMW.
+/// Why a COMPANY-DATA with the name BMW does not match.
 std::wstring NameAndRolesOf(NODX201::VCompanyData& company) {
     VListing roles;
     for (std::wstring const& role : company.RoleCollection()) {
@@ -101,7 +101,7 @@ bool VBmwIdRule::Matches() {
 }
 
 bool VBmwEcuSharedDataRule::Matches() {
-    NODX201::VCompanyData* called = nullptr; // the first that is called BMW
+    NODX201::VCompanyData* called = nullptr; // the first with the name BMW
     auto const isBmw = [&called](NODX201::VCompanyData& company) {
         if (!IsCalledBmw(company)) {
             return false;

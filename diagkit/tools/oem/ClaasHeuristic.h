@@ -15,7 +15,7 @@ public:
 };
 
 /// A parameter of a POS-RESPONSE of a BASE-VARIANT has the processing instruction ClaasParamInformation. A BASE-VARIANT
-/// without responses, met before one is found, ends the search.
+/// without responses ends the search, unless one was found before.
 class VClaasProcessingInstructionRule final : public VHeuristicRule {
 public:
     using VHeuristicRule::VHeuristicRule;

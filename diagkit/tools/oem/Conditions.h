@@ -5,7 +5,7 @@ namespace NDIAGKIT {
 
 // Collections of the contract have no iterators for the standard algorithms.
 
-/// Whether the condition holds for one of the items at least; asked in order up to the first.
+/// Whether the condition is true for at least one item; evaluated in order up to the first.
 template <class Range, class Condition>
 bool AnyOf(Range&& range, Condition condition) {
     for (auto&& item : range) {
@@ -16,7 +16,7 @@ bool AnyOf(Range&& range, Condition condition) {
     return false;
 }
 
-/// Whether the condition holds for every item; asked in order up to the first for which it does not.
+/// Whether the condition is true for every item; evaluated in order up to the first for which it is not.
 template <class Range, class Condition>
 bool AllOf(Range&& range, Condition condition) {
     return !AnyOf(range, [&condition](auto& item) { return !condition(item); });

@@ -10,7 +10,7 @@
 namespace NDIAGKIT {
 namespace {
 
-/// Whether the ID of an element is made of the parts, one after the other.
+/// Whether the ID of an element is the concatenation of the parts.
 template <class... Parts>
 bool IsIdJoined(VOemCheckContext const& context, NODX201::VReferencable& element, Parts... parts) {
     if (IsJoined(element.GetId(), parts...)) {

@@ -5,8 +5,8 @@
 
 #include <diagkit/model/Text.h>
 
-/// Texts of elements as the rules compare them: code unit by code unit, and where case is ignored with the ASCII
-/// letters alone folded, whatever locale the host has set.
+/// Texts of elements as the rules compare them: code unit by code unit; where case is ignored, only the ASCII letters
+/// are folded, whatever locale the host has set.
 
 namespace NDIAGKIT {
 
@@ -22,7 +22,7 @@ bool EqualsIgnoringCase(std::wstring_view left, std::wstring_view right);
 bool StartsWithIgnoringCase(std::wstring_view text, std::wstring_view start);
 bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part);
 
-/// Whether a text is made of the parts, one after the other.
+/// Whether a text is the concatenation of the parts.
 template <class... Parts>
 bool IsJoined(std::wstring_view text, Parts... parts) {
     auto const take = [&text](std::wstring_view part) {

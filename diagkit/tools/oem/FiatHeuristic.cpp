@@ -16,7 +16,7 @@
 namespace NDIAGKIT {
 namespace {
 
-/// Deliberate: an SDG without caption is fatal before the one of the state model and not looked at behind it
+/// Deliberate: an SDG without caption makes the rule fail before that of the state model and is ignored after it
 /// (FiatHeuristicTest.AnSdgWithoutCaptionIsFatalOnlyBeforeTheStateModel).
 bool HasStateModel(NODX201::VDiagService& service) {
     for (NODX201::VSdg& sdg : service.SdgCollection()) {

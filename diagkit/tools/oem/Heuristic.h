@@ -9,7 +9,7 @@
 
 namespace NDIAGKIT {
 
-/// The habits of a manufacturer, all of which a database of his shows.
+/// The characteristics of one manufacturer's databases. A database matches when it has all of them.
 class VHeuristic {
 public:
     explicit VHeuristic(VOemCheckContext* context) : mpContext(context) {}
@@ -18,10 +18,10 @@ public:
     VHeuristic& operator=(VHeuristic const&) = delete;
 
     virtual bool Matches();         ///< whether all rules match
-    virtual void CreateRules() = 0; ///< adds the rules in the order in which they are to be asked
+    virtual void CreateRules() = 0; ///< adds the rules in the order in which they are to be evaluated
     virtual wchar_t const* GetName() const = 0;
 
-    /// What `Matches` answers, with every rule's own answer. The manufacturer is the caller's to say.
+    /// The result of `Matches`, with the result of every rule. The caller sets the manufacturer.
     VOemHeuristicReport Report();
 
 protected:
@@ -37,8 +37,8 @@ protected:
         rules.push_back(std::make_unique<Rule>(mpContext, arguments...));
     }
 
-    /// Whether every rule of a list matches. Asks them in order up to the first that does not; for a report all of
-    /// them.
+    /// Whether every rule of a list matches. Evaluates them in order up to the first that does not; for a report, all
+    /// of them.
     bool AllMatch(VRules const& rules);
 
     VOemCheckContext* mpContext;
@@ -47,7 +47,7 @@ protected:
 private:
     bool ReportAll(VRules const& rules);
 
-    VOemHeuristicReport* mpReport = nullptr; // while one is being made
+    VOemHeuristicReport* mpReport = nullptr; // while a report is being made
 };
 
 } // namespace NDIAGKIT

@@ -5,8 +5,8 @@
 
 namespace NDIAGKIT {
 
-/// One habit of a manufacturer. Rules keep nothing from one evaluation to the next. One that does not match says why
-/// where it finds that out, one that had nothing to look at says so (`Reasons.h`).
+/// One characteristic of a manufacturer's databases. Rules keep no state between evaluations. A rule that does not
+/// match gives the reason where it finds out, and one that had nothing to look at reports that (`Reasons.h`).
 class VHeuristicRule {
 public:
     explicit VHeuristicRule(VOemCheckContext* context) : mpContext(context) {}
@@ -14,7 +14,7 @@ public:
     VHeuristicRule(VHeuristicRule const&) = delete;
     VHeuristicRule& operator=(VHeuristicRule const&) = delete;
 
-    virtual bool Matches() = 0;                 ///< whether the database shows the habit
+    virtual bool Matches() = 0;                 ///< whether the database has the characteristic
     virtual wchar_t const* GetName() const = 0; ///< of the class, for reports
 
 protected:

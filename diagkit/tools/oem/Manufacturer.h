@@ -5,7 +5,7 @@
 
 namespace NDIAGKIT {
 
-/// Who made a vehicle. The values are result codes that others store; those between are not in use.
+/// The manufacturer of a vehicle. The values are result codes that clients store; those in between are not in use.
 enum class VManufacturer : std::int32_t {
     Daimler = 1,
     Claas = 3,
@@ -15,7 +15,7 @@ enum class VManufacturer : std::int32_t {
     Fiat = 12,
     Gm = 15,
     Psa = 19,
-    Unknown = 36, ///< undetermined: nobody's habits were found, or several makers'
+    Unknown = 36, ///< undetermined: no manufacturer matches, or several do
 };
 
 } // namespace NDIAGKIT

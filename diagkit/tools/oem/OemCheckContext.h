@@ -10,8 +10,8 @@
 
 namespace NDIAGKIT {
 
-/// What the rules of one call look at: the database, and its layers by kind, in the order of containers and of layers
-/// in them. The lists point into the model.
+/// The input of the rules during one call: the database, and its layers by kind, in the order of containers and of
+/// layers in them. The lists point into the model.
 class VOemCheckContext {
 public:
     explicit VOemCheckContext(NODX201::VOdx& odx);
@@ -25,7 +25,7 @@ public:
     std::list<NODX201::VEcuVariant*> m_ecuVariants;
     std::list<NODX201::VEcuSharedData*> m_ecuSharedDatas;
     std::list<NODX201::VTeamMember*> m_teamMembers; ///< of all layers' COMPANY-DATAs
-    VOemRuleReport* m_report = nullptr; ///< of the rule that is being asked; null when no report is being made
+    VOemRuleReport* m_report = nullptr; ///< of the rule that is being evaluated; null when no report is being made
 };
 
 } // namespace NDIAGKIT

@@ -12,7 +12,7 @@
 
 namespace NDIAGKIT {
 
-/// One call: the context and the heuristics over it, which stand in the registry as long as the call lasts.
+/// One call: the context and its heuristics, which are in the registry for the duration of the call.
 class VOemChecker::VRun {
 public:
     VRun(VRegistry& registry, NODX201::VOdx& odx) : m_registry(registry), m_context(odx) {}
@@ -27,7 +27,7 @@ public:
     VRun(VRun const&) = delete;
     VRun& operator=(VRun const&) = delete;
 
-    /// Not the constructor: what an exception interrupts here, the destructor takes down.
+    /// Not in the constructor, so that after an exception here the destructor cleans up.
     void CreateHeuristics() {
         Create<VGmHeuristic>(VManufacturer::Gm);
         Create<VPagHeuristic>(VManufacturer::Pag);
@@ -45,7 +45,7 @@ private:
     void Create(VManufacturer manufacturer) {
         VHeuristic& heuristic = *m_heuristics.emplace_back(std::make_unique<Heuristic>(&m_context));
         heuristic.CreateRules();
-        m_registry.emplace(manufacturer, &heuristic); // behind those of the same manufacturer
+        m_registry.emplace(manufacturer, &heuristic); // after those of the same manufacturer
     }
 
     VRegistry& m_registry;

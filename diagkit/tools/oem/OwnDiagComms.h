@@ -13,7 +13,7 @@ inline bool HasOwnDiagComms(NODX201::VDiagLayer& layer) {
     return layer.HasDiagCommProxyCollection() && layer.DiagCommProxyCollection().Count() != 0;
 }
 
-/// Whether a PROTOCOL has none, as manufacturers have it who keep services elsewhere.
+/// Whether a PROTOCOL has none, as for manufacturers that keep services elsewhere.
 inline bool HasNoOwnDiagComms(VOemCheckContext const& context, NODX201::VProtocol& protocol) {
     if (!HasOwnDiagComms(protocol)) {
         return true;
@@ -24,8 +24,8 @@ inline bool HasNoOwnDiagComms(VOemCheckContext const& context, NODX201::VProtoco
     });
 }
 
-/// Whether all DIAG-SERVICEs among a layer's own DIAG-COMMs fulfil a condition; asked in order up to the first that
-/// does not. Jobs and references are passed over.
+/// Whether all DIAG-SERVICEs among a layer's own DIAG-COMMs meet a condition; evaluated in order up to the first that
+/// does not. Jobs and references are skipped.
 template <class Condition>
 bool AllOwnServices(NODX201::VDiagLayer& layer, Condition condition) {
     if (!layer.HasDiagCommProxyCollection()) {

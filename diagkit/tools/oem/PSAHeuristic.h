@@ -15,8 +15,8 @@ public:
     wchar_t const* GetName() const override { return L"VPSAHeuristic"; }
 };
 
-/// Beside the first BASE-VARIANT, in the same container, stands one ECU-SHARED-DATA, and it has the two diagnostic
-/// FUNCT-CLASSes of PSA.
+/// The container of the first BASE-VARIANT has one ECU-SHARED-DATA, and that has the two diagnostic FUNCT-CLASSes of
+/// PSA.
 class VPSAEcuSharedDataRule final : public VHeuristicRule {
 public:
     class VFindEcuSharedDataVisitor;

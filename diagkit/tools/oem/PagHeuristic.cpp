@@ -31,7 +31,7 @@ void VPagHeuristic::CreateRules() {
     AddTo<VProcessingInstructionRule>(m_secondRules, L"4");
 }
 
-/// Deliberate: the second list is asked whatever the first one answers (PagHeuristicTest.BothListsAreAsked).
+/// Deliberate: the second list is evaluated whatever the result of the first one (PagHeuristicTest.BothListsAreAsked).
 bool VPagHeuristic::Matches() {
     bool const isFirstMet = AllMatch(m_rules);
     return AllMatch(m_secondRules) || isFirstMet;

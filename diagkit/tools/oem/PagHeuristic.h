@@ -35,7 +35,7 @@ public:
     wchar_t const* GetName() const override { return L"VPagModelRule"; }
 };
 
-/// There is one FUNCTIONAL-GROUP, and its name begins in the Porsche way.
+/// There is one FUNCTIONAL-GROUP, and its name begins as is usual for Porsche.
 class VPagFunctionalGroupRule final : public VHeuristicRule {
 public:
     using VHeuristicRule::VHeuristicRule;

@@ -5,9 +5,9 @@
 
 namespace NDIAGKIT {
 
-/// The database's processing instruction PavonaTemplateManufacturer, by which an authoring tool says whose template it
-/// used: one of them has the expected content, or there is none. A database that says nothing is not held against
-/// anybody.
+/// The database's processing instruction PavonaTemplateManufacturer, in which an authoring tool records whose template
+/// it used: one of them has the expected content, or there is none. A database without it passes for every
+/// manufacturer.
 class VProcessingInstructionRule final : public VHeuristicRule {
 public:
     VProcessingInstructionRule(VOemCheckContext* context, wchar_t const* expected)

@@ -7,8 +7,8 @@
 
 #include <diagkit/tools/oem/OemCheckContext.h>
 
-/// How a rule gives its answer together with why. Reasons are made for reports alone: without one `No` is `false`, and
-/// nothing else happens.
+/// How a rule returns its result together with the reason. Reasons are made only for reports: without a report, `No` is
+/// `false`, and nothing else happens.
 
 namespace NDIAGKIT {
 
@@ -21,7 +21,7 @@ bool No(VOemCheckContext const& context, Make make) {
     return false;
 }
 
-/// "Yes", which says little when there was nothing to look at.
+/// "Yes", which is weak evidence when there was nothing to look at.
 inline bool Yes(VOemCheckContext const& context, bool isAnythingSeen) {
     if (context.m_report != nullptr) {
         context.m_report->isVacuous = !isAnythingSeen;
@@ -29,13 +29,13 @@ inline bool Yes(VOemCheckContext const& context, bool isAnythingSeen) {
     return true;
 }
 
-/// Whether a list holds anything; it should hold `expected`, "a PROTOCOL".
+/// Whether a list is not empty; it should contain `expected`, "a PROTOCOL".
 template <class List>
 bool IsAnyThere(VOemCheckContext const& context, List const& list, wchar_t const* expected) {
     return !list.empty() || No(context, [expected] { return VOemReason{expected, L"none"}; });
 }
 
-// The lists of the context hold pointers, collections their elements.
+// The lists of the context contain pointers, collections their elements.
 template <class Element>
 Element& ToReference(Element& element) {
     return element;
@@ -56,7 +56,7 @@ std::wstring Stated(std::wstring_view noun, std::wstring_view text);
 /// "no PROTOCOL", "1 PROTOCOL", "2 PROTOCOLs"
 std::wstring Counted(std::size_t count, std::wstring_view noun);
 
-/// What was found by looking at so many: "none; 2 PROTOCOLs looked at", "no PROTOCOL"
+/// The result of examining this number of elements: "none; 2 PROTOCOLs looked at", "no PROTOCOL"
 std::wstring LookedAt(std::wstring_view found, std::size_t count, std::wstring_view noun);
 
 /// Of two things that are not both there: "only 'A'", "neither"

@@ -24,7 +24,7 @@ protected:
         return protocol;
     }
 
-    /// A company with a person of that role, in a layer that is not checked for its staff.
+    /// A company with a person of that role, in a layer whose staff is not checked.
     NMemory::VMemTeamMember& AddPerson(wchar_t const* company, wchar_t const* role) {
         NMemory::VMemCompanyData& data = m_container.AddBaseVariant(L"Variant").AddCompanyData(L"Company");
         data.SetLongName(company);
@@ -116,7 +116,7 @@ TEST_F(AudiVwHeuristicTest, AContactPersonOfAnotherCompanyDoesNotCount) {
     EXPECT_TRUE(Matches<VAudiVwTeamMembersRule>());
 }
 
-/// A team member that belongs to nobody.
+/// A team member without a company.
 class VFreeTeamMember final : public NODX201::VTeamMember {
 public:
     NODX201::VOdxTagEnum GetOdxTag() const override { return NODX201::VOdxTagEnum::TeamMember; }
@@ -169,7 +169,7 @@ protected:
         return VAudiVwCharacterRule(&context).Abbreviate(text);
     }
 
-    /// The rule as it is written: replace, shrink, split, cut.
+    /// A literal implementation of the rule: replace, shrink, split, cut.
     static std::wstring NaivelyAbbreviated(std::wstring text, std::set<std::wstring> const& special) {
         for (std::wstring const& character : special) {
             for (std::size_t at = text.find(character); at != std::wstring::npos; at = text.find(character)) {
@@ -321,7 +321,7 @@ TEST_F(AudiVwCharacterRuleTest, JobsAndReferencesArePassedOver) {
     EXPECT_TRUE(Matches<VAudiVwCharacterRule>());
 }
 
-/// A PROTOCOL that counts how often its long name is asked for.
+/// A PROTOCOL that counts how often its long name is requested.
 class VObservedProtocol final : public VMockElement<NODX201::VProtocol> {
 public:
     explicit VObservedProtocol(NODX201::VText& longName) : m_longName(longName) {}
@@ -370,7 +370,7 @@ TEST_F(AudiVwCharacterRuleTest, TheProtocolsLongNameIsAskedForNothing) {
     EXPECT_EQ(protocol.m_asked, 1);
 }
 
-/// Puts a locale in force that folds more than ASCII, as long as it lives.
+/// While it exists, a locale is set that folds more than ASCII.
 class VFoldingLocale {
 public:
     VFoldingLocale() : m_before(std::setlocale(LC_ALL, nullptr)) {

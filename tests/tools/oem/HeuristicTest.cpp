@@ -15,7 +15,7 @@ using NDIAGKIT::VOemCheckContext;
 
 std::string s_asked;
 
-/// A rule that gives the answer it was made for and writes down that it was asked.
+/// A rule with a fixed result that records that it was evaluated.
 class VKnownRule final : public VHeuristicRule {
 public:
     VKnownRule(VOemCheckContext* context, char answer) : VHeuristicRule(context), m_answer(answer) {}
@@ -31,7 +31,7 @@ private:
     char m_answer;
 };
 
-/// A heuristic with one list or two, given by the answers of their rules.
+/// A heuristic with one list or two, given by the results of their rules.
 class VKnownHeuristic final : public VHeuristic {
 public:
     VKnownHeuristic(VOemCheckContext* context, std::string first, std::string second = "-")
@@ -101,7 +101,7 @@ TEST_F(HeuristicTest, AReportAsksEveryRule) {
     }
 }
 
-/// Says in a report that there was nothing to look at, or why not.
+/// Reports that there was nothing to look at, or why it does not match.
 class VTellingRule final : public VHeuristicRule {
 public:
     VTellingRule(VOemCheckContext* context, bool answer) : VHeuristicRule(context), m_answer(answer) {}

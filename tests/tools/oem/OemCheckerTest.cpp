@@ -178,7 +178,7 @@ TEST_F(OemCheckerTest, ACheckerMayBeAskedAgainAboutAnotherDatabase) {
     EXPECT_EQ(checker.Report(Odx()).heuristics.size(), 9U);
 }
 
-/// A root whose processing instructions cannot be had.
+/// A root whose processing instructions cannot be read.
 class VThrowingOdx final : public NODX201::VOdx {
 public:
     explicit VThrowingOdx(NODX201::VOdx& odx) : m_odx(odx) {}
@@ -215,7 +215,7 @@ TEST_F(OemCheckerTest, NothingIsChanged) {
     EXPECT_EQ(m_database.GetGeneration(), generation);
 }
 
-// Data that nobody would write
+// Unrealistic data
 
 TEST_F(OemCheckerTest, EmptyNamesEverywhere) {
     NMemory::VMemProtocol& protocol = m_container.AddProtocol(L"");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Databases as manufacturers write them, read from documents; and what remains of them when one habit is taken away.
+// Databases as manufacturers write them, read from documents; and the results when one characteristic is removed.
 
 #include <filesystem>
 #include <fstream>
@@ -129,8 +129,8 @@ constexpr VDatabaseRow kDatabases[] = {
     {"Psa",     19, L"VPSAHeuristic",     "19"},
 };
 
-/// A habit taken away: a replacement in a document, and the rules that then decide against the heuristic, for Porsche
-/// those of both lists. Nobody else matches.
+/// A removed characteristic: a replacement in a document, and the rules that then decide against the heuristic, for
+/// Porsche those of both lists. No other manufacturer matches.
 struct VHabitRow {
     char const* name;
     char const* file;

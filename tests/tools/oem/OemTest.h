@@ -10,12 +10,11 @@
 #include <diagkit/tools/oem/Heuristic.h>
 #include <diagkit/tools/oem/OemChecker.h>
 
-/// What the tests of manufacturer detection share.
+/// Common to the tests of manufacturer detection.
 
 namespace NTest {
 
-/// The root of another database that writes down what it is asked for, and can answer with the COMPARAM-SPECs of a
-/// database of their own.
+/// The root of another database that records its calls, and can return the COMPARAM-SPECs of a separate database.
 class VObservedOdx final : public NODX201::VOdx {
 public:
     explicit VObservedOdx(NODX201::VOdx& odx) : m_odx(odx), m_comparamSpecs(&odx) {}
@@ -49,8 +48,8 @@ class VOemTest : public testing::Test {
 protected:
     NODX201::VOdx& Odx() { return m_database.GetOdx(); }
 
-    /// A rule's answer about the database, which is the same each time it is asked, with a report and without; a "no",
-    /// and no "yes", comes with a reason.
+    /// A rule's result for the database, which is the same each time, with a report and without; only a "no" comes with
+    /// a reason.
     template <class Rule, class... Arguments>
     bool Matches(Arguments... arguments) {
         NDIAGKIT::VOemCheckContext context(Odx());
@@ -65,7 +64,7 @@ protected:
         return answer;
     }
 
-    /// A rule's answer in a report: "yes", "vacuous", or "EXPECTED | FOUND | SHORT-NAME of where".
+    /// A rule's result in a report: "yes", "vacuous", or "EXPECTED | FOUND | SHORT-NAME of where".
     template <class Rule, class... Arguments>
     std::wstring Told(Arguments... arguments) {
         NDIAGKIT::VOemCheckContext context(Odx());
@@ -90,7 +89,8 @@ protected:
         return answer;
     }
 
-    /// The code of the manufacturer. A checker that was asked before answers as a new one, and the report the same.
+    /// The code of the manufacturer. A checker that was used before gives the same result as a new one, and so does the
+    /// report.
     int Code() {
         NDIAGKIT::VOemChecker checker;
         NDIAGKIT::VManufacturer const answer = checker.GetManufacturer(Odx());
@@ -99,7 +99,7 @@ protected:
         return static_cast<int>(answer);
     }
 
-    /// What a heuristic asks the root for, from the context on.
+    /// The calls of a heuristic to the root, from the context on.
     template <class Heuristic>
     std::string AskedBy() {
         VObservedOdx observed(Odx());
@@ -130,7 +130,7 @@ protected:
     NMemory::VMemDiagLayerContainer& m_container = m_database.AddDiagLayerContainer(L"Container");
 };
 
-/// A name of so many characters.
+/// A name with this number of characters.
 inline std::wstring LongText(wchar_t character = L'x') { return std::wstring(100000, character); }
 
 } // namespace NTest

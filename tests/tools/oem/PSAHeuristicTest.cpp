@@ -89,7 +89,7 @@ TEST_F(PSAHeuristicTest, OnlyTheContainerOfTheFirstBaseVariantCounts) {
     EXPECT_FALSE(Matches<VPSAEcuSharedDataRule>()) << "now the first BASE-VARIANT stands here";
 }
 
-/// A BASE-VARIANT that stands wherever a test says.
+/// A BASE-VARIANT with an owner chosen by the test.
 class VOwnedBaseVariant final : public VMockBaseVariant {
 public:
     explicit VOwnedBaseVariant(NODX201::VOdxObject* owner) : m_owner(owner) {}

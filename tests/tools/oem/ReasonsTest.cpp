@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// Why each rule does not match, each way in which it can fail; and when a "yes" says little.
+// Why each rule does not match, for each way in which it can fail; and when a "yes" is weak evidence.
 
 #include <diagkit/tools/oem/Reasons.h>
 
