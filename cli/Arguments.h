@@ -42,6 +42,7 @@ struct VArguments {
     std::string format;                 ///< --format of `check` and `graph`; "" when not given
     std::optional<int> range;           ///< --range, a search range of output parameters
 
+    bool isWithRequests = false;          ///< --requests of `view`
     bool isDictionary = false;            ///< --dictionary of `traverse`
     std::uint64_t maxVisits = 10'000'000; ///< --max-visits of `traverse`
     std::uint64_t maxCandidates = 1000;   ///< --max-candidates of `explain`

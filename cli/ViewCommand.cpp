@@ -2,6 +2,7 @@
 #include <array>
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 #include <cli/Commands.h>
 #include <cli/Entry.h>
@@ -50,6 +51,8 @@ void WriteViewAsJson(std::string_view kind, NODX201::VOdxElement const& context,
 void DeclareView(CLI::App& command, VArguments& arguments) {
     DeclareKind(command, arguments, NamesOf(kViewKinds), "What to view");
     DeclareSelections(command, arguments);
+    command.add_flag("--requests", arguments.isWithRequests,
+                     "Add the bytes of the request of each service (diag-comms only)");
     DeclareCsv(command, arguments);
     DeclareWide(command, arguments);
     DeclareFiles(command, arguments);
@@ -59,6 +62,10 @@ void DeclareView(CLI::App& command, VArguments& arguments) {
 VStatus RunView(VArguments const& arguments, VOutput& output) {
     VViewKind const* const kind = FittingKind("view", kViewKinds, arguments, output);
     if (kind == nullptr) {
+        return VStatus::Usage;
+    }
+    if (arguments.isWithRequests && kind->run != &ViewDiagComms) {
+        output.Complain(fmt::format("view {} does not take --requests; see --help", arguments.kind));
         return VStatus::Usage;
     }
     NReader::VReadResult result;

@@ -3,6 +3,8 @@
 // The views of inherited elements, with the way of each entry and with the elements left out.
 
 #include <map>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include <fmt/format.h>
@@ -16,6 +18,7 @@
 #include <cli/Text.h>
 #include <cli/ViewText.h>
 #include <cli/Views.h>
+#include <diagkit/query/ConstantBytes.h>
 #include <diagkit/query/FilePlace.h>
 #include <diagkit/query/LayerView.h>
 
@@ -65,13 +68,46 @@ private:
     std::size_t m_count = 0;
 };
 
-VGroup OwnGroup(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind) {
+/// The bytes of the request of a service, as far as they are constant; nothing for others.
+std::optional<std::string> RequestOf(NODX201::VOdxElement& element, NODX201::VDiagLayer& layer) {
+    auto* const service = dynamic_cast<NODX201::VDiagService*>(&element);
+    if (service == nullptr) {
+        return std::nullopt;
+    }
+    for (NQuery::VServiceMessage const& message : NQuery::MessagesOf(*service)) {
+        if (message.role == NQuery::VMessageRole::Request && message.message != nullptr) {
+            return NQuery::ConstantBytesText(NQuery::LayoutOf(*message.message, &layer));
+        }
+    }
+    return std::nullopt;
+}
+
+/// How a view is written: the layer, its kind, and whether requests are.
+struct VViewWriting {
+    NQuery::VLayerView const& view;
+    NODX201::VDiagLayer& layer;
+    VInheritedKindRow const& kind;
+    NMemory::VDatabase const& database;
+    bool isWithRequests;
+};
+
+/// The cells that text has besides names.
+std::vector<std::string> NotesOf(VViewWriting const& writing, VViewEntry const& entry) {
+    bool const isOwn = writing.view.PathOf(entry).empty();
+    bool const isReferenced = isOwn && LayerAround(*entry.element) != &writing.layer;
+    std::vector<std::string> notes;
+    if (writing.isWithRequests) {
+        notes.push_back(RequestOf(*entry.element, writing.layer).value_or(""));
+    }
+    notes.push_back(isReferenced ? fmt::format("{} to {}", writing.kind.reference, TitleOfOwner(*entry.element)) : "");
+    return notes;
+}
+
+VGroup OwnGroup(VViewWriting const& writing) {
     VGroup group("Own");
-    for (VViewEntry const& entry : view.entries) {
-        if (view.PathOf(entry).empty()) {
-            bool const isReferenced = LayerAround(*entry.element) != &layer;
-            group.Add(*entry.element,
-                      {isReferenced ? fmt::format("{} to {}", kind.reference, TitleOfOwner(*entry.element)) : ""});
+    for (VViewEntry const& entry : writing.view.entries) {
+        if (writing.view.PathOf(entry).empty()) {
+            group.Add(*entry.element, NotesOf(writing, entry));
         }
     }
     return group;
@@ -79,7 +115,8 @@ VGroup OwnGroup(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer
 
 /// One group for each way of entries: their layer and the parent through which they came; in the order of their first
 /// entries.
-std::vector<VGroup> InheritedGroups(NQuery::VLayerView const& view) {
+std::vector<VGroup> InheritedGroups(VViewWriting const& writing) {
+    NQuery::VLayerView const& view = writing.view;
     std::vector<VGroup> groups;
     std::map<std::pair<NODX201::VDiagLayer const*, NODX201::VDiagLayer const*>, std::size_t> ways;
     for (VViewEntry const& entry : view.entries) {
@@ -92,7 +129,7 @@ std::vector<VGroup> InheritedGroups(NQuery::VLayerView const& view) {
             std::string const via = ViaOf(entry, view.PathOf(entry));
             groups.emplace_back("Inherited from " + TitleOfOwner(*entry.element) + (via.empty() ? "" : " " + via));
         }
-        groups[way->second].Add(*entry.element, {});
+        groups[way->second].Add(*entry.element, NotesOf(writing, entry));
     }
     return groups;
 }
@@ -114,59 +151,74 @@ VGroup ExcludedGroup(NQuery::VLayerView const& view) {
     return group;
 }
 
-void WriteText(NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer, VInheritedKindRow const& kind,
-               VOutput& output) {
-    std::string const id = ShownOtherId(layer);
-    output.Write(output.Heading(fmt::format("{}s of {}{}", kind.noun, Titled(layer), id.empty() ? "" : ", ID " + id)));
+void WriteText(VViewWriting const& writing, VOutput& output) {
+    NQuery::VLayerView const& view = writing.view;
+    std::string const id = ShownOtherId(writing.layer);
+    output.Write(output.Heading(
+        fmt::format("{}s of {}{}", writing.kind.noun, Titled(writing.layer), id.empty() ? "" : ", ID " + id)));
     output.Write("\n");
-    VGroup const own = OwnGroup(view, layer, kind);
+    VGroup const own = OwnGroup(writing);
     own.Write(output);
-    for (VGroup const& group : InheritedGroups(view)) {
+    for (VGroup const& group : InheritedGroups(writing)) {
         group.Write(output);
     }
     output.Write(fmt::format("\n{} visible: {} own, {} inherited; {} hidden, {} excluded\n", view.entries.size(),
                              own.Count(), view.entries.size() - own.Count(), view.hidden.size(), view.excluded.size()));
-    HiddenGroup(view, kind).Write(output);
+    HiddenGroup(view, writing.kind).Write(output);
     ExcludedGroup(view).Write(output);
 }
 
-void WriteViewEntry(VJsonWriter& json, VViewEntry const& entry, VPath const& path, NMemory::VDatabase const& database) {
-    NQuery::VFilePlace const place = NQuery::FilePlaceOf(database, *entry.element);
+void WriteViewEntry(VJsonWriter& json, VViewEntry const& entry, VViewWriting const& writing) {
+    NQuery::VFilePlace const place = NQuery::FilePlaceOf(writing.database, *entry.element);
     json.Object([&] {
         WriteEntryMembers(json, *entry.element);
-        json.ArrayOf("via", path, [&json](NDIAGKIT::VParent const& step) {
+        json.ArrayOf("via", writing.view.PathOf(entry), [&json](NDIAGKIT::VParent const& step) {
             json.Value(std::wstring_view(step.layer.layer->GetShortName()));
         });
         json.TextOrNull("file", place.file);
         json.Member("line", place.line);
+        if (writing.isWithRequests) {
+            std::optional<std::string> const request = RequestOf(*entry.element, writing.layer);
+            json.Name("request");
+            request.has_value() ? json.Value(*request) : json.Value(nullptr);
+        }
         if (entry.hiddenBy != nullptr) {
             WriteEntryOrNull(json, "by", entry.hiddenBy);
         }
         if (entry.exclusion != nullptr) {
-            json.Object("where", [&] { WritePlaceMembers(json, NQuery::FilePlaceOf(database, *entry.exclusion)); });
+            json.Object("where",
+                        [&] { WritePlaceMembers(json, NQuery::FilePlaceOf(writing.database, *entry.exclusion)); });
         }
     });
 }
 
-void WriteAsCsv(NQuery::VLayerView const& view, NMemory::VDatabase const& database, VOutput& output) {
-    VCsvWriter csv(output, {DIAGKIT_ENTRY_COLUMNS, "via", "file", "line"});
-    for (VViewEntry const& entry : view.entries) {
+VCsvWriter TableFor(VViewWriting const& writing, VOutput& output) {
+    return writing.isWithRequests ? VCsvWriter(output, {DIAGKIT_ENTRY_COLUMNS, "via", "file", "line", "request"})
+                                  : VCsvWriter(output, {DIAGKIT_ENTRY_COLUMNS, "via", "file", "line"});
+}
+
+void WriteAsCsv(VViewWriting const& writing, VOutput& output) {
+    VCsvWriter csv = TableFor(writing, output);
+    for (VViewEntry const& entry : writing.view.entries) {
         csv.Row([&] {
             WriteEntryCells(csv, entry.element);
-            csv.CellOf(view.PathOf(entry),
+            csv.CellOf(writing.view.PathOf(entry),
                        [](NDIAGKIT::VParent const& step) { return step.layer.layer->GetShortName(); });
-            WritePlaceCells(csv, NQuery::FilePlaceOf(database, *entry.element));
+            WritePlaceCells(csv, NQuery::FilePlaceOf(writing.database, *entry.element));
+            if (writing.isWithRequests) {
+                csv.Cell(RequestOf(*entry.element, writing.layer).value_or(""));
+            }
         });
     }
 }
 
-void WriteAsJson(VJsonWriter& json, NQuery::VLayerView const& view, NODX201::VDiagLayer const& layer,
-                 VInheritedKindRow const& kind, NMemory::VDatabase const& database) {
-    auto const write = [&](VViewEntry const& entry) { WriteViewEntry(json, entry, view.PathOf(entry), database); };
+void WriteAsJson(VJsonWriter& json, VViewWriting const& writing) {
+    NQuery::VLayerView const& view = writing.view;
+    auto const write = [&](VViewEntry const& entry) { WriteViewEntry(json, entry, writing); };
     json.Object([&] {
-        json.Member("view", kind.views);
+        json.Member("view", writing.kind.views);
         json.Name("context");
-        WriteEntry(json, layer);
+        WriteEntry(json, writing.layer);
         json.Member("count", view.entries.size());
         json.ArrayOf("entries", view.entries, write);
         json.ArrayOf("hidden", view.hidden, write);
@@ -179,14 +231,14 @@ VStatus View(VArguments const& arguments, NMemory::VDatabase& database, VOutput&
     if (layer == nullptr) {
         return VStatus::NotThere;
     }
-    VInheritedKindRow const& row = RowOf(kind);
     NQuery::VLayerView const view = NQuery::ViewOf(*layer, kind);
+    VViewWriting const writing{view, *layer, RowOf(kind), database, arguments.isWithRequests};
     if (arguments.isJson) {
-        WriteJson(output, [&](VJsonWriter& json) { WriteAsJson(json, view, *layer, row, database); });
+        WriteJson(output, [&](VJsonWriter& json) { WriteAsJson(json, writing); });
     } else if (arguments.isCsv) {
-        WriteAsCsv(view, database, output);
+        WriteAsCsv(writing, output);
     } else {
-        WriteText(view, *layer, row, output);
+        WriteText(writing, output);
     }
     return VStatus::Done;
 }

@@ -27,10 +27,11 @@ set(public_headers
     diagkit/check/Cycles.h
     diagkit/conformance/Conformance.h
     diagkit/conformance/Reference.h
-    diagkit/query/Explain.h
+    diagkit/query/ConstantBytes.h
     diagkit/query/Content.h
     diagkit/query/Diff.h
     diagkit/query/DopValues.h
+    diagkit/query/Explain.h
     diagkit/query/FilePlace.h
     diagkit/query/Find.h
     diagkit/query/InheritanceGraph.h

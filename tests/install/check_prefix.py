@@ -38,6 +38,7 @@ PUBLIC = {
     "reader": {"Diagnostic.h", "Folder.h", "Limits.h", "OdxReader.h", "Utf8.h"},
     "check": {"Check.h", "Codes.h", "Cycles.h"},
     "query": {
+        "ConstantBytes.h",
         "Content.h",
         "Diff.h",
         "DopValues.h",
