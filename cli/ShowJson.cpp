@@ -338,10 +338,12 @@ private:
             return;
         }
         std::array<wchar_t const*, 3> texts{L"", L"", L""};
-        static constexpr std::array<std::wstring_view, 3> kTags{L"TROUBLE-CODE", L"DISPLAY-TROUBLE-CODE", L"TEXT"};
+        static constexpr std::array<std::wstring_view, 3> kTroubleCodeTexts{L"TROUBLE-CODE", L"DISPLAY-TROUBLE-CODE",
+                                                                            L"TEXT"};
         NQuery::ForEachPartOf(code, [&texts](VContentPart const& part) {
-            for (std::size_t index = 0; index < kTags.size(); ++index) {
-                texts[index] = part.role == VPartRole::Text && part.tag == kTags[index] ? part.text : texts[index];
+            for (std::size_t index = 0; index < kTroubleCodeTexts.size(); ++index) {
+                texts[index] =
+                    part.role == VPartRole::Text && part.tag == kTroubleCodeTexts[index] ? part.text : texts[index];
             }
         });
         m_json.Object([&] {
