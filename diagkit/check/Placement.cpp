@@ -291,22 +291,26 @@ private:
     std::unordered_map<NODX201::VResponse*, VReach> m_reaches;
 };
 
-/// What depends on short names is looked at in every layer that reads it.
-void CheckByNames(VChecked const& checked, VPlacement& placement,
-                  std::unordered_set<NODX201::VOdxElement const*> const& dependents) {
+/// The elements whose positions or lengths depend on short names.
+using VDependents = std::unordered_map<NODX201::VOdxElement const*, NODX201::VOdxElement*>;
+
+/// Checks what depends on short names in every layer that resolves it.
+void CheckByNames(VChecked const& checked, VPlacement& placement, VDependents const& dependents) {
+    VPlacesById const byId(checked.elements, DopsAmong(dependents));
     for (NODX201::VDiagLayer* const layer : LayersOf(checked.database)) {
         VVisibleNames names(*layer, checked.views);
         VLayouts layouts(&names);
         placement.ForgetSizes();
         std::unordered_set<NODX201::VOdxElement const*> seen;
-        ForEachPlaceIn(*layer, names, checked.views, [&](NODX201::VOdxElement& place) {
-            if (dependents.count(&place) == 0 || !seen.insert(&place).second) {
+        ForEachPlaceIn(*layer, names, checked.views, byId, [&](NODX201::VOdxElement const& place) {
+            auto const dependent = dependents.find(&place);
+            if (dependent == dependents.end() || !seen.insert(&place).second) {
                 return;
             }
-            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(&place)) {
+            if (auto* const service = dynamic_cast<NODX201::VDiagService*>(dependent->second)) {
                 placement.JudgeService(*service, layouts);
             } else {
-                placement.Judge(dynamic_cast<NODX201::VReferencable&>(place), layouts);
+                placement.Judge(dynamic_cast<NODX201::VReferencable&>(*dependent->second), layouts);
             }
         });
         checked.layerDone();
@@ -318,7 +322,7 @@ void CheckByNames(VChecked const& checked, VPlacement& placement,
 void CheckPlacement(VChecked const& checked, VFindings& findings) {
     VPlacement placement(findings);
     VLayouts layouts;
-    std::unordered_set<NODX201::VOdxElement const*> dependents;
+    VDependents dependents;
     for (NODX201::VOdxElement* const element : checked.elements) {
         bool needsNames = false;
         if (auto* const service = dynamic_cast<NODX201::VDiagService*>(element)) {
@@ -330,7 +334,7 @@ void CheckPlacement(VChecked const& checked, VFindings& findings) {
             needsNames = placement.Judge(*container, layouts);
         }
         if (needsNames) {
-            dependents.insert(element);
+            dependents.emplace(element, element);
         }
     }
     if (!dependents.empty()) {
