@@ -280,11 +280,11 @@ void VLayerMaker::WriteVariableLengthDop() {
 void VLayerMaker::WriteStructure(std::size_t structure) {
     m_xml.Element("STRUCTURE", {{"ID", StructureId(structure)}, {"IS-VISIBLE", "true"}}, [&] {
         WriteNames(StructureName(structure), m_names.LongName(DopNumber(structure)) + " record", false);
-        m_xml.Text("BYTE-SIZE", "16");
+        m_xml.Text("BYTE-SIZE", structure % 4 == 3 ? "32" : "16"); // with another one inside
         m_xml.Element("PARAMS", [&] {
             WriteValues(structure, 2 + m_random.Below(5));
             if (structure % 4 == 3) {
-                WriteValue("Inner", 14, StructureId(structure - 1));
+                WriteValue("Inner", 16, StructureId(structure - 1));
             }
         });
     });
@@ -310,7 +310,7 @@ void VLayerMaker::WriteFields() {
     };
     each("STATIC-FIELDS", "STATIC-FIELD", "StaticField", [&] {
         m_xml.Text("FIXED-NUMBER-OF-ITEMS", "4");
-        m_xml.Text("ITEM-BYTE-SIZE", "16");
+        m_xml.Text("ITEM-BYTE-SIZE", "32");
     });
     each("DYNAMIC-LENGTH-FIELDS", "DYNAMIC-LENGTH-FIELD", "CountedField", [&] {
         m_xml.Text("OFFSET", "1");

@@ -55,6 +55,7 @@ public:
 /// is repeated counts as often as it may be, and groups 100 deep in each other.
 class VFinder {
 public:
+    /// How a pattern is read.
     enum class VSyntax {
         Text,  ///< every character stands for itself
         Regex, ///< a regular expression

@@ -66,12 +66,14 @@ struct VLayoutRow {
     VLayoutGap gap = VLayoutGap::None;
 };
 
+/// The layout of a message, a DOP, a TABLE or a TABLE-ROW.
 struct VMessageLayout {
     std::vector<VLayoutRow> rows; ///< in the order of the document, each before what is in it
     VExtent bitLength;            ///< up to the last byte of the last parameter
     bool isCut = false;           ///< there are more rows than `VLayoutOptions::maxRows`
 };
 
+/// How far a layout goes.
 struct VLayoutOptions {
     std::size_t maxRows = 50'000; ///< structures that hold each other twice and twice again have no end else
     std::size_t maxDepth = 32;    ///< of structures inside one another
@@ -90,6 +92,7 @@ bool HasLayout(NODX201::VOdxElement const& element);
 /// The time it takes is proportional to the rows, of which there are at most `maxRows`. Throws std::bad_alloc.
 VMessageLayout LayoutOf(NODX201::VOdxElement& element, NODX201::VDiagLayer* layer, VLayoutOptions const& options = {});
 
+/// What a message of a service is.
 enum class VMessageRole { Request, Positive, Negative };
 
 /// A message of a service.

@@ -178,6 +178,10 @@ private:
 using VFunctionalGroupLayer = VWithVariables<VChildLayer<NODX201::VFunctionalGroup>>;
 using VBaseVariantLayer = VWithVariables<VChildLayer<NODX201::VBaseVariant>>;
 using VEcuVariantLayer = VWithVariables<VChildLayer<NODX201::VEcuVariant>>;
-using VEcuSharedDataLayer = VWithVariables<VLayer<NODX201::VEcuSharedData>>;
+
+class VEcuSharedDataLayer : public VWithVariables<VLayer<NODX201::VEcuSharedData>> {
+public:
+    using VWithVariables::VWithVariables;
+};
 
 } // namespace NOwnModel

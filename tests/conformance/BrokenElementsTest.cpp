@@ -6,6 +6,28 @@
 
 #include "BrokenModel.h"
 
+namespace NODX201 {
+
+/// The common base of the DIAG-COMMs is no element, so the facts have no rows for it alone.
+template <>
+class VEmptyRows<VDiagComm> : public VDiagComm {
+public:
+    bool HasLongName() const override { return false; }
+    VText& GetLongName() override { return VNothing::Get<VText&>(); }
+    bool HasAdminData() const override { return false; }
+    VAdminData& GetAdminData() override { return VNothing::Get<VAdminData&>(); }
+    VSdgCollection& SdgCollection() override { return VNothing::Get<VSdgCollection&>(); }
+    VComparamRefCollection& ComparamRefCollection() override { return VNothing::Get<VComparamRefCollection&>(); }
+    VFunctClassLinkCollection& FunctClassLinkCollection() override {
+        return VNothing::Get<VFunctClassLinkCollection&>();
+    }
+    VRelatedDiagCommRefCollection& RelatedDiagCommRefCollection() override {
+        return VNothing::Get<VRelatedDiagCommRefCollection&>();
+    }
+};
+
+} // namespace NODX201
+
 namespace NTest {
 namespace {
 

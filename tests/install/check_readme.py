@@ -16,7 +16,7 @@ import sys
 from project import EMULATOR, ROOT, SAMPLE, empty, expect, run, write_preparation
 
 # Placeholders in the commands for the user's data, and data of the sample for them.
-PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "SERVICE": "MoveWiper",
+PLACEHOLDERS = {"FILE...": str(SAMPLE), "NAME": "WiperMode", "LAYER": "FrontWiper", "SERVICE": "MoveWiper", "TEXT": "Wiper",
                 "OLD": str(SAMPLE), "NEW": str(SAMPLE)}
 
 # These run this test, or take long; check_packages.py runs the latter.
