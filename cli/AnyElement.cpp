@@ -143,7 +143,7 @@ std::string AdviceFor(VAnyElements const& found, bool hasLayer) {
             words.emplace_back(word);
         }
     }
-    return words.empty() ? "and neither kind, layer nor ID tells them apart"
+    return words.empty() ? "and neither kind, layer nor ID distinguishes them"
                          : fmt::format("choose one with {}, as far as it differs", fmt::join(words, " or "));
 }
 

@@ -30,7 +30,7 @@ CLI::Option& DeclareSize(CLI::App& command, char const* name, std::uint64_t& siz
 } // namespace
 
 void RefuseEmpty(CLI::Option& option) {
-    option.check([](std::string const& name) { return std::string(name.empty() ? "an empty name is none" : ""); });
+    option.check([](std::string const& name) { return std::string(name.empty() ? "an empty name is not valid" : ""); });
 }
 
 void DeclareOneOf(CLI::Option& option, VArguments& arguments, char const* noun, std::vector<std::string> const& names) {

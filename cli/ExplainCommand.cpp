@@ -187,7 +187,7 @@ void WriteCandidates(VExplained const& explained, VOutput& output) {
         output.Write(columns.FormatWithin(output.Width()));
     }
     if (!explanation.leftOut.has_value()) {
-        output.Write("  and more, not counted as PARENT-REFs run in circles; --max-candidates raises the limit\n");
+        output.Write("  and more, not counted because PARENT-REFs form cycles; --max-candidates raises the limit\n");
     } else if (*explanation.leftOut != 0) {
         output.Write(fmt::format("  and {} more; --max-candidates raises the limit\n", *explanation.leftOut));
     }

@@ -89,7 +89,7 @@ public:
     VContent Of(VLayoutRow const& row) {
         VContent content{HeadOf(row)};
         if (row.gap == VLayoutGap::Broken && row.reference != nullptr) {
-            content.texts.push_back(fmt::format("'{}' leads nowhere", NamedBy(*row.reference)));
+            content.texts.push_back(fmt::format("'{}' has no target", NamedBy(*row.reference)));
         } else if (row.gap == VLayoutGap::Cycle || row.gap == VLayoutGap::TooDeep) {
             bool const isCycle = row.gap == VLayoutGap::Cycle;
             content.texts.emplace_back(isCycle ? "inside itself: not repeated" : "too deep: left out");

@@ -92,7 +92,7 @@ std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> co
 
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names, std::size_t mostSteps) {
     std::string note;
-    char const* separator = "; near names: ";
+    char const* separator = "; similar names: ";
     for (std::wstring_view const name : NearNames(wanted, names, mostSteps)) {
         note += separator + Shown(name);
         separator = ", ";

@@ -17,7 +17,7 @@ std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<s
 std::vector<std::wstring_view> NearNames(std::wstring_view wanted, std::vector<std::wstring_view> const& names,
                                          std::size_t mostSteps);
 
-/// The same for the end of a message: "; near names: UDS, KWP", or "" when there are none.
+/// The same for the end of a message: "; similar names: UDS, KWP", or "" when there are none.
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names);
 std::string NearNote(std::wstring_view wanted, std::vector<std::wstring_view> const& names, std::size_t mostSteps);
 

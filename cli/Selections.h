@@ -39,7 +39,7 @@ extern VSelectionRule const kOutParamSelection;        ///< the same with a sear
 extern VSelectionRule const kOutParamSelectionInLayer; ///< with a layer in either case
 extern VSelectionRule const kFlashSelection;
 
-/// The error in the selection of a call: "takes no --job", "needs --layer"; "" when there is none.
+/// The error in the selection of a call: "takes no --job", "requires --layer"; "" when there is none.
 std::string WrongSelection(VSelectionRule const& rule, VArguments const& arguments);
 
 /// KIND, which must be one of the names.

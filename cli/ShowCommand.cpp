@@ -104,9 +104,9 @@ VStatus Show(VArguments const& arguments, NReader::VReadResult const& result, NO
 void DeclareShow(CLI::App& command, VArguments& arguments) {
     command.add_option("NAME", arguments.name, "A short name, or an ID")->type_name("")->required();
     DeclareLayer(command, arguments);
-    command.add_option("--kind", arguments.tag, "The tag of the element, where several kinds bear the name")
+    command.add_option("--kind", arguments.tag, "The tag of the element, if elements of several kinds have the name")
         ->type_name("TAG");
-    DeclareCount(command, "--max-rows", arguments.maxRows, "End after so many parameters, with status 3");
+    DeclareCount(command, "--max-rows", arguments.maxRows, "Stop after N parameters, with status 3");
     DeclareFiles(command, arguments);
 }
 

@@ -218,7 +218,7 @@ void AddValues(NODX201::VOdxElement& dop, NQuery::VMessageLayout const& layout, 
     std::string const radix = values.displayRadix == std::wstring_view(L"DEC") ? "" : ", " + shown(values.displayRadix);
     add("Physical", *values.physicalBase != L'\0' ? shown(values.physicalBase) + radix + precision : "");
     std::string const unit = values.unit != nullptr ? ShownName(*values.unit) : "";
-    add("Unit", unit.empty() ? (values.unitReference != nullptr ? "its reference leads nowhere" : "")
+    add("Unit", unit.empty() ? (values.unitReference != nullptr ? "its reference has no target" : "")
                              : fmt::format("{} (UNIT {})", shown(values.unitName), unit));
     add("Range", RangeText(values.lower, values.upper));
     for (NQuery::VValueScale const& scale : values.constraints) {
@@ -249,7 +249,7 @@ bool WriteMessages(NODX201::VDiagService& service, VShown const& shown, VOutput&
     bool isWhole = true;
     for (NQuery::VServiceMessage const& message : NQuery::MessagesOf(service)) {
         if (message.message == nullptr) {
-            output.Write(fmt::format("\n{} leads nowhere\n", TagTextOf(*message.reference)));
+            output.Write(fmt::format("\n{} has no target\n", TagTextOf(*message.reference)));
             continue;
         }
         NQuery::VMessageLayout const layout = NQuery::LayoutOf(*message.message, shown.layer, shown.options);

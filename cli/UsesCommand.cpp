@@ -93,9 +93,9 @@ NQuery::VUses::VProgress ProgressOf(VProgressBar& bar, VArguments const& argumen
 void TellWhatWasNotRead(VArguments const& arguments, NReader::VReadResult const& result, VOutput const& output) {
     std::size_t const count = CountWithoutPlace(result);
     if (count > 0 && !arguments.isQuiet) {
-        output.Complain(fmt::format("not read: {} without a place in the model; references inside are not seen{}",
+        output.Complain(fmt::format("not read: {} not supported; their references are not counted{}",
                                     Counted(count, "element"),
-                                    arguments.isUnused ? ", and may lead to what is listed as unused" : ""));
+                                    arguments.isUnused ? ", so their targets may be listed as unused" : ""));
     }
 }
 

@@ -33,11 +33,11 @@ std::string PathInside(NODX201::VOdxElement const* room, NODX201::VLink const& r
     return path;
 }
 
-/// "means it in A, B"; of very many layers, or where a line has no room for more, the first.
+/// "refers to it in A, B"; of very many layers, or where a line has no room for more, the first.
 std::string LayersText(std::vector<NODX201::VDiagLayer*> const& layers, std::size_t width) {
     constexpr std::size_t kMost = 5;
     constexpr std::size_t kBeside = 20; // what the line is indented, and the end of the text
-    std::string text = "means it in ";
+    std::string text = "refers to it in ";
     std::size_t told = 0;
     for (; told < std::min(layers.size(), kMost); ++told) {
         std::string const name = (told == 0 ? "" : ", ") + ShownName(*layers[told]);

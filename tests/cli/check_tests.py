@@ -60,7 +60,7 @@ class WhatCounts(unittest.TestCase):
         for option in ("--ignore", "--only"):
             done = run("check", *FILES, option, "duplicate-ids")
             self.assertEqual((done.returncode, done.stdout), (2, ""))
-            self.assertIn("unknown code 'duplicate-ids'; near names: duplicate-id, duplicate-key;", done.stderr)
+            self.assertIn("unknown code 'duplicate-ids'; similar names: duplicate-id, duplicate-key;", done.stderr)
 
 
 class Baselines(unittest.TestCase):
