@@ -7,7 +7,6 @@
 namespace NTest {
 namespace {
 
-constexpr char kIdentical[] = "<CATEGORY>IDENTICAL</CATEGORY>";
 std::string const kFactor = "<COMPU-RATIONAL-COEFFS><COMPU-NUMERATOR><V>0</V><V>1</V></COMPU-NUMERATOR>"
                             "</COMPU-RATIONAL-COEFFS>";
 std::string const kText = "<COMPU-CONST><VT>x</VT></COMPU-CONST>";

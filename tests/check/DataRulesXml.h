@@ -7,6 +7,8 @@
 
 namespace NTest {
 
+constexpr char kIdentical[] = "<CATEGORY>IDENTICAL</CATEGORY>"; ///< of a COMPU-METHOD
+
 inline std::string Coded(std::string const& baseType, std::string const& bitLength,
                          std::string const& attributes = "") {
     return "<DIAG-CODED-TYPE xsi:type=\"STANDARD-LENGTH-TYPE\" BASE-DATA-TYPE=\"" + baseType + "\" " + attributes +

@@ -7,8 +7,6 @@
 namespace NTest {
 namespace {
 
-constexpr char kIdentical[] = "<CATEGORY>IDENTICAL</CATEGORY>";
-
 std::string InDops(std::string const& dops) { return InDictionary(DopList(dops)); }
 
 class VPlacementTest : public VCheckTest {

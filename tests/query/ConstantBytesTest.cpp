@@ -28,7 +28,7 @@ std::string Number(std::string const& value, std::string const& bits, std::strin
     return Constant(value, Type("BASE-DATA-TYPE=\"A_UINT32\"", bits), position);
 }
 
-std::string const kByte = Dop("Byte", Fixed("8"));
+std::string const kByte = DopOf("Byte", Fixed("8"));
 
 TEST_F(VConstantBytesTest, NumbersHaveTheirHighestByteFirst) {
     EXPECT_EQ(Bytes(Number("34", "8") + Number("0xF190", "16")), "22 F1 90");
@@ -40,7 +40,7 @@ TEST_F(VConstantBytesTest, LowBytesComeFirstWhereTheTypeSaysSo) {
 }
 
 TEST_F(VConstantBytesTest, ADigitThatDependsOnDataIsAPoint) {
-    EXPECT_EQ(Bytes(Number("16", "8") + Number("5", "4", At("1", "4")) + Param("VALUE", "v", To("Byte")), kByte),
+    EXPECT_EQ(Bytes(Number("16", "8") + Number("5", "4", At("1", "4")) + Param("VALUE", "v", DopRefTo("Byte")), kByte),
               "10 5. ..");
 }
 
@@ -60,11 +60,11 @@ TEST_F(VConstantBytesTest, OnlyTheBitsOfABitMaskAreWritten) {
 
 TEST_F(VConstantBytesTest, TheLaterOfOverlappingParametersCounts) {
     EXPECT_EQ(Bytes(Number("16", "8", At("0")) + Number("34", "8", At("0"))), "22");
-    EXPECT_EQ(Bytes(Number("16", "8", At("0")) + Param("VALUE", "v", At("0") + To("Byte")), kByte), "..");
+    EXPECT_EQ(Bytes(Number("16", "8", At("0")) + Param("VALUE", "v", At("0") + DopRefTo("Byte")), kByte), "..");
 }
 
 TEST_F(VConstantBytesTest, ConstantsInsideStructuresCount) {
-    EXPECT_EQ(Bytes(Number("16", "8") + Param("VALUE", "v", To("S")), Structure("S", Number("7", "8"))), "10 07");
+    EXPECT_EQ(Bytes(Number("16", "8") + Param("VALUE", "v", DopRefTo("S")), Structure("S", Number("7", "8"))), "10 07");
 }
 
 TEST_F(VConstantBytesTest, WhatMayNotBeThereIsNotConstant) {
@@ -73,14 +73,14 @@ TEST_F(VConstantBytesTest, WhatMayNotBeThereIsNotConstant) {
                                   "<BASIC-STRUCTURE-REF ID-REF=\"S\"/><FIXED-NUMBER-OF-ITEMS>2</FIXED-NUMBER-OF-ITEMS>"
                                   "<ITEM-BYTE-SIZE>1</ITEM-BYTE-SIZE>") +
                               "</STATIC-FIELDS>";
-    EXPECT_EQ(Bytes(Number("16", "8") + Param("VALUE", "v", To("F")), field), "10 .. ..");
+    EXPECT_EQ(Bytes(Number("16", "8") + Param("VALUE", "v", DopRefTo("F")), field), "10 .. ..");
 }
 
 TEST_F(VConstantBytesTest, AnOpenEndIsAnEllipsis) {
-    EXPECT_EQ(
-        Bytes(Number("16", "8") + Param("VALUE", "v", To("Any")), Dop("Any", MinMax("<MIN-LENGTH>1</MIN-LENGTH>"))),
-        "10 .. ...");
-    EXPECT_EQ(Bytes(Param("VALUE", "v", To("Any")), Dop("Any", MinMax("<MIN-LENGTH>0</MIN-LENGTH>"))), "...");
+    EXPECT_EQ(Bytes(Number("16", "8") + Param("VALUE", "v", DopRefTo("Any")),
+                    DopOf("Any", MinMax("<MIN-LENGTH>1</MIN-LENGTH>"))),
+              "10 .. ...");
+    EXPECT_EQ(Bytes(Param("VALUE", "v", DopRefTo("Any")), DopOf("Any", MinMax("<MIN-LENGTH>0</MIN-LENGTH>"))), "...");
 }
 
 TEST_F(VConstantBytesTest, BytesBeyondTheMostAreAnEllipsis) {

@@ -48,7 +48,7 @@ void AddValues(std::string const& path, NODX201::VOdxElement& element, std::vect
     });
 }
 
-std::string InPrint(VXmlValue const& value) { return value.path + "=\"" + value.value + '"'; }
+std::string ValueInPrint(VXmlValue const& value) { return value.path + "=\"" + value.value + '"'; }
 
 /// Values as lines: those that are in only one list, as often as they occur more often there than in the other.
 std::string OnlyIn(std::vector<VXmlValue> values, std::vector<VXmlValue> others) {
@@ -58,7 +58,7 @@ std::string OnlyIn(std::vector<VXmlValue> values, std::vector<VXmlValue> others)
     std::set_difference(values.begin(), values.end(), others.begin(), others.end(), std::back_inserter(only));
     std::string text;
     for (VXmlValue const& value : only) {
-        text += InPrint(value) + '\n';
+        text += ValueInPrint(value) + '\n';
     }
     return text;
 }

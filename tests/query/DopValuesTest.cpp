@@ -11,7 +11,7 @@ namespace {
 class VDopValuesTest : public VLayoutTest {
 protected:
     NQuery::VDopValues Values(std::string const& content) {
-        ReadLayer(Dop("D", Fixed("8") + content) + "<UNIT-SPEC><UNITS>" +
+        ReadLayer(DopOf("D", Fixed("8") + content) + "<UNIT-SPEC><UNITS>" +
                       Xml("UNIT", "U", "<DISPLAY-NAME>km/h</DISPLAY-NAME>") + "</UNITS></UNIT-SPEC>",
                   "");
         return NQuery::ValuesOf(Element(L"D"));

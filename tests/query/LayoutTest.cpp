@@ -45,7 +45,7 @@ std::string MinMax(std::string const& limits) {
            limits + "</DIAG-CODED-TYPE>";
 }
 
-std::string Dop(std::string const& id, std::string const& codedType) {
+std::string DopOf(std::string const& id, std::string const& codedType) {
     return "<DATA-OBJECT-PROPS>" + Xml("DATA-OBJECT-PROP", id, codedType) + "</DATA-OBJECT-PROPS>";
 }
 
@@ -58,10 +58,6 @@ std::string At(std::string const& byte, std::string const& bit) {
     return "<BYTE-POSITION>" + byte + "</BYTE-POSITION>" +
            (bit.empty() ? "" : "<BIT-POSITION>" + bit + "</BIT-POSITION>");
 }
-
-std::string To(std::string const& id) { return "<DOP-REF ID-REF=\"" + id + "\"/>"; }
-
-std::string ByName(std::string const& shortName) { return "<DOP-SNREF SHORT-NAME=\"" + shortName + "\"/>"; }
 
 void VLayoutTest::ReadLayer(std::string const& dictionary, std::string const& params) {
     Read(ContainerOfLayers(LayerXml("BASE-VARIANT", "L", InDictionary(dictionary) + Request("R", params))));

@@ -20,11 +20,9 @@ std::string Printed(NQuery::VMessageLayout const& layout);
 
 std::string Fixed(std::string const& bits, std::string const& type = "A_UINT32"); ///< a DIAG-CODED-TYPE
 std::string MinMax(std::string const& limits);
-std::string Dop(std::string const& id, std::string const& codedType); ///< a DATA-OBJECT-PROP
+std::string DopOf(std::string const& id, std::string const& codedType); ///< a DATA-OBJECT-PROP
 std::string Param(std::string const& type, std::string const& name, std::string const& content);
 std::string At(std::string const& byte, std::string const& bit = ""); ///< the position of a parameter
-std::string To(std::string const& id);                                ///< a DOP-REF
-std::string ByName(std::string const& shortName);                     ///< a DOP-SNREF
 
 class VLayoutTest : public VReaderTest {
 protected:

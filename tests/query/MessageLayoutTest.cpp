@@ -12,13 +12,13 @@ namespace {
 
 class VMessageLayoutTest : public VLayoutTest {};
 
-std::string Const(std::string const& name, std::string const& value, std::string const& bits,
-                  std::string const& position = "") {
+std::string CodedConst(std::string const& name, std::string const& value, std::string const& bits,
+                       std::string const& position = "") {
     return Param("CODED-CONST", name, position + "<CODED-VALUE>" + value + "</CODED-VALUE>" + Fixed(bits));
 }
 
 std::string Val(std::string const& name, std::string const& dop, std::string const& position = "") {
-    return Param("VALUE", name, position + To(dop));
+    return Param("VALUE", name, position + DopRefTo(dop));
 }
 
 std::string Field(std::string const& tag, std::string const& id, std::string const& structure,
@@ -28,22 +28,24 @@ std::string Field(std::string const& tag, std::string const& id, std::string con
 }
 
 TEST_F(VMessageLayoutTest, AParameterWithoutPositionFollowsTheOneBeforeAtTheNextByte) {
-    ReadLayer(Dop("D", Fixed("16")), Const("sid", "16", "8", At("0")) + Const("nibble", "1", "4") + Val("value", "D") +
-                                         Const("fixed", "2", "4", At("9", "4")) + Const("last", "3", "8"));
+    ReadLayer(DopOf("D", Fixed("16")), CodedConst("sid", "16", "8", At("0")) + CodedConst("nibble", "1", "4") +
+                                           Val("value", "D") + CodedConst("fixed", "2", "4", At("9", "4")) +
+                                           CodedConst("last", "3", "8"));
     EXPECT_EQ("sid @0 8 =16\nnibble @1 4 =1\nvalue @2 16\nfixed @9.4 4 =2\nlast @10 8 =3\nall 88", Rows());
 }
 
 TEST_F(VMessageLayoutTest, ItFollowsTheOneBeforeItInTheDocumentNotTheLastByte) {
-    ReadLayer("", Const("late", "1", "8", At("5")) + Const("early", "1", "8", At("1")) + Const("next", "1", "8"));
+    ReadLayer("", CodedConst("late", "1", "8", At("5")) + CodedConst("early", "1", "8", At("1")) +
+                      CodedConst("next", "1", "8"));
     EXPECT_EQ("late @5 8 =1\nearly @1 8 =1\nnext @2 8 =1\nall 48", Rows());
 }
 
 TEST_F(VMessageLayoutTest, LengthsAreThoseOfTheCodedType) {
-    ReadLayer(Dop("Some", MinMax("<MAX-LENGTH>4</MAX-LENGTH><MIN-LENGTH>1</MIN-LENGTH>")) +
-                  Dop("Any", MinMax("<MIN-LENGTH>2</MIN-LENGTH>")) +
-                  Dop("Led", "<DIAG-CODED-TYPE xsi:type=\"LEADING-LENGTH-INFO-TYPE\" BASE-DATA-TYPE=\"A_BYTEFIELD\">"
-                             "<BIT-LENGTH>8</BIT-LENGTH></DIAG-CODED-TYPE>") +
-                  Dop("None", ""),
+    ReadLayer(DopOf("Some", MinMax("<MAX-LENGTH>4</MAX-LENGTH><MIN-LENGTH>1</MIN-LENGTH>")) +
+                  DopOf("Any", MinMax("<MIN-LENGTH>2</MIN-LENGTH>")) +
+                  DopOf("Led", "<DIAG-CODED-TYPE xsi:type=\"LEADING-LENGTH-INFO-TYPE\" BASE-DATA-TYPE=\"A_BYTEFIELD\">"
+                               "<BIT-LENGTH>8</BIT-LENGTH></DIAG-CODED-TYPE>") +
+                  DopOf("None", ""),
               Val("some", "Some") + Val("led", "Led") + Val("any", "Any") + Val("none", "None"));
     EXPECT_EQ("some @0 8..32\nled @1..4 8..2048\nany @2..260 16..\nnone @4.. 0..\nall 32..", Rows());
 }
@@ -56,30 +58,30 @@ TEST_F(VMessageLayoutTest, KindsWithoutDopSayTheirLengthThemselves) {
 }
 
 TEST_F(VMessageLayoutTest, WhatAStructureHoldsStandsInsideWithPositionsInTheMessage) {
-    ReadLayer(Dop("D", Fixed("8")) + Structure("S", Val("a", "D") + Val("b", "D", At("3"))),
+    ReadLayer(DopOf("D", Fixed("8")) + Structure("S", Val("a", "D") + Val("b", "D", At("3"))),
               Val("first", "D") + Val("whole", "S") + Val("after", "D"));
     EXPECT_EQ("first @0 8\nwhole @1 32\n  a @1 8\n  b @4 8\nafter @5 8\nall 48", Rows());
 }
 
 TEST_F(VMessageLayoutTest, ByteSizeIsTheLengthOfAStructure) {
     ReadLayer("<STRUCTURES>" +
-                  Xml("STRUCTURE", "S", "<BYTE-SIZE>4</BYTE-SIZE><PARAMS>" + Const("a", "1", "8") + "</PARAMS>") +
+                  Xml("STRUCTURE", "S", "<BYTE-SIZE>4</BYTE-SIZE><PARAMS>" + CodedConst("a", "1", "8") + "</PARAMS>") +
                   "</STRUCTURES>",
-              Val("whole", "S") + Const("after", "1", "8"));
+              Val("whole", "S") + CodedConst("after", "1", "8"));
     EXPECT_EQ("whole @0 32\n  a @0 8 =1\nafter @4 8 =1\nall 40", Rows());
 }
 
 TEST_F(VMessageLayoutTest, AStaticFieldHasItsItemsOneAfterAnother) {
-    ReadLayer(Structure("S", Const("a", "1", "8")) +
+    ReadLayer(Structure("S", CodedConst("a", "1", "8")) +
                   Field("STATIC-FIELD", "F", "S",
                         "<FIXED-NUMBER-OF-ITEMS>3</FIXED-NUMBER-OF-ITEMS><ITEM-BYTE-SIZE>2</ITEM-BYTE-SIZE>"),
-              Val("list", "F") + Const("after", "1", "8"));
+              Val("list", "F") + CodedConst("after", "1", "8"));
     EXPECT_EQ("list @0 48\n  items F @0 8\n    a @0 8 =1\nafter @6 8 =1\nall 56", Rows());
     EXPECT_EQ("3", Printed(Layout(L"R").rows[1].count));
 }
 
 TEST_F(VMessageLayoutTest, AnEndOfPduFieldIsAsLongAsItsItemsMayBeMany) {
-    ReadLayer(Structure("S", Const("a", "1", "16")) +
+    ReadLayer(Structure("S", CodedConst("a", "1", "16")) +
                   Field("END-OF-PDU-FIELD", "F", "S",
                         "<MAX-NUMBER-OF-ITEMS>5</MAX-NUMBER-OF-ITEMS><MIN-NUMBER-OF-ITEMS>1</MIN-NUMBER-OF-ITEMS>"),
               Val("list", "F"));
@@ -87,16 +89,16 @@ TEST_F(VMessageLayoutTest, AnEndOfPduFieldIsAsLongAsItsItemsMayBeMany) {
 }
 
 TEST_F(VMessageLayoutTest, ADynamicLengthFieldHasItsNumberOfItemsAtItsOwnPlace) {
-    ReadLayer(Dop("D", Fixed("8")) + Structure("S", Const("a", "1", "8")) +
+    ReadLayer(DopOf("D", Fixed("8")) + Structure("S", CodedConst("a", "1", "8")) +
                   Field("DYNAMIC-LENGTH-FIELD", "F", "S",
                         "<OFFSET>2</OFFSET><DETERMINE-NUMBER-OF-ITEMS><BYTE-POSITION>1</BYTE-POSITION>"
                         "<DATA-OBJECT-PROP-REF ID-REF=\"D\"/></DETERMINE-NUMBER-OF-ITEMS>"),
-              Const("sid", "1", "8") + Val("list", "F"));
+              CodedConst("sid", "1", "8") + Val("list", "F"));
     EXPECT_EQ("sid @0 8 =1\nlist @1 16..\n  count  @2 8\n  items F @3 8\n    a @3 8 =1\nall 24..", Rows());
 }
 
 TEST_F(VMessageLayoutTest, ADynamicEndmarkerFieldEndsWithItsMarker) {
-    ReadLayer(Dop("D", Fixed("8")) + Structure("S", Const("a", "1", "8")) +
+    ReadLayer(DopOf("D", Fixed("8")) + Structure("S", CodedConst("a", "1", "8")) +
                   Field("DYNAMIC-ENDMARKER-FIELD", "F", "S",
                         "<DATA-OBJECT-PROP-REF ID-REF=\"D\"><TERMINATION-VALUE>255</TERMINATION-VALUE>"
                         "</DATA-OBJECT-PROP-REF>"),
@@ -105,9 +107,9 @@ TEST_F(VMessageLayoutTest, ADynamicEndmarkerFieldEndsWithItsMarker) {
 }
 
 TEST_F(VMessageLayoutTest, AMuxIsAsLongAsItsCases) {
-    ReadLayer(Dop("D", Fixed("8")) + "<STRUCTURES>" +
-                  Xml("STRUCTURE", "S", "<PARAMS>" + Const("a", "1", "8") + "</PARAMS>") +
-                  Xml("STRUCTURE", "T", "<PARAMS>" + Const("b", "1", "24") + "</PARAMS>") + "</STRUCTURES><MUXS>" +
+    ReadLayer(DopOf("D", Fixed("8")) + "<STRUCTURES>" +
+                  Xml("STRUCTURE", "S", "<PARAMS>" + CodedConst("a", "1", "8") + "</PARAMS>") +
+                  Xml("STRUCTURE", "T", "<PARAMS>" + CodedConst("b", "1", "24") + "</PARAMS>") + "</STRUCTURES><MUXS>" +
                   Xml("MUX", "M",
                       "<BYTE-POSITION>1</BYTE-POSITION><SWITCH-KEY><BYTE-POSITION>0</BYTE-POSITION>"
                       "<DATA-OBJECT-PROP-REF ID-REF=\"D\"/></SWITCH-KEY>"
@@ -115,25 +117,25 @@ TEST_F(VMessageLayoutTest, AMuxIsAsLongAsItsCases) {
                       "<CASE><SHORT-NAME>other</SHORT-NAME><STRUCTURE-REF ID-REF=\"T\"/></CASE>"
                       "<CASE><SHORT-NAME>empty</SHORT-NAME></CASE></CASES>") +
                   "</MUXS>",
-              Const("sid", "1", "8") + Val("choice", "M"));
+              CodedConst("sid", "1", "8") + Val("choice", "M"));
     EXPECT_EQ("sid @0 8 =1\nchoice @1 8..32\n  key  @1 8\n  case one @2 8\n    a @2 8 =1\n  case other @2 24\n"
               "    b @2 24 =1\n  case empty @2 0\nall 16..40",
               Rows());
 }
 
 TEST_F(VMessageLayoutTest, ATableKeyIsAsLongAsItsDopAndATableStructHoldsEveryRow) {
-    ReadLayer(Dop("D", Fixed("16")) + "<STRUCTURES>" +
-                  Xml("STRUCTURE", "S", "<PARAMS>" + Const("a", "1", "8") + "</PARAMS>") +
-                  Xml("STRUCTURE", "T", "<PARAMS>" + Const("b", "1", "16") + "</PARAMS>") + "</STRUCTURES><TABLES>" +
-                  Xml("TABLE", "B",
-                      "<KEY-DOP-REF ID-REF=\"D\"/>" +
-                          Xml("TABLE-ROW", "B1", "<KEY>7</KEY><STRUCTURE-REF ID-REF=\"S\"/>") +
-                          Xml("TABLE-ROW", "B2", "<KEY>8</KEY><STRUCTURE-REF ID-REF=\"T\"/>")) +
-                  "</TABLES>",
-              Param("TABLE-KEY", "key", "<TABLE-REF ID-REF=\"B\"/>") +
-                  Param("TABLE-STRUCT", "data", "<TABLE-KEY-REF ID-REF=\"P.key\"/>") +
-                  Param("TABLE-KEY", "one", At("0") + "<TABLE-ROW-REF ID-REF=\"B2\"/>") +
-                  Param("TABLE-ENTRY", "both", "<TARGET>KEY-AND-STRUCT</TARGET><TABLE-ROW-REF ID-REF=\"B1\"/>"));
+    ReadLayer(
+        DopOf("D", Fixed("16")) + "<STRUCTURES>" +
+            Xml("STRUCTURE", "S", "<PARAMS>" + CodedConst("a", "1", "8") + "</PARAMS>") +
+            Xml("STRUCTURE", "T", "<PARAMS>" + CodedConst("b", "1", "16") + "</PARAMS>") + "</STRUCTURES><TABLES>" +
+            Xml("TABLE", "B",
+                "<KEY-DOP-REF ID-REF=\"D\"/>" + Xml("TABLE-ROW", "B1", "<KEY>7</KEY><STRUCTURE-REF ID-REF=\"S\"/>") +
+                    Xml("TABLE-ROW", "B2", "<KEY>8</KEY><STRUCTURE-REF ID-REF=\"T\"/>")) +
+            "</TABLES>",
+        Param("TABLE-KEY", "key", "<TABLE-REF ID-REF=\"B\"/>") +
+            Param("TABLE-STRUCT", "data", "<TABLE-KEY-REF ID-REF=\"P.key\"/>") +
+            Param("TABLE-KEY", "one", At("0") + "<TABLE-ROW-REF ID-REF=\"B2\"/>") +
+            Param("TABLE-ENTRY", "both", "<TARGET>KEY-AND-STRUCT</TARGET><TABLE-ROW-REF ID-REF=\"B1\"/>"));
     EXPECT_EQ("key @0 16\ndata @2 8..16\n  row B1 @2 8 =7\n    a @2 8 =1\n  row B2 @2 16 =8\n    b @2 16 =1\n"
               "one @0 16 =8\nboth @2 24 =7\n  row B1 @4 8 =7\n    a @4 8 =1\nall 40",
               Rows());
@@ -144,9 +146,9 @@ TEST_F(VMessageLayoutTest, EnvironmentDataForAllTroubleCodesComesBeforeTheOthers
                   Xml("ENV-DATA-DESC", "E",
                       "<PARAM-SNREF SHORT-NAME=\"dtc\"/><ENV-DATAS>" +
                           Xml("ENV-DATA", "Some",
-                              "<PARAMS>" + Const("a", "1", "8") +
+                              "<PARAMS>" + CodedConst("a", "1", "8") +
                                   "</PARAMS><DTC-VALUES><DTC-VALUE>5</DTC-VALUE></DTC-VALUES>") +
-                          Xml("ENV-DATA", "All", "<PARAMS>" + Const("b", "1", "16") + "</PARAMS><ALL-VALUE/>") +
+                          Xml("ENV-DATA", "All", "<PARAMS>" + CodedConst("b", "1", "16") + "</PARAMS><ALL-VALUE/>") +
                           "</ENV-DATAS>") +
                   "</ENV-DATA-DESCS>",
               Val("data", "E"));
@@ -156,7 +158,7 @@ TEST_F(VMessageLayoutTest, EnvironmentDataForAllTroubleCodesComesBeforeTheOthers
 TEST_F(VMessageLayoutTest, AShortNameMeansWhatTheLayerMeans) {
     Read(ContainerOfLayers(
         LayerXml("BASE-VARIANT", "L",
-                 InDictionary(Dop("L.D", Fixed("8"))) + Request("R", Param("VALUE", "v", ByName("D")))) +
+                 InDictionary(DopOf("L.D", Fixed("8"))) + Request("R", Param("VALUE", "v", DopSnrefTo("D")))) +
         LayerXml("ECU-VARIANT", "E",
                  InDictionary("<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"E.D\"><SHORT-NAME>D</SHORT-NAME>" +
                               Fixed("32") + "</DATA-OBJECT-PROP></DATA-OBJECT-PROPS>") +
@@ -203,7 +205,7 @@ TEST_F(VMessageLayoutTest, StructuresThatHoldEachOtherTwiceAreCut) {
     for (int i = 0; i < 40; ++i) { // a row for each way: two to the power of 40
         std::string const next = "S" + std::to_string(i + 1);
         structures += Xml("STRUCTURE", "S" + std::to_string(i),
-                          "<PARAMS>" + Value("a", To(next)) + Value("b", To(next)) + "</PARAMS>");
+                          "<PARAMS>" + Value("a", DopRefTo(next)) + Value("b", DopRefTo(next)) + "</PARAMS>");
     }
     ReadLayer("<STRUCTURES>" + structures + Xml("STRUCTURE", "S40", "<PARAMS></PARAMS>") + "</STRUCTURES>",
               Val("p", "S0"));
@@ -215,13 +217,13 @@ TEST_F(VMessageLayoutTest, StructuresThatHoldEachOtherTwiceAreCut) {
 }
 
 TEST_F(VMessageLayoutTest, NumbersThatAreNoneOrTooLargeDoNoHarm) {
-    ReadLayer(Dop("D", Fixed("18446744073709551616")) + Dop("Odd", Fixed("-8")),
+    ReadLayer(DopOf("D", Fixed("18446744073709551616")) + DopOf("Odd", Fixed("-8")),
               Val("large", "D", At("18446744073709551615")) + Val("odd", "Odd", At("x")));
     EXPECT_EQ("large @9007199254740992 9007199254740992\nodd @9007199254740992 0..\nall 9007199254740992..", Rows());
 }
 
 TEST_F(VMessageLayoutTest, ADopATableAndARowHaveALayoutOfTheirOwn) {
-    ReadLayer(Dop("D", Fixed("12")) + Structure("S", Val("a", "D")) + "<TABLES>" +
+    ReadLayer(DopOf("D", Fixed("12")) + Structure("S", Val("a", "D")) + "<TABLES>" +
                   Xml("TABLE", "B", Xml("TABLE-ROW", "B1", "<KEY>7</KEY><STRUCTURE-REF ID-REF=\"S\"/>")) + "</TABLES>",
               "");
     EXPECT_EQ("all 12", Rows(L"D"));
@@ -270,31 +272,31 @@ std::string Boxes(NQuery::VMessageLayout const& layout, std::uint64_t maxBytes =
 }
 
 TEST_F(VMessageLayoutTest, BytesOfOneParameterAreOneBoxAndBitsAreRuns) {
-    ReadLayer("", Const("word", "1", "16") + Const("flag", "1", "1", At("2", "7")) + Const("low", "1", "3", At("2")) +
-                      Const("far", "1", "8", At("4")));
+    ReadLayer("", CodedConst("word", "1", "16") + CodedConst("flag", "1", "1", At("2", "7")) +
+                      CodedConst("low", "1", "3", At("2")) + CodedConst("far", "1", "8", At("4")));
     EXPECT_EQ("0-1: 7..0=0\n2-2: 7..7=1 6..3= 2..0=2\n3-3: 7..0=\n4-4: 7..0=3\n", Boxes(Layout(L"R")));
 }
 
 TEST_F(VMessageLayoutTest, TwelveBitsHaveTheirHighBitsInTheFirstByteUnlessTheLowByteComesFirst) {
     std::string lowFirst = Fixed("12");
     lowFirst.replace(lowFirst.find(" BASE"), 0, " IS-HIGHLOW-BYTE-ORDER=\"false\"");
-    ReadLayer(Dop("High", Fixed("12")) + Dop("Low", lowFirst), Val("high", "High") + Val("low", "Low"));
+    ReadLayer(DopOf("High", Fixed("12")) + DopOf("Low", lowFirst), Val("high", "High") + Val("low", "Low"));
     EXPECT_EQ("0-0: 7..4= 3..0=0\n1-1: 7..0=0\n2-2: 7..0=1\n3-3: 7..4= 3..0=1\n", Boxes(Layout(L"R")));
 }
 
 TEST_F(VMessageLayoutTest, WhatOverlapsSharesItsBits) {
-    ReadLayer("", Const("a", "1", "8", At("0")) + Const("b", "1", "4", At("0", "2")));
+    ReadLayer("", CodedConst("a", "1", "8", At("0")) + CodedConst("b", "1", "4", At("0", "2")));
     EXPECT_EQ("0-0: 7..6=0 5..2=01 1..0=0\n", Boxes(Layout(L"R")));
 }
 
 TEST_F(VMessageLayoutTest, WhatHasNoFixedPlaceComesLast) {
-    ReadLayer(Dop("Some", MinMax("<MIN-LENGTH>0</MIN-LENGTH>")),
-              Const("sid", "1", "8") + Val("some", "Some") + Const("after", "1", "8"));
+    ReadLayer(DopOf("Some", MinMax("<MIN-LENGTH>0</MIN-LENGTH>")),
+              CodedConst("sid", "1", "8") + Val("some", "Some") + CodedConst("after", "1", "8"));
     EXPECT_EQ("0-0: 7..0=0\n1-?: 7..0=1\n?-?: 7..0=2\n", Boxes(Layout(L"R")));
 }
 
 TEST_F(VMessageLayoutTest, WhatMayStandSomewhereIsOneBox) {
-    ReadLayer(Structure("S", Const("a", "1", "8")) +
+    ReadLayer(Structure("S", CodedConst("a", "1", "8")) +
                   Field("STATIC-FIELD", "F", "S",
                         "<FIXED-NUMBER-OF-ITEMS>3</FIXED-NUMBER-OF-ITEMS><ITEM-BYTE-SIZE>2</ITEM-BYTE-SIZE>"),
               Val("list", "F"));
@@ -303,7 +305,7 @@ TEST_F(VMessageLayoutTest, WhatMayStandSomewhereIsOneBox) {
 }
 
 TEST_F(VMessageLayoutTest, LongMessagesHaveNoBoxes) {
-    ReadLayer("", Const("a", "1", "8", At("16")));
+    ReadLayer("", CodedConst("a", "1", "8", At("16")));
     EXPECT_EQ("", Boxes(Layout(L"R")));
     EXPECT_NE("", Boxes(Layout(L"R"), 17));
 }

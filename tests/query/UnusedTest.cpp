@@ -9,9 +9,6 @@ namespace {
 
 using VUnusedTest = VUsesTest;
 
-std::string DopRefTo(std::string const& id) { return "<DOP-REF ID-REF=\"" + id + "\"/>"; }
-std::string DopSnrefTo(std::string const& name) { return "<DOP-SNREF SHORT-NAME=\"" + name + "\"/>"; }
-
 TEST_F(VUnusedTest, AreElementsOfTheseKindsInDocumentOrder) {
     ReadLayers(LayerXml(
         "ECU-VARIANT", "V",

@@ -6,8 +6,6 @@
 namespace NTest {
 namespace {
 
-std::string DopRefTo(std::string const& id) { return "<DOP-REF ID-REF=\"" + id + "\"/>"; }
-
 using VUsesByIdTest = VUsesTest;
 
 TEST_F(VUsesByIdTest, HaveNoLayers) {

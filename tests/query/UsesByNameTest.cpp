@@ -8,8 +8,6 @@
 namespace NTest {
 namespace {
 
-std::string DopSnrefTo(std::string const& name) { return "<DOP-SNREF SHORT-NAME=\"" + name + "\"/>"; }
-
 std::string OwnDop(std::string const& id, std::string const& name) {
     return "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"" + id + "\"><SHORT-NAME>" + name +
            "</SHORT-NAME></DATA-OBJECT-PROP></DATA-OBJECT-PROPS>";

@@ -25,7 +25,7 @@ std::string Ref(std::string const& tag, std::string const& id) { return "<" + ta
 std::string Dop(std::string const& id) { return Value(Ref("DOP-REF", id)); }
 std::string DopSnref(std::string const& name) { return Value("<DOP-SNREF SHORT-NAME=\"" + name + "\"/>"); }
 
-std::string Params(std::vector<std::string> const& params) {
+std::string ParamsOf(std::vector<std::string> const& params) {
     std::string all;
     for (std::string const& param : params) {
         all += param;
@@ -33,8 +33,8 @@ std::string Params(std::vector<std::string> const& params) {
     return "<PARAMS>" + all + "</PARAMS>";
 }
 
-std::string Structure(std::string const& id, std::vector<std::string> const& params) {
-    return Xml("STRUCTURE", id, Params(params));
+std::string StructureOf(std::string const& id, std::vector<std::string> const& params) {
+    return Xml("STRUCTURE", id, ParamsOf(params));
 }
 
 std::string Structures(std::string const& structures) { return "<STRUCTURES>" + structures + "</STRUCTURES>"; }
@@ -69,17 +69,18 @@ protected:
 };
 
 TEST_F(VCyclesTest, StructureOfItself) {
-    ReadDictionary(Structures(Structure("S", {Dop("S")})));
+    ReadDictionary(Structures(StructureOf("S", {Dop("S")})));
     ExpectSevered("3:1", "STRUCTURE 'S'");
 }
 
 TEST_F(VCyclesTest, StructureThroughAnother) {
-    ReadDictionary(Structures(Structure("S", {Dop("T")}) + Structure("T", {Dop("S")})));
+    ReadDictionary(Structures(StructureOf("S", {Dop("T")}) + StructureOf("T", {Dop("S")})));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
 
 TEST_F(VCyclesTest, OnlyTheReferenceThatClosesTheCycleIsLeftUnresolved) {
-    ReadDictionary(Structures(Structure("S", {Dop("T")}) + Structure("T", {Dop("U"), Dop("S")}) + Structure("U", {})));
+    ReadDictionary(
+        Structures(StructureOf("S", {Dop("T")}) + StructureOf("T", {Dop("U"), Dop("S")}) + StructureOf("U", {})));
     ExpectSevered("5:1", "STRUCTURE 'S'");
     auto& layer = Get<NODX201::VDiagLayer>(L"L");
     auto const resolves = [&](wchar_t const* id, std::size_t index) {
@@ -93,19 +94,19 @@ TEST_F(VCyclesTest, OnlyTheReferenceThatClosesTheCycleIsLeftUnresolved) {
 }
 
 TEST_F(VCyclesTest, StaticField) {
-    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+    ReadDictionary(Structures(StructureOf("S", {Dop("F")})) +
                    Field("STATIC-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
 
 TEST_F(VCyclesTest, DynamicLengthField) {
-    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+    ReadDictionary(Structures(StructureOf("S", {Dop("F")})) +
                    Field("DYNAMIC-LENGTH-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
 
 TEST_F(VCyclesTest, DynamicEndmarkerField) {
-    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+    ReadDictionary(Structures(StructureOf("S", {Dop("F")})) +
                    Field("DYNAMIC-ENDMARKER-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
@@ -116,21 +117,21 @@ TEST_F(VCyclesTest, EndmarkerThatIsTheFieldItself) {
 }
 
 TEST_F(VCyclesTest, EndOfPduField) {
-    ReadDictionary(Structures(Structure("S", {Dop("F")})) +
+    ReadDictionary(Structures(StructureOf("S", {Dop("F")})) +
                    Field("END-OF-PDU-FIELD", "F", "\n" + Ref("BASIC-STRUCTURE-REF", "S")));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
 
 TEST_F(VCyclesTest, CaseOfAMux) {
     ReadDictionary(
-        Structures(Structure("S", {Dop("M")})) +
+        Structures(StructureOf("S", {Dop("M")})) +
         Mux("M", "<CASES><CASE><SHORT-NAME>C</SHORT-NAME>\n" + Ref("STRUCTURE-REF", "S") + "</CASE></CASES>"));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
 
 TEST_F(VCyclesTest, DefaultCaseOfAMux) {
     ReadDictionary(
-        Structures(Structure("S", {Dop("M")})) +
+        Structures(StructureOf("S", {Dop("M")})) +
         Mux("M", "<DEFAULT-CASE><SHORT-NAME>C</SHORT-NAME>\n" + Ref("STRUCTURE-REF", "S") + "</DEFAULT-CASE>"));
     ExpectSevered("4:1", "STRUCTURE 'S'");
 }
@@ -138,7 +139,7 @@ TEST_F(VCyclesTest, DefaultCaseOfAMux) {
 TEST_F(VCyclesTest, EnvDataInsideItsDescription) {
     ReadDictionary(
         "<ENV-DATA-DESCS>" +
-        Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + Xml("ENV-DATA", "E", Params({Dop("N")})) + "</ENV-DATAS>") +
+        Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + Xml("ENV-DATA", "E", ParamsOf({Dop("N")})) + "</ENV-DATAS>") +
         "</ENV-DATA-DESCS>");
     ExpectSevered("3:1", "ENV-DATA-DESC 'N'");
 }
@@ -146,28 +147,29 @@ TEST_F(VCyclesTest, EnvDataInsideItsDescription) {
 TEST_F(VCyclesTest, EnvDataByReference) {
     ReadDictionary("<ENV-DATA-DESCS>" +
                    Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>\n" + Ref("ENV-DATA-REF", "E") + "</ENV-DATAS>") +
-                   "</ENV-DATA-DESCS><ENV-DATAS>" + Xml("ENV-DATA", "E", Params({Dop("N")})) + "</ENV-DATAS>");
+                   "</ENV-DATA-DESCS><ENV-DATAS>" + Xml("ENV-DATA", "E", ParamsOf({Dop("N")})) + "</ENV-DATAS>");
     ExpectSevered("4:1", "ENV-DATA-DESC 'N'");
 }
 
 TEST_F(VCyclesTest, EnvDataDescriptionOfAField) {
     ReadDictionary(
         "<ENV-DATA-DESCS>" +
-        Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + Xml("ENV-DATA", "E", Params({Dop("F")})) + "</ENV-DATAS>") +
+        Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + Xml("ENV-DATA", "E", ParamsOf({Dop("F")})) + "</ENV-DATAS>") +
         "</ENV-DATA-DESCS>" + Field("END-OF-PDU-FIELD", "F", "\n" + Ref("ENV-DATA-DESC-REF", "N")));
     ExpectSevered("4:1", "ENV-DATA-DESC 'N'");
 }
 
 TEST_F(VCyclesTest, EveryCycleOfADocumentIsReported) {
-    ReadDictionary(Structures(Structure("S", {Dop("S"), Dop("S"), Dop("T")}) + Structure("T", {Dop("S"), Dop("T")})));
+    ReadDictionary(
+        Structures(StructureOf("S", {Dop("S"), Dop("S"), Dop("T")}) + StructureOf("T", {Dop("S"), Dop("T")})));
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle\ntest.odx:4:1 error containment-cycle\n"
                              "test.odx:6:1 error containment-cycle\ntest.odx:7:1 error containment-cycle");
     Walk();
 }
 
 TEST_F(VCyclesTest, DiamondsAreNoCycles) {
-    ReadDictionary(Structures(Structure("S", {Dop("T"), Dop("U")}) + Structure("T", {Dop("V")}) +
-                              Structure("U", {Dop("V")}) + Structure("V", {})));
+    ReadDictionary(Structures(StructureOf("S", {Dop("T"), Dop("U")}) + StructureOf("T", {Dop("V")}) +
+                              StructureOf("U", {Dop("V")}) + StructureOf("V", {})));
     EXPECT_EQ(Diagnostics(), "");
 }
 
@@ -176,14 +178,14 @@ TEST_F(VCyclesTest, LongChainsAreFollowedToTheirEnd) {
     std::string content;
     for (int index = 0; index < kLength; ++index) {
         content +=
-            Xml("STRUCTURE", "S" + std::to_string(index), Params({Dop("S" + std::to_string((index + 1) % kLength))}));
+            Xml("STRUCTURE", "S" + std::to_string(index), ParamsOf({Dop("S" + std::to_string((index + 1) % kLength))}));
     }
     ReadDictionary("<STRUCTURES>" + content + "</STRUCTURES>");
     EXPECT_EQ(Diagnostics(), "test.odx:20002:1 error containment-cycle");
 }
 
 TEST_F(VCyclesTest, ShortNameOfTheStructureItself) {
-    ReadDictionary(Structures(Structure("S", {DopSnref("S")})));
+    ReadDictionary(Structures(StructureOf("S", {DopSnref("S")})));
     EXPECT_EQ(Diagnostics(), "test.odx:3:1 error containment-cycle");
     ASSERT_EQ(m_result.diagnostics.size(), 1U);
     EXPECT_EQ(Message(0),
@@ -195,10 +197,10 @@ TEST_F(VCyclesTest, ShortNameThatMeansAnotherDopInEveryLayerIsNone) {
     // "S" is a STRUCTURE in a layer that the ECU-SHARED-DATA with "T" does not see.
     Read(Container("<ECU-SHARED-DATAS>" +
                        Xml("ECU-SHARED-DATA", "A",
-                           "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("T", {DopSnref("S")})) +
+                           "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(StructureOf("T", {DopSnref("S")})) +
                                "</DIAG-DATA-DICTIONARY-SPEC>") +
                        Xml("ECU-SHARED-DATA", "B",
-                           "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("S", {DopSnref("T")})) +
+                           "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(StructureOf("S", {DopSnref("T")})) +
                                "</DIAG-DATA-DICTIONARY-SPEC>") +
                        "</ECU-SHARED-DATAS>",
                    kVersion));
@@ -210,7 +212,7 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) 
     std::string const shared =
         "<ECU-SHARED-DATAS>" +
         Xml("ECU-SHARED-DATA", "A",
-            "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(Structure("Frame", {DopSnref("Payload")})) +
+            "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(StructureOf("Frame", {DopSnref("Payload")})) +
                 "</DIAG-DATA-DICTIONARY-SPEC>") +
         "</ECU-SHARED-DATAS>";
     auto const variant = [](std::string const& name, std::string const& dictionary) {
@@ -225,7 +227,7 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInOneVariantStaysResolvedInOthers) 
         "V1", "<DATA-OBJECT-PROPS><DATA-OBJECT-PROP ID=\"D\"><SHORT-NAME>Payload</SHORT-NAME></DATA-OBJECT-PROP>"
               "</DATA-OBJECT-PROPS>");
     std::string const nested = variant("V2", "<STRUCTURES><STRUCTURE ID=\"N\"><SHORT-NAME>Payload</SHORT-NAME>" +
-                                                 Params({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>");
+                                                 ParamsOf({Dop("Frame")}) + "</STRUCTURE></STRUCTURES>");
     auto const document = [](std::string const& content, char const* name) {
         return Container(content, kVersion, name);
     };
@@ -256,13 +258,13 @@ TEST_F(VCyclesTest, ShortNameThatClosesACycleInSeveralLayersIsReportedOnceWithAl
         return "<DIAG-DATA-DICTIONARY-SPEC>" + Structures(content) + "</DIAG-DATA-DICTIONARY-SPEC>";
     };
     Read(Container(
-        "<BASE-VARIANTS>" + Xml("BASE-VARIANT", "B", dictionary(Structure("S", {DopSnref("S"), DopSnref("T")}))) +
+        "<BASE-VARIANTS>" + Xml("BASE-VARIANT", "B", dictionary(StructureOf("S", {DopSnref("S"), DopSnref("T")}))) +
             "</BASE-VARIANTS><ECU-VARIANTS>" +
-            Xml("ECU-VARIANT", "V1", dictionary(Structure("T", {Dop("S")})) + parentRef) +
+            Xml("ECU-VARIANT", "V1", dictionary(StructureOf("T", {Dop("S")})) + parentRef) +
             Xml("ECU-VARIANT", "V2",
                 dictionary("<STRUCTURE ID=\"S2\"><SHORT-NAME>S</SHORT-NAME></STRUCTURE>") + parentRef) +
             Xml("ECU-VARIANT", "V3",
-                dictionary("<STRUCTURE ID=\"T3\"><SHORT-NAME>T</SHORT-NAME>" + Params({Dop("S")}) + "</STRUCTURE>") +
+                dictionary("<STRUCTURE ID=\"T3\"><SHORT-NAME>T</SHORT-NAME>" + ParamsOf({Dop("S")}) + "</STRUCTURE>") +
                     parentRef) +
             "</ECU-VARIANTS>",
         kVersion));
@@ -283,7 +285,7 @@ TEST_F(VCyclesTest, EveryEnvDataInsideADescriptionIsSearched) {
     std::string envDatas;
     for (char const* const number : {"1", "2", "3", "4"}) {
         fields += Xml("STATIC-FIELD", std::string("F") + number, Ref("BASIC-STRUCTURE-REF", std::string("E") + number));
-        envDatas += Xml("ENV-DATA", std::string("E") + number, Params({Dop("N")}));
+        envDatas += Xml("ENV-DATA", std::string("E") + number, ParamsOf({Dop("N")}));
     }
     ReadDictionary("<STATIC-FIELDS>" + fields + "</STATIC-FIELDS><ENV-DATA-DESCS>" +
                    Xml("ENV-DATA-DESC", "N", "<ENV-DATAS>" + envDatas + "</ENV-DATAS>") + "</ENV-DATA-DESCS>");
@@ -351,7 +353,7 @@ TEST_F(VCyclesTest, NoRandomDictionaryHoldsACycleAfterReading) {
                     std::string const target = kinds[random() % 5] + pick(4);
                     all.push_back(random() % 2 == 0 ? Dop(target) : DopSnref(target));
                 }
-                return Params(all);
+                return ParamsOf(all);
             };
             structures += Xml("STRUCTURE", "S" + number, params());
             fields += Xml("STATIC-FIELD", "F" + number,

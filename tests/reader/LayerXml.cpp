@@ -27,6 +27,10 @@ std::string Dops(std::string const& names) {
     return "<DATA-OBJECT-PROPS>" + dops + "</DATA-OBJECT-PROPS>";
 }
 
+std::string DopRefTo(std::string const& id) { return "<DOP-REF ID-REF=\"" + id + "\"/>"; }
+
+std::string DopSnrefTo(std::string const& shortName) { return "<DOP-SNREF SHORT-NAME=\"" + shortName + "\"/>"; }
+
 std::string Value(std::string const& name, std::string const& reference) {
     return "<PARAM xsi:type=\"VALUE\"><SHORT-NAME>" + name + "</SHORT-NAME>" + reference + "</PARAM>";
 }

@@ -17,6 +17,8 @@ std::string LayerXml(std::string const& kind, std::string const& id, std::string
 std::string Service(std::string const& id, std::string const& content = "");
 std::string DiagComms(std::string const& content);
 std::string Dops(std::string const& names); ///< DATA-OBJECT-PROPs of these names, one letter each, each with its own ID
+std::string DopRefTo(std::string const& id);
+std::string DopSnrefTo(std::string const& shortName);
 std::string Value(std::string const& name, std::string const& reference); ///< a VALUE parameter
 std::string Structure(std::string const& id, std::string const& params);
 std::string Request(std::string const& id, std::string const& params);
