@@ -33,6 +33,10 @@ void RefuseEmpty(CLI::Option& option) {
     option.check([](std::string const& name) { return std::string(name.empty() ? "an empty name is not valid" : ""); });
 }
 
+void DeclareTag(CLI::App& command, VArguments& arguments, char const* help) {
+    RefuseEmpty(*command.add_option("--kind", arguments.tag, help)->type_name("TAG"));
+}
+
 void DeclareOneOf(CLI::Option& option, VArguments& arguments, char const* noun, std::vector<std::string> const& names) {
     option.check([noun, names](std::string const& word) -> std::string {
         bool const isOne = std::find(names.begin(), names.end(), word) != names.end();

@@ -82,6 +82,9 @@ CLI::Option& DeclareLayer(CLI::App& command, VArguments& arguments);
 /// For an option that names something: an empty name is wrong usage, not as good as none.
 void RefuseEmpty(CLI::Option& option);
 
+/// --kind, a tag of ODX.
+void DeclareTag(CLI::App& command, VArguments& arguments, char const* help);
+
 /// For an option or a word that is one of a few; `noun` is what messages call it.
 void DeclareOneOf(CLI::Option& option, VArguments& arguments, char const* noun, std::vector<std::string> const& names);
 

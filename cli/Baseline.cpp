@@ -17,8 +17,29 @@ namespace {
 
 using VJson = nlohmann::json;
 
+std::size_t EndOfDigits(std::string const& text, std::size_t start) {
+    return std::min(text.find_first_not_of("0123456789", start), text.size());
+}
+
+/// A message without what changes when lines are added elsewhere, or when some of the references into a missing
+/// document are removed.
+std::string Lasting(std::string message) {
+    constexpr std::string_view kLine = " at line ";
+    for (std::size_t at = message.find(kLine); at != std::string::npos; at = message.find(kLine, at + 1)) {
+        std::size_t const start = at + kLine.size();
+        message.erase(start, EndOfDigits(message, start) - start);
+    }
+    std::string const counted = message.substr(EndOfDigits(message, 0));
+    for (std::string_view const lead : {" references lead into ", " reference leads into "}) {
+        if (counted.size() != message.size() && counted.compare(0, lead.size(), lead) == 0) {
+            return "references into " + counted.substr(lead.size());
+        }
+    }
+    return message;
+}
+
 std::string KeyOf(std::string const& file, std::string const& code, std::string const& message) {
-    return file + '\n' + code + '\n' + message;
+    return file + '\n' + code + '\n' + Lasting(message);
 }
 
 std::string KeyOfFinding(VJson const& finding) {

@@ -275,13 +275,13 @@ void DeclareDiff(CLI::App& command, VArguments& arguments) {
         ->type_name("FILE");
     command.add_option("--new", arguments.newFiles, "The files of the new database, if there are several")
         ->type_name("FILE");
-    command
-        .add_option("--layer", arguments.layers,
-                    "Compare only this layer: its short name or ID, or CONTAINER/LAYER; may be repeated")
-        ->type_name("L")
-        ->allow_extra_args(false);
-    command.add_option("--to-layer", arguments.toLayer, "Compare --layer with this layer of the same database")
-        ->type_name("L");
+    auto* const layers =
+        command.add_option("--layer", arguments.layers,
+                           "Compare only this layer: its short name or ID, or CONTAINER/LAYER; may be repeated");
+    RefuseEmpty(*layers->type_name("L")->allow_extra_args(false));
+    auto* const toLayer =
+        command.add_option("--to-layer", arguments.toLayer, "Compare --layer with this layer of the same database");
+    RefuseEmpty(*toLayer->type_name("L"));
     std::vector<std::string> words;
     for (VIgnored const& row : kIgnored) {
         words.emplace_back(row.word);

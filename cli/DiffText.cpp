@@ -77,6 +77,7 @@ struct VEdit {
     NODX201::VOdxElement* now = nullptr;
     std::string name{};
     std::string was{};
+    bool isElsewhere = false; ///< a changed one is owned by another layer as well
     std::vector<std::string> details{};
     std::set<std::string> told{};       ///< the common details
     std::vector<std::string> through{}; ///< entries that lead to it
@@ -89,6 +90,7 @@ class VEdits {
 public:
     explicit VEdits(NQuery::VDiff const& diff) {
         for (NQuery::VLayerChange const& layer : diff.layers) {
+            m_counterparts.emplace(layer.oldLayer, layer.newLayer);
             if (layer.kind == VChangeKind::Renamed) {
                 m_seenBy.try_emplace(layer.newLayer);
                 m_renamed.insert(layer.oldLayer);
@@ -196,9 +198,21 @@ private:
             bool const isEntry = old == change.oldElement && now == change.newElement;
             edit.name = isEntry ? Shown(change.shortName) : ShownName(*now);
             edit.was = change.was != nullptr ? Shown(change.was) : "";
+            edit.isElsewhere =
+                kind == VChangeKind::Changed && old != nullptr && now != nullptr && IsElsewhere(*old, *now);
             m_edits.push_back(std::move(edit));
         }
         return known->second;
+    }
+
+    /// Whether an element is in another layer than before; a layer that was renamed, or is compared with another one,
+    /// is the same.
+    bool IsElsewhere(NODX201::VOdxElement const& old, NODX201::VOdxElement const& now) const {
+        NODX201::VDiagLayer const* const from = LayerAround(old);
+        NODX201::VDiagLayer const* const to = LayerAround(now);
+        auto const counterpart = m_counterparts.find(from);
+        bool const isSame = counterpart != m_counterparts.end() && counterpart->second == to;
+        return from != nullptr && to != nullptr && !isSame && Titled(*from) != Titled(*to);
     }
 
     void NoteLayer(std::size_t index, NODX201::VDiagLayer const* layer) {
@@ -208,6 +222,7 @@ private:
         }
     }
 
+    std::map<NODX201::VDiagLayer const*, NODX201::VDiagLayer const*> m_counterparts; // old ones, and the new ones
     std::vector<VEdit> m_edits; // in the order in which they were found
     std::map<VKey, std::size_t> m_byPlace;
     std::unordered_map<void const*, VIndices> m_byDetails;
@@ -257,8 +272,11 @@ std::string HeadingOf(VEdit const& edit) {
         return fmt::format("renamed: {}, formerly {}{}", what, edit.was, InLayer(known));
     case VChangeKind::Moved:
         return fmt::format("moved: {}, from {} to {}", what, WhereOf(*edit.old), WhereOf(*edit.now));
-    case VChangeKind::Changed:
-        return fmt::format("changed: {}{}", what, InLayer(known));
+    case VChangeKind::Changed: {
+        return edit.isElsewhere
+                   ? fmt::format("changed: {}, from {} to {}", what, WhereOf(*edit.old), WhereOf(*edit.now))
+                   : fmt::format("changed: {}{}", what, InLayer(known));
+    }
     }
     return what;
 }

@@ -113,15 +113,19 @@ std::vector<VAnyCandidate> AnyOf(VCandidates<Element> const& candidates) {
     return any;
 }
 
+/// An ID takes precedence: it selects the element also where it is the short name of another one.
 template <class Element>
 VCandidates<Element> Fitting(VCandidates<Element> const& all, std::wstring_view wanted) {
-    VCandidates<Element> fitting;
+    VCandidates<Element> byId;
+    VCandidates<Element> byName;
     for (VCandidate<Element> const& candidate : all) {
-        if (IsNamed({candidate.element, candidate.place}, wanted)) {
-            fitting.push_back(candidate);
+        if (wanted == ById({candidate.element, candidate.place})) {
+            byId.push_back(candidate);
+        } else if (IsNamed({candidate.element, candidate.place}, wanted)) {
+            byName.push_back(candidate);
         }
     }
-    return fitting;
+    return byId.empty() ? byName : byId;
 }
 
 template <class Element>

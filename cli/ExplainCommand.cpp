@@ -30,7 +30,9 @@ struct VExplained {
     NODX201::VDiagLayer& layer;
     VInheritedKindRow const& kind;
     std::wstring name;
-    NQuery::VExplanation explanation;
+    NQuery::VExplanation explanation; ///< with the listed candidates alone
+    std::string verdict;              ///< of all candidates
+    bool isAnywhere;                  ///< the database has the name
 };
 
 char const* FateName(VFate fate) {
@@ -138,8 +140,11 @@ std::string Verdict(VExplained const& explained) {
     return text;
 }
 
-std::string VerdictOfNothing(VExplained const& explained) {
+std::string VerdictOf(VExplained const& explained) {
     NQuery::VExplanation const& explanation = explained.explanation;
+    if (explanation.visible.has_value()) {
+        return Verdict(explained);
+    }
     if (!explanation.candidates.empty()) {
         return "is not visible: " + FateOf(NearestOf(explanation.candidates), explained.layer, explained.kind);
     }
@@ -208,10 +213,8 @@ void WriteElsewhere(VExplained const& explained, VOutput& output) {
 }
 
 void WriteText(VExplained const& explained, VOutput& output) {
-    bool const isVisible = explained.explanation.visible.has_value();
-    std::string const verdict =
-        fmt::format("{} in {} {}", explained.name.empty() ? "''" : Shown(explained.name), ShownName(explained.layer),
-                    isVisible ? Verdict(explained) : VerdictOfNothing(explained));
+    std::string const verdict = fmt::format("{} in {} {}", explained.name.empty() ? "''" : Shown(explained.name),
+                                            ShownName(explained.layer), explained.verdict);
     output.Write(output.Heading(InLines(verdict, output.Width())));
     output.Write("\n");
     WriteCandidates(explained, output);
@@ -220,8 +223,7 @@ void WriteText(VExplained const& explained, VOutput& output) {
 
 /// If nothing in the whole database has the name, it may be misspelled.
 void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
-    NQuery::VExplanation const& explanation = explained.explanation;
-    if (explanation.visible.has_value() || !explanation.candidates.empty() || !explanation.elsewhere.empty()) {
+    if (explained.isAnywhere) {
         return;
     }
     std::vector<std::wstring_view> names;
@@ -230,6 +232,25 @@ void ComplainOfUnknownName(VExplained const& explained, VOutput const& output) {
     }
     output.Complain(fmt::format("no {} '{}' in any layer{}", explained.kind.name, Shown(explained.name),
                                 NearNote(explained.name, names)));
+}
+
+/// What is asked for, as far as the answer lists it. The verdict does not depend on how much that is.
+VExplained ExplainedAs(VArguments const& arguments, NMemory::VDatabase& database, NODX201::VDiagLayer& layer,
+                       VInheritedKindRow const& kind) {
+    std::size_t const most = arguments.maxCandidates;
+    std::wstring const name = NReader::FromUtf8(arguments.name);
+    VExplained explained{arguments, database, layer, kind, name, {}, "", false};
+    NQuery::VExplanation& explanation = explained.explanation;
+    explanation = NQuery::Explain(database, layer, kind.kind, name, std::max(most, NDIAGKIT::kMostWays));
+    explained.verdict = VerdictOf(explained);
+    explained.isAnywhere = !explanation.candidates.empty() || !explanation.elsewhere.empty();
+    if (std::vector<VWay>& candidates = explanation.candidates; candidates.size() > most) {
+        if (explanation.leftOut.has_value()) {
+            *explanation.leftOut += candidates.size() - most;
+        }
+        candidates.erase(candidates.begin() + static_cast<std::ptrdiff_t>(most), candidates.end());
+    }
+    return explained;
 }
 
 } // namespace
@@ -256,11 +277,7 @@ VStatus RunExplain(VArguments const& arguments, VOutput& output) {
     if (layer == nullptr) {
         return VStatus::NotThere;
     }
-    std::wstring const name = NReader::FromUtf8(arguments.name);
-    VExplained const explained{
-        arguments, *result.database,
-        *layer,    *kind,
-        name,      NQuery::Explain(*result.database, *layer, kind->kind, name, arguments.maxCandidates)};
+    VExplained const explained = ExplainedAs(arguments, *result.database, *layer, *kind);
     if (arguments.isJson) {
         WriteJson(output, [&explained](VJsonWriter& json) { WriteAsJson(json, explained); });
     } else {

@@ -155,7 +155,7 @@ void DeclareFind(CLI::App& command, VArguments& arguments) {
         ->required()
         ->type_name("");
     command.add_flag("--regex", arguments.isRegex, "PATTERN is a regular expression (ECMAScript)");
-    command.add_option("--kind", arguments.tag, "Search only elements with this tag")->type_name("TAG");
+    DeclareTag(command, arguments, "Search only elements with this tag");
     DeclareCsv(command, arguments);
     DeclareWide(command, arguments);
     DeclareFiles(command, arguments);

@@ -23,21 +23,6 @@ namespace {
 
 using VElements = std::vector<NODX201::VOdxElement*>;
 
-/// What stops the name on its way to the layer, as the first kind of which there is such an element says it.
-std::string WhyNotInLayer(VArguments const& arguments, NReader::VReadResult const& result, VAnyName const& name) {
-    if (name.layer == nullptr) {
-        return "";
-    }
-    for (VInheritedKindRow const& row : kInheritedKinds) {
-        std::string note =
-            WhyNotNote(*result.database, *name.layer, row.kind, NReader::FromUtf8(name.name), arguments.layer);
-        if (!note.empty()) {
-            return note;
-        }
-    }
-    return "";
-}
-
 /// A call for each of several elements that one name fits, as far as a call can tell them apart.
 std::string CallsFor(VArguments const& arguments, VElements const& found) {
     constexpr std::size_t kMost = 20;
@@ -69,7 +54,8 @@ std::string CallsFor(VArguments const& arguments, VElements const& found) {
 
 VStatus AnswerNothing(VArguments const& arguments, NReader::VReadResult const& result, VAnyName const& name,
                       VElements const& found, VOutput& output) {
-    ComplainOfName(result, name, found, output, found.empty() ? WhyNotInLayer(arguments, result, name) : "");
+    ComplainOfName(result, name, found, output,
+                   found.empty() ? WhyNotInLayer(*result.database, name.layer, name.name, arguments.layer) : "");
     std::string const calls = CallsFor(arguments, found);
     if (!calls.empty()) {
         output.Complain("one of them is meant by" + calls);
@@ -102,10 +88,9 @@ VStatus Show(VArguments const& arguments, NReader::VReadResult const& result, NO
 } // namespace
 
 void DeclareShow(CLI::App& command, VArguments& arguments) {
-    command.add_option("NAME", arguments.name, "A short name, or an ID")->type_name("")->required();
+    RefuseEmpty(*command.add_option("NAME", arguments.name, "A short name, or an ID")->type_name("")->required());
     DeclareLayer(command, arguments);
-    command.add_option("--kind", arguments.tag, "The tag of the element, if elements of several kinds have the name")
-        ->type_name("TAG");
+    DeclareTag(command, arguments, "The tag of the element, if elements of several kinds have the name");
     DeclareCount(command, "--max-rows", arguments.maxRows, "Stop after N parameters, with status 3");
     DeclareFiles(command, arguments);
 }

@@ -14,6 +14,7 @@
 #include <cli/ProgressBar.h>
 #include <cli/Text.h>
 #include <cli/UsesText.h>
+#include <cli/WhyNot.h>
 #include <diagkit/query/FilePlace.h>
 #include <diagkit/query/Uses.h>
 
@@ -150,7 +151,8 @@ VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& resu
     if (found.size() == 1) {
         return AnswerUses(arguments, result, *found.front(), output);
     }
-    ComplainOfName(result, name, found, output);
+    ComplainOfName(result, name, found, output,
+                   found.empty() ? WhyNotInLayer(*result.database, layer, arguments.name, arguments.layer) : "");
     if (arguments.isJson) {
         WriteEntriesAsJson("candidates", found, output);
     }
@@ -161,9 +163,7 @@ VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& resu
 
 void DeclareUses(CLI::App& command, VArguments& arguments) {
     command.add_option("NAME", arguments.name, "An ID or a short name; omitted with --unused")->type_name("");
-    auto* const kind = command.add_option("--kind", arguments.tag,
-                                          "The tag of the element, if elements of several kinds have the name");
-    RefuseEmpty(*kind->type_name("TAG"));
+    DeclareTag(command, arguments, "The tag of the element, if elements of several kinds have the name");
     DeclareLayer(command, arguments);
     command.add_flag("--unused", arguments.isUnused, "List the elements that no reference leads to in any layer");
     DeclareCsv(command, arguments);

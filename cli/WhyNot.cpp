@@ -9,6 +9,7 @@
 #include <cli/Layers.h>
 #include <cli/Text.h>
 #include <diagkit/model/ParentRefs.h>
+#include <diagkit/reader/Utf8.h>
 
 namespace NCli {
 namespace {
@@ -85,6 +86,20 @@ std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer,
     VInheritedKindRow const& row = RowOf(kind);
     return fmt::format("; {}; diagkit explain {} {} FILE... --layer {} tells more", FateOf(NearestOf(ways), layer, row),
                        row.name, Quoted(Shown(shortName)), Quoted(Shown(std::string_view(layerInCall))));
+}
+
+std::string WhyNotInLayer(NMemory::VDatabase& database, NODX201::VDiagLayer* layer, std::string const& shortName,
+                          std::string const& layerInCall) {
+    if (layer == nullptr) {
+        return "";
+    }
+    for (VInheritedKindRow const& row : kInheritedKinds) {
+        std::string note = WhyNotNote(database, *layer, row.kind, NReader::FromUtf8(shortName), layerInCall);
+        if (!note.empty()) {
+            return note;
+        }
+    }
+    return "";
 }
 
 } // namespace NCli

@@ -25,4 +25,8 @@ std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer,
                        std::wstring_view shortName, std::string const& layerInCall,
                        NODX201::VOdxElement const* only = nullptr);
 
+/// The same for a name of any kind: the note of the first inherited kind that has one; "" without a layer.
+std::string WhyNotInLayer(NMemory::VDatabase& database, NODX201::VDiagLayer* layer, std::string const& shortName,
+                          std::string const& layerInCall);
+
 } // namespace NCli

@@ -76,23 +76,28 @@ public:
     }
 
     /// Bits that depend on data, or that are not known.
-    void Forget(VLayoutRow const& row) {
+    void Forget(VLayoutRow const& row) { SetAll(row, false); }
+
+    /// Bits that are 0.
+    void Clear(VLayoutRow const& row) { SetAll(row, true); }
+
+    std::vector<VConstantByte> Take() { return std::move(m_bytes); }
+
+private:
+    void SetAll(VLayoutRow const& row, bool isKnown) {
         if (row.bitLength.least <= kMostBits) {
             for (std::uint64_t bit = 0; bit < row.bitLength.least; ++bit) {
-                Set(row, bit, false, false);
+                Set(row, bit, isKnown, false);
             }
             return;
         }
         std::uint64_t const end = row.bytePosition.least + (row.bitPosition + row.bitLength.least + 7) / 8;
         for (std::uint64_t place = row.bytePosition.least; place < std::min<std::uint64_t>(end, m_bytes.size());
              ++place) {
-            m_bytes[place] = {};
+            m_bytes[place] = {0, static_cast<std::uint8_t>(isKnown ? 0xFF : 0)};
         }
     }
 
-    std::vector<VConstantByte> Take() { return std::move(m_bytes); }
-
-private:
     void Set(VLayoutRow const& row, std::uint64_t bit, bool isKnown, bool isSet) {
         std::uint64_t const index = row.bitPosition + bit;
         std::uint64_t const lastByte = (row.bitPosition + row.bitLength.least - 1) / 8;
@@ -139,10 +144,13 @@ bool IsOneOfSeveral(VLayoutRole role) {
            role == VLayoutRole::EnvData;
 }
 
+bool IsTagged(VLayoutRow const& row, NODX201::VOdxTagEnum tag) {
+    return row.role == VLayoutRole::Param && row.element->GetOdxTag() == tag;
+}
+
 bool IsConstant(VLayoutRow const& row) {
-    NODX201::VOdxTagEnum const tag = row.element->GetOdxTag();
-    return row.role == VLayoutRole::Param && row.constant[0] != L'\0' && row.codedType != nullptr &&
-           (tag == NODX201::VOdxTagEnum::CodedConst || tag == NODX201::VOdxTagEnum::Reserved);
+    return row.constant[0] != L'\0' && row.codedType != nullptr &&
+           (IsTagged(row, NODX201::VOdxTagEnum::CodedConst) || IsTagged(row, NODX201::VOdxTagEnum::Reserved));
 }
 
 char DigitText(unsigned value, unsigned mask) { return mask == 0xF ? "0123456789ABCDEF"[value] : '.'; }
@@ -158,7 +166,13 @@ std::vector<VConstantByte> ConstantBytesOf(VMessageLayout const& layout, std::si
             continue;
         }
         uncertainDepth = IsOneOfSeveral(row.role) ? row.depth : uncertainDepth;
-        IsConstant(row) ? bytes.Write(row) : bytes.Forget(row);
+        if (IsConstant(row)) {
+            bytes.Write(row);
+        } else if (IsTagged(row, NODX201::VOdxTagEnum::Reserved) && row.constant[0] == L'\0') {
+            bytes.Clear(row);
+        } else {
+            bytes.Forget(row);
+        }
     }
     return bytes.Take();
 }

@@ -19,7 +19,8 @@ struct VConstantByte {
 
 /// The constant bytes of a layout, from its first byte to the end of its fixed part or to `maxBytes`. Constant are the
 /// bits of CODED-CONST and RESERVED parameters at a fixed position whose CODED-VALUE is a number (A_UINT32, A_INT32) or
-/// hexadecimal (A_BYTEFIELD); where parameters overlap, the later one counts, as it is written last.
+/// hexadecimal (A_BYTEFIELD); a RESERVED parameter without CODED-VALUE is 0. Where parameters overlap, the later one
+/// counts, as it is written last.
 std::vector<VConstantByte> ConstantBytesOf(VMessageLayout const& layout, std::size_t maxBytes = 4096);
 
 /// The same as hexadecimal text, two digits for each byte with a blank between. A digit that is not constant is '.';

@@ -87,6 +87,22 @@ class Baselines(unittest.TestCase):
             baseline = self.answer("warned.odx-d", "--format", format)
             self.assertEqual(findings("--baseline", baseline), (1, ["short-name-characters", "unresolved-short-name"]))
 
+    def test_lines_in_messages_and_counts_of_references_do_not_matter(self):
+        document = """<ODX MODEL-VERSION="2.2.0">{}<DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><BASE-VARIANTS>
+            <BASE-VARIANT ID="B"><SHORT-NAME>B</SHORT-NAME><FUNCT-CLASSS><FUNCT-CLASS ID="F"><SHORT-NAME>F</SHORT-NAME>
+            </FUNCT-CLASS><FUNCT-CLASS ID="F"><SHORT-NAME>G</SHORT-NAME></FUNCT-CLASS></FUNCT-CLASSS><DIAG-COMMS>{}
+            </DIAG-COMMS></BASE-VARIANT></BASE-VARIANTS></DIAG-LAYER-CONTAINER></ODX>"""
+        reference = '<DIAG-COMM-REF ID-REF="X{}" DOCREF="Far" DOCTYPE="LAYER"/>'
+        name = self.write("base.odx-d", document.format("", reference.format(1) + reference.format(2)))
+        for format in ("json", "sarif"):
+            baseline = self.answer(name, "--format", format)
+            self.assertIn("at line 2", pathlib.Path(baseline).read_text(encoding="utf-8"))
+            self.assertIn("2 references lead into Far", pathlib.Path(baseline).read_text(encoding="utf-8"))
+            self.write("base.odx-d", document.format("\n\n", reference.format(1)))
+            done = run("check", name, "--baseline", baseline)
+            self.assertEqual((done.returncode, done.stdout), (0, "0 errors, 0 warnings\n"))
+            self.write("base.odx-d", document.format("", reference.format(1) + reference.format(2)))
+
     def test_lines_do_not_matter(self):
         for format in ("json", "sarif"):
             baseline = self.answer(*FILES, "--format", format)

@@ -242,5 +242,36 @@ class Packages(unittest.TestCase):
         )
 
 
+
+class Names(unittest.TestCase):
+    """What a name selects that several elements have."""
+
+    LAYERS = """<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS>
+        <PROTOCOL ID="P"><SHORT-NAME>P</SHORT-NAME><DIAG-COMMS><DIAG-SERVICE ID="P.Stop"><SHORT-NAME>Stop</SHORT-NAME>
+        </DIAG-SERVICE></DIAG-COMMS></PROTOCOL></PROTOCOLS><BASE-VARIANTS>
+        <BASE-VARIANT ID="Engine"><SHORT-NAME>Engine</SHORT-NAME><PARENT-REFS><PARENT-REF ID-REF="P"
+        xsi:type="PROTOCOL-REF" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance"><NOT-INHERITED-DIAG-COMMS>
+        <NOT-INHERITED-DIAG-COMM><DIAG-COMM-SNREF SHORT-NAME="Stop"/></NOT-INHERITED-DIAG-COMM>
+        </NOT-INHERITED-DIAG-COMMS></PARENT-REF></PARENT-REFS></BASE-VARIANT>
+        <BASE-VARIANT ID="Other"><SHORT-NAME>Engine</SHORT-NAME></BASE-VARIANT></BASE-VARIANTS>
+        </DIAG-LAYER-CONTAINER></ODX>"""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.file = pathlib.Path(folder.name, "layers.odx-d")
+        self.file.write_text(self.LAYERS, encoding="utf-8")
+
+    def test_an_id_goes_before_a_short_name(self):
+        for name in ("Engine", "Other"):
+            done = run("view", "diag-comms", self.file, "--layer", name, "--json", "--quiet")
+            self.assertEqual((done.returncode, json.loads(done.stdout)["context"]["id"]), (0, name))
+
+    def test_uses_says_that_a_name_is_excluded(self):
+        done = run("uses", "Stop", self.file, "--layer", "Engine", "--quiet")
+        self.assertEqual((done.returncode, done.stdout), (1, ""))
+        self.assertIn("; that of PROTOCOL P is excluded in Engine; diagkit explain diag-comm Stop ", done.stderr)
+
+
 if __name__ == "__main__":
     main(__doc__)

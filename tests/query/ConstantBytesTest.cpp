@@ -98,6 +98,12 @@ TEST_F(VConstantBytesTest, ConstantsThatDoNotFitTheirTypeAreNotKnown) {
     EXPECT_EQ(Bytes(Constant("A", Type("BASE-DATA-TYPE=\"A_ASCIISTRING\"", "8"))), "..");
 }
 
+TEST_F(VConstantBytesTest, ReservedBitsWithoutAValueAreZero) {
+    EXPECT_EQ(Bytes(Param("RESERVED", "gap", "<BIT-LENGTH>4</BIT-LENGTH>") +
+                    Param("RESERVED", "long", At("1") + "<BIT-LENGTH>72</BIT-LENGTH>")),
+              ".0 00 00 00 00 00 00 00 00 00");
+}
+
 TEST_F(VConstantBytesTest, AMessageWithoutParametersHasNoBytes) { EXPECT_EQ(Bytes(""), ""); }
 
 } // namespace
