@@ -75,7 +75,7 @@ std::string WrongSelection(VSelectionRule const& rule, VArguments const& argumen
         }
     }
     char const* const missing = rule.missing(arguments);
-    return missing != nullptr ? fmt::format("needs {}", missing) : "";
+    return missing != nullptr ? fmt::format("requires {}", missing) : "";
 }
 
 void DeclareKind(CLI::App& command, VArguments& arguments, std::vector<std::string> const& names, char const* help) {
