@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -9,25 +10,29 @@
 #include <diagkit/memory/Dops.h>
 #include <diagkit/memory/Tables.h>
 #include <diagkit/memory/Units.h>
+#include <diagkit/reader/LinkTargets.h>
 
 namespace NCheck {
 namespace {
 
-/// Keys of one list: those that are equal numbers are one key, however they are written.
+/// Keys of one list. Equal numbers are one key, however they are written; texts are equal only character by character.
 class VKeys {
 public:
+    explicit VKeys(bool areTexts) : m_areTexts(areTexts) {}
+
     /// The one that had the key before; null for a new key, and for none.
     NODX201::VOdxElement* Take(wchar_t const* key, NODX201::VOdxElement& element) {
         if (*key == L'\0') {
             return nullptr;
         }
-        auto const number = WholeIn(key);
+        auto const number = m_areTexts ? std::nullopt : WholeIn(key);
         std::wstring const same =
             number.has_value() ? (number->isNegative ? L"-" : L"") + std::to_wstring(number->amount) : key;
         return m_firsts.try_emplace(same, &element).second ? nullptr : m_firsts[same];
     }
 
 private:
+    bool m_areTexts;
     std::unordered_map<std::wstring, NODX201::VOdxElement*> m_firsts;
 };
 
@@ -36,7 +41,7 @@ std::string Place(NODX201::VOdxElement const& element) {
 }
 
 void CheckTroubleCodes(NMemory::VMemDtcDop& dop, VFindings& findings) {
-    VKeys keys;
+    VKeys keys(false);
     for (NODX201::IDtcProxy& proxy : dop.DtcProxyCollection()) {
         auto* const link = dynamic_cast<NODX201::VDtcLink*>(&proxy);
         auto* const at = dynamic_cast<NODX201::VOdxElement*>(&proxy);
@@ -52,8 +57,19 @@ void CheckTroubleCodes(NMemory::VMemDtcDop& dop, VFindings& findings) {
     }
 }
 
+/// Whether the KEYs of a table, which are physical values, are texts.
+bool HasTextKeys(NMemory::VMemTable& table) {
+    NODX201::VOdxElement* const target = table.HasKeyDopRef() ? NReader::TargetById(table.GetKeyDopRef()) : nullptr;
+    auto* const dop = dynamic_cast<NMemory::VMemDataObjectProp*>(target);
+    if (dop == nullptr || !dop->HasPhysicalType()) {
+        return false;
+    }
+    std::wstring_view const base = dop->GetPhysicalType().GetBaseDataType();
+    return base == L"A_UNICODE2STRING" || base == L"A_ASCIISTRING" || base == L"A_UTF8STRING" || base == L"A_BYTEFIELD";
+}
+
 void CheckRows(NMemory::VMemTable& table, VFindings& findings) {
-    VKeys keys;
+    VKeys keys(HasTextKeys(table));
     for (NODX201::IRowWrapper& wrapper : table.RowWrapperCollection()) {
         auto* const link = dynamic_cast<NODX201::VTableRowLink*>(&wrapper);
         auto* const at = dynamic_cast<NODX201::VOdxElement*>(&wrapper);

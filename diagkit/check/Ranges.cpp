@@ -2,11 +2,20 @@
 #include <diagkit/check/Ranges.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 #include <diagkit/check/Numbers.h>
 
 namespace NCheck {
+
+namespace {
+
+constexpr double kLargestExact = 9007199254740992; // 2^53; larger whole numbers are rounded
+
+bool IsWhole(double number) { return std::floor(number) == number; }
+
+} // namespace
 
 bool TakeLimit(NMemory::VMemLimit& limit, double& value, bool& isOpen) {
     std::wstring_view const interval = limit.GetIntervalType();
@@ -14,11 +23,12 @@ bool TakeLimit(NMemory::VMemLimit& limit, double& value, bool& isOpen) {
         return true;
     }
     auto const number = NumberIn(limit.GetText());
-    if (number.has_value()) {
-        value = *number;
-        isOpen = interval == L"OPEN";
+    if (!number.has_value() || std::abs(*number) > kLargestExact) {
+        return false;
     }
-    return number.has_value();
+    value = *number;
+    isOpen = interval == L"OPEN";
+    return true;
 }
 
 std::vector<VNeighbours> NeighboursIn(std::vector<VRange>& ranges) {
@@ -40,6 +50,9 @@ bool Overlap(VNeighbours const& neighbours, bool touches) {
     VRange const& before = *neighbours.before;
     VRange const& after = *neighbours.after;
     bool const areClosed = !before.isUpperOpen && !after.isLowerOpen;
+    if (!areClosed && IsWhole(before.upper) && IsWhole(after.lower)) {
+        return after.FirstWhole() <= before.LastWhole(); // between 9 and 10 there may be nothing
+    }
     return after.lower < before.upper || (touches && after.lower == before.upper && areClosed) ||
            (after.lower == before.lower && after.upper == before.upper && areClosed);
 }

@@ -26,7 +26,8 @@ struct VRange {
 /// What a limit that is not there stands for.
 enum class VAbsentLimit { Unknown, SameAsOther, Infinite };
 
-/// Reads one limit into `value`, which stays where there is none; false where it is no number.
+/// Reads one limit into `value`, which is unchanged for an infinite one; false if it is not a number, or too large to
+/// be exact.
 bool TakeLimit(NMemory::VMemLimit& limit, double& value, bool& isOpen);
 
 /// Between the LOWER-LIMIT and UPPER-LIMIT of an element; nothing where that cannot be said in numbers.

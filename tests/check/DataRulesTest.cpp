@@ -315,6 +315,12 @@ TEST_F(VDataRulesTest, CasesThatShareValues) {
     EXPECT_EQ(of(Limits("0", "5"), Limits("5", "9")), "test.odx:4:1 warning overlapping-cases");
     EXPECT_EQ(Message(0), "CASE 'B' of 5 to 9 shares values with 'A' of 0 to 5 at line 3");
     EXPECT_EQ(of(Limits("0", "4"), Limits("5", "9")), "");
+    std::string const open = "<LOWER-LIMIT INTERVAL-TYPE=\"OPEN\">";
+    std::string const upTo3 = "<LOWER-LIMIT>0</LOWER-LIMIT><UPPER-LIMIT INTERVAL-TYPE=\"OPEN\">3</UPPER-LIMIT>";
+    EXPECT_EQ(of(upTo3, open + "2</LOWER-LIMIT><UPPER-LIMIT>5</UPPER-LIMIT>"), ""); // nothing whole is between
+    EXPECT_EQ(of(upTo3, open + "1</LOWER-LIMIT><UPPER-LIMIT>5</UPPER-LIMIT>"),
+              "test.odx:4:1 warning overlapping-cases");
+    EXPECT_EQ(of(Limits("0", "9007199254740992"), Limits("9007199254740993", "9007199254740994")), ""); // not exact
     EXPECT_EQ(of(Limits("0", "4"), ""), ""); // reported where it is required
 }
 
@@ -344,10 +350,11 @@ TEST_F(VDataRulesTest, TroubleCodesOfTwoDtcDopsMayBeEqual) {
 }
 
 TEST_F(VDataRulesTest, AKeyTwice) {
-    auto const of = [this](std::string const& first, std::string const& second) {
-        CheckDictionary("<TABLES>" +
+    auto const of = [this](std::string const& first, std::string const& second, std::string const& dops = "",
+                           std::string const& keyDop = "") {
+        CheckDictionary(dops + "<TABLES>" +
                         Xml("TABLE", "T",
-                            "\n" + Xml("TABLE-ROW", "A", "<KEY>" + first + "</KEY>") + "\n" +
+                            keyDop + "\n" + Xml("TABLE-ROW", "A", "<KEY>" + first + "</KEY>") + "\n" +
                                 Xml("TABLE-ROW", "B", "<KEY>" + second + "</KEY>")) +
                         "</TABLES>");
         return Diagnostics();
@@ -355,6 +362,10 @@ TEST_F(VDataRulesTest, AKeyTwice) {
     EXPECT_EQ(of("5", "5"), "test.odx:4:1 warning duplicate-key");
     EXPECT_EQ(of("5", "0x05"), "test.odx:4:1 warning duplicate-key"); // one number
     EXPECT_EQ(of("on", "on"), "test.odx:4:1 warning duplicate-key");
+    EXPECT_EQ(of("1", "01"), "test.odx:4:1 warning duplicate-key");
+    EXPECT_EQ(of("1", "01", DopList(Dop("K", kIdentical, Coded("A_UNICODE2STRING", "16"), "A_UNICODE2STRING")),
+                 "<KEY-DOP-REF ID-REF=\"K\"/>"),
+              ""); // two texts
     EXPECT_EQ(of("on", "On"), "");
     EXPECT_EQ(of("", ""), "");
 }
