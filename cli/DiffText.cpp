@@ -15,6 +15,7 @@
 #include <cli/Columns.h>
 #include <cli/Layers.h>
 #include <cli/Text.h>
+#include <diagkit/memory/Layers.h>
 
 namespace NCli {
 namespace {
@@ -83,6 +84,15 @@ struct VEdit {
     std::vector<std::string> through{}; ///< entries that lead to it
     std::vector<NODX201::VDiagLayer const*> layers{};
 };
+
+/// The PROTOCOL of a COMPARAM-REF, which distinguishes those of one COMPARAM; "" for others.
+std::string ProtocolOf(NODX201::VOdxElement& element) {
+    auto* const reference = dynamic_cast<NMemory::VMemComparamRef*>(&element);
+    auto const* const snref = reference != nullptr && reference->HasProtocolSnref()
+                                  ? dynamic_cast<NODX201::VSnref const*>(&reference->GetProtocolSnref().GetLink())
+                                  : nullptr;
+    return snref != nullptr ? " for PROTOCOL " + Shown(snref->GetShortName()) : "";
+}
 
 /// Finds the edits behind the changes in layers: an edit that many layers inherit, or to which many entries refer, is
 /// written once.
@@ -196,7 +206,7 @@ private:
         if (isNew) {
             VEdit edit{kind, old, now};
             bool const isEntry = old == change.oldElement && now == change.newElement;
-            edit.name = isEntry ? Shown(change.shortName) : ShownName(*now);
+            edit.name = isEntry ? Shown(change.shortName) + ProtocolOf(*(now != nullptr ? now : old)) : ShownName(*now);
             edit.was = change.was != nullptr ? Shown(change.was) : "";
             edit.isElsewhere =
                 kind == VChangeKind::Changed && old != nullptr && now != nullptr && IsElsewhere(*old, *now);

@@ -255,8 +255,8 @@ NODX201::VDiagComm* FindDiagComm(NMemory::VDatabase& database, NODX201::VDiagLay
     std::string whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, wanted, layerInCall);
     NODX201::VDiagComm const* const meant = whyNot.empty() ? DiagCommOfLayers(database, wanted) : nullptr;
     if (meant != nullptr) { // by its ID
-        whyNot =
-            WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, meant->GetShortName(), layerInCall, meant);
+        whyNot = WhyNotNote(database, layer, NQuery::VInheritedKind::DiagComm, meant->GetShortName(), layerInCall,
+                            [meant](NODX201::VOdxElement const& element) { return &element == meant; });
     }
     output.Complain(
         fmt::format("in {}, {}", Titled(layer), MissingMessage("visible DIAG-COMM", wanted, AnyOf(visible), whyNot)));

@@ -70,14 +70,15 @@ struct VQuestion {
 
 /// An answer looked up in a layer.
 template <class Resolve, class Names>
-VAnswer InLayer(VQuestion& question, NQuery::VInheritedKind kind, Resolve resolve, Names names) {
+VAnswer InLayer(VQuestion& question, NQuery::VInheritedKind kind, Resolve resolve, Names names,
+                VIsMeant const& isMeant = nullptr) {
     NODX201::VDiagLayer* const layer = FindLayer(question.database, question.arguments.layer, question.output);
     if (layer == nullptr) {
         return {};
     }
     VAnswer answer{true, ElementOf(resolve(*layer)), Titled(*layer), names(*layer)};
     if (answer.found == nullptr) {
-        answer.whyNot = WhyNotNote(question.database, *layer, kind, question.name, question.arguments.layer);
+        answer.whyNot = WhyNotNote(question.database, *layer, kind, question.name, question.arguments.layer, isMeant);
     }
     return answer;
 }
@@ -109,6 +110,9 @@ VAnswer ResolveDataObjectProp(VQuestion& question) {
                 }
             }
             return names;
+        },
+        [](NODX201::VOdxElement const& element) {
+            return dynamic_cast<NODX201::VDataObjectProp const*>(&element) != nullptr;
         });
     answer.other = other;
     return answer;
@@ -228,7 +232,7 @@ std::string MissingMessage(VQuestion const& question, VAnswer const& answer) {
     std::string const missing =
         fmt::format("no {} '{}' in {}", question.arguments.kind, Shown(question.name), answer.where);
     if (answer.other != nullptr) {
-        return fmt::format("{}, where it is {}", missing, WithArticle(TagTextOf(*answer.other)));
+        return fmt::format("{}, where it is {}{}", missing, WithArticle(TagTextOf(*answer.other)), answer.whyNot);
     }
     std::size_t const count = std::set<std::wstring_view>(answer.names.begin(), answer.names.end()).size();
     return fmt::format("{}, where {} {} visible{}{}", missing, Counted(count, "name"), count == 1 ? "is" : "are",

@@ -55,7 +55,7 @@ std::string CallsFor(VArguments const& arguments, VElements const& found) {
 VStatus AnswerNothing(VArguments const& arguments, NReader::VReadResult const& result, VAnyName const& name,
                       VElements const& found, VOutput& output) {
     ComplainOfName(result, name, found, output,
-                   found.empty() ? WhyNotInLayer(*result.database, name.layer, name.name, arguments.layer) : "");
+                   found.empty() ? WhyNotInLayer(*result.database, name.layer, name.name, arguments) : "");
     std::string const calls = CallsFor(arguments, found);
     if (!calls.empty()) {
         output.Complain("one of them is meant by" + calls);

@@ -152,7 +152,7 @@ VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& resu
         return AnswerUses(arguments, result, *found.front(), output);
     }
     ComplainOfName(result, name, found, output,
-                   found.empty() ? WhyNotInLayer(*result.database, layer, arguments.name, arguments.layer) : "");
+                   found.empty() ? WhyNotInLayer(*result.database, layer, arguments.name, arguments) : "");
     if (arguments.isJson) {
         WriteEntriesAsJson("candidates", found, output);
     }

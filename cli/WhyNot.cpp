@@ -76,9 +76,9 @@ NDIAGKIT::VWay const& NearestOf(std::vector<NDIAGKIT::VWay> const& ways) {
 }
 
 std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer, NQuery::VInheritedKind kind,
-                       std::wstring_view shortName, std::string const& layerInCall, NODX201::VOdxElement const* only) {
+                       std::wstring_view shortName, std::string const& layerInCall, VIsMeant const& isMeant) {
     std::vector<NDIAGKIT::VWay> ways = NQuery::Explain(database, layer, kind, shortName).candidates;
-    auto const isOther = [only](NDIAGKIT::VWay const& way) { return only != nullptr && way.element != only; };
+    auto const isOther = [&isMeant](NDIAGKIT::VWay const& way) { return isMeant != nullptr && !isMeant(*way.element); };
     ways.erase(std::remove_if(ways.begin(), ways.end(), isOther), ways.end());
     if (ways.empty()) {
         return "";
@@ -89,12 +89,16 @@ std::string WhyNotNote(NMemory::VDatabase& database, NODX201::VDiagLayer& layer,
 }
 
 std::string WhyNotInLayer(NMemory::VDatabase& database, NODX201::VDiagLayer* layer, std::string const& shortName,
-                          std::string const& layerInCall) {
+                          VArguments const& arguments) {
     if (layer == nullptr) {
         return "";
     }
+    auto const isMeant = [&arguments](NODX201::VOdxElement const& element) {
+        return arguments.tag.empty() || arguments.tag == TagTextOf(element);
+    };
     for (VInheritedKindRow const& row : kInheritedKinds) {
-        std::string note = WhyNotNote(database, *layer, row.kind, NReader::FromUtf8(shortName), layerInCall);
+        std::string note =
+            WhyNotNote(database, *layer, row.kind, NReader::FromUtf8(shortName), arguments.layer, isMeant);
         if (!note.empty()) {
             return note;
         }

@@ -272,6 +272,39 @@ class Names(unittest.TestCase):
         self.assertEqual((done.returncode, done.stdout), (1, ""))
         self.assertIn("; that of PROTOCOL P is excluded in Engine; diagkit explain diag-comm Stop ", done.stderr)
 
+    def test_a_dop_of_another_kind_that_hides_the_name_is_said_to_hide_it(self):
+        reference = '<PARENT-REF xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" xsi:type="PROTOCOL-REF" ID-REF="P"/>'
+        dop = '<DATA-OBJECT-PROP ID="D"><SHORT-NAME>Speed</SHORT-NAME></DATA-OBJECT-PROP>'
+        structure = '<STRUCTURE ID="S"><SHORT-NAME>Speed</SHORT-NAME></STRUCTURE>'
+        self.file.write_text(
+            '<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><PROTOCOLS><PROTOCOL ID="P">'
+            "<SHORT-NAME>P</SHORT-NAME><DIAG-DATA-DICTIONARY-SPEC><DATA-OBJECT-PROPS>" + dop + "</DATA-OBJECT-PROPS>"
+            '</DIAG-DATA-DICTIONARY-SPEC></PROTOCOL></PROTOCOLS><BASE-VARIANTS><BASE-VARIANT ID="B"><SHORT-NAME>B</SHORT-NAME>'
+            "<DIAG-DATA-DICTIONARY-SPEC><STRUCTURES>" + structure + "</STRUCTURES></DIAG-DATA-DICTIONARY-SPEC><PARENT-REFS>"
+            + reference + "</PARENT-REFS></BASE-VARIANT></BASE-VARIANTS></DIAG-LAYER-CONTAINER></ODX>",
+            encoding="utf-8",
+        )
+        hidden = "; that of PROTOCOL P is hidden in B by that of BASE-VARIANT B; diagkit explain dop Speed "
+        for call in (["resolve", "data-object-prop", "Speed"], ["show", "Speed", "--kind", "DATA-OBJECT-PROP"]):
+            done = run(*call, self.file, "--layer", "B", "--quiet")
+            self.assertEqual((done.returncode, done.stdout), (1, ""))
+            self.assertIn(hidden, done.stderr)
+
+    def test_comparam_refs_of_one_comparam_are_told_by_their_protocols(self):
+        reference = '<COMPARAM-REF ID-REF="CP"><VALUE>{}</VALUE><PROTOCOL-SNREF SHORT-NAME="{}"/></COMPARAM-REF>'
+        files = [self.file.with_name(name) for name in ("old.odx-d", "new.odx-d")]
+        for file, values in zip(files, ((1, 1), (1, 2))):
+            references = "".join(reference.format(value, protocol) for value, protocol in zip(values, "PQ"))
+            file.write_text(
+                '<ODX MODEL-VERSION="2.2.0"><DIAG-LAYER-CONTAINER ID="C"><SHORT-NAME>C</SHORT-NAME><BASE-VARIANTS>'
+                f'<BASE-VARIANT ID="B"><SHORT-NAME>B</SHORT-NAME><COMPARAM-REFS>{references}</COMPARAM-REFS></BASE-VARIANT>'
+                "</BASE-VARIANTS></DIAG-LAYER-CONTAINER></ODX>",
+                encoding="utf-8",
+            )
+        done = run("diff", *files, "--quiet")
+        self.assertIn("changed: COMPARAM-REF CP for PROTOCOL Q, in BASE-VARIANT B\n    VALUE: 1 -> 2\n", done.stdout)
+        self.assertNotIn("for PROTOCOL P", done.stdout)
+
 
 if __name__ == "__main__":
     main(__doc__)
