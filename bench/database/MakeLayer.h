@@ -17,7 +17,7 @@ inline constexpr char const* kSharedLibrary = "SharedLibrary";
 inline constexpr char const* kComparamSpec = "Communication";
 inline constexpr std::size_t kLibraryServices = 24;
 
-/// The specification of a layer to make.
+/// What a layer to make has.
 struct VLayerPlan {
     struct VParentRefPlan {
         char const* xsiType;
