@@ -12,11 +12,13 @@
 #include <fmt/ranges.h>
 
 #include <cli/Columns.h>
+#include <cli/ElementFinder.h>
 #include <cli/InheritedKinds.h>
 #include <cli/Layers.h>
 #include <cli/NearNames.h>
 #include <cli/Text.h>
 #include <cli/ViewText.h>
+#include <cli/WhyNot.h>
 #include <diagkit/check/Views.h>
 #include <diagkit/reader/Utf8.h>
 #include <diagkit/tools/Inheritance.h>
@@ -189,8 +191,19 @@ VAnyElements InheritedFirst(VAnyElements const& found) {
     return Preferring(found, [](NODX201::VOdxElement const& element) { return IsInherited(element); });
 }
 
-void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name, VAnyElements const& found,
-                    VOutput const& output, std::string const& note) {
+std::optional<VAnyName> AnyNameIn(VArguments const& arguments, NMemory::VDatabase& database, VOutput const& output) {
+    NODX201::VDiagLayer* layer = nullptr;
+    if (!arguments.layer.empty()) {
+        layer = FindLayer(database, arguments.layer, output);
+        if (layer == nullptr) {
+            return std::nullopt;
+        }
+    }
+    return VAnyName{arguments.name, arguments.tag, layer};
+}
+
+void ComplainOfName(VArguments const& arguments, NReader::VReadResult const& result, VAnyName const& name,
+                    VAnyElements const& found, VOutput const& output) {
     std::wstring const wanted = NReader::FromUtf8(name.name);
     if (!found.empty()) {
         output.Complain(fmt::format("'{}' fits {} elements, {}:\n{}", Shown(wanted), found.size(),
@@ -211,6 +224,7 @@ void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name, VA
             names.emplace_back(IdOf(*element));
         }
     }
+    std::string const note = WhyNotInLayer(*result.database, name.layer, name.name, arguments);
     std::string const where = name.layer != nullptr ? "in " + Titled(*name.layer) + ", " : "";
     std::string const kind = name.tag.empty() ? "element" : Shown(std::string_view(name.tag));
     std::string const message = fmt::format("{}no {} has the short name or ID '{}'", where, kind, Shown(wanted));

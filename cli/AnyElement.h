@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include <cli/Arguments.h>
 #include <cli/Output.h>
 #include <diagkit/model/Layers.h>
 #include <diagkit/reader/OdxReader.h>
@@ -17,6 +19,9 @@ struct VAnyName {
     NODX201::VDiagLayer* layer; ///< in which the short name is looked up; null for the whole database
 };
 
+/// What NAME, --kind and --layer of a call select; nothing, with a message, where there is no such layer.
+std::optional<VAnyName> AnyNameIn(VArguments const& arguments, NMemory::VDatabase& database, VOutput const& output);
+
 /// The elements that have the ID, in document order. Where none has it, those that have the short name; with a layer
 /// those in its views and, for kinds that are not inherited, its own. REQUIRES: the elements were kept.
 std::vector<NODX201::VOdxElement*> FindElements(NReader::VReadResult const& result, VAnyName const& name);
@@ -25,10 +30,9 @@ std::vector<NODX201::VOdxElement*> FindElements(NReader::VReadResult const& resu
 /// layer hold goes before what else is called so.
 std::vector<NODX201::VOdxElement*> InheritedFirst(std::vector<NODX201::VOdxElement*> const& found);
 
-/// Tells what to say instead when nothing or not one element alone was found; where nothing was, with a note at the
-/// end.
-void ComplainOfName(NReader::VReadResult const& result, VAnyName const& name,
-                    std::vector<NODX201::VOdxElement*> const& found, VOutput const& output,
-                    std::string const& note = {});
+/// Reports that nothing or more than one element was found; for nothing, with what stops the name on its way to the
+/// layer.
+void ComplainOfName(VArguments const& arguments, NReader::VReadResult const& result, VAnyName const& name,
+                    std::vector<NODX201::VOdxElement*> const& found, VOutput const& output);
 
 } // namespace NCli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -8,7 +9,6 @@
 
 #include <cli/AnyElement.h>
 #include <cli/Commands.h>
-#include <cli/ElementFinder.h>
 #include <cli/Entry.h>
 #include <cli/Load.h>
 #include <cli/ShowJson.h>
@@ -54,8 +54,7 @@ std::string CallsFor(VArguments const& arguments, VElements const& found) {
 
 VStatus AnswerNothing(VArguments const& arguments, NReader::VReadResult const& result, VAnyName const& name,
                       VElements const& found, VOutput& output) {
-    ComplainOfName(result, name, found, output,
-                   found.empty() ? WhyNotInLayer(*result.database, name.layer, name.name, arguments) : "");
+    ComplainOfName(arguments, result, name, found, output);
     std::string const calls = CallsFor(arguments, found);
     if (!calls.empty()) {
         output.Complain("one of them is meant by" + calls);
@@ -100,20 +99,16 @@ VStatus RunShow(VArguments const& arguments, VOutput& output) {
     if (VStatus const status = LoadElements(arguments, output, result); status != VStatus::Done) {
         return status;
     }
-    NODX201::VDiagLayer* layer = nullptr;
-    if (!arguments.layer.empty()) {
-        layer = FindLayer(*result.database, arguments.layer, output);
-        if (layer == nullptr) {
-            return VStatus::NotThere;
-        }
+    std::optional<VAnyName> const name = AnyNameIn(arguments, *result.database, output);
+    if (!name.has_value()) {
+        return VStatus::NotThere;
     }
-    VAnyName const name{arguments.name, arguments.tag, layer};
-    VElements found = FindElements(result, name);
-    if (layer != nullptr && found.size() > 1) {
+    VElements found = FindElements(result, *name);
+    if (name->layer != nullptr && found.size() > 1) {
         found = InheritedFirst(found);
     }
-    return found.size() == 1 ? Show(arguments, result, *found.front(), layer, output)
-                             : AnswerNothing(arguments, result, name, found, output);
+    return found.size() == 1 ? Show(arguments, result, *found.front(), name->layer, output)
+                             : AnswerNothing(arguments, result, *name, found, output);
 }
 
 } // namespace NCli

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
@@ -8,13 +9,11 @@
 #include <cli/AnyElement.h>
 #include <cli/Commands.h>
 #include <cli/Csv.h>
-#include <cli/ElementFinder.h>
 #include <cli/Entry.h>
 #include <cli/Load.h>
 #include <cli/ProgressBar.h>
 #include <cli/Text.h>
 #include <cli/UsesText.h>
-#include <cli/WhyNot.h>
 #include <diagkit/query/FilePlace.h>
 #include <diagkit/query/Uses.h>
 
@@ -139,20 +138,15 @@ VStatus AnswerUses(VArguments const& arguments, NReader::VReadResult const& resu
 }
 
 VStatus AnswerName(VArguments const& arguments, NReader::VReadResult const& result, VOutput& output) {
-    NODX201::VDiagLayer* layer = nullptr;
-    if (!arguments.layer.empty()) {
-        layer = FindLayer(*result.database, arguments.layer, output);
-        if (layer == nullptr) {
-            return VStatus::NotThere;
-        }
+    std::optional<VAnyName> const name = AnyNameIn(arguments, *result.database, output);
+    if (!name.has_value()) {
+        return VStatus::NotThere;
     }
-    VAnyName const name{arguments.name, arguments.tag, layer};
-    std::vector<NODX201::VOdxElement*> const found = FindElements(result, name);
+    std::vector<NODX201::VOdxElement*> const found = FindElements(result, *name);
     if (found.size() == 1) {
         return AnswerUses(arguments, result, *found.front(), output);
     }
-    ComplainOfName(result, name, found, output,
-                   found.empty() ? WhyNotInLayer(*result.database, layer, arguments.name, arguments) : "");
+    ComplainOfName(arguments, result, *name, found, output);
     if (arguments.isJson) {
         WriteEntriesAsJson("candidates", found, output);
     }

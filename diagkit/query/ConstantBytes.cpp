@@ -3,12 +3,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cwchar>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
+#include <diagkit/check/Numbers.h>
 #include <diagkit/query/PartList.h>
 
 namespace NQuery {
@@ -26,22 +26,6 @@ std::uint64_t LowestBits(std::uint64_t count) {
     return count >= kMostBits ? ~std::uint64_t{0} : (std::uint64_t{1} << count) - 1;
 }
 
-/// The whole text as a number in base 10 or, for "0x...", 16.
-std::optional<std::uint64_t> UnsignedIn(wchar_t const* text, int base) {
-    if (text[0] == L'-' || text[0] == L'\0') {
-        return std::nullopt;
-    }
-    wchar_t* end = nullptr;
-    errno = 0;
-    std::uint64_t const number = std::wcstoull(text, &end, base);
-    return errno == 0 && *end == L'\0' ? std::optional(number) : std::nullopt;
-}
-
-std::optional<std::uint64_t> IntegerIn(wchar_t const* text) {
-    bool const isHexadecimal = text[0] == L'0' && (text[1] == L'x' || text[1] == L'X');
-    return UnsignedIn(text, isHexadecimal ? 16 : 10);
-}
-
 /// The constant of a row whose coded type writes a number as plain binary digits.
 std::optional<VCodedBits> NumberOf(VLayoutRow const& row) {
     VPartList const parts(*row.codedType);
@@ -49,14 +33,14 @@ std::optional<VCodedBits> NumberOf(VLayoutRow const& row) {
     std::array const plain{L"", L"NONE", L"1C", L"2C", L"SM"}; // a number that is not negative is the same in all
     bool const isPlain =
         std::any_of(plain.begin(), plain.end(), [encoding](wchar_t const* word) { return IsTag(encoding, word); });
-    std::optional<std::uint64_t> const number = IntegerIn(row.constant);
-    if (!isPlain || !number.has_value() || row.bitLength.least > kMostBits) {
+    std::optional<NCheck::VWhole> const number = NCheck::WholeIn(row.constant);
+    if (!isPlain || !number.has_value() || number->isNegative || row.bitLength.least > kMostBits) {
         return std::nullopt;
     }
-    VCodedBits bits{*number, LowestBits(row.bitLength.least)};
+    VCodedBits bits{number->amount, LowestBits(row.bitLength.least)};
     if (wchar_t const* const mask = parts.Text(L"BIT-MASK"); mask[0] != L'\0') {
-        std::optional<std::uint64_t> const written = UnsignedIn(mask, 16);
-        bits.written = written.has_value() ? bits.written & *written : 0;
+        std::optional<NCheck::VWhole> const written = NCheck::WholeIn((std::wstring(L"0x") + mask).c_str());
+        bits.written &= written.has_value() ? written->amount : 0;
     }
     bool const fits = (bits.value & ~LowestBits(row.bitLength.least)) == 0;
     return fits ? std::optional(bits) : std::nullopt;
